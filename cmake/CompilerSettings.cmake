@@ -1,0 +1,23 @@
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+add_library(tessarin_settings INTERFACE)
+target_compile_options(tessarin_settings INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough)
+if(TESSARIN_WERROR)
+  target_compile_options(tessarin_settings INTERFACE -Werror)
+endif()
+if(TESSARIN_SANITIZE)
+  target_compile_options(tessarin_settings INTERFACE -fsanitize=${TESSARIN_SANITIZE} -fno-omit-frame-pointer)
+  if(TESSARIN_SANITIZE MATCHES "undefined")
+    target_compile_options(tessarin_settings INTERFACE -fno-sanitize-recover=undefined)
+  endif()
+  target_link_options(tessarin_settings INTERFACE -fsanitize=${TESSARIN_SANITIZE})
+endif()

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/Snippet.h"
+
+namespace tessarin {
+
+/// Answers a query with exactly the list that scoring every snippet one by one and sorting would give,
+/// faster. A position counts through all snippets: the built-in ones in file order, then the user's in stored
+/// order.
+class SearchIndex {
+ public:
+  SearchIndex();
+  ~SearchIndex();
+  SearchIndex(const SearchIndex&) = delete;
+  SearchIndex& operator=(const SearchIndex&) = delete;
+
+  /// Appends at the end.
+  void append(const Snippet& snippet);
+  /// Takes another snippet at a position.
+  void replace(std::size_t position, const Snippet& snippet);
+  /// Removes one position; those behind it move up.
+  void remove(std::size_t position);
+  void clear();
+  std::size_t size() const;
+
+  /// How often the trigger (exact text) was used.
+  void setUsageCount(const std::string& trigger, std::int64_t count);
+
+  /// Positions of the best `limit` snippets, best first.
+  std::vector<std::size_t> search(std::string_view query, std::size_t limit) const;
+
+ private:
+  struct Impl;
+  std::unique_ptr<Impl> impl_;
+};
+
+}  // namespace tessarin

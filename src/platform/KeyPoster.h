@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+namespace tessarin {
+
+struct KeyPress {
+  std::int64_t keyCode = 0;  ///< one of deleteBackward, v, insert
+  std::uint64_t flags = 0;   ///< exactly these modifiers, whatever the user is holding
+  bool operator==(const KeyPress&) const = default;
+};
+
+/// Posts synthetic key presses, each as a press and a release. They reach the focused application in order,
+/// behind everything typed before the call, and are not judged by our own tap. Main thread.
+class KeyPoster {
+ public:
+  virtual ~KeyPoster() = default;
+
+  /// A press that the keyboard layout cannot produce is skipped. Returns at once: the effect comes later.
+  virtual void post(const std::vector<KeyPress>& presses) = 0;
+};
+
+}  // namespace tessarin

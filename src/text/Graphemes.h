@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+/// Text as the user perceives it. All strings are UTF-8; malformed bytes count as U+FFFD each maximal run as
+/// ICU does. A "character" is an extended grapheme cluster. Every function has a fast path for ASCII.
+namespace tessarin::text {
+
+/// Number of characters.
+std::size_t characterCount(std::string_view text);
+/// The first character; empty when there is none.
+std::string firstCharacter(std::string_view text);
+/// The last `count` characters, or all of them when there are fewer.
+std::string lastCharacters(std::string_view text, std::size_t count);
+/// The text without its last character.
+std::string withoutLastCharacter(std::string_view text);
+
+/// Comparison by canonical equivalence: the same text in two normal forms is equal.
+bool equals(std::string_view a, std::string_view b);
+/// Whole characters only, by canonical equivalence: "e" is no prefix of a decomposed "é".
+bool startsWith(std::string_view text, std::string_view prefix);
+bool contains(std::string_view text, std::string_view part);
+
+/// Full, locale-independent lower-casing of the whole string.
+std::string lowercased(std::string_view text);
+
+/// Whether the first scalar is of general category L, M or N.
+bool startsAlphanumeric(std::string_view text);
+
+/// Whether the bytes are well-formed UTF-8.
+bool isValidUtf8(std::string_view text);
+std::string fromUtf16(std::u16string_view text);
+std::u16string toUtf16(std::string_view text);
+
+}  // namespace tessarin::text
