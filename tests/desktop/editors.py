@@ -1,0 +1,129 @@
+"""Real programs to type into; each one gives back what stands in its document."""
+
+import os
+import pathlib
+import signal
+import subprocess
+
+from session import wait_for
+
+
+class Editor:
+    """A text editor on a file; the document is read by saving it."""
+
+    command = ()
+    window_class = ""
+
+    def __init__(self, session, typist):
+        self.session = session
+        self.typist = typist
+        self.path = session.folder / f"{type(self).__name__.lower()}-{os.urandom(3).hex()}.txt"
+        self.path.touch()
+        self._child = None
+
+    def __enter__(self):
+        before = self.typist.client_windows()
+        self._child = self.session.start(*self.command, self.path)
+        self._window = wait_for(lambda: self._new_active_window(before), 30, f"the window of {self.command[0]}")
+        self._wait_until_it_takes_keys()
+        return self
+
+    def __exit__(self, *_):
+        self.session.stop(self._child, signal.SIGKILL)
+        wait_for(lambda: self._window not in self.typist.client_windows(), what="the window to go")
+
+    def _new_active_window(self, before):
+        active = self.typist.active_window()
+        return active if active in self.typist.client_windows() - before else None
+
+    def _wait_until_it_takes_keys(self):
+        self.typist.type("q")
+        wait_for(self._probe_arrived, 30, f"{self.command[0]} to take keys")
+        self.typist.press("End", "Control_L")  # a first save can move the caret
+
+    def _probe_arrived(self):
+        self.save()
+        return self.path.read_text().startswith("q")
+
+    @property
+    def pid(self):
+        return self._child.pid
+
+    def save(self):
+        stamp = self.path.stat().st_mtime_ns
+        self.typist.press("s", "Control_L")
+        try:
+            wait_for(lambda: self.path.stat().st_mtime_ns != stamp, 0.5)
+        except TimeoutError:
+            pass  # nothing to save
+
+    def document(self):
+        """The text behind the letter that proved that the editor takes keys."""
+        self.save()
+        return self.path.read_text().removeprefix("q").removesuffix("\n")
+
+    def wait_for_document(self, expected, seconds=20.0):
+        """The document once it is as expected, else what it is when the time is over."""
+        try:
+            wait_for(lambda: self.document() == expected.removesuffix("\n"), seconds)
+        except TimeoutError:
+            pass
+        return self.document()
+
+
+class Mousepad(Editor):
+    command = ("mousepad", "--disable-server")
+
+
+class GnomeTextEditor(Editor):
+    command = ("gnome-text-editor", "--standalone")
+
+
+class Featherpad(Editor):
+    command = ("featherpad", "--standalone")
+
+    def __enter__(self):
+        settings = pathlib.Path(self.session.env["XDG_CONFIG_HOME"]) / "featherpad/fp.conf"
+        settings.parent.mkdir(exist_ok=True)
+        settings.write_text("[text]\nappendEmptyLine=false\n")
+        return super().__enter__()
+
+
+class Xterm(Editor):
+    """A terminal that copies its lines into a file."""
+
+    command = ("xterm", "-fa", "DejaVu Sans Mono", "-e", "sh", "-c", 'stty -echoctl iutf8; exec cat > "$0"')
+
+    def _wait_until_it_takes_keys(self):
+        self.typist.type("q\n")
+        wait_for(lambda: self.path.read_text() == "q\n", 30, "xterm to take keys")
+
+    def save(self):
+        self.typist.press("Return")
+
+    def document(self):
+        text = self.path.read_text()
+        return text.removeprefix("q\n").rstrip("\n")
+
+    def wait_for_document(self, expected, seconds=20.0):
+        self.save()
+        return super().wait_for_document(expected, seconds)
+
+
+ALL = (Mousepad, GnomeTextEditor, Featherpad, Xterm)
+
+
+def set_clipboard(session, data, target=None, selection="clipboard"):
+    command = ["xclip", "-selection", selection, "-i"] + (["-t", target] if target else [])
+    child = session.start(*command, "-quiet", stdin=subprocess.PIPE)
+    child.stdin.write(data)
+    child.stdin.close()
+    wait_for(lambda: clipboard(session, target, selection) == data, what="the clipboard")
+    return child
+
+
+def clipboard(session, target=None, selection="clipboard"):
+    command = ["xclip", "-selection", selection, "-o"] + (["-t", target] if target else [])
+    return session.run(*command, check=False).stdout
+
+

@@ -1,0 +1,230 @@
+#!/usr/bin/python3
+"""Expansion in real programs: typed through XTest, read back from the saved document."""
+
+import json
+import pathlib
+import re
+import time
+import unittest
+
+from editors import ALL, Featherpad, GnomeTextEditor, Mousepad, Xterm, clipboard, set_clipboard
+from session import Session, Tessarin, wait_for
+from typist import Typist
+
+SNIPPETS = {
+    "zzone": "first",
+    "zztwo": "second",
+    "today": "{{date}}",
+    "quote": "[{{clipboard}}]",
+} | {"k" * length: f"<{length}>" for length in range(1, 64)}
+
+
+def key(name, *modifiers):
+    return lambda typist: typist.press(name, *modifiers)
+
+
+# What it shows, what is typed (texts and single keys), what must stand in the document afterwards.
+ROWS = [
+    ("Return confirms", ["a:smile\nb "], "a😄b "),
+    ("Tab confirms", ["a:smile\tb "], "a😄b "),
+    ("the trigger confirms", ["a:smile:b "], "a😄b "),
+    ("Down chooses the next row", ["a:zz", key("Down"), "\nb"], "asecondb"),
+    ("Up wraps to the last row", ["a:zzt", key("Up"), "\nb"], "asecondb"),
+    ("a skin tone", ["a:wave", key("Right"), key("Right"), "\nb"], "a👋🏻b"),
+    ("Left closes the strip again", ["a:wave", key("Right"), key("Left"), "\nb"], "a👋b"),
+    ("Escape cancels", ["a:smile", key("Escape"), "b"], "a:smileb"),
+    ("a space cancels", ["a:smile b"], "a:smile b"),
+    ("BackSpace shortens the query", ["a:smilex\b\nb"], "a😄b"),
+    ("BackSpace over the trigger ends it", ["a:s\b\bx:smile\nb"], "ax😄b"),
+    ("two in a row", [":tada\n:tada\n:+1\t"], "🎉🎉👍"),
+    ("nothing matches", ["a:zzzzqq:b"], "a:zzzzqq:b"),
+    ("an ordinary colon", ["ratio 1: 2:1 a::b"], "ratio 1: 2:1 a::b"),
+]
+
+
+class DesktopTest(unittest.TestCase):
+    """One session and one running program for all tests of a class."""
+
+    preferences = {}
+
+    @classmethod
+    def setUpClass(cls):
+        cls.session = cls.enterClassContext(Session())
+        data = pathlib.Path(cls.session.env["XDG_DATA_HOME"]) / "Tessarin"
+        data.mkdir(parents=True)
+        (data / "user-snippets.json").write_text(json.dumps([
+            {"id": f"USER-{trigger}", "name": trigger, "trigger": trigger, "replacement": text, "keywords": [],
+             "category": "Custom", "isBuiltIn": False} for trigger, text in SNIPPETS.items()]))
+        config = pathlib.Path(cls.session.env["XDG_CONFIG_HOME"]) / "tessarin"
+        config.mkdir(parents=True)
+        cls.preferences_path = config / "preferences.json"
+        cls.preferences_path.write_text(json.dumps({"hasCompletedOnboarding": True} | cls.preferences))
+        cls.typist = Typist(cls.session)
+        cls.addClassCleanup(cls.typist.close)
+        cls.tessarin = cls.enterClassContext(Tessarin(cls.session))
+
+    def play(self, steps):
+        for step in steps:
+            if callable(step):
+                step(self.typist)
+            else:
+                self.typist.type(step)
+
+    def check(self, editor, steps, expected):
+        start = editor.document()
+        self.play(steps)
+        self.assertEqual(editor.wait_for_document(start + expected, 8), start + expected)
+
+    def wait_for_popup(self):
+        return wait_for(self.typist.popup, what="the popup")
+
+
+class InEveryProgram(DesktopTest):
+    def test_rows(self):
+        for program in ALL:
+            with program(self.session, self.typist) as editor:
+                for name, steps, expected in ROWS:
+                    with self.subTest(program=program.__name__, row=name):
+                        self.check(editor, steps, expected)
+
+    def test_two_hundred_without_a_pause(self):
+        for program in ALL:
+            with self.subTest(program=program.__name__), program(self.session, self.typist) as editor:
+                for confirm in "\n\t:":
+                    self.check(editor, [f"a:smile{confirm}b " * 67], "a😄b " * 67)
+
+    def test_direct_insertion_where_it_can_be(self):
+        for program, line in ((Mousepad, "Replaced via Accessibility API"),
+                              (GnomeTextEditor, "Replaced via Accessibility API"),
+                              (Featherpad, "Replaced via Accessibility API"),
+                              (Xterm, "Falling back to paste method")):
+            with self.subTest(program=program.__name__), program(self.session, self.typist) as editor:
+                before = self.tessarin.log.count(line)
+                self.play(["x:smile"])
+                self.wait_for_popup()
+                time.sleep(0.1)  # a person's pause: the editor has taken in the letters
+                self.play(["\n"])
+                self.assertEqual(editor.wait_for_document("x😄"), "x😄")
+                self.assertGreater(self.tessarin.log.count(line), before)
+
+
+class WithThePointer(DesktopTest):
+    def test_click_on_a_row_inserts_it(self):
+        with Mousepad(self.session, self.typist) as editor:
+            self.play(["a:zz"])
+            x, y, width, height = self.wait_for_popup()
+            self.typist.click(x + width / 2, y + height - 28 - 18)  # the last row, above the hints
+            self.assertEqual(editor.wait_for_document("asecond"), "asecond")
+
+    def test_click_elsewhere_ends_it(self):
+        with Mousepad(self.session, self.typist) as editor:
+            self.play(["a:smile"])
+            x, y, width, height = self.wait_for_popup()
+            self.typist.click(x + width + 60, y + height + 20)
+            wait_for(lambda: self.typist.popup() is None, what="the popup to go")
+            self.play([key("End", "Control_L"), "b"])
+            self.assertEqual(editor.wait_for_document("a:smileb"), "a:smileb")
+
+
+class Templates(DesktopTest):
+    def test_variables_are_filled_in(self):
+        owner = set_clipboard(self.session, "größer".encode())
+        with Mousepad(self.session, self.typist) as editor:
+            self.check(editor, [":quote\n"], "[größer]")
+            self.play([" :today\n"])
+            wait_for(lambda: re.search(r" \d+/\d+/\d+$", editor.document()), what="the date")
+        self.session.stop(owner)
+
+
+class HeldKeys(DesktopTest):
+    def test_repeating_letter_and_backspace(self):
+        self.session.run("xset", "r", "rate", "150", "40")
+        for program in ALL:
+            with self.subTest(program=program.__name__), program(self.session, self.typist) as editor:
+                self.play(["a:"])
+                self.typist.hold("k", 0.6)
+                self.play(["\nb"])
+                wait_for(lambda: re.fullmatch(r"a<(\d+)>b", self.saved(editor)), what="one snippet for all letters")
+                self.assertGreater(int(re.search(r"\d+", editor.document()).group()), 3)
+
+                self.play([" " if program is not Xterm else "", "x:kkk"])
+                self.typist.hold("BackSpace", 0.4)
+                self.play(["y:smile\n"])
+                self.assertRegex(editor.wait_for_document("", 1), r"y😄$")
+
+    @staticmethod
+    def saved(editor):
+        editor.save()
+        return editor.document()
+
+
+class Modes(DesktopTest):
+    def set_preferences(self, **values):
+        self.preferences_path.write_text(json.dumps({"hasCompletedOnboarding": True} | values))
+
+    def tearDown(self):
+        self.set_preferences()
+
+    def test_paste_mode_keeps_the_clipboard(self):
+        self.set_preferences(pasteFallbackApps=["org.xfce.mousepad", "mousepad"])
+        picture = bytes(range(256)) * 8192
+        for data, target in ((b"plain text", None), (picture, "image/png")):
+            with self.subTest(target=target), Mousepad(self.session, self.typist) as editor:
+                owner = set_clipboard(self.session, data, target)
+                pasted = self.tessarin.log.count("Falling back to paste method")
+                self.check(editor, ["a:smile\nb :tada\tc"], "a😄b 🎉c")
+                self.assertEqual(self.tessarin.log.count("Falling back to paste method"), pasted + 2)
+                wait_for(lambda: clipboard(self.session, target) == data, 5, "the clipboard to come back")
+                self.session.stop(owner)
+
+    def test_terminal_keeps_both_selections(self):
+        with Xterm(self.session, self.typist) as editor:
+            owners = [set_clipboard(self.session, b"general"),
+                      set_clipboard(self.session, b"primary", selection="primary")]
+            self.check(editor, ["a:smile\nb"], "a😄b")
+            wait_for(lambda: clipboard(self.session) == b"general", 5, "the clipboard to come back")
+            wait_for(lambda: clipboard(self.session, selection="primary") == b"primary", 5, "PRIMARY to come back")
+            for owner in owners:
+                self.session.stop(owner)
+
+    def test_blocked_application(self):
+        with Mousepad(self.session, self.typist) as editor:
+            self.check(editor, [":smile\n"], "😄")
+            self.set_preferences(blacklistedApps=["org.xfce.mousepad", "mousepad"])
+            self.check(editor, ["a:smile\tb"], "a:smile\tb")
+            self.assertIsNone(self.typist.popup())
+
+    def test_other_trigger_at_once(self):
+        with Mousepad(self.session, self.typist) as editor:
+            self.set_preferences(triggerCharacter=";")
+            time.sleep(0.3)  # another program's change of the file has to be noticed first
+            self.check(editor, ["a:smile\tb;smile;c"], "a:smile\tb😄c")
+
+    def test_switched_off_and_on(self):
+        with Mousepad(self.session, self.typist) as editor:
+            self.tessarin.command("--toggle")
+            self.check(editor, ["a:smile\tb"], "a:smile\tb")
+            self.tessarin.command("--toggle")
+            self.check(editor, [":smile\tb"], "😄b")
+
+
+class NeverInTheLog(DesktopTest):
+    def test_typed_text_stays_out_of_the_log(self):
+        with Mousepad(self.session, self.typist) as editor:
+            self.check(editor, ["sesame:zzone\n sesame:zzunknown "], "sesamefirst sesame:zzunknown ")
+        for word in ("sesame", "zzone", "zzunknown", "first"):
+            self.assertNotIn(word, self.tessarin.log)
+
+
+class Quitting(DesktopTest):
+    def test_quit_leaves_the_keyboard_alone(self):
+        with Mousepad(self.session, self.typist) as editor:
+            self.play(["a:smi"])
+            self.wait_for_popup()
+            self.assertEqual(self.tessarin.stop(), 0)
+            self.check(editor, ["le\tb"], "le\tb")
+            self.assertIn("Event tap stopped", self.tessarin.log)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

@@ -1,0 +1,105 @@
+"""Types through XTest as a person would, only faster."""
+
+import time
+
+import Xlib.XK
+from Xlib import X, display
+from Xlib.ext import xtest
+
+NAMED = {
+    "\n": "Return", "\t": "Tab", "\b": "BackSpace", " ": "space", "\x1b": "Escape", ":": "colon", ";": "semicolon",
+    "/": "slash", "_": "underscore", "-": "minus", "+": "plus", ".": "period", ",": "comma", "!": "exclam",
+    "?": "question", "{": "braceleft", "}": "braceright",
+}
+
+
+class Typist:
+    def __init__(self, session):
+        self.display = display.Display(session.env["DISPLAY"])
+        self._codes = {}
+
+    def close(self):
+        self.display.close()
+
+    def _code(self, name):
+        """Key code, and whether Shift is needed."""
+        if name not in self._codes:
+            keysym = Xlib.XK.string_to_keysym(name)
+            matches = sorted(self.display.keysym_to_keycodes(keysym), key=lambda match: match[1])
+            if not matches:
+                raise ValueError(f"no key for {name}")
+            self._codes[name] = (matches[0][0], matches[0][1] == 1)
+        return self._codes[name]
+
+    def down(self, name):
+        xtest.fake_input(self.display, X.KeyPress, self._code(name)[0])
+
+    def up(self, name):
+        xtest.fake_input(self.display, X.KeyRelease, self._code(name)[0])
+
+    def key(self, name, *modifiers):
+        """One press and release, with modifiers by name around it."""
+        code, shifted = self._code(name)
+        held = list(modifiers) + (["Shift_L"] if shifted and "Shift_L" not in modifiers else [])
+        for modifier in held:
+            self.down(modifier)
+        xtest.fake_input(self.display, X.KeyPress, code)
+        xtest.fake_input(self.display, X.KeyRelease, code)
+        for modifier in reversed(held):
+            self.up(modifier)
+
+    def type(self, text, pause=0.0):
+        """All of the text, with no pause at all unless one is asked for."""
+        for character in text:
+            self.key(NAMED.get(character, character))
+            if pause:
+                self.display.sync()
+                time.sleep(pause)
+        self.display.sync()
+
+    def press(self, name, *modifiers):
+        self.key(name, *modifiers)
+        self.display.sync()
+
+    def hold(self, name, seconds):
+        """Keeps a key down; the X server repeats it."""
+        self.down(name)
+        self.display.sync()
+        time.sleep(seconds)
+        self.up(name)
+        self.display.sync()
+
+    def click(self, x, y, button=1):
+        xtest.fake_input(self.display, X.MotionNotify, x=int(x), y=int(y))
+        xtest.fake_input(self.display, X.ButtonPress, button)
+        xtest.fake_input(self.display, X.ButtonRelease, button)
+        self.display.sync()
+
+    def move_pointer(self, x, y):
+        xtest.fake_input(self.display, X.MotionNotify, x=int(x), y=int(y))
+        self.display.sync()
+
+    def _root_property(self, name):
+        value = self.display.screen().root.get_full_property(self.display.intern_atom(name), X.AnyPropertyType)
+        return list(value.value) if value is not None else []
+
+    def active_window(self):
+        return (self._root_property("_NET_ACTIVE_WINDOW") or [0])[0]
+
+    def client_windows(self):
+        return set(self._root_property("_NET_CLIENT_LIST"))
+
+    def popup(self):
+        """Frame of the popup on screen (x, y, width, height), or nothing."""
+        for child in self.display.screen().root.query_tree().children:
+            try:
+                attributes = child.get_attributes()
+                if not attributes.override_redirect or attributes.map_state != X.IsViewable:
+                    continue
+                name = child.get_wm_class()
+                geometry = child.get_geometry()
+            except Exception:  # a window that went between the two questions
+                continue
+            if name and "tessarin" in name[1].lower() and geometry.width >= 300:
+                return geometry.x, geometry.y, geometry.width, geometry.height
+        return None
