@@ -1,1 +1,199 @@
 #include "text/Graphemes.h"
+
+#include <unicode/bytestream.h>
+#include <unicode/casemap.h>
+#include <unicode/normalizer2.h>
+#include <unicode/ubrk.h>
+#include <unicode/uchar.h>
+#include <unicode/unistr.h>
+#include <unicode/utext.h>
+#include <unicode/utf8.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <memory>
+#include <stdexcept>
+
+namespace tessarin::text {
+namespace {
+
+void require(UErrorCode status) {
+  if (U_FAILURE(status)) throw std::runtime_error(u_errorName(status));
+}
+
+bool isAscii(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
+}
+
+/// Every byte a character of its own. CR LF is one character, so a CR leaves the fast path.
+bool isBytewise(std::string_view text) {
+  return std::all_of(text.begin(), text.end(),
+                     [](char c) { return static_cast<signed char>(c) >= 0 && c != '\r'; });
+}
+
+struct CloseBreakIterator {
+  void operator()(UBreakIterator* iterator) const { ubrk_close(iterator); }
+};
+
+/// Walks over the boundaries of a text, by the iterator that each thread keeps. Only one at a time a thread.
+class Boundaries {
+ public:
+  explicit Boundaries(std::string_view text) : iterator_(shared()) {
+    UErrorCode status = U_ZERO_ERROR;
+    UText source = UTEXT_INITIALIZER;
+    utext_openUTF8(&source, text.data(), static_cast<std::int64_t>(text.size()), &status);
+    ubrk_setUText(iterator_, &source, &status);
+    utext_close(&source);
+    require(status);
+  }
+
+  bool next() { return ubrk_next(iterator_) != UBRK_DONE; }
+  bool previous() { return ubrk_previous(iterator_) != UBRK_DONE; }
+  void toEnd() { ubrk_last(iterator_); }
+  bool isAt(std::size_t position) { return ubrk_isBoundary(iterator_, static_cast<std::int32_t>(position)); }
+  std::size_t position() const { return static_cast<std::size_t>(ubrk_current(iterator_)); }
+
+ private:
+  static UBreakIterator* shared() {
+    thread_local const std::unique_ptr<UBreakIterator, CloseBreakIterator> iterator = [] {
+      UErrorCode status = U_ZERO_ERROR;
+      std::unique_ptr<UBreakIterator, CloseBreakIterator> opened(
+          ubrk_open(UBRK_CHARACTER, "", nullptr, 0, &status));
+      require(status);
+      return opened;
+    }();
+    return iterator.get();
+  }
+
+  UBreakIterator* iterator_;
+};
+
+/// Where the last `count` characters begin.
+std::size_t startOfLast(std::string_view text, std::size_t count) {
+  if (isBytewise(text)) return text.size() - std::min(count, text.size());
+  Boundaries boundaries(text);
+  boundaries.toEnd();
+  while (count > 0 && boundaries.previous()) --count;
+  return boundaries.position();
+}
+
+bool startsWithNormalized(std::string_view text, std::string_view prefix) {
+  return text.starts_with(prefix) && isBoundary(text, prefix.size());
+}
+
+}  // namespace
+
+std::size_t characterCount(std::string_view text) {
+  if (isBytewise(text)) return text.size();
+  Boundaries boundaries(text);
+  std::size_t count = 0;
+  while (boundaries.next()) ++count;
+  return count;
+}
+
+std::string firstCharacter(std::string_view text) {
+  if (text.empty() || isBytewise(text)) return std::string(text.substr(0, 1));
+  Boundaries boundaries(text);
+  boundaries.next();
+  return std::string(text.substr(0, boundaries.position()));
+}
+
+std::string lastCharacters(std::string_view text, std::size_t count) {
+  return std::string(text.substr(startOfLast(text, count)));
+}
+
+std::string withoutLastCharacter(std::string_view text) {
+  return std::string(text.substr(0, startOfLast(text, 1)));
+}
+
+bool isBoundary(std::string_view text, std::size_t position) {
+  if (position == 0 || position >= text.size()) return position <= text.size();
+  const std::string_view around = text.substr(position - 1, 2);
+  if (isAscii(around)) return around != "\r\n";
+  return Boundaries(text).isAt(position);
+}
+
+std::string normalized(std::string_view text) {
+  if (isAscii(text)) return std::string(text);
+  UErrorCode status = U_ZERO_ERROR;
+  const icu::Normalizer2* composer = icu::Normalizer2::getNFCInstance(status);
+  require(status);
+  const auto source =
+      icu::UnicodeString::fromUTF8(icu::StringPiece(text.data(), static_cast<std::int32_t>(text.size())));
+  std::string result;
+  composer->normalize(source, status).toUTF8String(result);
+  require(status);
+  return result;
+}
+
+bool equals(std::string_view a, std::string_view b) {
+  if (a == b) return true;
+  return !(isAscii(a) && isAscii(b)) && normalized(a) == normalized(b);
+}
+
+bool startsWith(std::string_view text, std::string_view prefix) {
+  if (isAscii(text) && isAscii(prefix)) return startsWithNormalized(text, prefix);
+  return startsWithNormalized(normalized(text), normalized(prefix));
+}
+
+bool contains(std::string_view text, std::string_view part) {
+  if (isAscii(text) && isAscii(part)) return containsNormalized(text, part);
+  return containsNormalized(normalized(text), normalized(part));
+}
+
+bool containsNormalized(std::string_view text, std::string_view part) {
+  for (std::size_t at = text.find(part); at != std::string_view::npos; at = text.find(part, at + 1)) {
+    if (isBoundary(text, at) && isBoundary(text, at + part.size())) return true;
+  }
+  return false;
+}
+
+std::string lowercased(std::string_view text) {
+  std::string result;
+  if (isAscii(text)) {
+    result = text;
+    for (char& c : result) {
+      if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    }
+    return result;
+  }
+  UErrorCode status = U_ZERO_ERROR;
+  icu::StringByteSink<std::string> sink(&result);
+  icu::CaseMap::utf8ToLower("", 0, icu::StringPiece(text.data(), static_cast<std::int32_t>(text.size())),
+                            sink, nullptr, status);
+  require(status);
+  return result;
+}
+
+bool startsAlphanumeric(std::string_view text) {
+  if (text.empty()) return false;
+  std::int32_t at = 0;
+  UChar32 scalar = 0;
+  U8_NEXT(text.data(), at, static_cast<std::int32_t>(text.size()), scalar);
+  return scalar >= 0 && (U_GET_GC_MASK(scalar) & (U_GC_L_MASK | U_GC_M_MASK | U_GC_N_MASK)) != 0;
+}
+
+bool isValidUtf8(std::string_view text) {
+  const auto length = static_cast<std::int32_t>(text.size());
+  std::int32_t at = 0;
+  while (at < length) {
+    UChar32 scalar = 0;
+    U8_NEXT(text.data(), at, length, scalar);
+    if (scalar < 0) return false;
+  }
+  return true;
+}
+
+std::string fromUtf16(std::u16string_view text) {
+  std::string result;
+  icu::UnicodeString(false, text.data(), static_cast<std::int32_t>(text.size())).toUTF8String(result);
+  return result;
+}
+
+std::u16string toUtf16(std::string_view text) {
+  const auto converted =
+      icu::UnicodeString::fromUTF8(icu::StringPiece(text.data(), static_cast<std::int32_t>(text.size())));
+  return {converted.getBuffer(), static_cast<std::size_t>(converted.length())};
+}
+
+}  // namespace tessarin::text

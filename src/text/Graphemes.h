@@ -23,6 +23,13 @@ bool equals(std::string_view a, std::string_view b);
 bool startsWith(std::string_view text, std::string_view prefix);
 bool contains(std::string_view text, std::string_view part);
 
+/// The composed normal form: canonically equivalent texts become the same bytes.
+std::string normalized(std::string_view text);
+/// `contains` for texts that are `normalized` already.
+bool containsNormalized(std::string_view text, std::string_view part);
+/// Whether a character begins or ends at this byte.
+bool isBoundary(std::string_view text, std::size_t position);
+
 /// Full, locale-independent lower-casing of the whole string.
 std::string lowercased(std::string_view text);
 

@@ -1,0 +1,94 @@
+#include "support/desktop/ChildProcess.h"
+
+#include <fcntl.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <stdexcept>
+#include <string_view>
+
+namespace tessarin::testing {
+namespace {
+
+bool replaces(const std::vector<std::string>& entries, std::string_view ours) {
+  const std::string_view name = ours.substr(0, ours.find('=') + 1);
+  for (const std::string& entry : entries) {
+    if (entry.starts_with(name)) return true;
+  }
+  return false;
+}
+
+std::vector<char*> pointers(const std::vector<std::string>& strings) {
+  std::vector<char*> result;
+  for (const std::string& string : strings) result.push_back(const_cast<char*>(string.c_str()));
+  return result;
+}
+
+std::vector<char*> fullEnvironment(const std::vector<std::string>& own) {
+  std::vector<char*> result = pointers(own);
+  for (char** entry = environ; *entry != nullptr; ++entry) {
+    if (!replaces(own, *entry)) result.push_back(*entry);
+  }
+  result.push_back(nullptr);
+  return result;
+}
+
+pid_t spawn(const std::vector<std::string>& command, const std::vector<std::string>& environment,
+            int inheritedFd) {
+  std::vector<char*> arguments = pointers(command);
+  arguments.push_back(nullptr);
+  const std::vector<char*> variables = fullEnvironment(environment);
+  const pid_t pid = fork();
+  if (pid < 0) throw std::runtime_error("no process for " + command.front());
+  if (pid == 0) {
+    // Between fork and exec only calls that are safe beside other threads.
+    prctl(PR_SET_PDEATHSIG, SIGTERM);
+    if (inheritedFd >= 0) fcntl(inheritedFd, F_SETFD, 0);
+    const int null = open("/dev/null", O_RDWR);
+    dup2(null, STDIN_FILENO);
+    dup2(null, STDOUT_FILENO);
+    dup2(null, STDERR_FILENO);
+    execvpe(arguments[0], arguments.data(), variables.data());
+    _exit(127);
+  }
+  return pid;
+}
+
+}  // namespace
+
+ChildProcess::ChildProcess(const std::vector<std::string>& command,
+                           const std::vector<std::string>& environment, int inheritedFd)
+    : pid_(spawn(command, environment, inheritedFd)) {}
+
+ChildProcess& ChildProcess::operator=(ChildProcess&& other) noexcept {
+  if (this != &other) {
+    stop();
+    pid_ = std::exchange(other.pid_, -1);
+  }
+  return *this;
+}
+
+bool ChildProcess::isRunning() {
+  if (pid_ < 0) return false;
+  if (waitpid(pid_, nullptr, WNOHANG) == 0) return true;
+  pid_ = -1;
+  return false;
+}
+
+void ChildProcess::stop() {
+  if (!isRunning()) return;
+  kill(pid_, SIGTERM);
+  waitpid(pid_, nullptr, 0);
+  pid_ = -1;
+}
+
+int run(const std::vector<std::string>& command, const std::vector<std::string>& environment) {
+  const pid_t pid = spawn(command, environment, -1);
+  int status = 0;
+  if (waitpid(pid, &status, 0) != pid || !WIFEXITED(status)) return -1;
+  return WEXITSTATUS(status);
+}
+
+}  // namespace tessarin::testing

@@ -1,0 +1,162 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <thread>
+
+#include "text/Graphemes.h"
+
+namespace tessarin {
+namespace {
+
+const std::string composed = "\u00e9";
+const std::string decomposed = "e\u0301";
+const std::string family = "\U0001F468\u200D\U0001F469\u200D\U0001F467";
+const std::string flags = "\U0001F1E9\U0001F1EA\U0001F1EB\U0001F1F7";
+const std::string thumb = "\U0001F44D\U0001F3FD";
+
+struct CountCase {
+  std::string text;
+  std::size_t count;
+};
+
+class CharacterCount : public ::testing::TestWithParam<CountCase> {};
+
+TEST_P(CharacterCount, CountsWhatTheUserPerceives) {
+  EXPECT_EQ(text::characterCount(GetParam().text), GetParam().count);
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, CharacterCount,
+                         ::testing::Values(CountCase{"", 0}, CountCase{"smile", 5}, CountCase{"a\nb", 3},
+                                           CountCase{"a\r\nb", 3}, CountCase{"\n\r", 2},
+                                           CountCase{composed, 1}, CountCase{decomposed, 1},
+                                           CountCase{family, 1}, CountCase{flags, 2},
+                                           CountCase{thumb + "x", 2}, CountCase{"\u0301", 1},
+                                           CountCase{"\uAC01\u1112\u1161\u11AB", 2}, CountCase{"\u0E33", 1},
+                                           CountCase{"\U0001FAC8\U0001FACD", 2}, CountCase{"a\xff", 2}));
+
+TEST(Characters, FirstTakesTheWholeCluster) {
+  EXPECT_EQ(text::firstCharacter(""), "");
+  EXPECT_EQ(text::firstCharacter("abc"), "a");
+  EXPECT_EQ(text::firstCharacter("\r\nb"), "\r\n");
+  EXPECT_EQ(text::firstCharacter(decomposed + "t"), decomposed);
+  EXPECT_EQ(text::firstCharacter(flags), flags.substr(0, 8));
+}
+
+TEST(Characters, LastTakesWholeClusters) {
+  EXPECT_EQ(text::lastCharacters("abc", 2), "bc");
+  EXPECT_EQ(text::lastCharacters("abc", 7), "abc");
+  EXPECT_EQ(text::lastCharacters("abc", 0), "");
+  EXPECT_EQ(text::lastCharacters("a\r\n", 1), "\r\n");
+  EXPECT_EQ(text::lastCharacters("ab" + family + decomposed, 2), family + decomposed);
+  EXPECT_EQ(text::lastCharacters(decomposed, 0), "");
+  EXPECT_EQ(text::lastCharacters(decomposed, 9), decomposed);
+}
+
+TEST(Characters, WithoutLastRemovesTheWholeCluster) {
+  EXPECT_EQ(text::withoutLastCharacter(""), "");
+  EXPECT_EQ(text::withoutLastCharacter("ab"), "a");
+  EXPECT_EQ(text::withoutLastCharacter("a\r\n"), "a");
+  EXPECT_EQ(text::withoutLastCharacter("caf" + decomposed), "caf");
+  EXPECT_EQ(text::withoutLastCharacter("x" + thumb), "x");
+  EXPECT_EQ(text::withoutLastCharacter(flags), flags.substr(0, 8));
+}
+
+TEST(Characters, EachThreadHasItsOwnIterator) {
+  std::size_t counted = 0;
+  std::thread([&counted] { counted = text::characterCount(family + decomposed); }).join();
+  EXPECT_EQ(counted, 2U);
+}
+
+TEST(Boundary, NeverInsideACluster) {
+  EXPECT_TRUE(text::isBoundary("ab", 1));
+  EXPECT_TRUE(text::isBoundary("ab", 2));
+  EXPECT_FALSE(text::isBoundary("ab", 3));
+  EXPECT_FALSE(text::isBoundary("\r\n", 1));
+  EXPECT_FALSE(text::isBoundary(decomposed, 1));
+  EXPECT_FALSE(text::isBoundary(composed, 1));
+  EXPECT_FALSE(text::isBoundary(flags, 4));
+  EXPECT_TRUE(text::isBoundary(flags, 8));
+}
+
+TEST(Equality, IsCanonicalAndOtherwiseExact) {
+  EXPECT_TRUE(text::equals("a", "a"));
+  EXPECT_FALSE(text::equals("a", "A"));
+  EXPECT_TRUE(text::equals(composed, decomposed));
+  EXPECT_FALSE(text::equals("e", decomposed));
+  EXPECT_TRUE(text::equals("\u212B", "A\u030A"));
+  EXPECT_TRUE(text::equals("a\u0323\u0307", "a\u0307\u0323"));
+  EXPECT_FALSE(text::equals("\uFF41", "a"));
+  EXPECT_FALSE(text::equals("\uFB01", "fi"));
+  EXPECT_TRUE(text::equals("\uAC01", "\u1100\u1161\u11A8"));
+}
+
+struct PartCase {
+  std::string text;
+  std::string part;
+  bool starts;
+  bool contains;
+};
+
+class TextParts : public ::testing::TestWithParam<PartCase> {};
+
+TEST_P(TextParts, MatchWholeCharacters) {
+  EXPECT_EQ(text::startsWith(GetParam().text, GetParam().part), GetParam().starts);
+  EXPECT_EQ(text::contains(GetParam().text, GetParam().part), GetParam().contains);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, TextParts,
+    ::testing::Values(
+        PartCase{"smile", "sm", true, true}, PartCase{"smile", "mil", false, true},
+        PartCase{"smile", "smiles", false, false}, PartCase{"a", "", true, true},
+        PartCase{decomposed + "tud", "e", false, false}, PartCase{decomposed + "tude", composed, true, true},
+        PartCase{composed + "tude", decomposed + "t", true, true},
+        PartCase{"caf" + decomposed, "f" + composed, false, true},
+        PartCase{"caf" + decomposed, "fe", false, false}, PartCase{"e" + decomposed, "e", true, true},
+        PartCase{decomposed + "e", "e", false, true}, PartCase{"\r\n", "\r", false, false},
+        PartCase{"\r\n", "\n", false, false}, PartCase{"\r\n\n", "\n", false, true},
+        PartCase{family, "\U0001F468", false, false}, PartCase{flags, flags.substr(4, 8), false, false},
+        PartCase{flags, flags.substr(8), false, true}, PartCase{"ab\u0301ab", "ab", false, true},
+        PartCase{"\uAC01", "\uAC00", false, false}));
+
+TEST(Lowercase, IsFullAndWithoutLocale) {
+  EXPECT_EQ(text::lowercased("SMILE_+1z"), "smile_+1z");
+  EXPECT_EQ(text::lowercased("\u0130"), "i\u0307");
+  EXPECT_EQ(text::lowercased("I"), "i");
+  EXPECT_EQ(text::lowercased("\u1E9E"), "\u00DF");
+  EXPECT_EQ(text::lowercased("\u039F\u0394\u039F\u03A3"), "\u03BF\u03B4\u03BF\u03C2");
+  EXPECT_EQ(text::lowercased("\u03A3\u0391"), "\u03C3\u03B1");
+  EXPECT_EQ(text::lowercased("\u0416"), "\u0436");
+}
+
+TEST(Alphanumeric, AreLettersMarksAndNumbers) {
+  for (const char* yes : {"a", "Z", "7", "\u00e9", "\u00df", "\u0416", "\u0663", "\u0301", "\u2163", "\u00bd",
+                          "\u4e2d", "\U0001D7D8", "e\u0301"}) {
+    EXPECT_TRUE(text::startsAlphanumeric(yes)) << yes;
+  }
+  for (const char* no :
+       {"", "_", "-", "+", ".", " ", "\n", "\x7f", "\U0001F600", "\uF700", "\u20ac", "\xff"}) {
+    EXPECT_FALSE(text::startsAlphanumeric(no)) << no;
+  }
+}
+
+TEST(Encoding, ValidatesUtf8) {
+  EXPECT_TRUE(text::isValidUtf8(""));
+  EXPECT_TRUE(text::isValidUtf8("a" + family));
+  for (const char* bad : {"\xff", "a\xc3", "\xc0\xaf", "\xed\xa0\x80", "\xf4\x90\x80\x80", "\x80"}) {
+    EXPECT_FALSE(text::isValidUtf8(bad));
+  }
+}
+
+TEST(Encoding, ConvertsBetweenUtf8AndUtf16) {
+  EXPECT_EQ(text::toUtf16("a" + thumb), u"a\U0001F44D\U0001F3FD");
+  EXPECT_EQ(text::fromUtf16(u"\u00e9\U0001F600"), "\u00e9\U0001F600");
+  EXPECT_EQ(text::fromUtf16(std::u16string(1, u'\xD83D') + u"a"),
+            "\uFFFD"
+            "a");
+  EXPECT_EQ(text::toUtf16("a\xff"), u"a\uFFFD");
+  EXPECT_EQ(text::toUtf16(""), u"");
+}
+
+}  // namespace
+}  // namespace tessarin
