@@ -1,0 +1,108 @@
+#include "platform/freedesktop/InstanceSocket.h"
+
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+
+#include <array>
+#include <chrono>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+#include "base/Log.h"
+
+namespace tessarin::freedesktop {
+namespace {
+
+constexpr std::size_t longestLine = 8192;
+
+/// FNV-1a: the same folder gives the same name in every build.
+std::uint64_t fingerprint(const std::string& text) {
+  std::uint64_t hash = 14695981039346656037U;
+  for (const char c : text) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;
+  return hash;
+}
+
+std::string socketPath(const std::string& dataFolder) {
+  const char* runtime = std::getenv("XDG_RUNTIME_DIR");
+  if (runtime == nullptr || runtime[0] != '/') return dataFolder + "/instance.socket";
+  std::array<char, 40> name{};
+  std::snprintf(name.data(), name.size(), "/tessarin-%016llx",
+                static_cast<unsigned long long>(fingerprint(dataFolder)));
+  return runtime + std::string(name.data());
+}
+
+std::optional<sockaddr_un> address(const std::string& path) {
+  sockaddr_un result{};
+  result.sun_family = AF_UNIX;
+  if (path.size() >= sizeof result.sun_path) return std::nullopt;
+  std::memcpy(result.sun_path, path.data(), path.size());
+  return result;
+}
+
+void limitWaiting(int socket, std::chrono::milliseconds time) {
+  const timeval limit{time.count() / 1000, (time.count() % 1000) * 1000};
+  setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
+  setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &limit, sizeof limit);
+}
+
+/// One line without its line feed; none when the other side broke off or took too long.
+std::optional<std::string> receiveLine(int socket) {
+  std::string line;
+  std::array<char, 512> buffer{};
+  while (line.size() < longestLine) {
+    const ssize_t count = recv(socket, buffer.data(), buffer.size(), 0);
+    if (count <= 0) return std::nullopt;
+    line.append(buffer.data(), static_cast<std::size_t>(count));
+    if (const auto end = line.find('\n'); end != std::string::npos) return line.substr(0, end);
+  }
+  return std::nullopt;
+}
+
+bool sendLine(int socket, const std::string& text) {
+  const std::string line = text + "\n";
+  return send(socket, line.data(), line.size(), MSG_NOSIGNAL) == static_cast<ssize_t>(line.size());
+}
+
+}  // namespace
+
+std::optional<InstanceSocket> InstanceSocket::listen(const std::string& dataFolder) {
+  const std::string path = socketPath(dataFolder);
+  const auto place = address(path);
+  FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+  ::unlink(path.c_str());  // what an instance that was killed left behind
+  if (!place || !socket ||
+      bind(socket.get(), reinterpret_cast<const sockaddr*>(&*place), sizeof *place) != 0 ||
+      chmod(path.c_str(), 0600) != 0 || ::listen(socket.get(), 8) != 0) {
+    log("Tessarin", "No socket for requests of later instances: " + std::string(std::strerror(errno)));
+    return std::nullopt;
+  }
+  return InstanceSocket(std::move(socket), path);
+}
+
+InstanceSocket::~InstanceSocket() {
+  if (socket_) ::unlink(path_.c_str());
+}
+
+void InstanceSocket::serve(const Handler& handler) const {
+  const FileDescriptor client(accept4(socket_.get(), nullptr, nullptr, SOCK_CLOEXEC));
+  if (!client) return;
+  limitWaiting(client.get(), std::chrono::milliseconds(200));
+  if (const auto request = receiveLine(client.get())) sendLine(client.get(), handler(*request));
+}
+
+std::optional<std::string> requestOfRunningInstance(const std::string& dataFolder,
+                                                    const std::string& request) {
+  const auto place = address(socketPath(dataFolder));
+  const FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+  if (!place || !socket) return std::nullopt;
+  limitWaiting(socket.get(), std::chrono::seconds(2));
+  if (connect(socket.get(), reinterpret_cast<const sockaddr*>(&*place), sizeof *place) != 0)
+    return std::nullopt;
+  if (!sendLine(socket.get(), request)) return std::nullopt;
+  return receiveLine(socket.get());
+}
+
+}  // namespace tessarin::freedesktop
