@@ -5,6 +5,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "model/EarlierTexts.h"
 #include "model/MatchScore.h"
 #include "model/SearchLane.h"
 #include "model/SnippetTexts.h"
@@ -38,6 +39,19 @@ struct Shelf {
   SearchLane triggers{{exactTriggerScore, triggerPrefixScore, segmentPrefixScore, insideTriggerScore}};
   SearchLane keywords{{exactKeywordScore, keywordPrefixScore, 0, insideKeywordScore}};
 };
+
+void shelve(Id id, const FoldedEntry& entry, Shelf& shelf, EarlierTexts& earlier) {
+  shelf.triggers.add(id, entry.triggerLength, entry.trigger);
+  earlier.clear();
+  earlier.add(entry.trigger);
+  std::string covered;
+  entry.forEachKeyword([&](std::string_view keyword, int length) {
+    covered.clear();
+    earlier.appendCovered(keyword, covered);
+    earlier.add(keyword);
+    shelf.keywords.add(id, length, keyword, covered);
+  });
+}
 
 }  // namespace
 
@@ -136,13 +150,10 @@ void SearchIndex::Impl::fillShelves() {
   shelves.resize(mostBonusSteps + 1);
   byTriggerHash.clear();
   byTriggerHash.reserve(records.size());
+  EarlierTexts earlier;
   for (Id id = 0; id < records.size(); ++id) {
     const Record& record = records[id];
-    const FoldedEntry entry = texts.entry(record.place);
-    Shelf& shelf = shelves[record.bonusSteps];
-    shelf.triggers.add(id, entry.triggerLength, entry.trigger);
-    entry.forEachKeyword(
-        [&](std::string_view keyword, int length) { shelf.keywords.add(id, length, keyword); });
+    shelve(id, texts.entry(record.place), shelves[record.bonusSteps], earlier);
     byTriggerHash.emplace_back(std::hash<std::string_view>{}(texts.storedTrigger(record.place)), id);
   }
   std::sort(byTriggerHash.begin(), byTriggerHash.end());

@@ -7,8 +7,9 @@
 
 namespace tessarin {
 
-void SearchLane::add(std::uint32_t id, int length, std::string_view text) {
-  added_.push_back({id, length, text});
+void SearchLane::add(std::uint32_t id, int length, std::string_view text, std::string_view covered) {
+  added_.push_back({id, length, text, addedCovered_.size()});
+  addedCovered_ += covered;
 }
 
 void SearchLane::build() {
@@ -30,7 +31,17 @@ void SearchLane::build() {
     pool_.append(item.text).push_back(textEnd);
   }
   starts_.push_back(static_cast<std::uint32_t>(pool_.size()));
+  layOutCovered();
   added_ = {};
+  addedCovered_ = {};
+}
+
+void SearchLane::layOutCovered() {
+  if (addedCovered_.empty()) return;
+  covered_.assign(pool_.size(), '\0');
+  for (std::size_t i = 0; i < added_.size(); ++i) {
+    addedCovered_.copy(covered_.data() + starts_[i], added_[i].text.size(), added_[i].covered);
+  }
 }
 
 SearchLane::Hits SearchLane::wanted(const FoldedQuery& query, int bonus, const TopHits& top, const Run& run,
@@ -42,21 +53,39 @@ SearchLane::Hits SearchLane::wanted(const FoldedQuery& query, int bonus, const T
   return wants(isWhole ? tiers_.whole : tiers_.prefix - run.length) ? Hits::atStart : Hits::none;
 }
 
+/// The next place where the query stands and is not decided by an earlier text.
+std::size_t SearchLane::find(const FoldedQuery& query, Hits hits, std::size_t from, std::size_t end) const {
+  const Before before = hits == Hits::anywhere ? Before::anything : Before::eitherOf;
+  const char other = hits == Hits::atSegment ? '_' : textEnd;
+  std::size_t at = findBytes(pool_, from, end, query.text, before, textEnd, other);
+  while (at != std::string::npos && !covered_.empty() &&
+         static_cast<unsigned char>(covered_[at]) >= query.text.size()) {
+    at = findBytes(pool_, at + 1, end, query.text, before, textEnd, other);
+  }
+  return at;
+}
+
+/// The text that a place lies in, `from` or one after it: mostly one soon after.
+std::size_t SearchLane::itemAt(std::size_t place, std::size_t from) const {
+  std::size_t step = 1;
+  while (from + step < starts_.size() && starts_[from + step] <= place) {
+    from += step;
+    step *= 2;
+  }
+  const auto begin = starts_.begin() + static_cast<std::ptrdiff_t>(from);
+  const auto end = starts_.begin() + static_cast<std::ptrdiff_t>(std::min(from + step, starts_.size()));
+  return static_cast<std::size_t>(std::upper_bound(begin, end, place) - starts_.begin()) - 1;
+}
+
 void SearchLane::scanRun(const FoldedQuery& query, int bonus, const TopHits& top, const Run& run,
                          const std::function<void(std::uint32_t id)>& visit) const {
-  std::size_t item = run.begin;
-  while (item < run.end) {
+  for (std::size_t item = run.begin; item < run.end; ++item) {
     const Hits hits = wanted(query, bonus, top, run, item);
     if (hits == Hits::none) return;
-    const Before before = hits == Hits::anywhere ? Before::anything : Before::eitherOf;
-    const char other = hits == Hits::atSegment ? '_' : textEnd;
-    const std::size_t at =
-        findBytes(pool_, starts_[item], starts_[run.end], query.text, before, textEnd, other);
+    const std::size_t at = find(query, hits, starts_[item], starts_[run.end]);
     if (at == std::string::npos) return;
-    const auto after =
-        std::upper_bound(starts_.begin() + static_cast<std::ptrdiff_t>(item), starts_.end(), at);
-    item = static_cast<std::size_t>(after - starts_.begin());
-    visit(ids_[item - 1]);
+    item = itemAt(at, item);
+    visit(ids_[item]);
   }
 }
 

@@ -28,8 +28,10 @@ class SearchLane {
 
   explicit SearchLane(const Tiers& tiers) : tiers_(tiers) {}
 
-  /// `text` must live until `build`. Snippets come in ascending order.
-  void add(std::uint32_t id, int length, std::string_view text);
+  /// `text` must live until `build`. Snippets come in ascending order. `covered` is empty, or says for each
+  /// byte of the text up to what length a query found there is none of this text's business (see
+  /// `EarlierTexts`).
+  void add(std::uint32_t id, int length, std::string_view text, std::string_view covered = {});
   void build();
 
   /// Calls `visit` with each snippet that could, by this lane, enter `top` with `bonus` on its score. `visit`
@@ -42,6 +44,7 @@ class SearchLane {
     std::uint32_t id;
     int length;
     std::string_view text;
+    std::size_t covered;  ///< where its lengths begin in `addedCovered_`
   };
   struct Run {
     int length;  ///< in characters
@@ -50,14 +53,19 @@ class SearchLane {
   };
   enum class Hits { none, atStart, atSegment, anywhere };
 
+  void layOutCovered();
   Hits wanted(const FoldedQuery& query, int bonus, const TopHits& top, const Run& run,
               std::size_t item) const;
+  std::size_t find(const FoldedQuery& query, Hits hits, std::size_t from, std::size_t end) const;
+  std::size_t itemAt(std::size_t place, std::size_t from) const;
   void scanRun(const FoldedQuery& query, int bonus, const TopHits& top, const Run& run,
                const std::function<void(std::uint32_t id)>& visit) const;
 
   Tiers tiers_;
   std::vector<Item> added_;
+  std::string addedCovered_;
   std::string pool_;                   ///< each text between two `textEnd`
+  std::string covered_;                ///< for each byte of the pool; empty when nothing is covered
   std::vector<std::uint32_t> ids_;     ///< snippet of each text
   std::vector<std::uint32_t> starts_;  ///< where each text begins, and the end of the pool
   std::vector<Run> runs_;
