@@ -27,11 +27,17 @@ class SearchIndex {
   void replace(std::size_t position, const Snippet& snippet);
   /// Removes one position; those behind it move up.
   void remove(std::size_t position);
+  /// Takes out every snippet; the usage counts stay.
   void clear();
   std::size_t size() const;
 
-  /// How often the trigger (exact text) was used.
+  /// How often the trigger (exact text) was used, whether or not a snippet has it now. Counts below 1 are
+  /// none.
   void setUsageCount(const std::string& trigger, std::int64_t count);
+
+  /// Does now what the next search would have to do first when much has changed since the last: laying out
+  /// all texts anew. Worth calling after loading.
+  void prepare();
 
   /// Positions of the best `limit` snippets, best first.
   std::vector<std::size_t> search(std::string_view query, std::size_t limit) const;

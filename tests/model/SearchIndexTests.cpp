@@ -1,0 +1,203 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "model/MatchScore.h"
+#include "model/SearchIndex.h"
+
+namespace tessarin {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+Snippet snippet(const std::string& trigger, const std::vector<std::string>& keywords = {}) {
+  return {"id_" + trigger, trigger, trigger, "x", keywords, "Custom", false};
+}
+
+/// What the index must answer: every snippet scored one by one, then sorted.
+class PlainPass {
+ public:
+  std::vector<std::size_t> search(const std::string& query, std::size_t limit) const {
+    std::vector<std::pair<int, std::size_t>> kept;
+    for (std::size_t i = 0; i < snippets.size(); ++i) {
+      const int base = matchScore(query, snippets[i].trigger, snippets[i].keywords);
+      if (base >= 1) kept.emplace_back(base + bonus(snippets[i].trigger), i);
+    }
+    std::stable_sort(kept.begin(), kept.end(),
+                     [](const auto& a, const auto& b) { return a.first > b.first; });
+    std::vector<std::size_t> positions;
+    for (std::size_t i = 0; i < std::min(limit, kept.size()); ++i) positions.push_back(kept[i].second);
+    return positions;
+  }
+
+  std::vector<Snippet> snippets;
+  std::map<std::string, std::int64_t> counts;
+
+ private:
+  int bonus(const std::string& trigger) const {
+    const auto found = counts.find(trigger);
+    if (found == counts.end() || found->second < 1) return 0;
+    return static_cast<int>(std::min<std::int64_t>(found->second, 10)) * 50;
+  }
+};
+
+class SearchIndexTest : public ::testing::Test {
+ protected:
+  void fill(const std::vector<Snippet>& snippets) {
+    for (const Snippet& s : snippets) index.append(s);
+  }
+  SearchIndex index;
+};
+
+TEST_F(SearchIndexTest, OrdersByScoreAndUse) {
+  fill({snippet("sm"), snippet("smile"), snippet("smirk"), snippet("slightly_smiling"),
+        snippet("grin", {"smile", "happy"}), snippet("cosmos"), snippet("wave", {"hello"})});
+  index.setUsageCount("smile", 3);
+  index.setUsageCount("cosmos", 12);
+  index.setUsageCount("wave", 40);
+  EXPECT_THAT(index.search("sm", 8), ElementsAre(0, 1, 2, 5, 3, 4));
+  EXPECT_THAT(index.search("SM", 8), ElementsAre(0, 1, 2, 5, 3, 4));
+  EXPECT_THAT(index.search("sm", 2), ElementsAre(0, 1));
+  EXPECT_THAT(index.search("sm", 0), IsEmpty());
+  EXPECT_THAT(index.search("", 8), IsEmpty());
+}
+
+TEST_F(SearchIndexTest, KeepsTheOrderOfEquals) {
+  fill({snippet("abc"), snippet("abd"), snippet("ABC"), snippet("abc")});
+  EXPECT_THAT(index.search("abc", 8), ElementsAre(0, 2, 3));
+  EXPECT_THAT(index.search("ab", 3), ElementsAre(0, 1, 2));
+}
+
+TEST_F(SearchIndexTest, CountsOnlyTheExactTriggerAndStopsAtTen) {
+  fill({snippet("aab"), snippet("aac"), snippet("aad")});
+  index.setUsageCount("AAB", 10);
+  index.setUsageCount("aac", 10);
+  index.setUsageCount("aad", 500);
+  EXPECT_THAT(index.search("aa", 8), ElementsAre(1, 2, 0));
+  index.setUsageCount("aac", 0);
+  EXPECT_THAT(index.search("aa", 8), ElementsAre(2, 0, 1));
+}
+
+TEST_F(SearchIndexTest, CountsSetBeforeTheSnippetCount) {
+  index.setUsageCount("abd", 1);
+  fill({snippet("abc"), snippet("abd")});
+  EXPECT_THAT(index.search("ab", 8), ElementsAre(1, 0));
+  index.clear();
+  EXPECT_EQ(index.size(), 0U);
+  EXPECT_THAT(index.search("ab", 8), IsEmpty());
+  fill({snippet("abc"), snippet("abd")});
+  EXPECT_THAT(index.search("ab", 8), ElementsAre(1, 0));
+}
+
+TEST_F(SearchIndexTest, FollowsReplacementAndRemoval) {
+  fill({snippet("one"), snippet("two"), snippet("three")});
+  index.remove(0);
+  EXPECT_EQ(index.size(), 2U);
+  EXPECT_THAT(index.search("t", 8), ElementsAre(0, 1));
+  index.replace(0, snippet("other"));
+  EXPECT_THAT(index.search("t", 8), ElementsAre(1, 0));
+  index.append(snippet("t"));
+  EXPECT_THAT(index.search("t", 8), ElementsAre(2, 1, 0));
+}
+
+/// Texts of few letters, so that every tier, tie and overlap comes up.
+class Generator {
+ public:
+  explicit Generator(unsigned seed) : random_(seed) {}
+
+  std::size_t below(std::size_t bound) { return random_() % bound; }
+
+  std::string text(std::size_t most) {
+    static const std::vector<std::string> letters = {
+        "a", "a",      "b",       "b",      "a",      "_",      "_",      "A",      "B",
+        "e", "\u00e9", "e\u0301", "\u0130", "\u1e9e", "\u03a3", "\u03c3", "\u03c2", "1",
+        "-", "+",      "\u0301",  "\u0308", "\uac00", "\u11a8", "\r",     "\n"};
+    const std::size_t kinds = below(3) == 0 ? letters.size() : 9;
+    std::string result;
+    for (std::size_t n = below(most) + 1; n > 0; --n) result += letters[below(kinds)];
+    return result;
+  }
+
+  Snippet next() {
+    if (below(60) == 0) return snippet(text(5) + std::string(below(1200), 'a') + text(3), keywords());
+    return snippet(text(9), keywords());
+  }
+
+ private:
+  std::vector<std::string> keywords() {
+    std::vector<std::string> words;
+    for (std::size_t n = below(4); n > 0; --n) words.push_back(below(40) == 0 ? "" : text(8));
+    return words;
+  }
+
+  std::mt19937 random_;
+};
+
+class Comparison {
+ public:
+  explicit Comparison(unsigned seed) : generator_(seed) {}
+
+  void change() {
+    const std::size_t size = plain_.snippets.size();
+    const std::size_t kind = generator_.below(10);
+    if (kind < 3 || size == 0) return append();
+    const std::size_t at = generator_.below(size);
+    if (kind < 5) return replace(at);
+    if (kind < 7) return remove(at);
+    const std::string trigger = generator_.below(5) == 0 ? generator_.text(3) : plain_.snippets[at].trigger;
+    const auto count = static_cast<std::int64_t>(generator_.below(14)) - 1;
+    plain_.counts[trigger] = count;
+    index_.setUsageCount(trigger, count);
+  }
+
+  void append() {
+    plain_.snippets.push_back(generator_.next());
+    index_.append(plain_.snippets.back());
+  }
+
+  void check() {
+    static const std::size_t limits[] = {0, 1, 3, 8, 8, 8, 8, 64, 1000};
+    const std::string query = generator_.text(generator_.below(3) == 0 ? 6 : 2);
+    const std::size_t limit = limits[generator_.below(std::size(limits))];
+    ASSERT_EQ(index_.search(query, limit), plain_.search(query, limit))
+        << "query " << query << ", limit " << limit;
+    ASSERT_EQ(index_.size(), plain_.snippets.size());
+  }
+
+ private:
+  void replace(std::size_t at) {
+    plain_.snippets[at] = generator_.next();
+    index_.replace(at, plain_.snippets[at]);
+  }
+  void remove(std::size_t at) {
+    plain_.snippets.erase(plain_.snippets.begin() + static_cast<std::ptrdiff_t>(at));
+    index_.remove(at);
+  }
+
+  Generator generator_;
+  PlainPass plain_;
+  SearchIndex index_;
+};
+
+class SearchIndexComparison : public ::testing::TestWithParam<unsigned> {};
+
+TEST_P(SearchIndexComparison, AnswersAsThePlainPassDoes) {
+  Comparison comparison(GetParam());
+  const std::size_t sizes[] = {5, 90, 300, 900};
+  for (std::size_t n = sizes[GetParam() % 4]; n > 0; --n) comparison.append();
+  for (int round = 0; round < 150; ++round) {
+    for (unsigned changes = round % 3 == 0 ? GetParam() % 7 : 0; changes > 0; --changes) comparison.change();
+    ASSERT_NO_FATAL_FAILURE(comparison.check());
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, SearchIndexComparison, ::testing::Range(1U, 13U));
+
+}  // namespace
+}  // namespace tessarin
