@@ -1,5 +1,6 @@
 #include "support/ManualMainQueue.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tessarin::testing {
@@ -52,6 +53,7 @@ void ManualMainQueue::advance(std::chrono::milliseconds duration) {
   const auto limit = now_ + duration;
   while (runNext(limit)) {
   }
+  const std::lock_guard lock(state_->mutex);
   now_ = limit;
 }
 
