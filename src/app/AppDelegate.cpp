@@ -1,0 +1,239 @@
+#include "app/AppDelegate.h"
+
+#include <utility>
+
+#include "base/Log.h"
+#include "input/Preferences.h"
+#include "platform/Accessibility.h"
+#include "platform/KeyCodes.h"
+#include "platform/MainQueue.h"
+#include "platform/PopupPresenter.h"
+#include "platform/UserDefaults.h"
+#include "platform/Workspace.h"
+#include "text/Graphemes.h"
+
+namespace tessarin {
+namespace {
+
+constexpr const char* component = "Tessarin";
+
+}  // namespace
+
+template <class... Args>
+std::function<void(Args...)> AppDelegate::handler(void (AppDelegate::*method)(Args...)) {
+  return [this, method, weak = std::weak_ptr<char>(alive_)](Args... args) {
+    if (weak.expired()) return;
+    ++handlerDepth_;
+    (this->*method)(args...);
+    if (--handlerDepth_ == 0) settle();
+  };
+}
+
+AppDelegate::AppDelegate(Services services)
+    : services_(std::move(services)),
+      permissions_(services_.accessibility, services_.inputMonitoring, services_.workspace),
+      snippetStore_(services_.folders, services_.wallClock),
+      keyboardMonitor_(services_.eventTap, services_.accessibility, services_.mainQueue),
+      triggerDetector_(services_.userDefaults),
+      menuBarManager_(services_.statusBar, services_.userDefaults, services_.mainQueue, permissions_,
+                      services_.menu),
+      popup_(autocompleteViewModel_, services_.autocompletePanel, keyboardMonitor_, services_.userDefaults) {}
+
+// Launch and shutdown
+
+void AppDelegate::applicationDidFinishLaunching() {
+  if (services_.startUpdateService) services_.startUpdateService();
+  menuBarManager_.setSnippetStore(snippetStore_);
+  menuBarManager_.setupStatusItem();
+  installPanelHandlers();
+  installHandlers();
+  observeDesktop();
+  if (!permissions_.isAccessibilityGranted()) permissions_.promptForAccessibility();
+  showOnboardingIfNeeded();
+  log(component, "App launched and ready");
+}
+
+void AppDelegate::installPanelHandlers() {
+  services_.autocompletePanel.onRowClicked(handler(&AppDelegate::handleRowClick));
+  services_.autocompletePanel.onVariantClicked(handler(&AppDelegate::handleVariantClick));
+}
+
+void AppDelegate::installHandlers() {
+  triggerDetector_.onQueryChanged = handler(&AppDelegate::handleQuery);
+  triggerDetector_.onConfirm = handler(&AppDelegate::handleConfirm);
+  triggerDetector_.onCancel = handler(&AppDelegate::handleCancel);
+  keyboardMonitor_.onKeyEvent = handler(&AppDelegate::handleKeyEvent);
+  keyboardMonitor_.onInterrupted = handler(&AppDelegate::handleAppSwitch);
+  updateAttention();
+  services_.mainQueue.after(monitorStartDelay, handler(&AppDelegate::startKeyboardMonitor));
+  autocompleteViewModel_.onItemSelected = handler(&AppDelegate::handleClick);
+}
+
+void AppDelegate::observeDesktop() {
+  appSwitchObserver_ = services_.workspace.onContextChanged(handler(&AppDelegate::handleAppSwitch));
+  focusObserver_ = services_.accessibility.onFocusMoved(handler(&AppDelegate::handleAppSwitch));
+  defaultsObserver_ = services_.userDefaults.onChange(handler(&AppDelegate::handleDefaultsChange));
+}
+
+void AppDelegate::showOnboardingIfNeeded() {
+  const bool isDone = services_.userDefaults.boolean(preferences::key::hasCompletedOnboarding)
+                          .value_or(preferences::hasCompletedOnboardingWhenAbsent);
+  if (!isDone && services_.showOnboardingWindow) services_.showOnboardingWindow();
+}
+
+void AppDelegate::startKeyboardMonitor() {
+  if (isTerminated_) return;
+  if (!keyboardMonitor_.start()) {
+    log(component, "Keyboard monitor failed to start — will retry when permission is granted");
+    startPermissionRetryTimer();
+    return;
+  }
+  permissionRetryTimer_.reset();
+  log(component, "Keyboard monitor started successfully");
+}
+
+void AppDelegate::startPermissionRetryTimer() {
+  if (permissionRetryTimer_) return;
+  permissionRetryTimer_ =
+      services_.mainQueue.repeat(permissionRetryInterval, handler(&AppDelegate::retryStart));
+}
+
+void AppDelegate::retryStart() {
+  if (permissions_.isAccessibilityGranted()) startKeyboardMonitor();
+}
+
+void AppDelegate::applicationWillTerminate() {
+  isTerminated_ = true;
+  keyboardMonitor_.stop();
+  permissionRetryTimer_.reset();
+  appSwitchObserver_.reset();
+  focusObserver_.reset();
+  defaultsObserver_.reset();
+}
+
+// Keys
+
+void AppDelegate::handleKeyEvent(const std::optional<std::string>& characters, std::int64_t keyCode,
+                                 std::uint64_t flags) {
+  if (!menuBarManager_.isEnabled() || isBlockedAppActive()) return;
+  if (popup_.isVisible() && popup_.handleArrow(keyCode)) return;
+  lastConfirmWasTriggerChar_ =
+      characters && triggerDetector_.isAccumulating() && text::equals(*characters, triggerCharacter());
+  if (lastConfirmWasTriggerChar_) confirmingCharacters_ = *characters;
+  feedDetector(characters, keyCode, flags);
+}
+
+bool AppDelegate::isBlockedAppActive() {
+  const auto application = services_.workspace.frontmostApplication();
+  return application && !application->bundleIdentifier.empty() &&
+         preferences::isBlockedApp(services_.userDefaults, application->bundleIdentifier);
+}
+
+void AppDelegate::feedDetector(const std::optional<std::string>& characters, std::int64_t keyCode,
+                               std::uint64_t flags) {
+  const bool wasCollecting = triggerDetector_.isAccumulating();
+  triggerDetector_.handleKey(characters, keyCode, flags);
+  if (!triggerDetector_.isAccumulating()) return;
+  // Still collecting, so the key was one that reaches the document: keep account of it, dropped or not.
+  if (!wasCollecting) {
+    typed_.begin(*characters);
+  } else if (keyCode == keycode::deleteBackward) {
+    typed_.deleteLast();
+  } else if (keyCode != keycode::up && keyCode != keycode::down) {
+    typed_.append(*characters);
+  }
+}
+
+// The detector's notifications
+
+void AppDelegate::handleQuery(const std::string& query) {
+  if (query.empty()) return popup_.close();
+  popup_.showResults(snippetStore_.search(query, maximumResults), query);
+}
+
+void AppDelegate::handleCancel() {
+  popup_.close();
+}
+
+void AppDelegate::handleConfirm(const std::string&) {
+  const auto snippet = autocompleteViewModel_.selectedSnippet();
+  if (!snippet) return popup_.close();
+  Replacement replacement{
+      .deleteCount = typed_.length(), .text = textToInsert(*snippet), .typed = typed_.text()};
+  if (lastConfirmWasTriggerChar_) includeConfirmingTrigger(replacement);
+  expand(*snippet, replacement);
+}
+
+void AppDelegate::includeConfirmingTrigger(Replacement& replacement) {
+  // A key that is still held never needs to reach the document to be erased there.
+  if (!keyboardMonitor_.isCurrentKeyInDocument()) return keyboardMonitor_.consumeCurrentKey();
+  replacement.includeTriggerChar = true;
+  replacement.typed += confirmingCharacters_;
+}
+
+void AppDelegate::handleClick(const Snippet& snippet) {
+  // Without a collecting there is no letter, and the trigger alone counts.
+  if (!triggerDetector_.isAccumulating()) typed_.begin(triggerCharacter());
+  const Replacement replacement{
+      .deleteCount = typed_.length(), .text = textToInsert(snippet), .typed = typed_.text()};
+  triggerDetector_.setState(TriggerDetector::Idle{});
+  expand(snippet, replacement);
+}
+
+std::string AppDelegate::textToInsert(const Snippet& snippet) const {
+  return autocompleteViewModel_.selectedSkinToneVariant().value_or(snippet.replacement);
+}
+
+void AppDelegate::expand(const Snippet& snippet, const Replacement& replacement) {
+  snippetStore_.usageTracker().recordUsage(snippet.trigger);
+  popup_.close();
+  ++insertionsUnderWay_;
+  updateAttention();
+  services_.textReplacer.replace(replacement, handler(&AppDelegate::handleInsertionDone));
+}
+
+void AppDelegate::handleInsertionDone(InsertionOutcome) {
+  --insertionsUnderWay_;
+}
+
+// The desktop's notifications
+
+void AppDelegate::handleAppSwitch() {
+  triggerDetector_.setState(TriggerDetector::Idle{});
+  popup_.close();
+}
+
+void AppDelegate::handleRowClick(int index) {
+  autocompleteViewModel_.selectItem(index);
+}
+
+void AppDelegate::handleVariantClick(int index) {
+  popup_.selectVariant(index);
+}
+
+void AppDelegate::handleDefaultsChange() {
+  popup_.invalidate();
+}
+
+// After every event
+
+void AppDelegate::settle() {
+  popup_.refresh();
+  updateAttention();
+}
+
+void AppDelegate::updateAttention() {
+  KeyAttention attention = KeyAttention::triggerOnly;
+  if (insertionsUnderWay_ > 0) {
+    attention = KeyAttention::holdBack;
+  } else if (triggerDetector_.isAccumulating()) {
+    attention = KeyAttention::everyKey;
+  }
+  keyboardMonitor_.setAttention(attention, triggerCharacter());
+}
+
+std::string AppDelegate::triggerCharacter() const {
+  return preferences::currentTriggerCharacter(services_.userDefaults);
+}
+
+}  // namespace tessarin

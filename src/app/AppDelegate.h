@@ -1,0 +1,130 @@
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "app/PopupController.h"
+#include "base/Subscription.h"
+#include "input/KeyboardMonitor.h"
+#include "input/Permissions.h"
+#include "input/TriggerDetector.h"
+#include "input/TypedShortcode.h"
+#include "menu/MenuBarManager.h"
+#include "model/SnippetStore.h"
+#include "platform/TextInsertion.h"
+#include "popup/AutocompleteViewModel.h"
+
+namespace tessarin {
+
+class PopupPresenter;
+class Workspace;
+
+/// Owns the long-lived components and wires them: keys become popup navigation or detector input, the
+/// detector's notifications become search, popup and insertion. Main thread; every callback that it hands out
+/// does nothing once it is gone.
+class AppDelegate {
+ public:
+  static constexpr std::chrono::milliseconds monitorStartDelay{1000};
+  static constexpr std::chrono::milliseconds permissionRetryInterval{3000};
+  static constexpr std::size_t maximumResults = 8;
+
+  /// The desktop, seam by seam, and what the rest of the program adds. All references outlive the controller.
+  struct Services {
+    EventTap& eventTap;
+    Accessibility& accessibility;
+    InputMonitoring& inputMonitoring;
+    Workspace& workspace;
+    UserDefaults& userDefaults;
+    MainQueue& mainQueue;
+    PopupPresenter& autocompletePanel;
+    TextInsertion& textReplacer;
+    StatusBar& statusBar;
+    const WallClock& wallClock;
+    SnippetStore::Folders folders;
+
+    MenuBarManager::Hooks menu;
+    std::function<void()> startUpdateService;    ///< first act of the launch; may be absent
+    std::function<void()> showOnboardingWindow;  ///< when the user has not finished it; may be absent
+  };
+
+  /// Loads all snippet and usage files.
+  explicit AppDelegate(Services services);
+  AppDelegate(const AppDelegate&) = delete;
+  AppDelegate& operator=(const AppDelegate&) = delete;
+
+  /// Start-up, once. Keys are judged from about a second later on, or from when the user allows it.
+  void applicationDidFinishLaunching();
+  /// Shutdown, once: no key and no timer reaches the controller afterwards.
+  void applicationWillTerminate();
+
+  /// Whether the frontmost application is on the effective blocked list; an unknown one is not.
+  bool isBlockedAppActive();
+
+  SnippetStore& snippetStore() { return snippetStore_; }
+  KeyboardMonitor& keyboardMonitor() { return keyboardMonitor_; }
+  TriggerDetector& triggerDetector() { return triggerDetector_; }
+  MenuBarManager& menuBarManager() { return menuBarManager_; }
+  AutocompleteViewModel& autocompleteViewModel() { return autocompleteViewModel_; }
+
+ private:
+  void installHandlers();
+  void installPanelHandlers();
+  void observeDesktop();
+  void showOnboardingIfNeeded();
+  void startKeyboardMonitor();
+  void startPermissionRetryTimer();
+  void retryStart();
+
+  void handleKeyEvent(const std::optional<std::string>& characters, std::int64_t keyCode,
+                      std::uint64_t flags);
+  void feedDetector(const std::optional<std::string>& characters, std::int64_t keyCode, std::uint64_t flags);
+  void handleQuery(const std::string& query);
+  void handleCancel();
+  void handleConfirm(const std::string& query);
+  void handleClick(const Snippet& snippet);
+  void handleAppSwitch();
+  void handleRowClick(int index);
+  void handleVariantClick(int index);
+  void handleDefaultsChange();
+  void handleInsertionDone(InsertionOutcome outcome);
+
+  std::string textToInsert(const Snippet& snippet) const;
+  void expand(const Snippet& snippet, const Replacement& replacement);
+  void includeConfirmingTrigger(Replacement& replacement);
+  void settle();
+  void updateAttention();
+  std::string triggerCharacter() const;
+
+  /// Makes a callback of a handler: weakly owned, and followed by `settle` when it is the outermost one.
+  template <class... Args>
+  std::function<void(Args...)> handler(void (AppDelegate::*method)(Args...));
+
+  Services services_;
+  Permissions permissions_;
+  SnippetStore snippetStore_;
+  KeyboardMonitor keyboardMonitor_;
+  TriggerDetector triggerDetector_;
+  MenuBarManager menuBarManager_;
+  AutocompleteViewModel autocompleteViewModel_;
+  PopupController popup_;
+
+  Subscription appSwitchObserver_;
+  Subscription focusObserver_;
+  Subscription defaultsObserver_;
+  Subscription permissionRetryTimer_;
+  bool isTerminated_ = false;
+
+  TypedShortcode typed_;
+  bool lastConfirmWasTriggerChar_ = false;
+  std::string confirmingCharacters_;  ///< as typed; meant only while the flag above is set
+  int insertionsUnderWay_ = 0;
+  int handlerDepth_ = 0;
+  std::shared_ptr<char> alive_ = std::make_shared<char>();  ///< last, so that it goes first
+};
+
+}  // namespace tessarin

@@ -1,0 +1,136 @@
+#include "input/KeyboardMonitor.h"
+
+#include "base/Log.h"
+#include "platform/Accessibility.h"
+#include "platform/KeyCodes.h"
+#include "platform/MainQueue.h"
+#include "text/Graphemes.h"
+
+namespace tessarin {
+namespace {
+
+constexpr const char* component = "KeyboardMonitor";
+
+std::optional<std::string> charactersOf(const KeyEvent& event) {
+  if (event.text.empty()) return std::nullopt;
+  return text::fromUtf16(event.text);
+}
+
+}  // namespace
+
+KeyboardMonitor::~KeyboardMonitor() {
+  stop();
+}
+
+bool KeyboardMonitor::start() {
+  if (hasTap_) return true;
+  if (!accessibility_.isTrusted()) {
+    log(component, "No Accessibility permission — requesting");
+    accessibility_.prompt();
+    return false;
+  }
+  if (!tap_.create([this](const KeyEvent& event) { return handle(event); })) {
+    log(component, "Failed to create event tap — check Accessibility permission");
+    return false;
+  }
+  hasTap_ = true;
+  tellAttention();
+  tap_.setEnabled(true);
+  healthCheckTimer_ = mainQueue_.repeat(healthCheckInterval, [this] { checkHealth(); });
+  log(component, "Event tap started (.defaultTap)");
+  return true;
+}
+
+void KeyboardMonitor::stop() {
+  healthCheckTimer_.reset();
+  if (hasTap_) {
+    hasTap_ = false;
+    tap_.setEnabled(false);
+    tap_.destroy();
+  }
+  log(component, "Event tap stopped");
+}
+
+void KeyboardMonitor::setAttention(KeyAttention attention, const std::string& trigger) {
+  attention_ = attention;
+  trigger_ = trigger;
+  if (!judging_) tellAttention();
+}
+
+void KeyboardMonitor::tellAttention() {
+  if (hasTap_) tap_.setAttention(attention_, trigger_);
+}
+
+bool KeyboardMonitor::swallows(std::int64_t keyCode) const {
+  if (!isIntercepting) return false;
+  switch (keyCode) {
+    case keycode::returnKey:
+    case keycode::tab:
+    case keycode::escape:
+    case keycode::down:
+    case keycode::up:
+      return true;
+    case keycode::left:
+    case keycode::right:
+      return shouldConsumeArrows;
+    default:
+      return false;
+  }
+}
+
+KeyVerdict KeyboardMonitor::handle(const KeyEvent& event) {
+  judging_ = true;
+  const KeyVerdict verdict = judge(event);
+  judging_ = false;
+  // Last: a tap may let the next key in, and so come back here, as soon as it hears this.
+  tellAttention();
+  return verdict;
+}
+
+KeyVerdict KeyboardMonitor::judge(const KeyEvent& event) {
+  switch (event.kind) {
+    case KeyEventKind::disabledByTimeout:
+    case KeyEventKind::disabledByUserInput:
+      revive();
+      return KeyVerdict::pass;
+    case KeyEventKind::flagsChanged:
+      return KeyVerdict::pass;
+    case KeyEventKind::keyDown:
+      break;
+  }
+  accessibility_.beginBudget(event.budget);
+  const auto characters = charactersOf(event);
+  if (isSecret(characters)) return KeyVerdict::pass;
+  const bool swallowedBefore = swallows(event.keyCode);
+  handOver(characters, event);
+  return swallowedBefore || consumesCurrentKey_ || swallows(event.keyCode) ? KeyVerdict::swallow
+                                                                           : KeyVerdict::pass;
+}
+
+void KeyboardMonitor::handOver(const std::optional<std::string>& characters, const KeyEvent& event) {
+  consumesCurrentKey_ = false;
+  currentKeyInDocument_ = event.isInDocument;
+  if (onKeyEvent) onKeyEvent(characters, event.keyCode, event.flags);
+}
+
+bool KeyboardMonitor::isSecret(const std::optional<std::string>& characters) {
+  // Only a trigger can begin anything, and a move of the focus ends what has begun: so this is enough, and
+  // the other keys are spared the reading.
+  const bool opensCollecting =
+      attention_ == KeyAttention::triggerOnly && characters && text::equals(*characters, trigger_);
+  return opensCollecting && secureInput_.isActive();
+}
+
+void KeyboardMonitor::revive() {
+  if (hasTap_) tap_.setEnabled(true);
+  if (onInterrupted) onInterrupted();
+}
+
+void KeyboardMonitor::checkHealth() {
+  if (!hasTap_ || tap_.isEnabled()) return;
+  log(component, "Re-enabling disabled event tap");
+  tap_.setEnabled(true);
+  if (onInterrupted) onInterrupted();
+}
+
+}  // namespace tessarin

@@ -1,0 +1,92 @@
+#include "input/TriggerDetector.h"
+
+#include "input/Preferences.h"
+#include "platform/KeyCodes.h"
+#include "text/Graphemes.h"
+
+namespace tessarin {
+namespace {
+
+bool mayStandInQuery(const std::string& characters) {
+  return text::startsAlphanumeric(characters) || characters == "_" || characters == "-" || characters == "+";
+}
+
+}  // namespace
+
+void TriggerDetector::handleKey(const std::optional<std::string>& characters, std::int64_t keyCode,
+                                std::uint64_t flags) {
+  const auto* accumulating = std::get_if<Accumulating>(&state_);
+  if (flags & keyflag::chord) {
+    if (accumulating) cancel();
+    return;
+  }
+  if (!accumulating) {
+    startIfTrigger(characters);
+    return;
+  }
+  const std::string query = accumulating->query;
+  collect(query, characters, keyCode);
+}
+
+void TriggerDetector::startIfTrigger(const std::optional<std::string>& characters) {
+  if (characters && isTrigger(*characters)) changeQuery("");
+}
+
+void TriggerDetector::collect(const std::string& query, const std::optional<std::string>& characters,
+                              std::int64_t keyCode) {
+  switch (keyCode) {
+    case keycode::down:
+    case keycode::up:
+      return;
+    case keycode::deleteBackward:
+      return deleteLast(query);
+    case keycode::returnKey:
+    case keycode::tab:
+      return finish(query);
+    case keycode::escape:
+    case keycode::space:
+      return cancel();
+    default:
+      return judgeCharacters(query, characters);
+  }
+}
+
+void TriggerDetector::judgeCharacters(const std::string& query,
+                                      const std::optional<std::string>& characters) {
+  if (!characters) return cancel();
+  if (isTrigger(*characters)) return finish(query);
+  if (text::characterCount(*characters) != 1 || !mayStandInQuery(*characters)) return cancel();
+  extend(query, *characters);
+}
+
+void TriggerDetector::deleteLast(const std::string& query) {
+  if (query.empty()) return cancel();
+  changeQuery(text::withoutLastCharacter(query));
+}
+
+void TriggerDetector::extend(const std::string& query, const std::string& characters) {
+  std::string longer = query + characters;
+  if (text::characterCount(longer) <= maximumQueryLength) changeQuery(std::move(longer));
+}
+
+void TriggerDetector::changeQuery(std::string query) {
+  state_ = Accumulating{query};
+  if (onQueryChanged) onQueryChanged(query);
+}
+
+void TriggerDetector::cancel() {
+  state_ = Idle{};
+  if (onCancel) onCancel();
+}
+
+void TriggerDetector::finish(const std::string& query) {
+  if (query.empty()) return cancel();
+  state_ = Idle{};
+  if (onConfirm) onConfirm(query);
+}
+
+bool TriggerDetector::isTrigger(const std::string& characters) const {
+  return text::equals(characters, preferences::currentTriggerCharacter(defaults_));
+}
+
+}  // namespace tessarin

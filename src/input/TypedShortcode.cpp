@@ -1,0 +1,24 @@
+#include "input/TypedShortcode.h"
+
+#include "text/Graphemes.h"
+
+namespace tessarin {
+
+void TypedShortcode::begin(const std::string& triggerCharacter) {
+  trigger_ = triggerCharacter;
+  letters_.clear();
+}
+
+void TypedShortcode::append(const std::string& characters) {
+  letters_ += characters;
+}
+
+void TypedShortcode::deleteLast() {
+  letters_ = text::withoutLastCharacter(letters_);
+}
+
+std::int64_t TypedShortcode::length() const {
+  return static_cast<std::int64_t>(text::characterCount(text()));
+}
+
+}  // namespace tessarin

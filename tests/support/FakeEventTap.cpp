@@ -1,0 +1,94 @@
+#include "support/FakeEventTap.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/KeyCodes.h"
+#include "support/KeyStream.h"
+#include "text/Graphemes.h"
+
+namespace tessarin::testing {
+namespace {
+
+bool producesText(const KeyEvent& event) {
+  return event.keyCode == keycode::deleteBackward || event.keyCode >= keycode::other;
+}
+
+}  // namespace
+
+bool FakeEventTap::create(Handler handler) {
+  ++creations;
+  if (!isUsable) return false;
+  handler_ = std::move(handler);
+  exists = true;
+  isOn = false;
+  return true;
+}
+
+void FakeEventTap::destroy() {
+  exists = false;
+  isOn = false;
+  handler_ = nullptr;
+  while (!heldBack_.empty()) {
+    reachDocument(heldBack_.front());
+    heldBack_.pop_front();
+  }
+}
+
+void FakeEventTap::setAttention(KeyAttention attention, const std::string& trigger) {
+  if (attentions.empty() || attentions.back() != attention) attentions.push_back(attention);
+  attention_ = attention;
+  trigger_ = trigger;
+  judgeHeldBack();
+}
+
+std::optional<KeyVerdict> FakeEventTap::press(KeyEvent event) {
+  if (isOn && attention_ == KeyAttention::holdBack) {
+    heldBack_.push_back(std::move(event));
+    return std::nullopt;
+  }
+  return judge(std::move(event));
+}
+
+void FakeEventTap::type(std::string_view keys) {
+  for (KeyEvent& event : keyStream(keys)) press(std::move(event));
+}
+
+void FakeEventTap::disable(KeyEventKind how) {
+  isOn = false;
+  handler_({.kind = how});
+}
+
+bool FakeEventTap::isHeard(const KeyEvent& event) const {
+  if (!handler_ || !isOn) return false;
+  return !isQuietWhileIdle || attention_ != KeyAttention::triggerOnly ||
+         text::fromUtf16(event.text) == trigger_;
+}
+
+KeyVerdict FakeEventTap::judge(KeyEvent event) {
+  event.isInDocument = keysReachDocumentFirst && producesText(event);
+  if (event.isInDocument) reachDocument(event);
+  const KeyVerdict verdict = isHeard(event) ? handler_(event) : KeyVerdict::pass;
+  if (verdict == KeyVerdict::pass && !event.isInDocument) reachDocument(event);
+  if (verdict == KeyVerdict::swallow && event.isInDocument) {
+    ADD_FAILURE() << "a key was swallowed that stands in the document already";
+  }
+  judged.emplace_back(std::move(event), verdict);
+  return verdict;
+}
+
+void FakeEventTap::reachDocument(const KeyEvent& event) {
+  if (event.kind == KeyEventKind::keyDown && onReachedDocument) onReachedDocument(event);
+}
+
+void FakeEventTap::judgeHeldBack() {
+  if (isJudgingHeldBack_) return;
+  isJudgingHeldBack_ = true;
+  while (!heldBack_.empty() && attention_ != KeyAttention::holdBack) {
+    KeyEvent event = std::move(heldBack_.front());
+    heldBack_.pop_front();
+    judge(std::move(event));
+  }
+  isJudgingHeldBack_ = false;
+}
+
+}  // namespace tessarin::testing

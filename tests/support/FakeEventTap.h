@@ -1,0 +1,60 @@
+#pragma once
+
+#include <deque>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/EventTap.h"
+
+namespace tessarin::testing {
+
+/// A keyboard played by the test. Keeps the tap's promises: while the owner wants nothing held, everything is
+/// judged (or, when quiet, the trigger alone); while an insertion is under way keys are held back and judged
+/// in order as soon as the attention changes.
+class FakeEventTap final : public EventTap {
+ public:
+  bool create(Handler handler) override;
+  void destroy() override;
+  void setEnabled(bool enabled) override { isOn = enabled; }
+  bool isEnabled() const override { return isOn; }
+  void setAttention(KeyAttention attention, const std::string& trigger) override;
+
+  /// Presses a key. None when it was held back, else the owner's verdict (pass when nobody judges).
+  std::optional<KeyVerdict> press(KeyEvent event);
+  /// Presses all keys of a `keyStream`.
+  void type(std::string_view keys);
+  /// Switches the tap off as a platform does, and reports it.
+  void disable(KeyEventKind how);
+
+  KeyAttention attention() const { return attention_; }
+  const std::string& trigger() const { return trigger_; }
+
+  // How the platform behaves.
+  bool isUsable = true;
+  bool isQuietWhileIdle = false;        ///< the owner sees nothing but the trigger while it collects nothing
+  bool keysReachDocumentFirst = false;  ///< keys that produce text are in the document before they are judged
+  std::function<void(const KeyEvent&)> onReachedDocument;
+
+  // What happened.
+  bool isOn = false;
+  bool exists = false;
+  int creations = 0;
+  std::vector<std::pair<KeyEvent, KeyVerdict>> judged;
+  std::vector<KeyAttention> attentions;  ///< one a change
+
+ private:
+  KeyVerdict judge(KeyEvent event);
+  bool isHeard(const KeyEvent& event) const;
+  void reachDocument(const KeyEvent& event);
+  void judgeHeldBack();
+
+  Handler handler_;
+  KeyAttention attention_ = KeyAttention::triggerOnly;
+  std::string trigger_;
+  std::deque<KeyEvent> heldBack_;
+  bool isJudgingHeldBack_ = false;
+};
+
+}  // namespace tessarin::testing

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <functional>
+#include <utility>
+#include <vector>
+
+#include "platform/PopupPresenter.h"
+
+namespace tessarin::testing {
+
+/// A popup that remembers what it was asked to show.
+class FakePopupPresenter final : public PopupPresenter {
+ public:
+  void present(const PopupContent& content) override {
+    presented.push_back(content);
+    visible = true;
+  }
+  void hide() override {
+    ++hides;
+    visible = false;
+  }
+  bool isVisible() const override { return visible; }
+  void onRowClicked(std::function<void(int)> callback) override { rowClicked_ = std::move(callback); }
+  void onVariantClicked(std::function<void(int)> callback) override { variantClicked_ = std::move(callback); }
+
+  void clickRow(int index) {
+    if (rowClicked_) rowClicked_(index);
+  }
+  void clickVariant(int index) {
+    if (variantClicked_) variantClicked_(index);
+  }
+
+  std::vector<PopupContent> presented;
+  int hides = 0;
+  bool visible = false;
+
+ private:
+  std::function<void(int)> rowClicked_;
+  std::function<void(int)> variantClicked_;
+};
+
+}  // namespace tessarin::testing

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/StatusBar.h"
+
+namespace tessarin::testing {
+
+/// A tray that remembers its item and its menus.
+class FakeStatusBar final : public StatusBar {
+ public:
+  void createItem(const std::string& text) override { descriptions.push_back(text); }
+  void setMenu(const std::vector<MenuItem>& menu) override { menus.push_back(menu); }
+  void setDimmed(bool isDimmed) override { dimmed.push_back(isDimmed); }
+
+  /// The item of the menu last set, by its title; none when there is no such item.
+  std::optional<MenuItem> item(const std::string& title) const {
+    if (menus.empty()) return std::nullopt;
+    const auto& menu = menus.back();
+    const auto found =
+        std::find_if(menu.begin(), menu.end(), [&](const auto& i) { return i.title == title; });
+    return found == menu.end() ? std::nullopt : std::optional(*found);
+  }
+  /// Chooses an item as the user does; one that is missing or disabled fails the test.
+  void choose(const std::string& title) {
+    const auto chosen = item(title);
+    if (!chosen || !chosen->action) {
+      ADD_FAILURE() << "cannot be chosen: " << title;
+      return;
+    }
+    chosen->action();
+  }
+
+  std::vector<std::string> descriptions;
+  std::vector<std::vector<MenuItem>> menus;
+  std::vector<bool> dimmed;
+};
+
+}  // namespace tessarin::testing

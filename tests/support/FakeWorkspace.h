@@ -1,0 +1,51 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "base/Signal.h"
+#include "platform/Workspace.h"
+#include "support/Expectations.h"
+
+namespace tessarin::testing {
+
+/// A desktop whose applications the test sets.
+class FakeWorkspace final : public Workspace {
+ public:
+  std::optional<Application> frontmostApplication() override { return frontmost; }
+  std::vector<Application> runningApplications() override { return running; }
+  std::optional<ApplicationInfo> application(const std::string& bundleIdentifier) override {
+    const auto found = installed.find(bundleIdentifier);
+    if (found == installed.end()) return std::nullopt;
+    return found->second;
+  }
+  void openUrl(const std::string& url) override {
+    openedUrls.push_back(url);
+    urls_.came(url);
+  }
+  Subscription onContextChanged(std::function<void()> callback) override {
+    return contextChanged_.subscribe(std::move(callback));
+  }
+
+  void expectOpenUrl(std::string url) { urls_.expect(std::move(url)); }
+  /// Another application comes to the front, and everybody is told.
+  void activate(std::string bundleIdentifier) {
+    frontmost = Application{.bundleIdentifier = std::move(bundleIdentifier)};
+    changeContext();
+  }
+  void changeContext() { contextChanged_.emit(); }
+
+  std::optional<Application> frontmost;
+  std::vector<Application> running;
+  std::map<std::string, ApplicationInfo> installed;
+  std::vector<std::string> openedUrls;
+
+ private:
+  Signal<> contextChanged_;
+  Expectations<std::string> urls_{"opening of an address"};
+};
+
+}  // namespace tessarin::testing

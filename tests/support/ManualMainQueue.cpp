@@ -1,0 +1,65 @@
+#include "support/ManualMainQueue.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tessarin::testing {
+
+void ManualMainQueue::add(std::chrono::milliseconds delay, std::shared_ptr<Job> job) {
+  const std::lock_guard lock(state_->mutex);
+  state_->jobs.emplace(Key(now_ + delay, state_->next++), std::move(job));
+}
+
+void ManualMainQueue::async(Work work) {
+  after(std::chrono::milliseconds(0), std::move(work));
+}
+
+void ManualMainQueue::after(std::chrono::milliseconds delay, Work work) {
+  add(delay, std::make_shared<Job>(Job{std::move(work)}));
+}
+
+Subscription ManualMainQueue::repeat(std::chrono::milliseconds interval, Work work) {
+  auto job = std::make_shared<Job>(Job{std::move(work), interval});
+  add(interval, job);
+  return Subscription([state = state_, job] {
+    const std::lock_guard lock(state->mutex);
+    job->interval = std::chrono::milliseconds(0);
+    std::erase_if(state->jobs, [&](const auto& entry) { return entry.second == job; });
+  });
+}
+
+std::shared_ptr<ManualMainQueue::Job> ManualMainQueue::takeNext(Clock::time_point limit) {
+  const std::lock_guard lock(state_->mutex);
+  const auto first = state_->jobs.begin();
+  if (first == state_->jobs.end() || first->first.first > limit) return nullptr;
+  now_ = std::max(now_, first->first.first);
+  auto job = first->second;
+  state_->jobs.erase(first);
+  if (job->interval.count() > 0) state_->jobs.emplace(Key(now_ + job->interval, state_->next++), job);
+  return job;
+}
+
+bool ManualMainQueue::runNext(Clock::time_point limit) {
+  const auto job = takeNext(limit);
+  if (job) job->work();
+  return job != nullptr;
+}
+
+void ManualMainQueue::runReady() {
+  advance(std::chrono::milliseconds(0));
+}
+
+void ManualMainQueue::advance(std::chrono::milliseconds duration) {
+  const auto limit = now_ + duration;
+  while (runNext(limit)) {
+  }
+  const std::lock_guard lock(state_->mutex);
+  now_ = limit;
+}
+
+std::size_t ManualMainQueue::pending() const {
+  const std::lock_guard lock(state_->mutex);
+  return state_->jobs.size();
+}
+
+}  // namespace tessarin::testing
