@@ -18,6 +18,12 @@ constexpr milliseconds longestWait{60};
 constexpr milliseconds waitStep{2};
 constexpr int ancestorsExamined = 5;
 
+/// The characters before a caret, as many as there can be.
+TextRange rangeBefore(std::int64_t caret, std::int64_t count) {
+  const std::int64_t start = std::max<std::int64_t>(caret - count, 0);
+  return {start, caret - start};
+}
+
 }  // namespace
 
 InsertionOutcome AccessibilityHelper::insertText(const std::string& typed, std::int64_t count,
@@ -29,9 +35,7 @@ InsertionOutcome AccessibilityHelper::insertText(const std::string& typed, std::
   const auto location = isLookedFor ? caretBehind(*element, typed, count) : caret(*element);
   if (!location) return InsertionOutcome::unchanged;
 
-  const std::int64_t start = std::max<std::int64_t>(*location - count, 0);
-  const TextRange range{start, *location - start};
-  if (accessibility_.setAttribute(*element, attribute::selectedTextRange, range) !=
+  if (accessibility_.setAttribute(*element, attribute::selectedTextRange, rangeBefore(*location, count)) !=
       AccessibilityStatus::success) {
     return InsertionOutcome::unchanged;
   }
@@ -102,7 +106,7 @@ std::optional<std::int64_t> AccessibilityHelper::caretBehind(const ElementRef& e
     const auto location = caret(element);
     if (!location) return std::nullopt;
     const auto before = accessibility_.parameterizedAttribute(element, attribute::stringForRange,
-                                                              TextRange{*location - count, count});
+                                                              rangeBefore(*location, count));
     const auto* found = before ? std::get_if<std::string>(&*before) : nullptr;
     if (!found) return std::nullopt;
     if (text::equals(*found, typed)) return location;

@@ -70,7 +70,10 @@ void PasteSession::postPasteKeystroke() {
 
 void PasteSession::shortestLoanIsOver() {
   isShortestLoanOver_ = true;
+  // An application that watches the pasteboard has read before the chord, and no further read is told of.
+  if (std::ranges::any_of(tools_.loans, &PasteboardLoan::hasBeenRead)) isReadOrGivenUp_ = true;
   restoreWhenAllowed();
+  if (isReadOrGivenUp_) answer(InsertionOutcome::inserted);
 }
 
 void PasteSession::textWasRead() {

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "base/Log.h"
-#include "text/Graphemes.h"
+#include "model/TemplateVariables.h"
 
 namespace tessarin {
 namespace {
@@ -15,16 +15,12 @@ std::int64_t charactersToErase(const Replacement& replacement) {
   return replacement.deleteCount + (replacement.includeTriggerChar ? 1 : 0);
 }
 
-/// What stands before the caret: the shortcode, and the trigger that confirmed it.
-std::string typedText(const Replacement& replacement) {
-  if (!replacement.includeTriggerChar) return replacement.typed;
-  return replacement.typed + text::firstCharacter(replacement.typed);
-}
-
 }  // namespace
 
-TextReplacer::TextReplacer(AccessibilityHelper& accessibilityHelper, PasteHelper& pasteHelper, Expand expand)
-    : accessibilityHelper_(accessibilityHelper), pasteHelper_(pasteHelper), expand_(std::move(expand)) {}
+std::string TextReplacer::expanded(const std::string& text) {
+  return expandTemplateVariables(
+      text, {.clock = clock_, .pasteboardText = [this] { return pasteHelper_.userText().value_or(""); }});
+}
 
 void TextReplacer::replace(const Replacement& replacement, Completion done) {
   waiting_.push_back({replacement, std::move(done)});
@@ -41,8 +37,8 @@ void TextReplacer::startNext() {
 
 void TextReplacer::run(const Replacement& replacement) {
   const std::int64_t count = charactersToErase(replacement);
-  const std::string text = expand_(replacement.text);
-  const auto outcome = accessibilityHelper_.insertText(typedText(replacement), count, text);
+  const std::string text = expanded(replacement.text);
+  const auto outcome = accessibilityHelper_.insertText(replacement.typed, count, text);
   if (outcome == InsertionOutcome::inserted) {
     log(component, "Replaced via Accessibility API");
     finish(outcome);

@@ -2,13 +2,13 @@
 
 #include <cstdint>
 #include <deque>
-#include <functional>
 #include <memory>
 #include <string>
 
 #include "insertion/AccessibilityHelper.h"
 #include "insertion/PasteHelper.h"
 #include "platform/TextInsertion.h"
+#include "platform/WallClock.h"
 
 namespace tessarin {
 
@@ -17,11 +17,9 @@ namespace tessarin {
 /// Main thread.
 class TextReplacer final : public TextInsertion {
  public:
-  /// Fills in the template variables.
-  using Expand = std::function<std::string(const std::string& text)>;
-
-  /// Both helpers must outlive the replacer.
-  TextReplacer(AccessibilityHelper& accessibilityHelper, PasteHelper& pasteHelper, Expand expand);
+  /// All must outlive the replacer.
+  TextReplacer(AccessibilityHelper& accessibilityHelper, PasteHelper& pasteHelper, const WallClock& clock)
+      : accessibilityHelper_(accessibilityHelper), pasteHelper_(pasteHelper), clock_(clock) {}
 
   void replace(const Replacement& replacement, Completion done) override;
 
@@ -30,6 +28,7 @@ class TextReplacer final : public TextInsertion {
     Replacement replacement;
     Completion done;
   };
+  std::string expanded(const std::string& text);
   void startNext();
   void run(const Replacement& replacement);
   void paste(std::int64_t count, const std::string& text, InsertionOutcome soFar);
@@ -37,7 +36,7 @@ class TextReplacer final : public TextInsertion {
 
   AccessibilityHelper& accessibilityHelper_;
   PasteHelper& pasteHelper_;
-  Expand expand_;
+  const WallClock& clock_;
   std::deque<Request> waiting_;
   Completion done_;
   bool isBusy_ = false;
