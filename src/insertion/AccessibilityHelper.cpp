@@ -1,0 +1,117 @@
+#include "insertion/AccessibilityHelper.h"
+
+#include <algorithm>
+#include <chrono>
+
+#include "input/Preferences.h"
+#include "text/Graphemes.h"
+
+namespace tessarin {
+namespace {
+
+using std::chrono::milliseconds;
+
+/// Leaves a margin within the 150 ms after which a key tap stops waiting for the confirming key's verdict.
+constexpr milliseconds insertionBudget{120};
+/// Editors were seen to lag behind fast typing by up to 40 ms.
+constexpr milliseconds longestWait{60};
+constexpr milliseconds waitStep{2};
+constexpr int ancestorsExamined = 5;
+
+/// The characters before a caret, as many as there can be.
+TextRange rangeBefore(std::int64_t caret, std::int64_t count) {
+  const std::int64_t start = std::max<std::int64_t>(caret - count, 0);
+  return {start, caret - start};
+}
+
+}  // namespace
+
+InsertionOutcome AccessibilityHelper::insertText(const std::string& typed, std::int64_t count,
+                                                 const std::string& text) {
+  accessibility_.beginBudget(insertionBudget);
+  const auto element = focusedTextElement();
+  if (!element) return InsertionOutcome::unchanged;
+  const bool isLookedFor = count > 0 && !typed.empty();
+  const auto location = isLookedFor ? caretBehind(*element, typed, count) : caret(*element);
+  if (!location) return InsertionOutcome::unchanged;
+
+  if (accessibility_.setAttribute(*element, attribute::selectedTextRange, rangeBefore(*location, count)) !=
+      AccessibilityStatus::success) {
+    return InsertionOutcome::unchanged;
+  }
+  switch (accessibility_.setAttribute(*element, attribute::selectedText, text)) {
+    case AccessibilityStatus::success:
+      return InsertionOutcome::inserted;
+    case AccessibilityStatus::erasedOnly:
+      return InsertionOutcome::erasedOnly;
+    case AccessibilityStatus::failure:
+      break;
+  }
+  return InsertionOutcome::unchanged;
+}
+
+std::optional<ElementRef> AccessibilityHelper::focusedTextElement() {
+  auto element = focusedElement();
+  if (!element || isWebArea(*element) || isPasteFallbackApp()) return std::nullopt;
+  if (!accessibility_.attribute(*element, attribute::value)) return std::nullopt;
+  return element;
+}
+
+std::optional<ElementRef> AccessibilityHelper::focusedElement() {
+  if (!accessibility_.isTrusted()) return std::nullopt;
+  const auto application =
+      readAttribute<ElementRef>(accessibility_, accessibility_.systemWide(), attribute::focusedApplication);
+  if (!application) return std::nullopt;
+  return readAttribute<ElementRef>(accessibility_, *application, attribute::focusedElement);
+}
+
+bool AccessibilityHelper::isWebArea(const ElementRef& element) {
+  const auto name = readAttribute<std::string>(accessibility_, element, attribute::role);
+  if (name == role::webArea || name == role::htmlTextArea || name == role::htmlTextInput) return true;
+  const auto parent = readAttribute<ElementRef>(accessibility_, element, attribute::parent);
+  return parent && hasWebAreaAncestor(*parent, ancestorsExamined);
+}
+
+bool AccessibilityHelper::hasWebAreaAncestor(const ElementRef& element, int depth) {
+  if (depth < 1) return false;
+  if (hasRole(element, role::webArea)) return true;
+  const auto parent = readAttribute<ElementRef>(accessibility_, element, attribute::parent);
+  return parent && hasWebAreaAncestor(*parent, depth - 1);
+}
+
+bool AccessibilityHelper::hasRole(const ElementRef& element, std::string_view name) {
+  return readAttribute<std::string>(accessibility_, element, attribute::role) == name;
+}
+
+bool AccessibilityHelper::isPasteFallbackApp() {
+  const auto application = workspace_.frontmostApplication();
+  return application && preferences::isPasteFallbackApp(defaults_, application->bundleIdentifier);
+}
+
+bool AccessibilityHelper::isTerminal() {
+  const auto application = workspace_.frontmostApplication();
+  if (application && application->isTerminal) return true;
+  const auto element = focusedElement();
+  return element && hasRole(*element, role::terminal);
+}
+
+std::optional<std::int64_t> AccessibilityHelper::caret(const ElementRef& element) {
+  const auto range = readAttribute<TextRange>(accessibility_, element, attribute::selectedTextRange);
+  return range ? std::optional(range->location) : std::nullopt;
+}
+
+std::optional<std::int64_t> AccessibilityHelper::caretBehind(const ElementRef& element,
+                                                             const std::string& typed, std::int64_t count) {
+  for (milliseconds waited{0};; waited += waitStep) {
+    const auto location = caret(element);
+    if (!location) return std::nullopt;
+    const auto before = accessibility_.parameterizedAttribute(element, attribute::stringForRange,
+                                                              rangeBefore(*location, count));
+    const auto* found = before ? std::get_if<std::string>(&*before) : nullptr;
+    if (!found) return std::nullopt;
+    if (text::equals(*found, typed)) return location;
+    if (waited >= longestWait || !accessibility_.pause(waitStep)) return std::nullopt;
+  }
+}
+
+}  // namespace tessarin

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/Accessibility.h"
+#include "platform/TextInsertion.h"
+#include "platform/UserDefaults.h"
+#include "platform/Workspace.h"
+
+namespace tessarin {
+
+/// Writes straight into the focused text element, touching neither keyboard nor pasteboard. Refuses, so that
+/// the text is pasted, where that is not allowed or not dependable. Main thread.
+class AccessibilityHelper {
+ public:
+  /// All must outlive the helper.
+  AccessibilityHelper(Accessibility& accessibility, Workspace& workspace, const UserDefaults& defaults)
+      : accessibility_(accessibility), workspace_(workspace), defaults_(defaults) {}
+
+  /// Replaces the `count` characters before the caret. `typed` is what they must be, so that nothing else is
+  /// erased; letters that the application has not processed yet are waited for, 60 ms at most. An empty
+  /// `typed` is not looked for. The whole takes 120 ms at most.
+  InsertionOutcome insertText(const std::string& typed, std::int64_t count, const std::string& text);
+
+  /// The focused element, when it accepts direct insertion.
+  std::optional<ElementRef> focusedTextElement();
+  /// Whether the element is part of a web page: itself, or by one of its five nearest ancestors.
+  bool isWebArea(const ElementRef& element);
+  /// Whether the element or one of its ancestors, `depth` elements in all, is a web area.
+  bool hasWebAreaAncestor(const ElementRef& element, int depth);
+  /// Whether texts are always pasted into the frontmost application.
+  bool isPasteFallbackApp();
+  /// Whether the focus is in a terminal, of its own or inside another application.
+  bool isTerminal();
+
+ private:
+  std::optional<ElementRef> focusedElement();
+  bool hasRole(const ElementRef& element, std::string_view name);
+  std::optional<std::int64_t> caret(const ElementRef& element);
+  /// The caret, once `typed` stands before it.
+  std::optional<std::int64_t> caretBehind(const ElementRef& element, const std::string& typed,
+                                          std::int64_t count);
+
+  Accessibility& accessibility_;
+  Workspace& workspace_;
+  const UserDefaults& defaults_;
+};
+
+}  // namespace tessarin

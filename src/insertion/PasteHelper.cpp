@@ -1,0 +1,44 @@
+#include "insertion/PasteHelper.h"
+
+#include <utility>
+#include <vector>
+
+#include "platform/KeyCodes.h"
+
+namespace tessarin {
+
+PasteHelper::PasteHelper(Pasteboard& general, Pasteboard& primary, KeyPoster& keyPoster, MainQueue& queue)
+    : keyPoster_(keyPoster), queue_(queue), general_(general), primary_(primary) {}
+
+PasteHelper::~PasteHelper() {
+  finish();
+}
+
+void PasteHelper::pasteText(std::int64_t deleteCount, const std::string& text, PasteChord chord,
+                            TextInsertion::Completion done) {
+  postBackspaces(deleteCount);
+  if (text.empty()) {
+    done(InsertionOutcome::inserted);
+    return;
+  }
+  std::vector<PasteboardLoan*> loans{&general_};
+  if (chord == PasteChord::shiftInsert) loans.push_back(&primary_);
+  session_ = std::make_shared<PasteSession>(
+      PasteSession::Tools{keyPoster_, queue_, std::move(loans), {&general_, &primary_}},
+      PasteSession::Job{deleteCount, text, chord}, std::move(done));
+  session_->start();
+}
+
+void PasteHelper::postBackspaces(std::int64_t count) {
+  if (count <= 0) return;
+  keyPoster_.post(std::vector<KeyPress>(static_cast<std::size_t>(count), {keycode::deleteBackward, 0}));
+}
+
+void PasteHelper::finish() {
+  const auto session = std::exchange(session_, nullptr);
+  general_.restore();
+  primary_.restore();
+  if (session) session->answerFailure();
+}
+
+}  // namespace tessarin

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "insertion/PasteSession.h"
+#include "insertion/PasteboardLoan.h"
+#include "platform/KeyPoster.h"
+#include "platform/MainQueue.h"
+#include "platform/Pasteboard.h"
+#include "platform/TextInsertion.h"
+
+namespace tessarin {
+
+/// Inserts a text by erasing with backspaces and pasting, and gives the user's pasteboard contents back
+/// afterwards. Works wherever keys and the paste chord do. Main thread.
+///
+/// Counted from the call with n characters: deletions at once; the text goes onto the pasteboard at
+/// 0.02n + 0.05 s, and once the contents are saved; the paste chord 0.05 s later; the contents come back 0.2
+/// s after the chord, and once the application has read the text or two seconds have passed.
+class PasteHelper {
+ public:
+  /// All must outlive the helper. `primary` is what terminals paste from.
+  PasteHelper(Pasteboard& general, Pasteboard& primary, KeyPoster& keyPoster, MainQueue& queue);
+  /// As `finish`.
+  ~PasteHelper();
+  PasteHelper(const PasteHelper&) = delete;
+  PasteHelper& operator=(const PasteHelper&) = delete;
+
+  /// One at a time: not before the last `done`. Contents of that paste which have not come back yet then stay
+  /// away until this one is over. `done` says inserted as soon as the application has read the text, at once
+  /// when the text is empty. Otherwise, two seconds after the chord, it says erasedOnly (unchanged when there
+  /// was nothing to erase).
+  void pasteText(std::int64_t deleteCount, const std::string& text, PasteChord chord,
+                 TextInsertion::Completion done);
+
+  /// The general pasteboard's plain text as the user knows it, our own being left out.
+  std::optional<std::string> userText() { return general_.userText(); }
+
+  /// Gives back at once what has not come back yet, and breaks off a paste under way.
+  void finish();
+
+ private:
+  void postBackspaces(std::int64_t count);
+
+  KeyPoster& keyPoster_;
+  MainQueue& queue_;
+  PasteboardLoan general_;
+  PasteboardLoan primary_;
+  std::shared_ptr<PasteSession> session_;
+};
+
+}  // namespace tessarin

@@ -1,0 +1,115 @@
+#include "insertion/PasteSession.h"
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+#include "platform/KeyCodes.h"
+
+namespace tessarin {
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr milliseconds timePerDeletion{20};
+constexpr milliseconds deletionMargin{50};
+constexpr milliseconds fromWriteToChord{50};
+constexpr milliseconds shortestLoan{200};  ///< from the chord
+constexpr milliseconds longestWait{2000};  ///< for the application to read the text, from the chord
+constexpr milliseconds fillingCheck{50};
+
+}  // namespace
+
+PasteSession::PasteSession(Tools tools, Job job, TextInsertion::Completion done)
+    : tools_(std::move(tools)), job_(std::move(job)), done_(std::move(done)) {}
+
+void PasteSession::start() {
+  after(timePerDeletion * job_.deleteCount + deletionMargin, &PasteSession::deletionsAreDone);
+  saveContents();
+}
+
+void PasteSession::deletionsAreDone() {
+  areDeletionsDone_ = true;
+  writeWhenPossible();
+}
+
+void PasteSession::saveContents() {
+  areAllAsked_ = false;
+  for (PasteboardLoan* loan : tools_.loans) {
+    loan->save([weak = weak_from_this()] {
+      if (const auto self = weak.lock()) self->writeWhenPossible();
+    });
+  }
+  areAllAsked_ = true;
+  writeWhenPossible();
+}
+
+void PasteSession::writeWhenPossible() {
+  if (isWritten_ || !areDeletionsDone_ || !areAllAsked_) return;
+  if (!std::ranges::all_of(tools_.loans, &PasteboardLoan::isReady)) return;
+  if (!std::ranges::all_of(tools_.loans, &PasteboardLoan::isCurrent) && savesLeft_-- > 0) {
+    saveContents();
+    return;
+  }
+  for (PasteboardLoan* loan : tools_.loans) loan->write(job_.text);
+  isWritten_ = true;
+  after(fromWriteToChord, &PasteSession::postPasteKeystroke);
+}
+
+void PasteSession::postPasteKeystroke() {
+  for (PasteboardLoan* loan : tools_.loans) {
+    loan->onRead([weak = weak_from_this()] {
+      if (const auto self = weak.lock()) self->textWasRead();
+    });
+  }
+  tools_.keyPoster.post({job_.chord == PasteChord::shiftInsert ? KeyPress{keycode::insert, keyflag::shift}
+                                                               : KeyPress{keycode::v, keyflag::control}});
+  after(shortestLoan, &PasteSession::shortestLoanIsOver);
+  after(longestWait, &PasteSession::stopWaiting);
+}
+
+void PasteSession::shortestLoanIsOver() {
+  isShortestLoanOver_ = true;
+  // An application that watches the pasteboard has read before the chord, and no further read is told of.
+  if (std::ranges::any_of(tools_.loans, &PasteboardLoan::hasBeenRead)) isReadOrGivenUp_ = true;
+  restoreWhenAllowed();
+  if (isReadOrGivenUp_) answer(InsertionOutcome::inserted);
+}
+
+void PasteSession::textWasRead() {
+  isReadOrGivenUp_ = true;
+  restoreWhenAllowed();
+  answer(InsertionOutcome::inserted);
+}
+
+void PasteSession::stopWaiting() {
+  if (isReadOrGivenUp_) return;
+  isReadOrGivenUp_ = true;
+  restoreWhenAllowed();
+  answerFailure();
+}
+
+void PasteSession::restoreWhenAllowed() {
+  if (!isShortestLoanOver_ || !isReadOrGivenUp_) return;
+  if (std::ranges::any_of(tools_.restored, &PasteboardLoan::isStillFilling)) {
+    after(fillingCheck, &PasteSession::restoreWhenAllowed);
+    return;
+  }
+  for (PasteboardLoan* loan : tools_.restored) loan->restore();
+}
+
+void PasteSession::answerFailure() {
+  answer(job_.deleteCount > 0 ? InsertionOutcome::erasedOnly : InsertionOutcome::unchanged);
+}
+
+void PasteSession::answer(InsertionOutcome outcome) {
+  if (const auto done = std::exchange(done_, nullptr)) done(outcome);
+}
+
+void PasteSession::after(milliseconds delay, void (PasteSession::*step)()) {
+  tools_.queue.after(delay, [weak = weak_from_this(), step] {
+    if (const auto self = weak.lock()) ((*self).*step)();
+  });
+}
+
+}  // namespace tessarin

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "insertion/PasteboardLoan.h"
+#include "platform/KeyPoster.h"
+#include "platform/MainQueue.h"
+#include "platform/TextInsertion.h"
+
+namespace tessarin {
+
+/// Which keys paste: Control-V, or in terminals Shift-Insert.
+enum class PasteChord { controlV, shiftInsert };
+
+/// One paste, from the posting of its backspaces until the user's contents are back. Every step is scheduled
+/// on the main queue with a weak owner: letting go of the session ends it where it stands. Main thread.
+class PasteSession : public std::enable_shared_from_this<PasteSession> {
+ public:
+  struct Job {
+    std::int64_t deleteCount = 0;
+    std::string text;
+    PasteChord chord = PasteChord::controlV;
+  };
+  /// Everything that the session works with; must outlive it. `loans` are written, `restored` are all that
+  /// are put back at the end.
+  struct Tools {
+    KeyPoster& keyPoster;
+    MainQueue& queue;
+    std::vector<PasteboardLoan*> loans;
+    std::vector<PasteboardLoan*> restored;
+  };
+
+  PasteSession(Tools tools, Job job, TextInsertion::Completion done);
+
+  /// To be called when the backspaces have just been posted.
+  void start();
+  /// Answers, unless that has been done, that the text did not get there.
+  void answerFailure();
+
+ private:
+  void deletionsAreDone();
+  void saveContents();
+  void writeWhenPossible();
+  void postPasteKeystroke();
+  void shortestLoanIsOver();
+  void textWasRead();
+  void stopWaiting();
+  void restoreWhenAllowed();
+  void answer(InsertionOutcome outcome);
+  void after(std::chrono::milliseconds delay, void (PasteSession::*step)());
+
+  Tools tools_;
+  Job job_;
+  TextInsertion::Completion done_;
+  int savesLeft_ = 3;  ///< how often contents are saved again because somebody copied meanwhile
+  bool areDeletionsDone_ = false;
+  bool areAllAsked_ = false;
+  bool isWritten_ = false;
+  bool isShortestLoanOver_ = false;
+  bool isReadOrGivenUp_ = false;
+};
+
+}  // namespace tessarin

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <memory>
+#include <string>
+
+#include "insertion/AccessibilityHelper.h"
+#include "insertion/PasteHelper.h"
+#include "platform/TextInsertion.h"
+#include "platform/WallClock.h"
+
+namespace tessarin {
+
+/// Puts the chosen text in the place of the typed shortcode: straight into the focused element where that
+/// works, else through the pasteboard. A replacement under way when the replacer goes away is not answered.
+/// Main thread.
+class TextReplacer final : public TextInsertion {
+ public:
+  /// All must outlive the replacer.
+  TextReplacer(AccessibilityHelper& accessibilityHelper, PasteHelper& pasteHelper, const WallClock& clock)
+      : accessibilityHelper_(accessibilityHelper), pasteHelper_(pasteHelper), clock_(clock) {}
+
+  void replace(const Replacement& replacement, Completion done) override;
+
+ private:
+  struct Request {
+    Replacement replacement;
+    Completion done;
+  };
+  std::string expanded(const std::string& text);
+  void startNext();
+  void run(const Replacement& replacement);
+  void paste(std::int64_t count, const std::string& text, InsertionOutcome soFar);
+  void finish(InsertionOutcome outcome);
+
+  AccessibilityHelper& accessibilityHelper_;
+  PasteHelper& pasteHelper_;
+  const WallClock& clock_;
+  std::deque<Request> waiting_;
+  Completion done_;
+  bool isBusy_ = false;
+  std::shared_ptr<char> alive_ = std::make_shared<char>();
+};
+
+}  // namespace tessarin

@@ -1,0 +1,90 @@
+#include "popup/CaretLocator.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+
+namespace tessarin {
+namespace {
+
+constexpr std::chrono::milliseconds locatingBudget{50};
+constexpr Size syntheticCaret{1, 16};
+
+/// Whether any of the rectangle, were it a single point, is on the frame.
+bool touches(const Rect& rect, const Rect& frame) {
+  return frame.contains({std::clamp(frame.minX(), rect.minX(), rect.maxX()),
+                         std::clamp(frame.minY(), rect.minY(), rect.maxY())});
+}
+
+bool isFinite(const Rect& rect) {
+  return std::isfinite(rect.x) && std::isfinite(rect.y) && std::isfinite(rect.width) &&
+         std::isfinite(rect.height);
+}
+
+/// Some toolkits answer with uninitialised numbers, and with zeros or minus ones where they do not know.
+bool isCredible(const Rect& rect, const ScreenLayout& layout) {
+  if (!isFinite(rect) || rect.width < 0 || rect.height < 0) return false;
+  if (layout.screens.empty()) return true;
+  return std::ranges::any_of(layout.screens, [&rect](const Screen& screen) {
+    return rect.width <= screen.frame.width && rect.height <= screen.frame.height &&
+           touches(rect, screen.frame);
+  });
+}
+
+}  // namespace
+
+std::optional<Rect> CaretLocator::caretRect() {
+  if (!accessibility_.isTrusted()) return std::nullopt;
+  accessibility_.beginBudget(locatingBudget);
+  const auto application =
+      readAttribute<ElementRef>(accessibility_, accessibility_.systemWide(), attribute::focusedApplication);
+  if (!application) return std::nullopt;
+  const auto element = readAttribute<ElementRef>(accessibility_, *application, attribute::focusedElement);
+  if (!element) return std::nullopt;
+
+  if (const auto rect = selectionBounds(*element)) return rect;
+  if (const auto rect = elementPointerRect(*element)) return rect;
+  return windowPointerRect(*application);
+}
+
+std::optional<Rect> CaretLocator::selectionBounds(const ElementRef& element) {
+  const auto range = readAttribute<TextRange>(accessibility_, element, attribute::selectedTextRange);
+  if (!range) return std::nullopt;
+  const auto bounds = accessibility_.parameterizedAttribute(element, attribute::boundsForRange, *range);
+  const Rect* rect = bounds ? std::get_if<Rect>(&*bounds) : nullptr;
+  if (!rect) return std::nullopt;
+
+  const ScreenLayout layout = ScreenLayout::read(screens_);
+  const Rect onScreen = layout.toScreenCoordinates(*rect);
+  return isCredible(onScreen, layout) ? std::optional(onScreen) : std::nullopt;
+}
+
+std::optional<Rect> CaretLocator::elementPointerRect(const ElementRef& element) {
+  return pointerRectWithin(element, {0, 0, 20, 20});
+}
+
+std::optional<Rect> CaretLocator::windowPointerRect(const ElementRef& application) {
+  const auto window = readAttribute<ElementRef>(accessibility_, application, attribute::focusedWindow);
+  return window ? pointerRectWithin(*window, {20, 40, 20, 40}) : std::nullopt;
+}
+
+std::optional<Rect> CaretLocator::pointerRectWithin(const ElementRef& element, const Insets& insets) {
+  const auto origin = readAttribute<Point>(accessibility_, element, attribute::position);
+  const auto size = readAttribute<Size>(accessibility_, element, attribute::size);
+  if (!origin || !size) return std::nullopt;
+
+  const Point mouse = screens_.mouseLocation();
+  const double mouseDown = ScreenLayout::read(screens_).primaryHeight() - mouse.y;
+  // The right and bottom insets come last: they win when the element is smaller than both.
+  const double x =
+      std::min(origin->x + size->width - insets.right, std::max(mouse.x, origin->x + insets.left));
+  const double y =
+      std::min(origin->y + size->height - insets.bottom, std::max(mouseDown, origin->y + insets.top));
+  return toScreenCoordinates({x, y, syntheticCaret.width, syntheticCaret.height});
+}
+
+Rect CaretLocator::toScreenCoordinates(const Rect& rect) {
+  return ScreenLayout::read(screens_).toScreenCoordinates(rect);
+}
+
+}  // namespace tessarin

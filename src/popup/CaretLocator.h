@@ -1,0 +1,44 @@
+#pragma once
+
+#include <optional>
+
+#include "base/Geometry.h"
+#include "platform/Accessibility.h"
+#include "platform/Screens.h"
+#include "popup/ScreenLayout.h"
+
+namespace tessarin {
+
+/// Finds the text caret of the focused application. All results are in screen coordinates, points, and none
+/// when the application does not say. Main thread.
+class CaretLocator {
+ public:
+  /// Both must outlive the locator.
+  CaretLocator(Accessibility& accessibility, Screens& screens)
+      : accessibility_(accessibility), screens_(screens) {}
+
+  /// The caret, or else a place near the pointer within the focused element or the focused window. Takes
+  /// 50 ms at most.
+  std::optional<Rect> caretRect();
+
+  /// What the element itself says of its selection, if that can be true.
+  std::optional<Rect> selectionBounds(const ElementRef& element);
+  /// The pointer, moved into the element.
+  std::optional<Rect> elementPointerRect(const ElementRef& element);
+  /// The pointer, moved well into the application's focused window.
+  std::optional<Rect> windowPointerRect(const ElementRef& application);
+
+  /// From accessibility to screen coordinates.
+  Rect toScreenCoordinates(const Rect& rect);
+
+ private:
+  struct Insets {
+    double left, top, right, bottom;
+  };
+  std::optional<Rect> pointerRectWithin(const ElementRef& element, const Insets& insets);
+
+  Accessibility& accessibility_;
+  Screens& screens_;
+};
+
+}  // namespace tessarin

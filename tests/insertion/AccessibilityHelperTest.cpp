@@ -1,0 +1,213 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+
+#include "input/Preferences.h"
+#include "insertion/AccessibilityHelper.h"
+#include "support/FakeTextField.h"
+#include "support/FakeUserDefaults.h"
+#include "support/FakeWorkspace.h"
+
+namespace tessarin {
+namespace {
+
+using std::chrono::milliseconds;
+using testing::FakeAccessibility;
+using testing::FakeElement;
+using testing::FakeTextField;
+
+struct AccessibilityHelperTest : ::testing::Test {
+  AccessibilityHelperTest() {
+    accessibility.focus(field);
+    field->type("hi :smile");
+    workspace.frontmost = Application{"org.example.Editor", "Editor", false};
+  }
+
+  InsertionOutcome insert() { return helper.insertText(":smile", 6, "😀"); }
+  /// Puts `levels` elements above the field, the topmost with that role.
+  void putAncestors(int levels, std::string_view topRole);
+
+  FakeAccessibility accessibility;
+  testing::FakeWorkspace workspace;
+  testing::FakeUserDefaults defaults;
+  std::shared_ptr<FakeTextField> field = FakeTextField::create();
+  AccessibilityHelper helper{accessibility, workspace, defaults};
+};
+
+void AccessibilityHelperTest::putAncestors(int levels, std::string_view topRole) {
+  std::shared_ptr<FakeElement> element = field;
+  for (int level = 1; level <= levels; ++level) {
+    auto parent = std::make_shared<FakeElement>();
+    element->attributes[std::string(attribute::parent)] = ElementRef(parent);
+    element = parent;
+  }
+  element->attributes[std::string(attribute::role)] = std::string(topRole);
+}
+
+TEST_F(AccessibilityHelperTest, replacesTheShortcode) {
+  EXPECT_EQ(insert(), InsertionOutcome::inserted);
+  EXPECT_EQ(field->document(), "hi 😀");
+  EXPECT_EQ(field->caret(), 4U);
+}
+
+TEST_F(AccessibilityHelperTest, keepsWhatStandsBehindTheCaret) {
+  field->type(" there");
+  field->setCaret(9);
+  EXPECT_EQ(insert(), InsertionOutcome::inserted);
+  EXPECT_EQ(field->document(), "hi 😀 there");
+}
+
+TEST_F(AccessibilityHelperTest, comparesByCanonicalEquivalence) {
+  field->type(" :cafe\u0301");
+  EXPECT_EQ(helper.insertText(":caf\u00E9", 5, "☕"), InsertionOutcome::inserted);
+  EXPECT_EQ(field->document(), "hi :smile ☕");
+}
+
+TEST_F(AccessibilityHelperTest, insertsAtTheCaretWhenNothingIsToBeErased) {
+  EXPECT_EQ(helper.insertText("", 0, "!"), InsertionOutcome::inserted);
+  EXPECT_EQ(field->document(), "hi :smile!");
+}
+
+TEST_F(AccessibilityHelperTest, takesAtMostWhatStandsBeforeTheCaret) {
+  field->setCaret(3);
+  EXPECT_EQ(helper.insertText("", 5, "x"), InsertionOutcome::inserted);
+  EXPECT_EQ(std::get<TextRange>(accessibility.writes.at(0).value), (TextRange{0, 3}));
+  EXPECT_EQ(field->document(), "x:smile");
+}
+
+TEST_F(AccessibilityHelperTest, leavesASelectionBehindTheShortcode) {
+  field->type("abcd");
+  field->attributes[std::string(attribute::selectedTextRange)] = TextRange{9, 4};
+  EXPECT_EQ(insert(), InsertionOutcome::inserted);
+  EXPECT_EQ(field->document(), "hi 😀abcd");
+}
+
+struct Refusal {
+  const char* name;
+  void (*arrange)(AccessibilityHelperTest&);
+};
+
+class AccessibilityRefusal : public AccessibilityHelperTest, public ::testing::WithParamInterface<Refusal> {};
+
+TEST_P(AccessibilityRefusal, leavesTheDocumentAlone) {
+  GetParam().arrange(*this);
+  EXPECT_EQ(insert(), InsertionOutcome::unchanged);
+  EXPECT_EQ(field->document(), "hi :smile");
+}
+
+void setRole(FakeElement& element, std::string_view name) {
+  element.attributes[std::string(attribute::role)] = std::string(name);
+}
+void makeFail(FakeElement& element, std::string_view name) {
+  element.failing.insert(std::string(name));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Reasons, AccessibilityRefusal,
+    ::testing::Values(
+        Refusal{"notTrusted", [](AccessibilityHelperTest& test) { test.accessibility.trusted = false; }},
+        Refusal{"noApplication",
+                [](AccessibilityHelperTest& test) {
+                  makeFail(*test.accessibility.system, attribute::focusedApplication);
+                }},
+        Refusal{"noElement",
+                [](AccessibilityHelperTest& test) {
+                  makeFail(*test.accessibility.application, attribute::focusedElement);
+                }},
+        Refusal{"webArea", [](AccessibilityHelperTest& test) { setRole(*test.field, role::webArea); }},
+        Refusal{"htmlTextArea",
+                [](AccessibilityHelperTest& test) { setRole(*test.field, role::htmlTextArea); }},
+        Refusal{"htmlTextInput",
+                [](AccessibilityHelperTest& test) { setRole(*test.field, role::htmlTextInput); }},
+        Refusal{"webParent", [](AccessibilityHelperTest& test) { test.putAncestors(1, role::webArea); }},
+        Refusal{"webFifthAncestor",
+                [](AccessibilityHelperTest& test) { test.putAncestors(5, role::webArea); }},
+        Refusal{"builtInPasteMode",
+                [](AccessibilityHelperTest& test) {
+                  test.defaults.set("pasteFallbackApps", std::vector<std::string>{});
+                  test.workspace.frontmost->bundleIdentifier = "org.mozilla.firefox";
+                }},
+        Refusal{"usersPasteMode",
+                [](AccessibilityHelperTest& test) {
+                  test.defaults.set("pasteFallbackApps", std::vector<std::string>{"org.example.Editor"});
+                }},
+        Refusal{"noValue", [](AccessibilityHelperTest& test) { makeFail(*test.field, attribute::value); }},
+        Refusal{"noSelection",
+                [](AccessibilityHelperTest& test) { makeFail(*test.field, attribute::selectedTextRange); }},
+        Refusal{"selectionOfAnotherType",
+                [](AccessibilityHelperTest& test) {
+                  test.field->attributes[std::string(attribute::selectedTextRange)] = true;
+                }},
+        Refusal{"textNotReadable",
+                [](AccessibilityHelperTest& test) { makeFail(*test.field, attribute::stringForRange); }},
+        Refusal{"selectionNotWritable",
+                [](AccessibilityHelperTest& test) {
+                  test.field->writers[std::string(attribute::selectedTextRange)] = [](const AttributeValue&) {
+                    return AccessibilityStatus::failure;
+                  };
+                }},
+        Refusal{
+            "textNotWritable",
+            [](AccessibilityHelperTest& test) { test.field->writeResult = AccessibilityStatus::failure; }},
+        Refusal{"caretElsewhere", [](AccessibilityHelperTest& test) { test.field->setCaret(8); }},
+        Refusal{"tooSlow",
+                [](AccessibilityHelperTest& test) { test.accessibility.callDuration = milliseconds(30); }}),
+    [](const auto& refusal) { return refusal.param.name; });
+
+TEST_F(AccessibilityHelperTest, acceptsAWebAreaSixLevelsUp) {
+  putAncestors(6, role::webArea);
+  EXPECT_EQ(insert(), InsertionOutcome::inserted);
+}
+
+TEST_F(AccessibilityHelperTest, acceptsAnHtmlFieldAsAncestor) {
+  putAncestors(2, role::htmlTextArea);
+  EXPECT_EQ(insert(), InsertionOutcome::inserted);
+}
+
+TEST_F(AccessibilityHelperTest, doesWithoutKnowingTheApplication) {
+  workspace.frontmost = std::nullopt;
+  EXPECT_EQ(insert(), InsertionOutcome::inserted);
+}
+
+TEST_F(AccessibilityHelperTest, saysWhenOnlyTheErasingWorked) {
+  field->writeResult = AccessibilityStatus::erasedOnly;
+  EXPECT_EQ(insert(), InsertionOutcome::erasedOnly);
+  EXPECT_EQ(field->document(), "hi ");
+}
+
+TEST_F(AccessibilityHelperTest, waitsForLettersOnTheirWay) {
+  field->type(" :wa");
+  accessibility.at(milliseconds(20), [this] { field->type("v"); });
+  accessibility.at(milliseconds(40), [this] { field->type("e"); });
+  EXPECT_EQ(helper.insertText(":wave", 5, "👋"), InsertionOutcome::inserted);
+  EXPECT_EQ(field->document(), "hi :smile 👋");
+}
+
+TEST_F(AccessibilityHelperTest, waitsSixtyMillisecondsAtMost) {
+  field->type(" :wav");
+  accessibility.at(milliseconds(70), [this] { field->type("e"); });
+  EXPECT_EQ(helper.insertText(":wave", 5, "👋"), InsertionOutcome::unchanged);
+  EXPECT_EQ(accessibility.elapsed(), milliseconds(60));
+  EXPECT_TRUE(accessibility.writes.empty());
+}
+
+TEST_F(AccessibilityHelperTest, staysWithinItsBudgetWhileWaiting) {
+  accessibility.callDuration = milliseconds(8);
+  field->type("x");
+  EXPECT_EQ(insert(), InsertionOutcome::unchanged);
+  EXPECT_LE(accessibility.elapsed(), milliseconds(120));
+}
+
+TEST_F(AccessibilityHelperTest, knowsATerminalByApplicationOrRole) {
+  EXPECT_FALSE(helper.isTerminal());
+  setRole(*field, role::terminal);
+  EXPECT_TRUE(helper.isTerminal());
+  accessibility.trusted = false;
+  EXPECT_FALSE(helper.isTerminal());
+  workspace.frontmost->isTerminal = true;
+  EXPECT_TRUE(helper.isTerminal());
+}
+
+}  // namespace
+}  // namespace tessarin

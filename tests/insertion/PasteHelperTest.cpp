@@ -1,0 +1,334 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+
+#include "insertion/PasteHelper.h"
+#include "platform/KeyCodes.h"
+#include "support/FakeKeyPoster.h"
+#include "support/FakePasteboard.h"
+#include "support/ManualMainQueue.h"
+
+namespace tessarin {
+namespace {
+
+using std::chrono::milliseconds;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+using Items = std::vector<PasteboardItem>;
+
+constexpr KeyPress backspace{keycode::deleteBackward, 0};
+constexpr KeyPress controlV{keycode::v, keyflag::control};
+constexpr KeyPress shiftInsert{keycode::insert, keyflag::shift};
+
+class PasteHelperTest : public ::testing::Test {
+ protected:
+  PasteHelperTest() {
+    general.copyElsewhere(saved);
+    primary.copyElsewhere("selected");
+  }
+
+  void paste(std::int64_t count, const std::string& text, PasteChord chord = PasteChord::controlV) {
+    helper->pasteText(count, text, chord, [this](InsertionOutcome outcome) { outcomes.push_back(outcome); });
+  }
+  /// The presses from an index on, and when each came.
+  std::vector<testing::FakeKeyPoster::Posted> pressesFrom(std::size_t index) const {
+    return {keys.posted.begin() + static_cast<std::ptrdiff_t>(index), keys.posted.end()};
+  }
+  bool isRestored() const { return general.contents() == saved; }
+
+  const Items saved{
+      {"UTF8_STRING", "user's"}, {"text/html", "<b>user's</b>"}, {"image/png", {"\x89P\0G", 4}}};
+  testing::ManualMainQueue queue;
+  testing::FakePasteboard general{queue};
+  testing::FakePasteboard primary{queue};
+  testing::FakeKeyPoster keys{queue};
+  std::vector<InsertionOutcome> outcomes;
+  std::optional<PasteHelper> helper{std::in_place, general, primary, keys, queue};
+};
+
+struct Timeline {
+  int count;
+  int written;  ///< milliseconds
+  int chord;
+  int restored;
+};
+
+class PasteTimeline : public PasteHelperTest, public ::testing::WithParamInterface<Timeline> {};
+
+TEST_P(PasteTimeline, growsWithTheDeletions) {
+  const auto [count, written, chord, restored] = GetParam();
+  paste(count, "😀");
+  EXPECT_THAT(keys.posted, SizeIs(count));
+  for (const auto& posted : keys.posted) EXPECT_EQ(posted, (testing::FakeKeyPoster::Posted{backspace, {}}));
+
+  queue.advance(milliseconds(written - 1));
+  EXPECT_TRUE(isRestored());
+  queue.advance(milliseconds(1));
+  EXPECT_EQ(general.contents(), (Items{{"UTF8_STRING", "😀"}}));
+
+  queue.advance(milliseconds(chord - written));
+  EXPECT_THAT(pressesFrom(static_cast<std::size_t>(count)),
+              ElementsAre(testing::FakeKeyPoster::Posted{controlV, milliseconds(chord)}));
+  EXPECT_THAT(outcomes, IsEmpty());
+  EXPECT_EQ(general.readByApplication(), "😀");
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
+
+  queue.advance(milliseconds(restored - chord - 1));
+  EXPECT_FALSE(isRestored());
+  queue.advance(milliseconds(1));
+  EXPECT_TRUE(isRestored());
+}
+
+INSTANTIATE_TEST_SUITE_P(Counts, PasteTimeline,
+                         ::testing::Values(Timeline{0, 50, 100, 300}, Timeline{1, 70, 120, 320},
+                                           Timeline{6, 170, 220, 420}, Timeline{64, 1330, 1380, 1580}),
+                         [](const auto& line) { return std::to_string(line.param.count) + "Deletions"; });
+
+TEST_F(PasteHelperTest, leavesThePrimaryPasteboardAloneOutsideTerminals) {
+  paste(1, "x");
+  queue.advance(milliseconds(5000));
+  EXPECT_EQ(primary.snapshots, 0);
+  EXPECT_THAT(primary.writtenTexts, IsEmpty());
+}
+
+TEST_F(PasteHelperTest, waitsForALateReader) {
+  paste(1, "x");
+  queue.advance(milliseconds(120 + 1500));
+  EXPECT_THAT(outcomes, IsEmpty());
+  EXPECT_EQ(general.readByApplication(), "x");
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
+  EXPECT_TRUE(isRestored());
+}
+
+TEST_F(PasteHelperTest, doesNotTakeAReadBeforeTheChordForThePaste) {
+  paste(1, "x");
+  queue.advance(milliseconds(80));
+  general.readByApplication();
+  queue.advance(milliseconds(40 + 199));
+  EXPECT_THAT(outcomes, IsEmpty());
+  EXPECT_EQ(general.readByApplication(), "x");
+  queue.advance(milliseconds(1));
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
+  EXPECT_TRUE(isRestored());
+}
+
+TEST_F(PasteHelperTest, givesUpAfterTwoSeconds) {
+  paste(1, "x");
+  queue.advance(milliseconds(120 + 1999));
+  EXPECT_THAT(outcomes, IsEmpty());
+  EXPECT_FALSE(isRestored());
+  queue.advance(milliseconds(1));
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::erasedOnly));
+  EXPECT_TRUE(isRestored());
+  queue.advance(milliseconds(5000));
+  EXPECT_THAT(outcomes, SizeIs(1));
+}
+
+TEST_F(PasteHelperTest, saysUnchangedWhenNothingWasErasedOrRead) {
+  paste(0, "x");
+  queue.advance(milliseconds(3000));
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::unchanged));
+}
+
+TEST_F(PasteHelperTest, restoresAnEmptyPasteboard) {
+  general.copyElsewhere(Items{});
+  paste(1, "x");
+  queue.advance(milliseconds(3000));
+  EXPECT_THAT(general.contents(), IsEmpty());
+  EXPECT_THAT(general.writtenTexts, SizeIs(1));
+}
+
+TEST_F(PasteHelperTest, onlyErasesForAnEmptyText) {
+  paste(3, "");
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
+  queue.advance(milliseconds(3000));
+  EXPECT_THAT(keys.posted, SizeIs(3));
+  EXPECT_THAT(general.writtenTexts, IsEmpty());
+}
+
+TEST_F(PasteHelperTest, waitsForASlowOwnerBeforeItWrites) {
+  general.readyAfter = milliseconds(200);
+  paste(0, "x");
+  queue.advance(milliseconds(199));
+  EXPECT_THAT(general.writtenTexts, IsEmpty());
+  queue.advance(milliseconds(1));
+  EXPECT_THAT(general.writtenTexts, SizeIs(1));
+  queue.advance(milliseconds(50));
+  EXPECT_THAT(pressesFrom(0), ElementsAre(testing::FakeKeyPoster::Posted{controlV, milliseconds(250)}));
+}
+
+TEST_F(PasteHelperTest, restoresWhatAHungOwnerStillDelivered) {
+  general.readyAfter = milliseconds(200);
+  general.completeAfter = milliseconds(1000);
+  general.lateItems = {{"image/tiff", "late"}};
+  paste(0, "x");
+  queue.advance(milliseconds(260));
+  general.readByApplication();
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
+  queue.advance(milliseconds(999 - 260));
+  EXPECT_TRUE(general.isOurText());
+  queue.advance(milliseconds(60));
+  Items all = saved;
+  all.push_back({"image/tiff", "late"});
+  EXPECT_EQ(general.contents(), all);
+}
+
+TEST_F(PasteHelperTest, leavesWhatTheUserCopiedMeanwhile) {
+  paste(0, "x");
+  queue.advance(milliseconds(150));
+  general.readByApplication();
+  general.copyElsewhere("newer");
+  queue.advance(milliseconds(3000));
+  EXPECT_EQ(general.contents(), (Items{{"UTF8_STRING", "newer"}}));
+}
+
+TEST_F(PasteHelperTest, savesAgainWhatTheUserCopiedBeforeTheWrite) {
+  paste(0, "x");
+  queue.advance(milliseconds(30));
+  general.copyElsewhere("newer");
+  queue.advance(milliseconds(3000));
+  EXPECT_THAT(general.writtenTexts, ElementsAre("x"));
+  EXPECT_EQ(general.contents(), (Items{{"UTF8_STRING", "newer"}}));
+}
+
+TEST_F(PasteHelperTest, pastesOnceThoughEveryoneKeepsCopying) {
+  general.readyAfter = milliseconds(20);
+  const auto copying = queue.repeat(milliseconds(5), [this] {
+    if (general.writtenTexts.empty()) general.copyElsewhere("again");
+  });
+  paste(0, "x");
+  queue.advance(milliseconds(1000));
+  EXPECT_THAT(general.writtenTexts, ElementsAre("x"));
+  EXPECT_THAT(keys.posted, SizeIs(1));
+}
+
+TEST_F(PasteHelperTest, pastesInTerminalsFromBothPasteboards) {
+  paste(1, "x", PasteChord::shiftInsert);
+  queue.advance(milliseconds(120));
+  EXPECT_THAT(pressesFrom(1), ElementsAre(testing::FakeKeyPoster::Posted{shiftInsert, milliseconds(120)}));
+  EXPECT_TRUE(general.isOurText());
+  EXPECT_EQ(primary.readByApplication(), "x");
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
+  queue.advance(milliseconds(200));
+  EXPECT_TRUE(isRestored());
+  EXPECT_EQ(primary.contents(), (Items{{"UTF8_STRING", "selected"}}));
+}
+
+TEST_F(PasteHelperTest, keepsTheNewSelectionInATerminal) {
+  paste(1, "x", PasteChord::shiftInsert);
+  queue.advance(milliseconds(130));
+  primary.copyElsewhere("newer");
+  queue.advance(milliseconds(3000));
+  EXPECT_EQ(primary.contents(), (Items{{"UTF8_STRING", "newer"}}));
+  EXPECT_TRUE(isRestored());
+}
+
+TEST_F(PasteHelperTest, aSecondPasteKeepsTheFirstsSavedContents) {
+  paste(0, "first");
+  queue.advance(milliseconds(100));
+  general.readByApplication();
+  paste(0, "second");
+  queue.advance(milliseconds(100));
+  EXPECT_EQ(general.snapshots, 1);
+  queue.advance(milliseconds(1000));
+  EXPECT_EQ(general.readByApplication(), "second") << "the first paste's restore must not come in between";
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted, InsertionOutcome::inserted));
+  EXPECT_TRUE(isRestored());
+}
+
+TEST_F(PasteHelperTest, aSecondPasteSavesWhatWasCopiedSinceTheFirst) {
+  paste(0, "first");
+  queue.advance(milliseconds(100));
+  general.readByApplication();
+  general.copyElsewhere("newer");
+  paste(0, "second");
+  queue.advance(milliseconds(3000));
+  EXPECT_EQ(general.snapshots, 2);
+  EXPECT_EQ(general.contents(), (Items{{"UTF8_STRING", "newer"}}));
+}
+
+TEST_F(PasteHelperTest, aSecondPasteElsewhereStillRestoresTheTerminalsSelection) {
+  paste(0, "first", PasteChord::shiftInsert);
+  queue.advance(milliseconds(100));
+  primary.readByApplication();
+  paste(0, "second");
+  queue.advance(milliseconds(100));
+  general.readByApplication();
+  queue.advance(milliseconds(200));
+  EXPECT_TRUE(isRestored());
+  EXPECT_EQ(primary.contents(), (Items{{"UTF8_STRING", "selected"}}));
+}
+
+TEST_F(PasteHelperTest, anEmptyTextLeavesThePendingRestoreAlone) {
+  paste(0, "first");
+  queue.advance(milliseconds(100));
+  general.readByApplication();
+  paste(2, "");
+  queue.advance(milliseconds(200));
+  EXPECT_TRUE(isRestored());
+}
+
+TEST_F(PasteHelperTest, aDoneCallbackMayPasteAtOnce) {
+  helper->pasteText(0, "first", PasteChord::controlV, [this](InsertionOutcome) { paste(0, "second"); });
+  queue.advance(milliseconds(400));
+  general.readByApplication();
+  queue.advance(milliseconds(100));
+  EXPECT_EQ(general.readByApplication(), "second");
+  queue.advance(milliseconds(200));
+  EXPECT_TRUE(isRestored());
+}
+
+struct Quit {
+  const char* name;
+  int at;
+};
+
+class PasteQuit : public PasteHelperTest, public ::testing::WithParamInterface<Quit> {};
+
+TEST_P(PasteQuit, givesTheContentsBackAtOnce) {
+  paste(1, "x", PasteChord::shiftInsert);
+  queue.advance(milliseconds(GetParam().at));
+  helper.reset();
+  EXPECT_TRUE(isRestored());
+  EXPECT_EQ(primary.contents(), (Items{{"UTF8_STRING", "selected"}}));
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::erasedOnly));
+  const std::size_t writes = general.writtenTexts.size();
+  const std::size_t presses = keys.posted.size();
+  queue.advance(milliseconds(5000));
+  EXPECT_EQ(general.writtenTexts.size(), writes);
+  EXPECT_EQ(keys.posted.size(), presses);
+}
+
+INSTANTIATE_TEST_SUITE_P(Moments, PasteQuit,
+                         ::testing::Values(Quit{"whileErasing", 0}, Quit{"written", 100},
+                                           Quit{"pasting", 130}, Quit{"waiting", 1000}),
+                         [](const auto& quit) { return quit.param.name; });
+
+TEST_F(PasteHelperTest, finishingAfterTheReadOnlyRestores) {
+  paste(1, "x");
+  queue.advance(milliseconds(120));
+  general.readByApplication();
+  helper->finish();
+  EXPECT_TRUE(isRestored());
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
+  helper->finish();
+  paste(1, "y");
+  queue.advance(milliseconds(120));
+  EXPECT_EQ(general.readByApplication(), "y");
+}
+
+TEST_F(PasteHelperTest, knowsTheUsersTextAtAnyTime) {
+  EXPECT_EQ(helper->userText(), "user's");
+  paste(0, "x");
+  for (const int step : {50, 50, 199}) {
+    queue.advance(milliseconds(step));
+    EXPECT_EQ(helper->userText(), "user's") << step;
+  }
+  general.copyElsewhere("newer");
+  EXPECT_EQ(helper->userText(), "newer");
+}
+
+}  // namespace
+}  // namespace tessarin

@@ -1,0 +1,217 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <functional>
+
+#include "insertion/TextReplacer.h"
+#include "platform/KeyCodes.h"
+#include "support/FakeKeyPoster.h"
+#include "support/FakePasteboard.h"
+#include "support/FakeTextField.h"
+#include "support/FakeUserDefaults.h"
+#include "support/FakeWorkspace.h"
+#include "support/LogRecorder.h"
+#include "support/ManualMainQueue.h"
+
+namespace tessarin {
+namespace {
+
+using std::chrono::milliseconds;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+constexpr const char* direct = "[TextReplacer] Replaced via Accessibility API";
+constexpr const char* fallback = "[TextReplacer] Falling back to paste method";
+
+class TextReplacerTest : public ::testing::Test {
+ protected:
+  TextReplacerTest() {
+    accessibility.focus(field);
+    workspace.frontmost = Application{"org.example.Editor", "Editor", false};
+    general.copyElsewhere("user's");
+  }
+
+  void refuseDirectInsertion() { workspace.frontmost->bundleIdentifier = "org.mozilla.firefox"; }
+  TextInsertion::Completion keep() {
+    return [this](InsertionOutcome outcome) { outcomes.push_back(outcome); };
+  }
+  void replace(const std::string& text, TextInsertion::Completion done) {
+    replacer->replace({6, text, false, ":smile"}, std::move(done));
+  }
+  void replace(const std::string& text) { replace(text, keep()); }
+  std::size_t countOf(std::int64_t keyCode) const {
+    return static_cast<std::size_t>(std::ranges::count_if(
+        keys.posted, [keyCode](const auto& posted) { return posted.press.keyCode == keyCode; }));
+  }
+
+  testing::LogRecorder log;
+  testing::ManualMainQueue queue;
+  testing::FakeAccessibility accessibility;
+  testing::FakeWorkspace workspace;
+  testing::FakeUserDefaults defaults;
+  testing::FakePasteboard general{queue};
+  testing::FakePasteboard primary{queue};
+  testing::FakeKeyPoster keys{queue};
+  std::shared_ptr<testing::FakeTextField> field = testing::FakeTextField::create();
+  AccessibilityHelper accessibilityHelper{accessibility, workspace, defaults};
+  PasteHelper pasteHelper{general, primary, keys, queue};
+  SystemWallClock clock;
+  std::optional<TextReplacer> replacer{std::in_place, accessibilityHelper, pasteHelper, clock};
+  std::vector<InsertionOutcome> outcomes;
+};
+
+TEST_F(TextReplacerTest, insertsDirectlyWhereThatWorks) {
+  field->type("a:smile");
+  replace("😀");
+  EXPECT_EQ(field->document(), "a😀");
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
+  EXPECT_THAT(log.lines, ElementsAre(direct));
+  EXPECT_THAT(keys.posted, IsEmpty());
+  EXPECT_EQ(general.snapshots, 0);
+}
+
+TEST_F(TextReplacerTest, erasesTheTriggerThatConfirmedToo) {
+  field->type("a:smile:");
+  replacer->replace({6, "😀", true, ":smile:"}, keep());
+  EXPECT_EQ(field->document(), "a😀");
+
+  refuseDirectInsertion();
+  replacer->replace({6, "😀", true, ":smile:"}, keep());
+  EXPECT_EQ(countOf(keycode::deleteBackward), 7U);
+}
+
+TEST_F(TextReplacerTest, fallsBackToPasting) {
+  refuseDirectInsertion();
+  replace("😀");
+  EXPECT_THAT(log.lines, ElementsAre(fallback));
+  EXPECT_THAT(outcomes, IsEmpty());
+  EXPECT_EQ(countOf(keycode::deleteBackward), 6U);
+  queue.advance(milliseconds(220));
+  EXPECT_EQ(general.readByApplication(), "😀");
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
+}
+
+TEST_F(TextReplacerTest, pastesByShiftInsertInATerminal) {
+  workspace.frontmost->isTerminal = true;
+  field->failing.insert(std::string(attribute::value));
+  replace("😀");
+  queue.advance(milliseconds(220));
+  EXPECT_EQ(keys.posted.back().press, (KeyPress{keycode::insert, keyflag::shift}));
+  EXPECT_EQ(primary.readByApplication(), "😀");
+}
+
+TEST_F(TextReplacerTest, doesNotEraseTwice) {
+  field->type("a:smile");
+  field->writeResult = AccessibilityStatus::erasedOnly;
+  replace("😀");
+  EXPECT_EQ(field->document(), "a");
+  EXPECT_THAT(log.lines, ElementsAre(fallback));
+  queue.advance(milliseconds(100));
+  EXPECT_EQ(countOf(keycode::deleteBackward), 0U);
+  EXPECT_EQ(general.readByApplication(), "😀");
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
+}
+
+TEST_F(TextReplacerTest, remembersTheErasingWhenThePasteFailsToo) {
+  field->type("a:smile");
+  field->writeResult = AccessibilityStatus::erasedOnly;
+  replace("😀");
+  queue.advance(milliseconds(3000));
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::erasedOnly));
+}
+
+TEST_F(TextReplacerTest, fillsInTemplateVariablesOnceForBothMethods) {
+  field->type(":smile");
+  replace("<{{clipboard}}>");
+  EXPECT_EQ(field->document(), "<user's>");
+
+  refuseDirectInsertion();
+  replace("<{{clipboard}}>");
+  EXPECT_EQ(general.stringReads, 2) << "once a replacement";
+  queue.advance(milliseconds(220));
+  EXPECT_EQ(general.readByApplication(), "<user's>");
+}
+
+TEST_F(TextReplacerTest, theClipboardVariableIsTheUsersWhileOurTextIsOnThePasteboard) {
+  refuseDirectInsertion();
+  replace("first");
+  queue.advance(milliseconds(220));
+  general.readByApplication();
+  EXPECT_TRUE(general.isOurText());
+  replace("<{{clipboard}}>");
+  queue.advance(milliseconds(220));
+  EXPECT_EQ(general.readByApplication(), "<user's>");
+}
+
+TEST_F(TextReplacerTest, replacementsWaitForTheirTurn) {
+  refuseDirectInsertion();
+  replace("first");
+  replace("second");
+  replace("third");
+  for (const char* text : {"first", "second", "third"}) {
+    EXPECT_THAT(log.lines, SizeIs(outcomes.size() + 1)) << "one at a time";
+    queue.advance(milliseconds(220));
+    EXPECT_EQ(general.readByApplication(), text);
+  }
+  EXPECT_THAT(outcomes, SizeIs(3));
+  EXPECT_EQ(countOf(keycode::deleteBackward), 18U);
+  queue.advance(milliseconds(200));
+  EXPECT_EQ(general.contents(), (std::vector<PasteboardItem>{{"UTF8_STRING", "user's"}}));
+}
+
+TEST_F(TextReplacerTest, oneAskedForByADoneCallbackWaitsForThoseBeforeIt) {
+  refuseDirectInsertion();
+  replace("first", [this](InsertionOutcome) { replace("third"); });
+  replace("second");
+  for (const char* text : {"first", "second", "third"}) {
+    queue.advance(milliseconds(220));
+    EXPECT_EQ(general.readByApplication(), text);
+  }
+}
+
+TEST_F(TextReplacerTest, aDoneCallbackMayAskForAnotherDirectly) {
+  field->type(":smile");
+  replace("😀", [this](InsertionOutcome) {
+    field->type(":smile");
+    replace("😁");
+  });
+  EXPECT_EQ(field->document(), "😀😁");
+  EXPECT_THAT(outcomes, SizeIs(1));
+}
+
+TEST_F(TextReplacerTest, mayGoAwayWithinADoneCallback) {
+  field->type(":smile");
+  replace("😀", [this](InsertionOutcome) { replacer.reset(); });
+  EXPECT_FALSE(replacer.has_value());
+}
+
+TEST_F(TextReplacerTest, answersNothingAfterItWentAway) {
+  refuseDirectInsertion();
+  replace("first");
+  replacer.reset();
+  queue.advance(milliseconds(3000));
+  EXPECT_THAT(outcomes, IsEmpty());
+}
+
+TEST_F(TextReplacerTest, goesOnAfterAnApplicationThatIgnoresThePaste) {
+  refuseDirectInsertion();
+  replace("first");
+  replace("second");
+  queue.advance(milliseconds(2220));
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::erasedOnly));
+  queue.advance(milliseconds(220));
+  EXPECT_EQ(general.readByApplication(), "second");
+}
+
+TEST_F(TextReplacerTest, logsNothingOfTheText) {
+  refuseDirectInsertion();
+  replace("secret");
+  queue.advance(milliseconds(3000));
+  EXPECT_THAT(log.lines, ElementsAre(fallback));
+}
+
+}  // namespace
+}  // namespace tessarin

@@ -1,0 +1,149 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+
+#include "popup/AutocompletePanel.h"
+#include "support/FakeAccessibility.h"
+#include "support/FakePopupSurface.h"
+#include "support/FakeScreens.h"
+#include "support/ManualMainQueue.h"
+
+namespace tessarin {
+namespace {
+
+using std::chrono::milliseconds;
+
+PopupContent contentOf(const std::string& query, int rows) {
+  PopupContent content;
+  content.triggerCharacter = ":";
+  content.query = query;
+  for (int i = 0; i < rows; ++i)
+    content.rows.push_back({"id" + std::to_string(i), "x", "trigger", "name", false});
+  return content;
+}
+
+class AutocompletePanelTest : public ::testing::Test {
+ protected:
+  AutocompletePanelTest() {
+    element->attributes[std::string(attribute::selectedTextRange)] = TextRange{};
+    element->parameterized[std::string(attribute::boundsForRange)] = [this](const AttributeValue&) {
+      return std::optional<AttributeValue>(caret);
+    };
+    accessibility.focus(element);
+  }
+
+  testing::ManualMainQueue queue;
+  testing::FakeAccessibility accessibility;
+  testing::FakeScreens screens;
+  testing::FakePopupSurface surface;
+  std::shared_ptr<testing::FakeElement> element = std::make_shared<testing::FakeElement>();
+  Rect caret{300, 100, 1, 16};
+  std::optional<AutocompletePanel> panel{std::in_place, surface, screens, accessibility, queue};
+};
+
+TEST_F(AutocompletePanelTest, answersTheKeyBeforeItAsksForTheCaret) {
+  panel->present(contentOf("s", 2));
+  EXPECT_TRUE(panel->isVisible());
+  EXPECT_EQ(accessibility.calls, 0);
+  EXPECT_TRUE(surface.shows.empty());
+  queue.runReady();
+  ASSERT_EQ(surface.shows.size(), 1U);
+  EXPECT_EQ(surface.shows[0].frame, (Rect{300, 1080 - 116 - 136 - 4, 320, 136}));
+}
+
+TEST_F(AutocompletePanelTest, severalPresentsBecomeOne) {
+  for (const char* query : {"s", "sm", "smi"}) panel->present(contentOf(query, 8));
+  panel->present(contentOf("smil", 1));
+  queue.runReady();
+  ASSERT_EQ(surface.shows.size(), 1U);
+  EXPECT_EQ(surface.shows[0].content.query, "smil");
+  EXPECT_EQ(surface.shows[0].frame.height, 100);
+}
+
+TEST_F(AutocompletePanelTest, followsTheCaretWithEveryQuery) {
+  panel->present(contentOf("s", 2));
+  queue.runReady();
+  caret.x = 310;
+  panel->present(contentOf("sm", 2));
+  queue.runReady();
+  ASSERT_EQ(surface.shows.size(), 2U);
+  EXPECT_EQ(surface.shows[1].frame.x, 310);
+}
+
+TEST_F(AutocompletePanelTest, aMovedHighlightLeavesTheWindowInPlace) {
+  panel->present(contentOf("s", 2));
+  queue.runReady();
+  const int calls = accessibility.calls;
+  caret.x = 500;
+  PopupContent moved = contentOf("s", 2);
+  moved.selectedIndex = 1;
+  moved.skinToneMode = true;
+  moved.skinToneVariants = {"a", "b"};
+  panel->present(moved);
+  queue.runReady();
+  EXPECT_EQ(accessibility.calls, calls);
+  ASSERT_EQ(surface.shows.size(), 2U);
+  EXPECT_EQ(surface.shows[1].content, moved);
+  EXPECT_EQ(surface.shows[1].frame, surface.shows[0].frame);
+}
+
+TEST_F(AutocompletePanelTest, hidingCancelsWhatWasPutOff) {
+  panel->present(contentOf("s", 2));
+  panel->hide();
+  EXPECT_FALSE(panel->isVisible());
+  queue.runReady();
+  EXPECT_TRUE(surface.shows.empty());
+  EXPECT_EQ(surface.hides, 0);
+}
+
+TEST_F(AutocompletePanelTest, showsAgainAfterHidingAtTheNewCaret) {
+  panel->present(contentOf("s", 2));
+  queue.runReady();
+  panel->hide();
+  EXPECT_FALSE(surface.isShown);
+  caret.x = 500;
+  panel->present(contentOf("s", 2));
+  queue.runReady();
+  EXPECT_TRUE(surface.isShown);
+  EXPECT_EQ(surface.shows.back().frame.x, 500);
+}
+
+TEST_F(AutocompletePanelTest, aListWithoutRowsHides) {
+  panel->present(contentOf("s", 2));
+  queue.runReady();
+  panel->present(contentOf("sx", 0));
+  EXPECT_FALSE(panel->isVisible());
+  EXPECT_FALSE(surface.isShown);
+  panel->showNearCaret(caret);
+  EXPECT_FALSE(surface.isShown);
+}
+
+TEST_F(AutocompletePanelTest, standsAtThePointerWhenTheCaretIsNotKnown) {
+  accessibility.trusted = false;
+  screens.mouse = {400, 600};
+  panel->present(contentOf("s", 1));
+  queue.runReady();
+  ASSERT_EQ(surface.shows.size(), 1U);
+  EXPECT_EQ(surface.shows[0].frame, (Rect{408, 492, 320, 100}));
+}
+
+TEST_F(AutocompletePanelTest, passesClicksOn) {
+  int row = -1;
+  int variant = -1;
+  panel->onRowClicked([&row](int index) { row = index; });
+  panel->onVariantClicked([&variant](int index) { variant = index; });
+  surface.clickRow(3);
+  surface.clickVariant(4);
+  EXPECT_EQ(row, 3);
+  EXPECT_EQ(variant, 4);
+}
+
+TEST_F(AutocompletePanelTest, workPutOffVanishesWithThePanel) {
+  panel->present(contentOf("s", 2));
+  panel.reset();
+  queue.runReady();
+  EXPECT_TRUE(surface.shows.empty());
+}
+
+}  // namespace
+}  // namespace tessarin

@@ -1,0 +1,143 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <limits>
+
+#include "popup/CaretLocator.h"
+#include "support/FakeAccessibility.h"
+#include "support/FakeScreens.h"
+
+namespace tessarin {
+namespace {
+
+using std::chrono::milliseconds;
+using testing::FakeElement;
+
+class CaretLocatorTest : public ::testing::Test {
+ protected:
+  CaretLocatorTest() {
+    element->attributes[std::string(attribute::selectedTextRange)] = TextRange{7, 0};
+    element->parameterized[std::string(attribute::boundsForRange)] = [this](const AttributeValue& range) {
+      askedFor = std::get<TextRange>(range);
+      return bounds ? std::optional<AttributeValue>(*bounds) : std::nullopt;
+    };
+    place(*element, {100, 200}, {400, 300});
+    place(*window, {50, 100}, {800, 600});
+    accessibility.application->attributes[std::string(attribute::focusedWindow)] = ElementRef(window);
+    accessibility.focus(element);
+    screens.all = {{{0, 0, 1000, 800}, {0, 0, 1000, 800}}, {{1000, 0, 1000, 800}, {1000, 0, 1000, 800}}};
+  }
+
+  static void place(FakeElement& element, Point position, Size size) {
+    element.attributes[std::string(attribute::position)] = position;
+    element.attributes[std::string(attribute::size)] = size;
+  }
+
+  testing::FakeAccessibility accessibility;
+  testing::FakeScreens screens;
+  std::shared_ptr<FakeElement> element = std::make_shared<FakeElement>();
+  std::shared_ptr<FakeElement> window = std::make_shared<FakeElement>();
+  std::optional<Rect> bounds = Rect{300, 100, 1, 16};
+  TextRange askedFor;
+  CaretLocator locator{accessibility, screens};
+};
+
+TEST_F(CaretLocatorTest, asksTheElementFirst) {
+  EXPECT_EQ(locator.caretRect(), (Rect{300, 684, 1, 16}));
+  EXPECT_EQ(askedFor, (TextRange{7, 0}));
+}
+
+TEST_F(CaretLocatorTest, knowsNothingWithoutTrust) {
+  accessibility.trusted = false;
+  EXPECT_EQ(locator.caretRect(), std::nullopt);
+  EXPECT_EQ(accessibility.calls, 0);
+}
+
+TEST_F(CaretLocatorTest, givesUpWithinItsBudget) {
+  accessibility.callDuration = milliseconds(20);
+  EXPECT_EQ(locator.caretRect(), std::nullopt);
+  EXPECT_LE(accessibility.elapsed(), milliseconds(50));
+}
+
+TEST_F(CaretLocatorTest, fallsBackFromElementToWindowToNothing) {
+  screens.mouse = {600, 500};
+  bounds = std::nullopt;
+  EXPECT_EQ(locator.caretRect(), (Rect{480, 484, 1, 16})) << "within the element";
+  element->failing.insert(std::string(attribute::size));
+  EXPECT_EQ(locator.caretRect(), (Rect{600, 484, 1, 16})) << "within the window";
+  window->failing.insert(std::string(attribute::position));
+  EXPECT_EQ(locator.caretRect(), std::nullopt);
+}
+
+TEST_F(CaretLocatorTest, knowsNothingWithoutAFocusedElement) {
+  accessibility.application->failing.insert(std::string(attribute::focusedElement));
+  EXPECT_EQ(locator.caretRect(), std::nullopt);
+}
+
+TEST_F(CaretLocatorTest, needsASelection) {
+  element->failing.insert(std::string(attribute::selectedTextRange));
+  EXPECT_EQ(locator.selectionBounds(element), std::nullopt);
+}
+
+struct Bounds {
+  const char* name;
+  Rect rect;
+  bool isBelieved;
+};
+
+class CaretLocatorBounds : public CaretLocatorTest, public ::testing::WithParamInterface<Bounds> {};
+
+TEST_P(CaretLocatorBounds, areBelievedWhenTheyCanBeTrue) {
+  bounds = GetParam().rect;
+  EXPECT_EQ(locator.selectionBounds(element).has_value(), GetParam().isBelieved);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rects, CaretLocatorBounds,
+    ::testing::Values(
+        Bounds{"caret", {300, 100, 1, 16}, true}, Bounds{"zeroSize", {300, 100, 0, 0}, true},
+        Bounds{"selectedLine", {0, 100, 1000, 30}, true}, Bounds{"partlyOffScreen", {-5, 790, 10, 20}, true},
+        Bounds{"secondScreen", {1500, 100, 1, 16}, true}, Bounds{"zero", {0, 0, 0, 0}, false},
+        Bounds{"minusOne", {-1, -1, -1, -1}, false}, Bounds{"negativeWidth", {300, 100, -4, 16}, false},
+        Bounds{"huge", {300, 100, 21845, 16}, false}, Bounds{"tall", {300, 100, 1, 32767}, false},
+        Bounds{"farAway", {-1.9e9, 22000, 1, 16}, false},
+        Bounds{"leftOfAllScreens", {-20, 100, 10, 16}, false},
+        Bounds{"notANumber", {std::numeric_limits<double>::quiet_NaN(), 1, 1, 1}, false},
+        Bounds{"infinite", {1, std::numeric_limits<double>::infinity(), 1, 1}, false}),
+    [](const auto& bounds) { return bounds.param.name; });
+
+TEST_F(CaretLocatorTest, takesBoundsAsTheyAreWithoutScreens) {
+  screens.all.clear();
+  EXPECT_EQ(locator.selectionBounds(element), bounds);
+}
+
+struct Pointer {
+  const char* name;
+  Point mouse;  ///< screen coordinates
+  Point inElement;
+  Point inWindow;  ///< both accessibility coordinates
+};
+
+class CaretLocatorPointer : public CaretLocatorTest, public ::testing::WithParamInterface<Pointer> {};
+
+TEST_P(CaretLocatorPointer, isKeptInside) {
+  screens.mouse = GetParam().mouse;
+  const auto at = [](Point p) { return Rect{p.x, 800 - p.y - 16, 1, 16}; };
+  EXPECT_EQ(locator.elementPointerRect(element), at(GetParam().inElement));
+  EXPECT_EQ(locator.windowPointerRect(accessibility.application), at(GetParam().inWindow));
+}
+
+INSTANTIATE_TEST_SUITE_P(Places, CaretLocatorPointer,
+                         ::testing::Values(Pointer{"inside", {300, 500}, {300, 300}, {300, 300}},
+                                           Pointer{"lowerRight", {990, 10}, {480, 480}, {830, 660}},
+                                           Pointer{"upperLeft", {0, 800}, {100, 200}, {70, 140}}),
+                         [](const auto& pointer) { return pointer.param.name; });
+
+TEST_F(CaretLocatorTest, insetsOfTheFarEdgesWinInATinyElement) {
+  place(*element, {100, 200}, {10, 10});
+  screens.mouse = {300, 300};
+  EXPECT_EQ(locator.elementPointerRect(element), (Rect{90, 800 - 190 - 16, 1, 16}));
+}
+
+}  // namespace
+}  // namespace tessarin

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "base/Signal.h"
+#include "platform/Accessibility.h"
+
+namespace tessarin::testing {
+
+/// An element whose attributes the test writes down.
+class FakeElement : public AccessibilityElement {
+ public:
+  using Parameterized = std::function<std::optional<AttributeValue>(const AttributeValue&)>;
+  using Writer = std::function<AccessibilityStatus(const AttributeValue&)>;
+
+  std::map<std::string, AttributeValue, std::less<>> attributes;
+  std::map<std::string, Parameterized, std::less<>> parameterized;
+  /// Writing an attribute without a writer succeeds and changes nothing.
+  std::map<std::string, Writer, std::less<>> writers;
+  std::set<std::string, std::less<>> failing;  ///< neither read nor written
+};
+
+/// Interfaces of other applications, scripted: a tree of elements, a clock that calls and pauses move, and a
+/// budget that is kept.
+class FakeAccessibility final : public Accessibility {
+ public:
+  struct Write {
+    const AccessibilityElement* element;
+    std::string name;
+    AttributeValue value;
+  };
+
+  FakeAccessibility();
+
+  bool isTrusted() override { return trusted; }
+  void prompt() override { ++prompts; }
+  ElementRef systemWide() override { return system; }
+  std::optional<AttributeValue> attribute(const ElementRef& element, std::string_view name) override;
+  std::optional<AttributeValue> parameterizedAttribute(const ElementRef& element, std::string_view name,
+                                                       const AttributeValue& parameter) override;
+  AccessibilityStatus setAttribute(const ElementRef& element, std::string_view name,
+                                   const AttributeValue& value) override;
+  Subscription onFocusMoved(std::function<void()> callback) override {
+    return focusMoved_.subscribe(std::move(callback));
+  }
+  void beginBudget(std::chrono::milliseconds budget) override;
+  bool pause(std::chrono::milliseconds duration) override;
+
+  /// Puts the focus there, and tells of it.
+  void focus(const std::shared_ptr<FakeElement>& element);
+  /// Runs when calls and pauses have moved the clock that far.
+  void at(std::chrono::milliseconds time, std::function<void()> work) { script_.emplace(time, work); }
+  std::chrono::milliseconds elapsed() const { return elapsed_; }
+
+  bool trusted = true;
+  int prompts = 0;
+  std::chrono::milliseconds callDuration{0};  ///< what every call takes
+  std::vector<std::chrono::milliseconds> budgets;
+  std::vector<Write> writes;
+  int calls = 0;
+
+  std::shared_ptr<FakeElement> system = std::make_shared<FakeElement>();
+  std::shared_ptr<FakeElement> application = std::make_shared<FakeElement>();
+
+ private:
+  bool spend(std::chrono::milliseconds duration);
+  const FakeElement* answering(const ElementRef& element, std::string_view name);
+
+  std::chrono::milliseconds elapsed_{0};
+  std::chrono::milliseconds deadline_{std::chrono::milliseconds::max()};
+  std::multimap<std::chrono::milliseconds, std::function<void()>> script_;
+  Signal<> focusMoved_;
+};
+
+}  // namespace tessarin::testing

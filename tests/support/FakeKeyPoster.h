@@ -1,0 +1,38 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <vector>
+
+#include "platform/KeyPoster.h"
+#include "platform/MainQueue.h"
+
+namespace tessarin::testing {
+
+/// Records every press and when it was posted.
+class FakeKeyPoster final : public KeyPoster {
+ public:
+  struct Posted {
+    KeyPress press;
+    std::chrono::milliseconds at{0};  ///< since the poster was made
+    bool operator==(const Posted&) const = default;
+  };
+
+  explicit FakeKeyPoster(const MainQueue& queue) : queue_(queue), start_(queue.now()) {}
+
+  void post(const std::vector<KeyPress>& presses) override {
+    const auto at = std::chrono::duration_cast<std::chrono::milliseconds>(queue_.now() - start_);
+    for (const KeyPress& press : presses) posted.push_back({press, at});
+    if (onPost) onPost(presses);
+  }
+
+  std::vector<Posted> posted;
+  /// The focused application, which reacts to the presses.
+  std::function<void(const std::vector<KeyPress>&)> onPost;
+
+ private:
+  const MainQueue& queue_;
+  std::chrono::steady_clock::time_point start_;
+};
+
+}  // namespace tessarin::testing

@@ -1,0 +1,55 @@
+#include "support/FakePasteboard.h"
+
+#include <utility>
+
+namespace tessarin::testing {
+
+std::optional<std::string> FakePasteboard::string() {
+  ++stringReads;
+  for (const PasteboardItem& item : contents_) {
+    if (item.type == "UTF8_STRING") return item.data;
+  }
+  return std::nullopt;
+}
+
+void FakePasteboard::snapshot(SnapshotReady ready) {
+  ++snapshots;
+  auto taken = std::make_shared<PasteboardSnapshot>();
+  taken->items = contents_;
+  queue_.after(completeAfter, [taken, late = lateItems] {
+    taken->items.insert(taken->items.end(), late.begin(), late.end());
+    taken->isComplete = true;
+  });
+  queue_.after(readyAfter, [taken, ready = std::move(ready)] { ready(taken); });
+}
+
+void FakePasteboard::writeText(const std::string& text) {
+  writtenTexts.push_back(text);
+  change({{"UTF8_STRING", text}}, true);
+}
+
+void FakePasteboard::write(const std::vector<PasteboardItem>& items) {
+  change(items, false);
+}
+
+void FakePasteboard::copyElsewhere(std::vector<PasteboardItem> items) {
+  change(std::move(items), false);
+}
+
+std::optional<std::string> FakePasteboard::readByApplication() {
+  if (!isOurText_) return std::nullopt;
+  const std::string text = contents_.front().data;
+  const bool isFirst = !std::exchange(hasBeenRead_, true);
+  const auto callback = isFirst ? onRead_ : nullptr;
+  if (callback) callback();
+  return text;
+}
+
+void FakePasteboard::change(std::vector<PasteboardItem> items, bool isOurText) {
+  contents_ = std::move(items);
+  isOurText_ = isOurText;
+  hasBeenRead_ = false;
+  ++changeCount_;
+}
+
+}  // namespace tessarin::testing

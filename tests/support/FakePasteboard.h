@@ -1,0 +1,58 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/MainQueue.h"
+#include "platform/Pasteboard.h"
+
+namespace tessarin::testing {
+
+/// A pasteboard whose owner takes as long as the test says, and that applications read when the test says.
+class FakePasteboard final : public Pasteboard {
+ public:
+  /// The queue must outlive the pasteboard.
+  explicit FakePasteboard(MainQueue& queue) : queue_(queue) {}
+
+  std::optional<std::string> string() override;
+  void snapshot(SnapshotReady ready) override;
+  void writeText(const std::string& text) override;
+  void write(const std::vector<PasteboardItem>& items) override;
+  std::int64_t changeCount() const override { return changeCount_; }
+  bool hasBeenRead() const override { return hasBeenRead_; }
+  void onRead(std::function<void()> callback) override { onRead_ = std::move(callback); }
+
+  /// Another program copies.
+  void copyElsewhere(std::vector<PasteboardItem> items);
+  void copyElsewhere(const std::string& text) { copyElsewhere({{"UTF8_STRING", text}}); }
+  /// The application that was sent the chord reads our text to its end. What it got, or nothing when the text
+  /// is no longer ours.
+  std::optional<std::string> readByApplication();
+
+  const std::vector<PasteboardItem>& contents() const { return contents_; }
+  bool isOurText() const { return isOurText_; }
+
+  /// How the owner answers a snapshot: the items listed first come at once, the others `late`.
+  std::chrono::milliseconds readyAfter{0};
+  std::chrono::milliseconds completeAfter{0};
+  std::vector<PasteboardItem> lateItems;
+
+  int snapshots = 0;
+  int stringReads = 0;
+  std::vector<std::string> writtenTexts;
+
+ private:
+  void change(std::vector<PasteboardItem> items, bool isOurText);
+
+  MainQueue& queue_;
+  std::vector<PasteboardItem> contents_;
+  std::int64_t changeCount_ = 1;
+  bool isOurText_ = false;
+  bool hasBeenRead_ = false;
+  std::function<void()> onRead_;
+};
+
+}  // namespace tessarin::testing

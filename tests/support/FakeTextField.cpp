@@ -1,0 +1,84 @@
+#include "support/FakeTextField.h"
+
+#include <algorithm>
+
+#include "text/Graphemes.h"
+
+namespace tessarin::testing {
+namespace {
+
+std::vector<std::string> charactersOf(std::string text) {
+  std::vector<std::string> characters;
+  while (!text.empty()) {
+    characters.push_back(text::firstCharacter(text));
+    text.erase(0, characters.back().size());
+  }
+  return characters;
+}
+
+}  // namespace
+
+std::shared_ptr<FakeTextField> FakeTextField::create() {
+  return std::shared_ptr<FakeTextField>(new FakeTextField());
+}
+
+FakeTextField::FakeTextField() {
+  attributes[std::string(attribute::role)] = std::string(role::textArea);
+  attributes[std::string(attribute::value)] = std::string();
+  showCaret();
+  parameterized[std::string(attribute::stringForRange)] = [this](const AttributeValue& range) {
+    return std::optional<AttributeValue>(textIn(std::get<TextRange>(range)));
+  };
+  writers[std::string(attribute::selectedTextRange)] = [this](const AttributeValue& value) {
+    selection_ = std::get<TextRange>(value);
+    return AccessibilityStatus::success;
+  };
+  writers[std::string(attribute::selectedText)] = [this](const AttributeValue& value) {
+    return replaceSelection(std::get<std::string>(value));
+  };
+}
+
+void FakeTextField::type(const std::string& text) {
+  const auto typed = charactersOf(text);
+  characters_.insert(characters_.begin() + static_cast<std::ptrdiff_t>(caret_), typed.begin(), typed.end());
+  setCaret(caret_ + typed.size());
+}
+
+void FakeTextField::setCaret(std::size_t position) {
+  caret_ = position;
+  showCaret();
+}
+
+std::string FakeTextField::document() const {
+  std::string whole;
+  for (const std::string& character : characters_) whole += character;
+  return whole;
+}
+
+void FakeTextField::showCaret() {
+  attributes[std::string(attribute::selectedTextRange)] = TextRange{static_cast<std::int64_t>(caret_), 0};
+}
+
+std::string FakeTextField::textIn(const TextRange& range) const {
+  std::string found;
+  const std::int64_t end = range.location + range.length;
+  for (std::int64_t i = std::max<std::int64_t>(range.location, 0); i < end; ++i) {
+    found += characters_.at(static_cast<std::size_t>(i));
+  }
+  return found;
+}
+
+void FakeTextField::erase(const TextRange& range) {
+  const auto first = characters_.begin() + static_cast<std::ptrdiff_t>(range.location);
+  characters_.erase(first, first + static_cast<std::ptrdiff_t>(range.length));
+  setCaret(static_cast<std::size_t>(range.location));
+}
+
+AccessibilityStatus FakeTextField::replaceSelection(const std::string& text) {
+  if (writeResult == AccessibilityStatus::failure) return writeResult;
+  erase(selection_);
+  if (writeResult == AccessibilityStatus::success) type(text);
+  return writeResult;
+}
+
+}  // namespace tessarin::testing

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "support/FakeAccessibility.h"
+
+namespace tessarin::testing {
+
+/// A focused text field with a document behind it. Positions count characters.
+class FakeTextField : public FakeElement {
+ public:
+  static std::shared_ptr<FakeTextField> create();
+
+  /// Types characters at the caret.
+  void type(const std::string& text);
+  void setCaret(std::size_t position);
+  std::string document() const;
+  std::size_t caret() const { return caret_; }
+
+  /// What a write of the text answers; the document changes accordingly.
+  AccessibilityStatus writeResult = AccessibilityStatus::success;
+
+ private:
+  FakeTextField();
+  void showCaret();
+  std::string textIn(const TextRange& range) const;
+  void erase(const TextRange& range);
+  AccessibilityStatus replaceSelection(const std::string& text);
+
+  std::vector<std::string> characters_;
+  std::size_t caret_ = 0;
+  TextRange selection_;
+};
+
+}  // namespace tessarin::testing
