@@ -1,0 +1,44 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/Pasteboard.h"
+
+namespace tessarin {
+class MainQueue;
+}
+
+namespace tessarin::x11 {
+
+class SelectionChannel;
+class XThread;
+
+/// A selection as the main thread sees it: hands the work to the thread of the selections and brings the
+/// answers back. Its owner, X11Selections, outlives nothing that it refers to.
+class X11Pasteboard final : public Pasteboard {
+ public:
+  X11Pasteboard(MainQueue& queue, XThread& thread, std::shared_ptr<SelectionChannel> channel);
+  ~X11Pasteboard() override;
+
+  std::optional<std::string> string() override;
+  void snapshot(SnapshotReady ready) override;
+  /// Returns when the selection has been taken: a paste chord posted afterwards finds the text.
+  void writeText(const std::string& text) override;
+  void write(const std::vector<PasteboardItem>& items) override;
+  std::int64_t changeCount() const override;
+  bool hasBeenRead() const override;
+  void onRead(std::function<void()> callback) override;
+
+ private:
+  struct ReadState;
+
+  void runWrite(std::function<void(SelectionChannel&)> work);
+  std::function<void()> readObserver();
+
+  MainQueue& queue_;
+  XThread& thread_;
+  std::shared_ptr<SelectionChannel> channel_;
+  std::shared_ptr<ReadState> read_;
+};
+
+}  // namespace tessarin::x11

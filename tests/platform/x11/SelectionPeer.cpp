@@ -1,0 +1,288 @@
+#include "SelectionPeer.h"
+
+#include <sys/socket.h>
+
+#include <algorithm>
+#include <cstring>
+#include <stdexcept>
+
+namespace tessarin::testing {
+namespace {
+
+constexpr std::chrono::seconds patience{10};
+
+x11::XThread& running(const std::unique_ptr<x11::XThread>& thread) {
+  if (!thread) throw std::runtime_error("no display");
+  return *thread;
+}
+
+}  // namespace
+
+SelectionPeer::SelectionPeer(const std::string& display)
+    : thread_(x11::XThread::connect(display)),
+      atoms_(running(thread_).connection()),
+      window_(xcb_generate_id(thread_->connection())) {
+  const std::uint32_t values[] = {1, XCB_EVENT_MASK_PROPERTY_CHANGE};
+  xcb_create_window(thread_->connection(), XCB_COPY_FROM_PARENT, window_, thread_->screen()->root, 0, 0, 100,
+                    100, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
+                    XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values);
+  xcb_map_window(thread_->connection(), window_);
+  thread_->start([this](const xcb_generic_event_t& event) { handle(event); });
+}
+
+SelectionPeer::~SelectionPeer() {
+  thread_->stop();
+}
+
+void SelectionPeer::own(const std::string& selection, std::vector<PasteboardItem> items, Manner manner) {
+  thread_->call(
+      [&] {
+        items_ = std::move(items);
+        manner_ = manner;
+        const auto time = thread_->serverTime(window_);
+        xcb_set_selection_owner(thread_->connection(), window_, atoms_.atom(selection), time);
+        thread_->serverTime(window_);
+      },
+      patience);
+}
+
+void SelectionPeer::setPieceSize(std::size_t size) {
+  thread_->call([&] { pieceSize_ = size; }, patience);
+}
+
+void SelectionPeer::becomePrompt() {
+  thread_->call(
+      [&] {
+        manner_ = Manner::prompt;
+        for (const auto& request : unanswered_) answer(request);
+        unanswered_.clear();
+      },
+      patience);
+}
+
+std::size_t SelectionPeer::requests() {
+  std::size_t count = 0;
+  thread_->call([&] { count = requests_.size(); }, patience);
+  return count;
+}
+
+std::vector<std::string> SelectionPeer::requestedTargets() {
+  std::vector<std::string> names;
+  thread_->call(
+      [&] {
+        for (const auto& request : requests_) names.push_back(atoms_.name(request.target));
+      },
+      patience);
+  return names;
+}
+
+void SelectionPeer::takeFocus() {
+  thread_->call(
+      [&] {
+        xcb_set_input_focus(thread_->connection(), XCB_INPUT_FOCUS_PARENT, window_, XCB_CURRENT_TIME);
+        thread_->serverTime(window_);
+      },
+      patience);
+}
+
+void SelectionPeer::handle(const xcb_generic_event_t& event) {
+  const int type = event.response_type & 0x7f;
+  if (type == XCB_SELECTION_REQUEST) {
+    handleRequest(reinterpret_cast<const xcb_selection_request_event_t&>(event));
+  } else if (type == XCB_SELECTION_NOTIFY) {
+    handleNotify(reinterpret_cast<const xcb_selection_notify_event_t&>(event));
+  } else if (type == XCB_PROPERTY_NOTIFY) {
+    const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
+    if (change.window != window_) {
+      if (change.state == XCB_PROPERTY_DELETE) sendNextPiece(change.window, change.atom);
+    } else if (reading_ && reading_->isIncremental && change.state == XCB_PROPERTY_NEW_VALUE &&
+               change.atom == reading_->property) {
+      takeProperty(change.atom);
+    }
+  }
+}
+
+// Owning
+
+void SelectionPeer::handleRequest(const xcb_selection_request_event_t& request) {
+  requests_.push_back(request);
+  const bool asksWhat = request.target == atoms_.atom("TARGETS");
+  const bool answers = manner_ == Manner::prompt || manner_ == Manner::noTargets ||
+                       manner_ == Manner::leavesMidway || (manner_ == Manner::onlyTargets && asksWhat);
+  if (!answers) {
+    unanswered_.push_back(request);
+    return;
+  }
+  answer(request);
+  if (manner_ != Manner::leavesMidway || asksWhat) return;
+  xcb_flush(thread_->connection());
+  shutdown(xcb_get_file_descriptor(thread_->connection()), SHUT_RDWR);
+}
+
+void SelectionPeer::answer(const xcb_selection_request_event_t& request) {
+  if (request.target == atoms_.atom("TARGETS") && manner_ != Manner::noTargets) {
+    sendTargets(request);
+    notify(request, true);
+  } else {
+    notify(request, sendItem(request));
+  }
+}
+
+void SelectionPeer::sendTargets(const xcb_selection_request_event_t& request) {
+  std::vector<std::string> names = {"TIMESTAMP", "TARGETS", "MULTIPLE", "DELETE", "SAVE_TARGETS"};
+  for (const auto& item : items_) names.push_back(item.type);
+  const auto atoms = atoms_.atoms(names);
+  xcb_change_property(thread_->connection(), XCB_PROP_MODE_REPLACE, request.requestor, request.property,
+                      XCB_ATOM_ATOM, 32, static_cast<std::uint32_t>(atoms.size()), atoms.data());
+}
+
+bool SelectionPeer::sendItem(const xcb_selection_request_event_t& request) {
+  const auto name = atoms_.name(request.target);
+  const auto item =
+      std::find_if(items_.begin(), items_.end(), [&](const PasteboardItem& i) { return i.type == name; });
+  if (item == items_.end()) return false;
+  const bool isWhole = pieceSize_ == 0 || item->data.size() <= pieceSize_;
+  const auto size = static_cast<std::uint32_t>(item->data.size());
+  if (isWhole) {
+    xcb_change_property(thread_->connection(), XCB_PROP_MODE_REPLACE, request.requestor, request.property,
+                        request.target, 8, size, item->data.data());
+    return true;
+  }
+  const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
+  xcb_change_window_attributes(thread_->connection(), request.requestor, XCB_CW_EVENT_MASK, &events);
+  xcb_change_property(thread_->connection(), XCB_PROP_MODE_REPLACE, request.requestor, request.property,
+                      atoms_.atom("INCR"), 32, 1, &size);
+  sendings_.push_back({request.requestor, request.property, request.target, item->data, false});
+  return true;
+}
+
+void SelectionPeer::sendNextPiece(xcb_window_t requestor, xcb_atom_t property) {
+  for (auto& sending : sendings_) {
+    if (sending.requestor != requestor || sending.property != property || sending.lastSent) continue;
+    const std::string piece = sending.rest.substr(0, pieceSize_);
+    sending.rest.erase(0, piece.size());
+    sending.lastSent = piece.empty();
+    xcb_change_property(thread_->connection(), XCB_PROP_MODE_REPLACE, requestor, property, sending.type, 8,
+                        static_cast<std::uint32_t>(piece.size()), piece.data());
+  }
+}
+
+void SelectionPeer::notify(const xcb_selection_request_event_t& request, bool answered) {
+  xcb_selection_notify_event_t event{};
+  event.response_type = XCB_SELECTION_NOTIFY;
+  event.time = request.time;
+  event.requestor = request.requestor;
+  event.selection = request.selection;
+  event.target = request.target;
+  event.property = answered ? request.property : xcb_atom_t{XCB_ATOM_NONE};
+  char bytes[32] = {};
+  std::memcpy(bytes, &event, sizeof(event));
+  xcb_send_event(thread_->connection(), 0, request.requestor, 0, bytes);
+}
+
+// Reading
+
+std::shared_ptr<SelectionPeer::Reading> SelectionPeer::startReading(const std::string& selection,
+                                                                    const std::string& target, int pieces) {
+  auto reading = std::make_shared<Reading>();
+  reading->piecesLeft = pieces;
+  thread_->post([this, reading, selection, target] {
+    reading_ = reading;
+    xcb_convert_selection(thread_->connection(), window_, atoms_.atom(selection), atoms_.atom(target),
+                          atoms_.atom("PEER_DATA"), XCB_CURRENT_TIME);
+  });
+  return reading;
+}
+
+std::optional<std::string> SelectionPeer::read(const std::string& selection, const std::string& target) {
+  const auto reading = startReading(selection, target, -1);
+  std::unique_lock lock(reading->mutex);
+  reading->changed.wait_for(lock, patience, [&] { return reading->isDone; });
+  return reading->isDone ? reading->data : std::nullopt;
+}
+
+void SelectionPeer::readPieces(const std::string& selection, const std::string& target, int pieces) {
+  const auto reading = startReading(selection, target, pieces);
+  std::unique_lock lock(reading->mutex);
+  reading->changed.wait_for(lock, patience, [&] { return reading->piecesLeft == 0; });
+}
+
+std::vector<std::string> SelectionPeer::targets(const std::string& selection) {
+  const auto data = read(selection, "TARGETS");
+  if (!data) return {};
+  std::vector<xcb_atom_t> atoms(data->size() / 4);
+  std::memcpy(atoms.data(), data->data(), atoms.size() * 4);
+  std::vector<std::string> names;
+  thread_->call([&] { names = atoms_.names(atoms); }, patience);
+  return names;
+}
+
+std::map<std::string, std::string> SelectionPeer::readMultiple(const std::string& selection,
+                                                               const std::vector<std::string>& targets) {
+  thread_->call(
+      [&] {
+        std::vector<xcb_atom_t> pairs;
+        for (const auto& target : targets) {
+          pairs.push_back(atoms_.atom(target));
+          pairs.push_back(atoms_.atom("PEER_" + target));
+        }
+        xcb_change_property(thread_->connection(), XCB_PROP_MODE_REPLACE, window_, atoms_.atom("PEER_DATA"),
+                            atoms_.atom("ATOM_PAIR"), 32, static_cast<std::uint32_t>(pairs.size()),
+                            pairs.data());
+      },
+      patience);
+  const auto pairs = read(selection, "MULTIPLE");
+  std::map<std::string, std::string> values;
+  thread_->call(
+      [&] {
+        for (std::size_t i = 0; pairs && i < pairs->size() / 8; ++i) {
+          xcb_atom_t property = XCB_ATOM_NONE;
+          std::memcpy(&property, pairs->data() + i * 8 + 4, 4);
+          if (property != XCB_ATOM_NONE) values[targets[i]] = takenProperty(property);
+        }
+      },
+      patience);
+  return values;
+}
+
+std::string SelectionPeer::takenProperty(xcb_atom_t property) {
+  const x11::Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+      thread_->connection(),
+      xcb_get_property(thread_->connection(), 1, window_, property, XCB_GET_PROPERTY_TYPE_ANY, 0, 0x1fffffff),
+      nullptr));
+  return {static_cast<const char*>(xcb_get_property_value(reply.get())),
+          static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
+}
+
+void SelectionPeer::handleNotify(const xcb_selection_notify_event_t& event) {
+  if (!reading_) return;
+  if (event.property == XCB_ATOM_NONE) {
+    const std::lock_guard lock(reading_->mutex);
+    reading_->isDone = true;
+    reading_->changed.notify_all();
+    return;
+  }
+  reading_->property = event.property;
+  takeProperty(event.property);
+}
+
+void SelectionPeer::takeProperty(xcb_atom_t property) {
+  const auto connection = thread_->connection();
+  if (reading_->piecesLeft == 0) return;
+  const x11::Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+      connection, xcb_get_property(connection, 1, window_, property, 0, 0, 0x1fffffff), nullptr));
+  if (!reply) return;
+  const std::lock_guard lock(reading_->mutex);
+  if (reply->type == atoms_.atom("INCR")) {
+    reading_->isIncremental = true;
+    return;
+  }
+  const auto length = static_cast<std::size_t>(xcb_get_property_value_length(reply.get()));
+  if (!reading_->data) reading_->data.emplace();
+  reading_->data->append(static_cast<const char*>(xcb_get_property_value(reply.get())), length);
+  reading_->isDone = !reading_->isIncremental || length == 0;
+  if (reading_->piecesLeft > 0) --reading_->piecesLeft;
+  reading_->changed.notify_all();
+}
+
+}  // namespace tessarin::testing

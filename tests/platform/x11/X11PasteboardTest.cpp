@@ -1,0 +1,341 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <thread>
+
+#include "SelectionPeer.h"
+#include "platform/x11/SelectionTargets.h"
+#include "platform/x11/X11Selections.h"
+#include "support/Eventually.h"
+#include "support/LogRecorder.h"
+#include "support/ManualMainQueue.h"
+#include "support/PasteboardSuite.h"
+#include "support/TemporaryFolder.h"
+#include "support/desktop/PrivateDisplay.h"
+
+namespace tessarin::testing {
+namespace {
+
+using namespace std::chrono_literals;
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::IsSupersetOf;
+using ::testing::Not;
+using Manner = SelectionPeer::Manner;
+using Items = std::vector<PasteboardItem>;
+using SnapshotRef = std::shared_ptr<const PasteboardSnapshot>;
+
+const PrivateDisplay& display() {
+  static const PrivateDisplay shared;
+  return shared;
+}
+
+/// Bytes of every value, so that nothing that treats some of them in its own way goes unnoticed.
+std::string blob(std::size_t size) {
+  std::string bytes(size, '\0');
+  std::uint32_t state = 1;
+  for (char& byte : bytes) {
+    state = state * 1664525 + 1013904223;
+    byte = static_cast<char>(state >> 24);
+  }
+  return bytes;
+}
+
+struct X11PasteboardWorld {
+  Pasteboard& pasteboard() { return selections->general(); }
+  void copyElsewhere(Items items) {
+    peer.own("CLIPBOARD", std::move(items));
+    pasteboard().string();  // the news of it, which travels by itself, has come before this answer
+  }
+  std::optional<std::string> pasteIntoFocusedApplication() {
+    peer.takeFocus();
+    return peer.read("CLIPBOARD", "UTF8_STRING");
+  }
+  template <class Condition>
+  bool waitFor(Condition condition) {
+    return eventually(condition, [this] { queue.runReady(); });
+  }
+  SnapshotRef startSnapshot() {
+    SnapshotRef ready;
+    selections->general().snapshot([&ready](SnapshotRef taken) { ready = std::move(taken); });
+    waitFor([&ready] { return ready != nullptr; });
+    return ready;
+  }
+  SnapshotRef wholeSnapshot() {
+    auto taken = startSnapshot();
+    waitFor([&taken] { return taken->isComplete; });
+    return taken;
+  }
+
+  ManualMainQueue queue;
+  std::unique_ptr<x11::X11Selections> selections = x11::X11Selections::connect(queue, display().name());
+  SelectionPeer peer{display().name()};
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(X11, PasteboardSuite, ::testing::Types<X11PasteboardWorld>);
+
+class X11PasteboardTest : public ::testing::Test {
+ protected:
+  Pasteboard& pasteboard() { return world.pasteboard(); }
+  SelectionPeer& peer() { return world.peer; }
+
+  X11PasteboardWorld world;
+};
+
+struct Copied {
+  std::string name;
+  Items items;
+  std::size_t pieceSize = 0;
+};
+
+Items fortyTypes() {
+  Items items;
+  for (int i = 0; i < 40; ++i) items.push_back({"application/x-type-" + std::to_string(i), blob(i * 1000)});
+  return items;
+}
+
+class X11Restoring : public X11PasteboardTest, public ::testing::WithParamInterface<Copied> {};
+
+TEST_P(X11Restoring, PutsBackEveryByteInOrder) {
+  peer().setPieceSize(GetParam().pieceSize);
+  peer().own("CLIPBOARD", GetParam().items);
+  const auto saved = world.wholeSnapshot();
+  ASSERT_EQ(saved->items, GetParam().items);
+  pasteboard().writeText("for one paste");
+  pasteboard().write(saved->items);
+  auto offered = peer().targets("CLIPBOARD");
+  std::erase_if(offered, [](const std::string& name) { return !x11::isContentTarget(name); });
+  ASSERT_EQ(offered.size(), GetParam().items.size());
+  for (std::size_t i = 0; i < offered.size(); ++i) {
+    EXPECT_EQ(offered[i], GetParam().items[i].type);
+    EXPECT_TRUE(peer().read("CLIPBOARD", offered[i]) == GetParam().items[i].data) << offered[i];
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Contents, X11Restoring,
+    ::testing::Values(
+        Copied{"text", {{"UTF8_STRING", "Grüße 👋🏽\n"}, {"STRING", "Gr\xfc\xdf"}}},
+        Copied{"emptyText", {{"UTF8_STRING", ""}}},
+        Copied{"htmlAndText", {{"text/html", "<p>a\0b</p>"}, {"text/plain;charset=utf-8", "ab"}}},
+        Copied{"picture", {{"image/png", blob(5'000'000)}}},
+        Copied{"pictureInPieces", {{"image/png", blob(5'000'000)}, {"text/html", blob(70'000)}}, 65'536},
+        Copied{"files",
+               {{"x-special/gnome-copied-files", "copy\nfile:///a%20b"},
+                {"text/uri-list", "file:///a%20b\r\n"}}},
+        Copied{"fortyTypes", fortyTypes()}, Copied{"fortyTypesInPieces", fortyTypes(), 10'000},
+        Copied{"secret", {{"UTF8_STRING", "pass"}, {"x-kde-passwordManagerHint", "secret"}}}),
+    [](const auto& tested) { return tested.param.name; });
+
+TEST_F(X11PasteboardTest, WorksWithACommandLineClient) {
+  const TemporaryFolder folder;
+  folder.write("in", blob(1'000'000));
+  const auto shell = [](const std::string& command) { return display().run({"sh", "-c", command}); };
+  ASSERT_EQ(shell("xclip -selection clipboard -t image/png -i '" + (folder / "in").string() + "'"), 0);
+  const auto saved = world.wholeSnapshot();
+  EXPECT_THAT(saved->items, ElementsAre(PasteboardItem{"image/png", folder.read("in")}));
+  pasteboard().writeText("für 😀");
+  ASSERT_EQ(shell("xclip -selection clipboard -o > '" + (folder / "text").string() + "'"), 0);
+  EXPECT_EQ(folder.read("text"), "für 😀");
+  pasteboard().write(saved->items);
+  ASSERT_EQ(shell("xclip -selection clipboard -t image/png -o > '" + (folder / "out").string() + "'"), 0);
+  EXPECT_TRUE(folder.read("out") == folder.read("in"));
+}
+
+TEST_F(X11PasteboardTest, KeepsTheTwoSelectionsApart) {
+  world.selections->primary().writeText("selected");
+  pasteboard().writeText("copied");
+  EXPECT_EQ(peer().read("PRIMARY", "UTF8_STRING"), "selected");
+  EXPECT_EQ(peer().read("CLIPBOARD", "UTF8_STRING"), "copied");
+}
+
+TEST_F(X11PasteboardTest, OffersTextInEveryUsualForm) {
+  pasteboard().writeText("é");
+  EXPECT_THAT(peer().targets("CLIPBOARD"),
+              IsSupersetOf({"TARGETS", "TIMESTAMP", "MULTIPLE", "UTF8_STRING", "text/plain;charset=utf-8",
+                            "text/plain", "TEXT", "STRING", "x-kde-passwordManagerHint"}));
+  EXPECT_EQ(peer().read("CLIPBOARD", "STRING"), "\xe9");
+  EXPECT_EQ(peer().read("CLIPBOARD", "TEXT"), "é");
+  EXPECT_EQ(peer().read("CLIPBOARD", "x-kde-passwordManagerHint"), "secret");
+  EXPECT_EQ(peer().read("CLIPBOARD", "image/png"), std::nullopt);
+  const std::map<std::string, std::string> several = {{"UTF8_STRING", "é"}, {"STRING", "\xe9"}};
+  EXPECT_EQ(peer().readMultiple("CLIPBOARD", {"UTF8_STRING", "image/png", "STRING"}), several);
+  pasteboard().writeText("😀");
+  EXPECT_THAT(peer().targets("CLIPBOARD"), Not(Contains("STRING")));
+}
+
+TEST_F(X11PasteboardTest, ReadsOlderForms) {
+  peer().own("CLIPBOARD", {{"STRING", "caf\xe9"}});
+  EXPECT_EQ(pasteboard().string(), "café");
+  peer().own("CLIPBOARD", {{"text/plain;charset=utf-8", "café"}});
+  EXPECT_EQ(pasteboard().string(), "café");
+  peer().setPieceSize(1000);
+  peer().own("CLIPBOARD", {{"UTF8_STRING", std::string(9999, 'x')}});
+  EXPECT_EQ(pasteboard().string(), std::string(9999, 'x'));
+}
+
+TEST_F(X11PasteboardTest, AsksForNothingThatHasEffects) {
+  peer().own("CLIPBOARD", {{"UTF8_STRING", "b"}});
+  world.wholeSnapshot();
+  EXPECT_THAT(peer().requestedTargets(), ElementsAre("TARGETS", "UTF8_STRING"));
+}
+
+TEST_F(X11PasteboardTest, AsksBlindlyAnOwnerThatDoesNotSayWhatItHas) {
+  peer().own("CLIPBOARD", {{"UTF8_STRING", "b"}, {"text/html", "<b>"}}, Manner::noTargets);
+  EXPECT_THAT(world.wholeSnapshot()->items,
+              ElementsAre(PasteboardItem{"UTF8_STRING", "b"}, PasteboardItem{"text/html", "<b>"}));
+}
+
+TEST_F(X11PasteboardTest, LosesPatienceWithAHungOwner) {
+  LogRecorder log;
+  peer().own("CLIPBOARD", {{"UTF8_STRING", "secret words"}}, Manner::silent);
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(pasteboard().string(), std::nullopt);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, 190ms);
+  const auto taken = world.startSnapshot();
+  EXPECT_FALSE(taken->isComplete);
+  EXPECT_THAT(taken->items, IsEmpty());
+  EXPECT_TRUE(world.waitFor([&] { return taken->isComplete; }));
+  EXPECT_THAT(log.lines, ElementsAre(HasSubstr("were not delivered in time")));
+  EXPECT_THAT(log.lines.front(), Not(HasSubstr("secret")));
+}
+
+class X11LateDelivery : public X11PasteboardTest, public ::testing::WithParamInterface<Manner> {};
+
+TEST_P(X11LateDelivery, FillsTheSnapshotAfterTheSelectionHasChangedHands) {
+  const Items items = {{"UTF8_STRING", "b"}, {"text/html", blob(100'000)}, {"image/png", blob(1000)}};
+  peer().own("CLIPBOARD", items, GetParam());
+  const auto taken = world.startSnapshot();
+  ASSERT_FALSE(taken->isComplete);
+  pasteboard().writeText("ours");
+  peer().becomePrompt();
+  EXPECT_TRUE(world.waitFor([&] { return taken->isComplete; }));
+  EXPECT_EQ(taken->items, items);
+  EXPECT_EQ(pasteboard().string(), "ours");
+}
+
+INSTANTIATE_TEST_SUITE_P(Owners, X11LateDelivery, ::testing::Values(Manner::silent, Manner::onlyTargets));
+
+TEST_F(X11PasteboardTest, KeepsWhatAnOwnerDeliveredBeforeItEnded) {
+  auto leaving = std::make_unique<SelectionPeer>(display().name());
+  leaving->own("CLIPBOARD", {{"UTF8_STRING", "first"}, {"text/html", "second"}}, Manner::leavesMidway);
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_THAT(world.wholeSnapshot()->items, ElementsAre(PasteboardItem{"UTF8_STRING", "first"}));
+  EXPECT_LT(std::chrono::steady_clock::now() - start, 900ms);
+}
+
+TEST_F(X11PasteboardTest, ForgetsWhatItOwnedWhenAnotherProgramCopies) {
+  pasteboard().writeText("ours");
+  world.copyElsewhere({{"UTF8_STRING", "theirs"}});
+  EXPECT_EQ(pasteboard().string(), "theirs");
+}
+
+TEST_F(X11PasteboardTest, CountsOneChangeForEachWrite) {
+  for (int i = 0; i < 20; ++i) {
+    const auto before = pasteboard().changeCount();
+    if (i % 3 == 0) {
+      pasteboard().write({});
+    } else {
+      pasteboard().writeText("text");
+    }
+    pasteboard().string();  // later news of our own writing would have come by now
+    EXPECT_EQ(pasteboard().changeCount(), before + 1);
+  }
+}
+
+TEST_F(X11PasteboardTest, CountsOnlyTheFocusedProgramReadingText) {
+  SelectionPeer manager(display().name());
+  peer().takeFocus();
+  pasteboard().writeText("text");
+  manager.read("CLIPBOARD", "UTF8_STRING");
+  peer().targets("CLIPBOARD");
+  peer().read("CLIPBOARD", "x-kde-passwordManagerHint");
+  pasteboard().string();
+  world.queue.runReady();
+  EXPECT_FALSE(pasteboard().hasBeenRead());
+  peer().read("CLIPBOARD", "text/plain");
+  EXPECT_TRUE(world.waitFor([&] { return pasteboard().hasBeenRead(); }));
+}
+
+TEST_F(X11PasteboardTest, CountsTheProgramThatHadTheFocusWhenTheTextWasWritten) {
+  SelectionPeer other(display().name());
+  peer().takeFocus();
+  pasteboard().writeText("text");
+  other.takeFocus();
+  peer().read("CLIPBOARD", "UTF8_STRING");
+  EXPECT_TRUE(world.waitFor([&] { return pasteboard().hasBeenRead(); }));
+}
+
+TEST_F(X11PasteboardTest, CountsLargeTextOnlyWhenItWasReadToTheEnd) {
+  const std::string text(2'000'000, 'x');
+  peer().takeFocus();
+  pasteboard().writeText(text);
+  peer().readPieces("CLIPBOARD", "UTF8_STRING", 2);
+  pasteboard().string();
+  world.queue.runReady();
+  EXPECT_FALSE(pasteboard().hasBeenRead());
+  EXPECT_TRUE(peer().read("CLIPBOARD", "UTF8_STRING") == text);
+  EXPECT_TRUE(world.waitFor([&] { return pasteboard().hasBeenRead(); }));
+}
+
+TEST_F(X11PasteboardTest, AReadOfTheTextBeforeDoesNotCountForTheNext) {
+  peer().takeFocus();
+  pasteboard().writeText("one");
+  peer().read("CLIPBOARD", "UTF8_STRING");
+  pasteboard().writeText("two");
+  pasteboard().string();
+  world.queue.runReady();
+  EXPECT_FALSE(pasteboard().hasBeenRead());
+}
+
+TEST_F(X11PasteboardTest, ASlowReaderGetsTheWholeOfTheOldText) {
+  const std::string text = blob(1'000'000);
+  pasteboard().write({{"text/html", text}});
+  std::optional<std::string> read;
+  std::thread reader([&] { read = peer().read("CLIPBOARD", "text/html"); });
+  pasteboard().writeText("new");
+  reader.join();
+  EXPECT_TRUE(read == text || read == std::nullopt);
+}
+
+TEST_F(X11PasteboardTest, HandsOverToTheClipboardManagerAtTheEnd) {
+  SelectionPeer manager(display().name());
+  manager.own("CLIPBOARD_MANAGER", {{"SAVE_TARGETS", ""}}, Manner::silent);
+  pasteboard().write({{"UTF8_STRING", "kept"}});
+  std::thread ending([&] { world.selections->shutdown(); });
+  EXPECT_TRUE(eventually([&] { return manager.requests() == 1; }));
+  EXPECT_EQ(manager.read("CLIPBOARD", "UTF8_STRING"), "kept");
+  manager.becomePrompt();
+  ending.join();
+  EXPECT_THAT(manager.requestedTargets(), ElementsAre("SAVE_TARGETS"));
+}
+
+TEST_F(X11PasteboardTest, KeepsSecretsFromTheClipboardManager) {
+  SelectionPeer manager(display().name());
+  manager.own("CLIPBOARD_MANAGER", {}, Manner::silent);
+  pasteboard().writeText("for one paste");
+  world.selections->shutdown();
+  EXPECT_EQ(manager.requests(), 0U);
+}
+
+TEST_F(X11PasteboardTest, DoesNotWaitForeverForTheClipboardManager) {
+  LogRecorder log;
+  SelectionPeer manager(display().name());
+  manager.own("CLIPBOARD_MANAGER", {}, Manner::silent);
+  pasteboard().write({{"UTF8_STRING", "kept"}});
+  world.selections->shutdown();
+  EXPECT_EQ(manager.requests(), 1U);
+  EXPECT_THAT(log.lines, ElementsAre(HasSubstr("did not take over")));
+}
+
+TEST(X11Selections, AnswersThatThereIsNoServer) {
+  ManualMainQueue queue;
+  EXPECT_EQ(x11::X11Selections::connect(queue, ":99999"), nullptr);
+}
+
+}  // namespace
+}  // namespace tessarin::testing

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <chrono>
+#include <thread>
+
+namespace tessarin::testing {
+
+/// Waits for a condition that another thread or process brings about. `turn` runs between two looks, to let
+/// queued work happen. False when it has not come about in time.
+template <class Condition, class Turn>
+bool eventually(Condition condition, Turn turn,
+                std::chrono::milliseconds patience = std::chrono::seconds(20)) {
+  const auto deadline = std::chrono::steady_clock::now() + patience;
+  for (;;) {
+    turn();
+    if (condition()) return true;
+    if (std::chrono::steady_clock::now() > deadline) return false;
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
+}
+
+template <class Condition>
+bool eventually(Condition condition) {
+  return eventually(condition, [] {});
+}
+
+}  // namespace tessarin::testing
