@@ -1,0 +1,228 @@
+#include "platform/atspi/AtspiAccessibility.h"
+
+#include <thread>
+#include <utility>
+
+#include "platform/atspi/Roles.h"
+
+namespace tessarin::atspi {
+namespace {
+
+constexpr int farthestWindow = 32;
+constexpr std::size_t mostToolkits = 64;
+
+const AtspiElement* known(const ElementRef& element) {
+  return dynamic_cast<const AtspiElement*>(element.get());
+}
+
+std::optional<AttributeValue> element(const std::optional<ObjectReference>& object) {
+  if (!object) return std::nullopt;
+  return ElementRef(std::make_shared<AtspiElement>(*object));
+}
+
+}  // namespace
+
+AtspiAccessibility::AtspiAccessibility(MainQueue& queue, Options options)
+    : options_(std::move(options)),
+      watcher_(options_.sessionBusAddress, options_.ownProcess, [&queue, weak = std::weak_ptr(focusMoved_)] {
+        queue.async([weak] {
+          if (const auto signal = weak.lock()) signal->emit();
+        });
+      }) {}
+
+AtspiAccessibility::~AtspiAccessibility() = default;
+
+bool AtspiAccessibility::isTrusted() {
+  return options_.isTrusted && options_.isTrusted();
+}
+
+void AtspiAccessibility::prompt() {
+  if (options_.prompt) options_.prompt();
+}
+
+ElementRef AtspiAccessibility::systemWide() {
+  return std::make_shared<AtspiElement>();
+}
+
+void AtspiAccessibility::beginBudget(std::chrono::milliseconds budget) {
+  channel_.budget().open(budget);
+}
+
+bool AtspiAccessibility::pause(std::chrono::milliseconds duration) {
+  if (channel_.budget().allowance(duration) < duration) return false;
+  std::this_thread::sleep_for(duration);
+  channel_.budget().charge(duration);
+  return true;
+}
+
+Subscription AtspiAccessibility::onFocusMoved(std::function<void()> callback) {
+  return focusMoved_->subscribe(std::move(callback));
+}
+
+void AtspiAccessibility::prepare() {
+  if (ConnectionPtr connection = watcher_.takeCallConnection()) {
+    toolkits_.clear();
+    channel_.use(std::move(connection));
+  }
+  if (!channel_.isConnected()) watcher_.requestConnection();
+}
+
+std::optional<AttributeValue> AtspiAccessibility::attribute(const ElementRef& element,
+                                                            std::string_view name) {
+  const AtspiElement* asked = known(element);
+  if (asked == nullptr) return std::nullopt;
+  prepare();
+  if (asked->isSystemWide()) {
+    return name == attribute::focusedApplication ? focusedApplication() : std::nullopt;
+  }
+  return asked->isApplication() ? ofApplication(*asked, name) : ofObject(asked->object(), name);
+}
+
+AtspiAccessibility::Value AtspiAccessibility::focusedApplication() {
+  const FocusModel::Focus focus = watcher_.focus();
+  const auto& known = focus.element ? focus.element : focus.window;
+  if (!known) return std::nullopt;
+  return atspi::element(ObjectReference{known->bus, applicationPath});
+}
+
+AtspiAccessibility::Value AtspiAccessibility::ofApplication(const AtspiElement& application,
+                                                            std::string_view name) {
+  const std::string& bus = application.object().bus;
+  const FocusModel::Focus focus = watcher_.focus();
+  const bool hasElement = focus.element && focus.element->bus == bus;
+  if (name == attribute::focusedElement) return hasElement ? atspi::element(focus.element) : std::nullopt;
+  if (name != attribute::focusedWindow) return std::nullopt;
+  if (focus.window && focus.window->bus == bus) return atspi::element(focus.window);
+  return hasElement ? windowOf(*focus.element) : std::nullopt;
+}
+
+AtspiAccessibility::Value AtspiAccessibility::windowOf(ObjectReference object) {
+  for (int step = 0; step < farthestWindow; ++step) {
+    RemoteObject remote(channel_, object);
+    const auto role = remote.role();
+    if (!role) return std::nullopt;
+    if (isWindow(*role)) return atspi::element(object);
+    auto parent = remote.parent();
+    if (!parent) return std::nullopt;
+    object = *std::move(parent);
+  }
+  return std::nullopt;
+}
+
+AtspiAccessibility::Value AtspiAccessibility::ofObject(const ObjectReference& object, std::string_view name) {
+  if (name == attribute::role) return role(object);
+  if (name == attribute::parent) return atspi::element(RemoteObject(channel_, object).parent());
+  if (name == attribute::value) return valueOf(object);
+  if (name == attribute::selectedTextRange) {
+    auto text = textOf(object);
+    const auto range = text ? text->selectedRange() : std::nullopt;
+    return range ? Value(*range) : std::nullopt;
+  }
+  if (name != attribute::position && name != attribute::size) return std::nullopt;
+  const auto rect = extents(object);
+  if (!rect) return std::nullopt;
+  if (name == attribute::position) return Point{rect->x, rect->y};
+  return Size{rect->width, rect->height};
+}
+
+AtspiAccessibility::Value AtspiAccessibility::role(const ObjectReference& object) {
+  RemoteObject remote(channel_, object);
+  const auto number = remote.role();
+  if (!number) return std::nullopt;
+  std::uint64_t states = 0;
+  std::string tag;
+  if (isPlainText(*number)) {
+    states = remote.states().value_or(0);
+    const auto counts = toolkit(object.bus);
+    if (counts && counts->showsWebPages) tag = remote.attribute("tag");
+  }
+  return std::string(roleName(*number, states, tag));
+}
+
+AtspiAccessibility::Value AtspiAccessibility::valueOf(const ObjectReference& object) {
+  RemoteObject remote(channel_, object);
+  const auto role = remote.role();
+  if (!role || *role == busRole::terminal) return std::nullopt;
+  if ((remote.states().value_or(0) & busState::editable) == 0) return std::nullopt;
+  if (!remote.hasInterface("org.a11y.atspi.EditableText")) return std::nullopt;
+  return std::string();
+}
+
+std::optional<Toolkit> AtspiAccessibility::toolkit(const std::string& bus) {
+  if (const auto cached = toolkits_.find(bus); cached != toolkits_.end()) return cached->second;
+  constexpr const char* interface = "org.a11y.atspi.Application";
+  RemoteObject application(channel_, {bus, applicationPath});
+  const auto name = application.stringProperty(interface, "ToolkitName");
+  const auto version = application.stringProperty(interface, "Version");
+  if (!name || !version) return std::nullopt;
+  // Names on the bus are never given out twice, so entries only pile up.
+  if (toolkits_.size() >= mostToolkits) toolkits_.clear();
+  return toolkits_[bus] = Toolkit::named(*name, *version);
+}
+
+std::optional<RemoteText> AtspiAccessibility::textOf(const ObjectReference& object) {
+  const auto counts = toolkit(object.bus);
+  if (!counts) return std::nullopt;
+  return std::optional<RemoteText>(std::in_place, channel_, object, *counts);
+}
+
+std::optional<Rect> AtspiAccessibility::toPoints(const Rect& pixels, bool isWindowRelative) {
+  Rect onScreen = pixels;
+  if (isWindowRelative) {
+    const auto origin = options_.activeWindowOrigin ? options_.activeWindowOrigin() : std::nullopt;
+    if (!origin) return std::nullopt;
+    onScreen.x += origin->x;
+    onScreen.y += origin->y;
+  }
+  return options_.coordinateSpace ? options_.coordinateSpace().toPoints(onScreen) : onScreen;
+}
+
+std::optional<Rect> AtspiAccessibility::extents(const ObjectReference& object) {
+  const auto counts = toolkit(object.bus);
+  if (!counts) return std::nullopt;
+  const auto pixels = RemoteObject(channel_, object).extents(counts->isWindowRelative);
+  return pixels ? toPoints(*pixels, counts->isWindowRelative) : std::nullopt;
+}
+
+std::optional<AttributeValue> AtspiAccessibility::parameterizedAttribute(const ElementRef& element,
+                                                                         std::string_view name,
+                                                                         const AttributeValue& parameter) {
+  const AtspiElement* asked = known(element);
+  const auto* range = std::get_if<TextRange>(&parameter);
+  if (asked == nullptr || asked->isSystemWide() || range == nullptr) return std::nullopt;
+  if (name != attribute::stringForRange && name != attribute::boundsForRange) return std::nullopt;
+  prepare();
+  auto text = textOf(asked->object());
+  if (!text) return std::nullopt;
+  if (name == attribute::stringForRange) {
+    auto string = text->string(*range);
+    return string ? Value(*std::move(string)) : std::nullopt;
+  }
+  const auto pixels = text->caretBounds(*range);
+  const auto points = pixels ? toPoints(*pixels, text->toolkit().isWindowRelative) : std::nullopt;
+  return points ? Value(*points) : std::nullopt;
+}
+
+AccessibilityStatus AtspiAccessibility::setAttribute(const ElementRef& element, std::string_view name,
+                                                     const AttributeValue& value) {
+  const AtspiElement* asked = known(element);
+  if (asked == nullptr || asked->isSystemWide()) return AccessibilityStatus::failure;
+  if (name == attribute::selectedTextRange) {
+    const auto* range = std::get_if<TextRange>(&value);
+    if (range == nullptr) return AccessibilityStatus::failure;
+    // Selecting for real would flicker and take the user's PRIMARY selection.
+    selection_ = Selection{asked->object(), *range};
+    return AccessibilityStatus::success;
+  }
+  const auto* string = std::get_if<std::string>(&value);
+  const auto selection = std::exchange(selection_, std::nullopt);
+  if (name != attribute::selectedText || string == nullptr || !selection ||
+      selection->object != asked->object()) {
+    return AccessibilityStatus::failure;
+  }
+  prepare();
+  auto text = textOf(asked->object());
+  return text ? text->replace(selection->range, *string) : AccessibilityStatus::failure;
+}
+
+}  // namespace tessarin::atspi

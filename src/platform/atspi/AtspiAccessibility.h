@@ -1,0 +1,87 @@
+#pragma once
+
+#include <unistd.h>
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "base/Signal.h"
+#include "platform/Accessibility.h"
+#include "platform/CoordinateSpace.h"
+#include "platform/MainQueue.h"
+#include "platform/atspi/AtspiElement.h"
+#include "platform/atspi/CallChannel.h"
+#include "platform/atspi/FocusWatcher.h"
+#include "platform/atspi/RemoteText.h"
+#include "platform/atspi/TextUnit.h"
+
+namespace tessarin::atspi {
+
+/// Accessibility over the AT-SPI bus, spoken directly: its client library keeps a copy of every tree that it
+/// touches and follows all of its changes, which costs memory and wake-ups with a browser open, and its calls
+/// cannot be bounded one by one.
+class AtspiAccessibility final : public Accessibility {
+ public:
+  struct Options {
+    std::function<bool()> isTrusted;
+    std::function<void()> prompt;
+    /// Asked at every rectangle, for its scale.
+    std::function<CoordinateSpace()> coordinateSpace;
+    /// Top left of the active window's visible frame on the screen, in pixels. Some applications (GTK 4) know
+    /// rectangles relative to their window only; without this they have none.
+    std::function<std::optional<Point>()> activeWindowOrigin;
+    /// Empty for the environment's.
+    std::string sessionBusAddress;
+    /// Whose windows are nobody's: a call into our own process would wait for itself.
+    std::uint32_t ownProcess = static_cast<std::uint32_t>(getpid());
+  };
+
+  /// `queue` outlives this object.
+  AtspiAccessibility(MainQueue& queue, Options options);
+  ~AtspiAccessibility() override;
+
+  bool isTrusted() override;
+  void prompt() override;
+  ElementRef systemWide() override;
+  std::optional<AttributeValue> attribute(const ElementRef& element, std::string_view name) override;
+  std::optional<AttributeValue> parameterizedAttribute(const ElementRef& element, std::string_view name,
+                                                       const AttributeValue& parameter) override;
+  AccessibilityStatus setAttribute(const ElementRef& element, std::string_view name,
+                                   const AttributeValue& value) override;
+  Subscription onFocusMoved(std::function<void()> callback) override;
+  void beginBudget(std::chrono::milliseconds budget) override;
+  bool pause(std::chrono::milliseconds duration) override;
+
+ private:
+  using Value = std::optional<AttributeValue>;
+
+  void prepare();
+  Value focusedApplication();
+  Value ofApplication(const AtspiElement& application, std::string_view name);
+  Value ofObject(const ObjectReference& object, std::string_view name);
+  Value role(const ObjectReference& object);
+  Value valueOf(const ObjectReference& object);
+  Value windowOf(ObjectReference object);
+  /// None without the origin that window-relative rectangles need.
+  std::optional<Rect> toPoints(const Rect& pixels, bool isWindowRelative);
+  std::optional<Rect> extents(const ObjectReference& object);
+  std::optional<Toolkit> toolkit(const std::string& bus);
+  std::optional<RemoteText> textOf(const ObjectReference& object);
+
+  const Options options_;
+  CallChannel channel_;
+  std::map<std::string, Toolkit> toolkits_;
+  struct Selection {
+    ObjectReference object;
+    TextRange range;
+  };
+  std::optional<Selection> selection_;
+  std::shared_ptr<Signal<>> focusMoved_ = std::make_shared<Signal<>>();
+  FocusWatcher watcher_;
+};
+
+}  // namespace tessarin::atspi

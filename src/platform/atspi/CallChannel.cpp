@@ -1,0 +1,77 @@
+#include "platform/atspi/CallChannel.h"
+
+#include <utility>
+
+namespace tessarin::atspi {
+
+using Clock = std::chrono::steady_clock;
+
+void CallChannel::use(ConnectionPtr connection) {
+  owed_.clear();
+  connection_ = std::move(connection);
+}
+
+bool CallChannel::isConnected() const {
+  return connection_ && dbus_connection_get_is_connected(connection_.get());
+}
+
+Answer CallChannel::call(MessagePtr request) {
+  const std::string bus = dbus_message_get_destination(request.get());
+  const auto longest = budget_.allowance(longestCall);
+  if (!isConnected() || longest == CallBudget::Duration::zero() || isPassedOver(bus)) return {};
+  DBusPendingCall* sent = nullptr;
+  if (!dbus_connection_send_with_reply(connection_.get(), request.get(), &sent, DBUS_TIMEOUT_INFINITE) ||
+      sent == nullptr) {
+    return {};
+  }
+  PendingCallPtr pending(sent);
+  if (wait(pending.get(), longest)) return answered(pending.get());
+  owed_[bus] = std::move(pending);
+  return {Answer::Kind::unanswered, nullptr};
+}
+
+Answer CallChannel::awaitOwed(const std::string& bus) {
+  const auto owed = owed_.find(bus);
+  if (owed == owed_.end()) return {};
+  if (!wait(owed->second.get(), budget_.allowance(longestCall))) return {Answer::Kind::unanswered, nullptr};
+  const PendingCallPtr pending = std::move(owed->second);
+  owed_.erase(owed);
+  return answered(pending.get());
+}
+
+bool CallChannel::isPassedOver(const std::string& bus) {
+  const auto owed = owed_.find(bus);
+  if (owed == owed_.end()) return false;
+  takeIn();
+  if (!dbus_pending_call_get_completed(owed->second.get())) return true;
+  owed_.erase(owed);
+  return false;
+}
+
+void CallChannel::takeIn() {
+  dbus_connection_read_write(connection_.get(), 0);
+  while (dbus_connection_dispatch(connection_.get()) == DBUS_DISPATCH_DATA_REMAINS) {
+  }
+}
+
+bool CallChannel::wait(DBusPendingCall* pending, CallBudget::Duration longest) {
+  const auto start = Clock::now();
+  while (!dbus_pending_call_get_completed(pending)) {
+    const auto left = longest - (Clock::now() - start);
+    if (left <= CallBudget::Duration::zero()) break;
+    const auto milliseconds = std::chrono::ceil<std::chrono::milliseconds>(left).count();
+    if (!dbus_connection_read_write_dispatch(connection_.get(), static_cast<int>(milliseconds))) break;
+  }
+  budget_.charge(Clock::now() - start);
+  return dbus_pending_call_get_completed(pending);
+}
+
+Answer CallChannel::answered(DBusPendingCall* pending) {
+  MessagePtr reply(dbus_pending_call_steal_reply(pending));
+  if (!reply || dbus_message_get_type(reply.get()) == DBUS_MESSAGE_TYPE_ERROR) {
+    return {Answer::Kind::refused, nullptr};
+  }
+  return {Answer::Kind::replied, std::move(reply)};
+}
+
+}  // namespace tessarin::atspi

@@ -1,0 +1,79 @@
+#include "platform/atspi/FocusSearch.h"
+
+#include <utility>
+
+#include "platform/atspi/BusCalls.h"
+#include "platform/atspi/Messages.h"
+#include "platform/atspi/Roles.h"
+
+namespace tessarin::atspi {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr const char* accessible = "org.a11y.atspi.Accessible";
+constexpr std::chrono::milliseconds longestCall{100};
+constexpr std::chrono::milliseconds longestSearch{1500};
+constexpr int mostObjects = 2000;
+
+}  // namespace
+
+FocusSearch::FocusSearch(DBusConnection* connection, std::function<bool()> isUnwanted)
+    : connection_(connection),
+      isUnwanted_(std::move(isUnwanted)),
+      deadline_(Clock::now() + longestSearch),
+      objectsLeft_(mostObjects) {}
+
+std::optional<ObjectReference> FocusSearch::inWindow(const ObjectReference& window) {
+  visit(window);
+  return focused_;
+}
+
+FocusModel::Focus FocusSearch::everywhere(const std::function<bool(const std::string& bus)>& isOurs) {
+  const ObjectReference desktop{"org.a11y.atspi.Registry", applicationPath};
+  for (const ObjectReference& application : children(desktop)) {
+    if (isOurs(application.bus)) continue;
+    for (const ObjectReference& window : children(application)) {
+      if ((states(window).value_or(0) & busState::active) != 0) return {inWindow(window), window};
+    }
+  }
+  return {};
+}
+
+bool FocusSearch::mayGoOn() {
+  return !isDone_ && objectsLeft_ > 0 && Clock::now() < deadline_ && !isUnwanted_();
+}
+
+std::optional<std::uint64_t> FocusSearch::states(const ObjectReference& object) {
+  const MessagePtr request = methodCall(object, accessible, "GetState");
+  return readStates(callAndWait(connection_, request.get(), longestCall).get());
+}
+
+std::vector<ObjectReference> FocusSearch::children(const ObjectReference& object) {
+  if (!mayGoOn()) return {};
+  const MessagePtr request = methodCall(object, accessible, "GetChildren");
+  return readReferences(callAndWait(connection_, request.get(), longestCall).get())
+      .value_or(std::vector<ObjectReference>{});
+}
+
+bool FocusSearch::isMenuBar(const ObjectReference& object) {
+  const MessagePtr request = methodCall(object, accessible, "GetRole");
+  return MessageReader(callAndWait(connection_, request.get(), longestCall).get()).uint32() ==
+         busRole::menuBar;
+}
+
+void FocusSearch::visit(const ObjectReference& object) {
+  if (!mayGoOn()) return;
+  --objectsLeft_;
+  const auto found = states(object);
+  if (!found || (*found & busState::visible) == 0) return;
+  if ((*found & busState::focused) != 0) {
+    focused_ = object;
+    // Qt says of the current tab of a tab bar that it is focused, too: an editable one is the better answer.
+    isDone_ = (*found & busState::editable) != 0;
+  }
+  if ((*found & busState::managesDescendants) != 0 || isDone_ || isMenuBar(object)) return;
+  for (const ObjectReference& child : children(object)) visit(child);
+}
+
+}  // namespace tessarin::atspi

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <optional>
+
+#include "platform/atspi/DBusHandles.h"
+#include "platform/atspi/FocusModel.h"
+
+namespace tessarin::atspi {
+
+/// Looks through the trees of applications for the focused element, for when no event has told it. Slow (10
+/// to 1,200 ms were seen): bounded in time and number of objects, and done off the main thread.
+class FocusSearch {
+ public:
+  /// `isUnwanted`: asked between the steps; the search ends when it answers yes.
+  FocusSearch(DBusConnection* connection, std::function<bool()> isUnwanted);
+
+  /// The focused element inside one window.
+  std::optional<ObjectReference> inWindow(const ObjectReference& window);
+  /// The active window of all applications but our own, and the focused element in it.
+  FocusModel::Focus everywhere(const std::function<bool(const std::string& bus)>& isOurs);
+
+ private:
+  bool mayGoOn();
+  std::optional<std::uint64_t> states(const ObjectReference& object);
+  std::vector<ObjectReference> children(const ObjectReference& object);
+  bool isMenuBar(const ObjectReference& object);
+  void visit(const ObjectReference& object);
+
+  DBusConnection* connection_;
+  std::function<bool()> isUnwanted_;
+  std::chrono::steady_clock::time_point deadline_;
+  int objectsLeft_;
+  bool isDone_ = false;
+  std::optional<ObjectReference> focused_;
+};
+
+}  // namespace tessarin::atspi

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace tessarin::atspi {
+
+/// What an application counts a text in.
+enum class TextUnit { codePoint, utf16, utf8Byte };
+
+std::int64_t countUnits(std::string_view text, TextUnit unit);
+
+/// How a toolkit counts. Seen in editors of each: GTK 3 and GTK 4 count offsets in code points and take the
+/// length of inserted text in UTF-8 bytes (a shorter length inserts nothing); Qt counts both in UTF-16 units
+/// (a byte length there pads the document with NULs). Others are taken to be like GTK, whose library most of
+/// them speak through.
+struct Toolkit {
+  TextUnit offset = TextUnit::codePoint;
+  TextUnit insertedLength = TextUnit::utf8Byte;
+  /// The caret stands after inserted text by itself.
+  bool movesCaret = false;
+  /// Its objects may be elements of a web page.
+  bool showsWebPages = true;
+  /// Answers rectangles relative to the window only.
+  bool isWindowRelative = false;
+
+  /// `name` and `version` as the application tells them.
+  static Toolkit named(std::string_view name, std::string_view version);
+};
+
+}  // namespace tessarin::atspi

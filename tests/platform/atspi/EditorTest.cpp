@@ -1,0 +1,260 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <csignal>
+#include <fstream>
+#include <iostream>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/atspi/AtspiAccessibility.h"
+#include "support/Eventually.h"
+#include "support/ManualMainQueue.h"
+#include "support/desktop/PrivateDisplay.h"
+#include "support/desktop/PrivateSession.h"
+
+namespace tessarin::atspi {
+namespace {
+
+using testing::ChildProcess;
+using testing::eventually;
+using testing::ManualMainQueue;
+using testing::PrivateDisplay;
+using testing::PrivateSession;
+using Clock = std::chrono::steady_clock;
+
+double millisecondsSince(Clock::time_point start) {
+  return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+}
+
+struct Desktop {
+  Desktop() : session((display.startWindowManager(), display.variable())) {}
+  PrivateDisplay display;
+  PrivateSession session;
+};
+
+/// One desktop for all tests of this file; every test starts its own editors.
+class EditorTest : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() { desktop = std::make_unique<Desktop>(); }
+  static void TearDownTestSuite() { desktop.reset(); }
+
+  EditorTest() { openAccessibility(); }
+
+  void openAccessibility() {
+    AtspiAccessibility::Options options;
+    options.isTrusted = [] { return true; };
+    options.coordinateSpace = [] { return CoordinateSpace(1, 1024); };
+    options.activeWindowOrigin = [this] { return windowOrigin; };
+    options.sessionBusAddress = desktop->session.busAddress();
+    accessibility = std::make_unique<AtspiAccessibility>(queue, options);
+  }
+
+  std::string fileWith(const std::string& text) {
+    const auto file = desktop->session.folder() / ("text" + std::to_string(++files) + ".txt");
+    std::ofstream(file) << text;
+    return file.string();
+  }
+
+  ElementRef focusedElement() {
+    accessibility->beginBudget(std::chrono::seconds(1));
+    const auto application =
+        readAttribute<ElementRef>(*accessibility, accessibility->systemWide(), attribute::focusedApplication);
+    if (!application) return nullptr;
+    return readAttribute<ElementRef>(*accessibility, *application, attribute::focusedElement)
+        .value_or(nullptr);
+  }
+
+  bool hasValue() {
+    const ElementRef element = focusedElement();
+    return element && accessibility->attribute(element, attribute::value);
+  }
+
+  std::optional<TextRange> caret() {
+    return readAttribute<TextRange>(*accessibility, focusedElement(), attribute::selectedTextRange);
+  }
+
+  std::string before(std::int64_t characters) {
+    const ElementRef element = focusedElement();
+    const auto range = readAttribute<TextRange>(*accessibility, element, attribute::selectedTextRange);
+    if (!range) return "(no caret)";
+    const auto text = accessibility->parameterizedAttribute(
+        element, attribute::stringForRange, TextRange{range->location - characters, characters});
+    return text ? std::get<std::string>(*text) : "(no text)";
+  }
+
+  AccessibilityStatus replace(std::int64_t characters, const std::string& text) {
+    const ElementRef element = focusedElement();
+    const auto range = readAttribute<TextRange>(*accessibility, element, attribute::selectedTextRange);
+    if (!range) return AccessibilityStatus::failure;
+    const std::int64_t start = std::max<std::int64_t>(range->location - characters, 0);
+    accessibility->setAttribute(element, attribute::selectedTextRange,
+                                TextRange{start, range->location - start});
+    return accessibility->setAttribute(element, attribute::selectedText, text);
+  }
+
+  void type(const std::string& text) {
+    ASSERT_EQ(desktop->session.run({"xdotool", "type", "--delay", "1", text}), 0);
+  }
+  void press(const std::string& key) { ASSERT_EQ(desktop->session.run({"xdotool", "key", key}), 0); }
+
+  static std::unique_ptr<Desktop> desktop;
+  ManualMainQueue queue;
+  std::unique_ptr<AtspiAccessibility> accessibility;
+  std::optional<Point> windowOrigin;
+  int files = 0;
+};
+
+std::unique_ptr<Desktop> EditorTest::desktop;
+
+struct Editor {
+  const char* name;
+  std::vector<std::string> command;
+};
+
+void PrintTo(const Editor& editor, std::ostream* out) {
+  *out << editor.name;
+}
+
+class EachEditorTest : public EditorTest, public ::testing::WithParamInterface<Editor> {
+ protected:
+  /// Starts the editor on a text and puts the caret at its end.
+  void open(const std::string& text) {
+    std::vector<std::string> command = GetParam().command;
+    command.push_back(fileWith(text));
+    editor = desktop->session.start(command);
+    ASSERT_TRUE(eventually([this] { return hasValue(); }));
+    press("ctrl+End");
+    ASSERT_TRUE(eventually([&] { return before(1) != "(no text)" && caret() != TextRange{0, 0}; }));
+  }
+
+  ChildProcess editor;
+};
+
+INSTANTIATE_TEST_SUITE_P(Editors, EachEditorTest,
+                         ::testing::Values(Editor{"gtk3", {"mousepad", "--disable-server"}},
+                                           Editor{"gtk4", {"gnome-text-editor", "-s"}},
+                                           Editor{"qt5", {"featherpad", "--standalone"}}),
+                         [](const auto& instance) { return std::string(instance.param.name); });
+
+TEST_P(EachEditorTest, replacesTheTypedShortcodeExactly) {
+  open("é😀 ñ");
+  type(":smile");
+  ASSERT_TRUE(eventually([this] { return before(6) == ":smile"; }));
+  EXPECT_EQ(before(8), " ñ:smile");
+
+  const auto start = Clock::now();
+  EXPECT_EQ(replace(6, "😀"), AccessibilityStatus::success);
+  std::cout << GetParam().name << ": lookup and replacement in " << millisecondsSince(start) << " ms\n";
+  EXPECT_EQ(before(100), "é😀 ñ😀");
+
+  // What is typed next stands behind the text, so the caret does.
+  type("x");
+  EXPECT_TRUE(eventually([this] { return before(100) == "é😀 ñ😀x"; })) << before(100);
+}
+
+TEST_P(EachEditorTest, replacesInTheMiddleByTextOfManyUnits) {
+  open("é😀 ñ|rest");
+  for (int i = 0; i < 5; ++i) press("Left");
+  type(":a");
+  ASSERT_TRUE(eventually([this] { return before(2) == ":a"; }));
+  EXPECT_EQ(replace(2, "👩‍🚀é\nZ"), AccessibilityStatus::success);
+  EXPECT_EQ(before(4), "👩‍🚀é\nZ");
+  press("ctrl+End");
+  EXPECT_TRUE(eventually([this] { return before(100) == "é😀 ñ👩‍🚀é\nZ|rest"; })) << before(100);
+}
+
+TEST_P(EachEditorTest, tellsWhereTheCaretIs) {
+  if (std::string(GetParam().name) == "gtk4") windowOrigin = Point{0, 0};
+  open("one two");
+  const ElementRef element = focusedElement();
+  std::vector<double> milliseconds;
+  std::optional<AttributeValue> bounds;
+  for (int i = 0; i < 20; ++i) {
+    const auto start = Clock::now();
+    const auto range =
+        readAttribute<TextRange>(*accessibility, focusedElement(), attribute::selectedTextRange);
+    ASSERT_TRUE(range);
+    bounds = accessibility->parameterizedAttribute(element, attribute::boundsForRange, *range);
+    milliseconds.push_back(millisecondsSince(start));
+  }
+  std::sort(milliseconds.begin(), milliseconds.end());
+  std::cout << GetParam().name << ": caret found in " << milliseconds[10] << " ms (median)\n";
+  ASSERT_TRUE(bounds);
+  const auto position = readAttribute<Point>(*accessibility, element, attribute::position);
+  const auto size = readAttribute<Size>(*accessibility, element, attribute::size);
+  ASSERT_TRUE(position && size);
+  const Rect caretBounds = std::get<Rect>(*bounds);
+  EXPECT_GT(caretBounds.height, 5);
+  EXPECT_LT(caretBounds.height, 60);
+  EXPECT_GT(caretBounds.x, position->x + 20) << "the caret stands behind seven letters";
+  EXPECT_LT(caretBounds.x, position->x + 200);
+}
+
+TEST_P(EachEditorTest, isAMultiLineTextField) {
+  open("text");
+  EXPECT_EQ(readAttribute<std::string>(*accessibility, focusedElement(), attribute::role), role::textArea);
+}
+
+TEST_P(EachEditorTest, isFoundWhenItHadTheFocusBeforeUs) {
+  open("text");
+  openAccessibility();
+  EXPECT_TRUE(eventually([this] { return hasValue(); }));
+  EXPECT_EQ(before(100), "text");
+}
+
+TEST_P(EachEditorTest, whenStoppedIsPassedOverUntilItAnswersAgain) {
+  open("text");
+  const ElementRef element = focusedElement();
+  accessibility->beginBudget(std::chrono::milliseconds(150));
+  kill(editor.pid(), SIGSTOP);
+  const auto start = Clock::now();
+  EXPECT_FALSE(accessibility->attribute(element, attribute::selectedTextRange));
+  EXPECT_LT(millisecondsSince(start), 75);
+  const auto again = Clock::now();
+  for (int i = 0; i < 10; ++i) EXPECT_FALSE(accessibility->attribute(element, attribute::role));
+  EXPECT_LT(millisecondsSince(again), 20);
+  kill(editor.pid(), SIGCONT);
+  EXPECT_TRUE(eventually([this] { return before(100) == "text"; }));
+}
+
+TEST_F(EditorTest, aTerminalHasNoValue) {
+  const ChildProcess terminal = desktop->session.start({"xterm"});
+  ASSERT_EQ(desktop->session.run({"xdotool", "search", "--sync", "--onlyvisible", "--class", "xterm"}), 0);
+  EXPECT_FALSE(hasValue());
+}
+
+TEST_F(EditorTest, theFocusIsLostToAWindowThatIsNotAccessible) {
+  for (const std::vector<std::string>& command : {std::vector<std::string>{"mousepad", "--disable-server"},
+                                                  std::vector<std::string>{"gnome-text-editor", "-s"},
+                                                  std::vector<std::string>{"featherpad", "--standalone"}}) {
+    SCOPED_TRACE(command.front());
+    const ChildProcess editor = desktop->session.start(command);
+    ASSERT_TRUE(eventually([this] { return hasValue(); }));
+    const ChildProcess terminal = desktop->session.start({"xterm"});
+    EXPECT_TRUE(eventually([this] { return focusedElement() == nullptr; }));
+  }
+}
+
+TEST_F(EditorTest, tellsOfTheFocusMovingInsideAnApplication) {
+  const ChildProcess editor = desktop->session.start({"mousepad", "--disable-server"});
+  ASSERT_TRUE(eventually([this] { return hasValue(); }));
+  queue.runReady();
+  int moves = 0;
+  const Subscription subscription = accessibility->onFocusMoved([&moves] { ++moves; });
+  type("abc");
+  ASSERT_TRUE(eventually([this] { return before(3) == "abc"; }));
+  queue.runReady();
+  EXPECT_EQ(moves, 0) << "typing is no move";
+  press("ctrl+f");
+  EXPECT_TRUE(eventually([&] {
+    queue.runReady();
+    return moves == 1;
+  }));
+  EXPECT_EQ(readAttribute<std::string>(*accessibility, focusedElement(), attribute::role), role::textField);
+}
+
+}  // namespace
+}  // namespace tessarin::atspi
