@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -7,8 +8,8 @@ namespace tessarin {
 
 /// One entry that the popup can offer and insert. A plain value, copied, never shared.
 struct Snippet {
-  std::string
-      id;  ///< "emoji_" or "kaomoji_" and the trigger; a version-4 UUID in upper case for the user's own
+  /// "emoji_" or "kaomoji_" and the trigger; a version-4 UUID in upper case for the user's own.
+  std::string id;
   std::string name;                   ///< display name
   std::string trigger;                ///< the shortcode typed after the trigger character
   std::string replacement;            ///< the text inserted; may contain template variables
@@ -19,5 +20,8 @@ struct Snippet {
   /// All seven fields, texts by canonical equivalence.
   bool operator==(const Snippet& other) const;
 };
+
+/// The same for equal snippets, from all seven fields.
+std::size_t hashValue(const Snippet& snippet);
 
 }  // namespace tessarin

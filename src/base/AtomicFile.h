@@ -1,0 +1,20 @@
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+namespace tessarin {
+
+/// What a replaced file outlives.
+enum class Durability {
+  processEnd,  ///< our own death at any instant; a power cut may bring the previous content back
+  powerCut,    ///< also a power cut: waits until the disk has the content
+};
+
+/// Replaces the file's content so that a reader, at any instant and whatever becomes of us, finds either all
+/// of the old content or all of the new. Permissions are kept; a new file is open to the user alone. A
+/// symbolic link stays one and the file that it points to is replaced. The folder must exist.
+/// Throws std::system_error; the old content is then untouched and nothing is left beside it.
+void replaceFile(const std::filesystem::path& path, std::string_view content, Durability durability);
+
+}  // namespace tessarin

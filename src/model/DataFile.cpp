@@ -1,0 +1,68 @@
+#include "model/DataFile.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <system_error>
+#include <utility>
+
+#include "base/Files.h"
+#include "base/Log.h"
+
+namespace tessarin {
+
+namespace fs = std::filesystem;
+
+DataFile::DataFile(Description description, const WallClock& clock, LocalCalendar calendar)
+    : description_(std::move(description)), clock_(clock), calendar_(std::move(calendar)) {}
+
+bool DataFile::load(const std::function<void(std::string_view)>& decode) {
+  try {
+    const auto content = readFileIfPresent(description_.path);
+    if (!content) return false;
+    decode(*content);
+    return true;
+  } catch (const std::exception& error) {
+    isUnreadable_ = true;
+    logFailure("load", error);
+    return false;
+  }
+}
+
+void DataFile::save(const std::function<std::string()>& encode) {
+  try {
+    createFolders(description_.path.parent_path());
+    const std::string content = encode();
+    if (isUnreadable_) moveAside();
+    replaceFile(description_.path, content, description_.durability);
+  } catch (const std::exception& error) {
+    logFailure("save", error);
+  }
+}
+
+void DataFile::moveAside() {
+  const fs::path& path = description_.path;
+  const fs::path aside = freeName();
+  if (std::rename(path.c_str(), aside.c_str()) == 0) {
+    log(description_.component, "Moved the unreadable " + path.filename().string() + " to " + aside.string());
+  } else if (errno != ENOENT) {
+    throw std::system_error(errno, std::generic_category(), "cannot move " + path.string() + " aside");
+  }
+  isUnreadable_ = false;
+}
+
+fs::path DataFile::freeName() const {
+  const std::string name =
+      description_.path.string() + ".unreadable-" + calendar_.fileNameStamp(clock_.now());
+  fs::path candidate = name;
+  for (int n = 2; fs::symlink_status(candidate).type() != fs::file_type::not_found; ++n) {
+    candidate = name + "-" + std::to_string(n);
+  }
+  return candidate;
+}
+
+void DataFile::logFailure(const char* action, const std::exception& error) const {
+  log(description_.component,
+      std::string("Failed to ") + action + " " + description_.content + ": " + error.what());
+}
+
+}  // namespace tessarin

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "base/AtomicFile.h"
+#include "model/LocalCalendar.h"
+
+namespace tessarin {
+
+/// One file of the storage folder, read at start and replaced as a whole. A file that could not be read is
+/// left as it is, and before the first save that would overwrite it, it is moved aside under a new name.
+/// Failures are logged in one line and go no further.
+class DataFile {
+ public:
+  struct Description {
+    std::string component;  ///< whose log lines these are
+    std::string content;    ///< what the log calls it: "user snippets"
+    std::filesystem::path path;
+    Durability durability;
+  };
+
+  /// The clock, which must outlive this, and the calendar date the names of files moved aside.
+  DataFile(Description description, const WallClock& clock, LocalCalendar calendar);
+
+  /// Hands the content to `decode`, which throws when it is not what it should be. True when that went well;
+  /// a missing file is no failure and logs nothing.
+  bool load(const std::function<void(std::string_view)>& decode);
+
+  /// Replaces the content by what `encode` returns; makes the folder first.
+  void save(const std::function<std::string()>& encode);
+
+ private:
+  void moveAside();
+  std::filesystem::path freeName() const;
+  void logFailure(const char* action, const std::exception& error) const;
+
+  Description description_;
+  const WallClock& clock_;
+  LocalCalendar calendar_;
+  bool isUnreadable_ = false;
+};
+
+}  // namespace tessarin

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <unicode/timezone.h>
+
+#include <memory>
+#include <string>
+
+#include "platform/WallClock.h"
+
+namespace tessarin {
+
+/// The zone of that name; for an empty name the machine's as it is set now, so that a journey is noticed
+/// without a restart.
+inline std::unique_ptr<icu::TimeZone> makeIcuTimeZone(const std::string& name) {
+  return std::unique_ptr<icu::TimeZone>(name.empty() ? icu::TimeZone::detectHostTimeZone()
+                                                     : icu::TimeZone::createTimeZone(name.c_str()));
+}
+
+/// Milliseconds since 1970.
+inline UDate toIcuDate(WallClock::TimePoint time) {
+  return std::chrono::duration<double, std::milli>(time.time_since_epoch()).count();
+}
+
+}  // namespace tessarin

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "platform/WallClock.h"
+
+namespace tessarin {
+
+/// Days as the user's calendar has them. A day lasts from its first instant to the next day's, however many
+/// hours daylight saving makes of it, also where its first hour does not exist.
+class LocalCalendar {
+ public:
+  using TimePoint = WallClock::TimePoint;
+
+  /// A time zone by name ("Europe/Berlin"); empty follows the machine's, looked up afresh at each call.
+  explicit LocalCalendar(std::string timeZone = {}) : timeZone_(std::move(timeZone)) {}
+
+  /// The first instant of the day that holds `time`, or of the day so many days later (earlier when
+  /// negative). Nothing when the calendar cannot tell.
+  std::optional<TimePoint> startOfDay(TimePoint time, int daysLater = 0) const;
+
+  /// Local time as a part of a file name: "2026-11-22T10-15-00".
+  std::string fileNameStamp(TimePoint time) const;
+
+ private:
+  std::string timeZone_;
+};
+
+}  // namespace tessarin

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/Signal.h"
+#include "model/DataFile.h"
+#include "model/LocalCalendar.h"
+#include "model/SearchIndex.h"
+#include "model/Snippet.h"
+#include "model/UsageTracker.h"
+
+namespace tessarin {
+
+/// The one place that holds every snippet: the built-in emoji and kaomoji, and the user's own, which alone
+/// can be changed and are saved after every change. Owns the usage tracker. Main thread.
+class SnippetStore {
+ public:
+  struct Folders {
+    std::filesystem::path resources;  ///< holds emoji-data.json and kaomoji-data.json
+    std::filesystem::path storage;    ///< holds the user's snippets and usage files
+  };
+
+  /// Loads everything; what cannot be read is logged and missing. The clock must outlive the store.
+  SnippetStore(Folders folders, const WallClock& clock, LocalCalendar calendar = LocalCalendar());
+  SnippetStore(const SnippetStore&) = delete;
+  SnippetStore& operator=(const SnippetStore&) = delete;
+
+  /// First the emoji, then the kaomoji, each in file order.
+  const std::vector<Snippet>& builtInSnippets() const { return builtInSnippets_; }
+  const std::vector<Snippet>& userSnippets() const { return userSnippets_; }
+  /// The built-in ones, then the user's.
+  std::vector<Snippet> allSnippets() const;
+  UsageTracker& usageTracker() { return usageTracker_; }
+  const UsageTracker& usageTracker() const { return usageTracker_; }
+
+  /// The best `limit` snippets for what was typed after the trigger character, best first.
+  std::vector<Snippet> search(std::string_view query, std::size_t limit) const;
+
+  /// Failures are logged; the old file then stays.
+  void saveUserSnippets();
+  /// Appends as it is, whatever triggers and ids there are already.
+  void addSnippet(const Snippet& snippet);
+  /// Replaces the first user snippet of that id; without one nothing happens and nothing is saved.
+  void updateSnippet(const Snippet& snippet);
+  /// Removes every user snippet of that id.
+  void deleteSnippet(const std::string& id);
+
+  /// Adds those snippets of a file whose trigger (exact text) no snippet here has, with new ids, and returns
+  /// how many. Throws std::runtime_error (DataError for the content) and changes nothing when the file
+  /// cannot be read.
+  std::size_t importSnippets(const std::filesystem::path& file);
+  /// Throws std::runtime_error when the file cannot be written.
+  void exportSnippets(const std::filesystem::path& file) const;
+
+  /// Runs before each change of either list.
+  [[nodiscard]] Subscription onWillChange(std::function<void()> callback);
+  /// Runs after each change of either list.
+  [[nodiscard]] Subscription onChange(std::function<void()> callback);
+
+ private:
+  void loadBuiltInEmojis();
+  void loadBuiltInKaomoji();
+  bool loadBuiltIns(const char* source, std::vector<Snippet>& loaded) const;
+  void loadUserSnippets();
+  void indexUsage(const std::string& trigger);
+  void append(Snippet snippet);
+  void change(const std::function<void()>& apply);
+  const Snippet& at(std::size_t position) const;
+
+  Folders folders_;
+  UsageTracker usageTracker_;
+  DataFile userFile_;
+  std::vector<Snippet> builtInSnippets_;
+  std::vector<Snippet> userSnippets_;
+  SearchIndex index_;
+  Signal<> willChange_;
+  Signal<> changed_;
+  Subscription usageSubscription_;
+};
+
+}  // namespace tessarin

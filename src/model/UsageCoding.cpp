@@ -1,0 +1,102 @@
+#include "model/UsageCoding.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+#include "base/DataError.h"
+#include "base/Json.h"
+#include "text/Graphemes.h"
+
+namespace tessarin {
+namespace {
+
+constexpr std::string_view replacementCharacter = "\xEF\xBF\xBD";
+
+void appendEscaped(std::string& json, char c) {
+  constexpr char digits[] = "0123456789abcdef";
+  const auto code = static_cast<unsigned char>(c);
+  if (c == '\0') {
+    json += replacementCharacter;
+  } else if (c == '"' || c == '\\' || c == '/') {
+    json += '\\';
+    json += c;
+  } else if (code < 0x20) {
+    json += "\\u00";
+    json += digits[code >> 4];
+    json += digits[code & 0x0F];
+  } else {
+    json += c;
+  }
+}
+
+void appendString(std::string& json, const std::string& text) {
+  json += '"';
+  const bool valid = text::isValidUtf8(text);
+  for (const char c : valid ? text : text::fromUtf16(text::toUtf16(text))) appendEscaped(json, c);
+  json += '"';
+}
+
+template <class Number>
+void appendNumber(std::string& json, Number number) {
+  std::array<char, 32> digits{};  // the longest double in its shortest exact form has 24
+  json.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr);
+}
+
+}  // namespace
+
+UsageCounts decodeUsageCounts(std::string_view json) {
+  const JsonOwner object = parseJson(json);
+  if (!json_is_object(object.get())) throw DataError("the top level is not an object");
+  UsageCounts counts;
+  std::size_t member = 0;
+  const char* trigger = nullptr;
+  json_t* count = nullptr;
+  json_object_foreach(object.get(), trigger, count) {
+    ++member;
+    if (!json_is_integer(count))
+      throw DataError("the count of entry " + std::to_string(member) + " is not an integer");
+    counts.emplace(trigger, json_integer_value(count));
+  }
+  return counts;
+}
+
+std::string encodeUsageCounts(const UsageCounts& counts) {
+  std::string json = "{";
+  for (const auto& [trigger, count] : counts) {
+    if (json.size() > 1) json += ',';
+    appendString(json, trigger);
+    json += ':';
+    appendNumber(json, count);
+  }
+  return json + '}';
+}
+
+std::vector<UsageEvent> decodeUsageEvents(std::string_view json) {
+  return readJsonArray<UsageEvent>(*parseJsonArray(json), [](const JsonRecord& record) {
+    return UsageEvent{record.string("trigger"), record.number("timestamp")};
+  });
+}
+
+std::string encodeUsageEvent(const UsageEvent& event) {
+  std::string json = R"({"trigger":)";
+  appendString(json, event.trigger);
+  json += R"(,"timestamp":)";
+  appendNumber(json, event.timestamp);
+  return json + '}';
+}
+
+void UsageEventsText::append(const UsageEvent& event) {
+  text_.back() = ',';
+  if (text_.size() == 2) text_.pop_back();
+  text_ += encodeUsageEvent(event);
+  text_ += ']';
+}
+
+void UsageEventsText::dropFirst(const UsageEvent& event) {
+  const std::size_t length = encodeUsageEvent(event).size();
+  const bool isLast = text_.size() == length + 2;
+  text_.erase(1, isLast ? length : length + 1);
+}
+
+}  // namespace tessarin

@@ -1,0 +1,181 @@
+#include <gmock/gmock.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <system_error>
+
+#include "base/AtomicFile.h"
+#include "base/FileDescriptor.h"
+#include "base/Files.h"
+#include "support/TemporaryFolder.h"
+
+namespace tessarin {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::ElementsAre;
+using testing::TemporaryFolder;
+
+unsigned modeOf(const fs::path& path) {
+  return static_cast<unsigned>(fs::status(path).permissions());
+}
+
+/// Lets no file of this process grow beyond a size while it lives: what a full disk does to a write.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t bytes) {
+    previousHandler_ = ::signal(SIGXFSZ, SIG_IGN);
+    ::getrlimit(RLIMIT_FSIZE, &previous_);
+    rlimit limit = previous_;
+    limit.rlim_cur = bytes;
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FileSizeLimit() {
+    ::setrlimit(RLIMIT_FSIZE, &previous_);
+    ::signal(SIGXFSZ, previousHandler_);
+  }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+ private:
+  rlimit previous_{};
+  sighandler_t previousHandler_;
+};
+
+TEST(AtomicFile, ReplacesTheContentAndLeavesNothingBeside) {
+  for (const Durability durability : {Durability::processEnd, Durability::powerCut}) {
+    const TemporaryFolder folder;
+    replaceFile(folder / "a", "first, and the longer one", durability);
+    replaceFile(folder / "a", std::string("second\0", 7), durability);
+    EXPECT_EQ(folder.read("a"), std::string("second\0", 7));
+    EXPECT_THAT(folder.names(), ElementsAre("a"));
+  }
+}
+
+TEST(AtomicFile, KeepsPermissionsAndMakesNewFilesPrivate) {
+  const TemporaryFolder folder;
+  replaceFile(folder / "new", "", Durability::processEnd);
+  EXPECT_EQ(modeOf(folder / "new"), 0600U);
+  fs::permissions(folder / "new", fs::perms(0644));
+  replaceFile(folder / "new", "again", Durability::processEnd);
+  EXPECT_EQ(modeOf(folder / "new"), 0644U);
+}
+
+TEST(AtomicFile, WritesThroughLinks) {
+  const TemporaryFolder folder;
+  fs::create_directory(folder / "elsewhere");
+  const struct {
+    const char* name;
+    fs::path target;
+  } links[] = {{"relative", "elsewhere/there"},
+               {"absolute", folder / "elsewhere/there"},
+               {"chained", "relative"},
+               {"dangling", "elsewhere/not-yet"}};
+  folder.write("elsewhere/there", "old");
+  for (const auto& [name, target] : links) {
+    fs::create_symlink(target, folder / name);
+    replaceFile(folder / name, name, Durability::processEnd);
+    EXPECT_TRUE(fs::is_symlink(folder / name)) << name;
+    EXPECT_EQ(folder.read(name), name);
+  }
+  EXPECT_EQ(folder.read("elsewhere/there"), "chained");
+  EXPECT_EQ(folder.read("elsewhere/not-yet"), "dangling");
+}
+
+TEST(AtomicFile, RefusesWhatIsNoFile) {
+  const TemporaryFolder folder;
+  fs::create_directory(folder / "folder");
+  ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+  fs::create_symlink("loop", folder / "loop");
+  folder.write("file", "whole");
+  for (const char* name : {"folder", "pipe", "loop", "file/inside", "missing/inside"}) {
+    EXPECT_THROW(replaceFile(folder / name, "x", Durability::processEnd), std::system_error) << name;
+  }
+  EXPECT_THAT(folder.names(), ElementsAre("file", "folder", "loop", "pipe"));
+  EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
+}
+
+TEST(AtomicFile, AFailedWriteLeavesTheOldContentAndNothingElse) {
+  const TemporaryFolder folder;
+  folder.write("a", "old");
+  {
+    const FileSizeLimit limit(1000);
+    EXPECT_THROW(replaceFile(folder / "a", std::string(5000, 'n'), Durability::powerCut), std::system_error);
+  }
+  EXPECT_EQ(folder.read("a"), "old");
+  EXPECT_THAT(folder.names(), ElementsAre("a"));
+}
+
+/// Replaces the file by one content and the other in turn, and says so after each, until it is killed.
+[[noreturn]] void replaceForEver(const fs::path& file, const std::string& one, const std::string& other,
+                                 int report) {
+  for (;;) {
+    for (const std::string* content : {&one, &other}) {
+      replaceFile(file, *content, Durability::processEnd);
+      if (::write(report, "x", 1) != 1) ::_exit(1);
+    }
+  }
+}
+
+TEST(AtomicFile, AKilledProcessLeavesOneWholeContent) {
+  const TemporaryFolder folder;
+  const std::string one(300'000, '1');
+  const std::string other(200'000, '2');
+  for (int round = 1; round <= 20; ++round) {
+    int ends[2];
+    ASSERT_EQ(::pipe(ends), 0);
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) replaceForEver(folder / "a", one, other, ends[1]);
+    const FileDescriptor reports(ends[0]);
+    ::close(ends[1]);
+    char report = 0;
+    for (int i = 0; i < round; ++i) ASSERT_EQ(::read(reports.get(), &report, 1), 1);
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    const std::string content = folder.read("a");
+    EXPECT_TRUE(content == one || content == other) << content.size() << " bytes in round " << round;
+  }
+}
+
+TEST(Files, ReadsWholeFiles) {
+  const TemporaryFolder folder;
+  for (const std::string& content :
+       {std::string(), std::string("a\0b\r\n", 5), std::string(1'000'000, 'x')}) {
+    folder.write("a", content);
+    EXPECT_EQ(readFile(folder / "a"), content);
+  }
+  // A file whose size is not told beforehand.
+  EXPECT_FALSE(readFile("/proc/self/status").empty());
+}
+
+TEST(Files, TellsMissingFromUnreadable) {
+  const TemporaryFolder folder;
+  folder.write("file", "");
+  fs::create_directory(folder / "folder");
+  ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+  for (const char* name : {"missing", "missing/inside", "file/inside"}) {
+    EXPECT_EQ(readFileIfPresent(folder / name), std::nullopt) << name;
+    EXPECT_THROW(readFile(folder / name), std::system_error) << name;
+  }
+  for (const char* name : {"folder", "pipe"}) {
+    EXPECT_THROW(readFileIfPresent(folder / name), std::system_error) << name;
+  }
+}
+
+TEST(Files, CreatesMissingFoldersForTheUserAlone) {
+  const TemporaryFolder folder;
+  createFolders(folder / "a/b/c/");
+  EXPECT_EQ(modeOf(folder / "a"), 0700U);
+  EXPECT_EQ(modeOf(folder / "a/b/c"), 0700U);
+  EXPECT_NO_THROW(createFolders(folder / "a/b"));
+  folder.write("file", "");
+  EXPECT_THROW(createFolders(folder / "file/a"), std::system_error);
+  EXPECT_THROW(createFolders(folder / "file"), std::system_error);
+}
+
+}  // namespace
+}  // namespace tessarin

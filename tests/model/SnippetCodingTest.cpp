@@ -1,0 +1,151 @@
+#include <gmock/gmock.h>
+
+#include "base/DataError.h"
+#include "model/SnippetCoding.h"
+
+namespace tessarin {
+namespace {
+
+using ::testing::AllOf;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+const Snippet signature{"3F25",          "Mail / signature", "sig", "Kind regards,\nSam \"S\" \\ 👋",
+                        {"mail", "a/b"}, "Custom",           false};
+
+constexpr const char* complete =
+    R"({"id":"i","name":"n","trigger":"t","replacement":"r","keywords":["k"],"category":"c","isBuiltIn":true})";
+
+std::string decodeError(const std::string& json) {
+  try {
+    decodeSnippets(json);
+  } catch (const DataError& error) {
+    return error.what();
+  }
+  return "no error";
+}
+
+std::string with(const std::string& part, const std::string& other) {
+  std::string text = complete;
+  return text.replace(text.find(part), part.size(), other);
+}
+
+TEST(SnippetCoding, WritesTheUsersFileInOneLine) {
+  EXPECT_EQ(encodeSnippets({signature}, JsonStyle::compact),
+            R"([{"id":"3F25","name":"Mail \/ signature","trigger":"sig",)"
+            R"("replacement":"Kind regards,\nSam \"S\" \\ 👋","keywords":["mail","a\/b"],)"
+            R"("category":"Custom","isBuiltIn":false}])");
+  EXPECT_EQ(encodeSnippets({}, JsonStyle::compact), "[]");
+}
+
+TEST(SnippetCoding, WritesTheExportWithOneMemberALineAndSortedKeys) {
+  EXPECT_EQ(encodeSnippets({{"i", "n", "t", "r", {"k"}, "c", true}}, JsonStyle::pretty), R"([
+  {
+    "category": "c",
+    "id": "i",
+    "isBuiltIn": true,
+    "keywords": [
+      "k"
+    ],
+    "name": "n",
+    "replacement": "r",
+    "trigger": "t"
+  }
+])");
+}
+
+TEST(SnippetCoding, ReadsBackWhatItWrote) {
+  const std::vector<Snippet> snippets = {
+      signature, {"", "", "", "", {}, "", true}, {"é", "日本", "ʰ", "\t\x7F", {""}, "/", false}};
+  for (const JsonStyle style : {JsonStyle::compact, JsonStyle::pretty}) {
+    EXPECT_EQ(decodeSnippets(encodeSnippets(snippets, style)), snippets);
+  }
+}
+
+TEST(SnippetCoding, TakesAnyOrderAndWhitespaceAndDropsUnknownKeys) {
+  const auto snippets = decodeSnippets(
+      "\n[ {\"isBuiltIn\" : false,\t\"trigger\":\"t\", \"shelf\": {\"a\":[1]}, \"category\":\"c\", "
+      "\"name\":\"n\",\r\n"
+      R"("keywords":[], "replacement":"a/b\/c", "id":"i" } ] )");
+  ASSERT_EQ(snippets.size(), 1U);
+  EXPECT_EQ(snippets[0], (Snippet{"i", "n", "t", "a/b/c", {}, "c", false}));
+  EXPECT_THAT(encodeSnippets(snippets, JsonStyle::compact), Not(HasSubstr("shelf")));
+}
+
+TEST(SnippetCoding, OneBadEntryFailsTheWholeTextAndIsNamed) {
+  const struct {
+    const char* part;
+    const char* other;
+    const char* key;
+  } cases[] = {
+      {R"("id":"i",)", "", "id"},
+      {R"("id":"i")", R"("id":1)", "id"},
+      {R"("name":"n")", R"("name":null)", "name"},
+      {R"("trigger")", R"("Trigger")", "trigger"},
+      {R"("replacement":"r")", R"("replacement":["r"])", "replacement"},
+      {R"(["k"])", "null", "keywords"},
+      {R"(["k"])", R"("k")", "keywords"},
+      {R"(["k"])", R"(["k",1])", "keywords"},
+      {R"("keywords":["k"],)", "", "keywords"},
+      {R"("category":"c")", R"("category":{})", "category"},
+      {R"(,"isBuiltIn":true)", "", "isBuiltIn"},
+      {R"("isBuiltIn":true)", R"("isBuiltIn":1)", "isBuiltIn"},
+      {R"("isBuiltIn":true)", R"("isBuiltIn":"true")", "isBuiltIn"},
+  };
+  for (const auto& [part, other, key] : cases) {
+    const std::string json = "[" + std::string(complete) + "," + with(part, other) + "]";
+    EXPECT_THAT(decodeError(json), AllOf(HasSubstr("entry 2"), HasSubstr("\"" + std::string(key) + "\"")))
+        << other;
+  }
+  EXPECT_THAT(decodeError("[" + std::string(complete) + ",[]]"), HasSubstr("entry 2 is not an object"));
+}
+
+TEST(SnippetCoding, RefusesToWriteWhatItCouldNotRead) {
+  for (const std::string& bad : {std::string("\xC3("), std::string("a\0b", 3)}) {
+    Snippet snippet = signature;
+    snippet.keywords[0] = bad;
+    EXPECT_THROW(encodeSnippets({snippet}, JsonStyle::compact), DataError);
+  }
+}
+
+TEST(SnippetCoding, EmojiDataBecomesBuiltInSnippets) {
+  const auto records = decodeEmojiData(
+      R"([{"name":"waving hand","trigger":"wave","replacement":"👋","keywords":["hello","bye"],"category":"People"}])");
+  ASSERT_EQ(records.size(), 1U);
+  EXPECT_EQ(records[0].toSnippet("emoji_"),
+            (Snippet{"emoji_wave", "waving hand", "wave", "👋", {"hello", "bye"}, "People", true}));
+  EXPECT_THAT(decodeEmojiData("[]"), IsEmpty());
+  EXPECT_THROW(decodeEmojiData(R"([{"name":"waving hand"}])"), DataError);
+}
+
+TEST(Snippet, IsEqualOnlyInAllFieldsAndHashesAlike) {
+  const std::vector<std::function<void(Snippet&)>> changes = {
+      [](Snippet& s) { s.id += "x"; },
+      [](Snippet& s) { s.name += "x"; },
+      [](Snippet& s) { s.trigger = "Sig"; },
+      [](Snippet& s) { s.replacement += " "; },
+      [](Snippet& s) { std::swap(s.keywords[0], s.keywords[1]); },
+      [](Snippet& s) { s.keywords.pop_back(); },
+      [](Snippet& s) { s.category += "x"; },
+      [](Snippet& s) { s.isBuiltIn = true; },
+  };
+  for (std::size_t i = 0; i < changes.size(); ++i) {
+    Snippet other = signature;
+    changes[i](other);
+    EXPECT_FALSE(other == signature) << i;
+    EXPECT_NE(hashValue(other), hashValue(signature)) << i;
+  }
+  EXPECT_EQ(hashValue(Snippet(signature)), hashValue(signature));
+}
+
+TEST(Snippet, TextsInTwoNormalFormsAreTheSame) {
+  const Snippet composed{"1", "caf\u00E9", "\u00E9", "\uAC00", {"\u1E69"}, "\u212B", false};
+  const Snippet decomposed{"1", "cafe\u0301", "e\u0301", "\u1100\u1161", {"s\u0307\u0323"}, "A\u030A", false};
+  EXPECT_EQ(composed, decomposed);
+  EXPECT_EQ(hashValue(composed), hashValue(decomposed));
+}
+
+}  // namespace
+}  // namespace tessarin

@@ -1,0 +1,307 @@
+#include <gmock/gmock.h>
+
+#include <memory>
+
+#include "base/DataError.h"
+#include "model/SnippetCoding.h"
+#include "model/SnippetStore.h"
+#include "support/LogRecorder.h"
+#include "support/ManualWallClock.h"
+#include "support/TemporaryFolder.h"
+
+namespace tessarin {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using testing::LogRecorder;
+using testing::ManualWallClock;
+using ::testing::StartsWith;
+using testing::TemporaryFolder;
+
+constexpr const char* emojiJson =
+    R"([{"name":"smile","trigger":"smile","replacement":"😀","keywords":["happy"],"category":"People"},)"
+    R"({"name":"smirk","trigger":"smirk","replacement":"😏","keywords":[],"category":"People"}])";
+constexpr const char* kaomojiJson =
+    R"([{"name":"shrug","trigger":"shrug","replacement":"¯\\_(ツ)_/¯","keywords":[],"category":"Kaomoji"}])";
+
+Snippet mine(const std::string& id, const std::string& trigger) {
+  return {id, "Name of " + trigger, trigger, "text of " + trigger, {"word"}, "Custom", false};
+}
+
+std::vector<std::string> triggersOf(const std::vector<Snippet>& snippets) {
+  std::vector<std::string> triggers;
+  for (const Snippet& snippet : snippets) triggers.push_back(snippet.trigger);
+  return triggers;
+}
+
+class SnippetStoreTest : public ::testing::Test {
+ protected:
+  SnippetStoreTest() {
+    fs::create_directory(folder_ / "resources");
+    fs::create_directory(folder_ / "storage");
+    folder_.write("resources/emoji-data.json", emojiJson);
+    folder_.write("resources/kaomoji-data.json", kaomojiJson);
+  }
+  std::unique_ptr<SnippetStore> makeStore() const {
+    return std::make_unique<SnippetStore>(SnippetStore::Folders{folder_ / "resources", folder_ / "storage"},
+                                          clock_, LocalCalendar("UTC"));
+  }
+  /// A store with the built-in entries and the user's snippets "1" (sig) and "2" (sign).
+  std::unique_ptr<SnippetStore> makeStoreWithTwo() {
+    writeUserFile({mine("1", "sig"), mine("2", "sign")});
+    auto store = makeStore();
+    log_.lines.clear();
+    return store;
+  }
+  void writeUserFile(const std::vector<Snippet>& snippets) const {
+    folder_.write(userFile, encodeSnippets(snippets, JsonStyle::compact));
+  }
+  std::vector<Snippet> saved() const { return decodeSnippets(folder_.read(userFile)); }
+
+  static constexpr const char* userFile = "storage/user-snippets.json";
+  TemporaryFolder folder_;
+  ManualWallClock clock_{ManualWallClock::utc(2026, 11, 22, 10, 15)};
+  LogRecorder log_;
+};
+
+TEST_F(SnippetStoreTest, LoadsEverythingInOrder) {
+  writeUserFile({mine("x", "sig")});
+  const auto store = makeStore();
+  EXPECT_THAT(log_.lines, ElementsAre("[SnippetStore] Loaded 2 built-in emojis",
+                                      "[SnippetStore] Loaded 1 built-in kaomoji",
+                                      "[SnippetStore] Loaded 1 user snippets"));
+  EXPECT_THAT(triggersOf(store->allSnippets()), ElementsAre("smile", "smirk", "shrug", "sig"));
+  EXPECT_EQ(store->builtInSnippets()[1], (Snippet{"emoji_smirk", "smirk", "smirk", "😏", {}, "People", true}));
+  EXPECT_EQ(store->builtInSnippets()[2].id, "kaomoji_shrug");
+  EXPECT_EQ(store->userSnippets()[0], mine("x", "sig"));
+}
+
+TEST_F(SnippetStoreTest, EachLoadingStepFailsByItself) {
+  const std::string wrong = R"([{"name":"only"}])";
+  const struct {
+    std::string name;
+    std::optional<std::string> emoji, kaomoji, user;
+    std::vector<std::string> log;
+  } cases[] = {
+      {"nothing",
+       {},
+       {},
+       {},
+       {"emoji-data.json not found in bundle", "kaomoji-data.json not found in bundle"}},
+      {"bad emoji",
+       wrong,
+       kaomojiJson,
+       {},
+       {"Failed to load emoji data: entry 1 lacks \"trigger\"", "Loaded 1 built-in kaomoji"}},
+      {"bad kaomoji", emojiJson, "{", {}, {"Loaded 2 built-in emojis", "Failed to load kaomoji data: "}},
+      {"bad user file",
+       "[]",
+       "[]",
+       wrong,
+       {"Loaded 0 built-in emojis", "Loaded 0 built-in kaomoji",
+        "Failed to load user snippets: entry 1 lacks \"id\""}},
+  };
+  for (const auto& c : cases) {
+    const TemporaryFolder folder;
+    const std::pair<const char*, const std::optional<std::string>*> files[] = {
+        {"emoji-data.json", &c.emoji}, {"kaomoji-data.json", &c.kaomoji}, {"user-snippets.json", &c.user}};
+    for (const auto& [file, content] : files) {
+      if (*content) folder.write(file, **content);
+    }
+    log_.lines.clear();
+    const SnippetStore store({folder.path(), folder.path()}, clock_);
+    ASSERT_EQ(log_.lines.size(), c.log.size()) << c.name;
+    for (std::size_t i = 0; i < c.log.size(); ++i) {
+      EXPECT_THAT(log_.lines[i], StartsWith("[SnippetStore] " + c.log[i])) << c.name;
+    }
+    EXPECT_THAT(store.userSnippets(), IsEmpty());
+    if (c.user) EXPECT_EQ(folder.read("user-snippets.json"), *c.user);
+  }
+}
+
+TEST_F(SnippetStoreTest, AFolderInAFilesPlaceIsOneLogLine) {
+  fs::create_directory(folder_ / userFile);
+  fs::remove(folder_ / "resources/emoji-data.json");
+  fs::create_directory(folder_ / "resources/emoji-data.json");
+  const auto store = makeStore();
+  EXPECT_THAT(log_.lines, ElementsAre(StartsWith("[SnippetStore] Failed to load emoji data: "),
+                                      "[SnippetStore] Loaded 1 built-in kaomoji",
+                                      StartsWith("[SnippetStore] Failed to load user snippets: ")));
+  store->addSnippet(mine("1", "sig"));
+  EXPECT_EQ(saved().size(), 1U);
+  EXPECT_TRUE(fs::is_directory(folder_ / "storage/user-snippets.json.unreadable-2026-11-22T10-15-00"));
+}
+
+TEST_F(SnippetStoreTest, AddingAppendsUncheckedAndSaves) {
+  fs::remove_all(folder_ / "storage");
+  const auto store = makeStore();
+  EXPECT_FALSE(fs::exists(folder_ / "storage"));
+  store->addSnippet(mine("1", "sig"));
+  store->addSnippet(mine("1", "smile"));
+  EXPECT_THAT(triggersOf(store->userSnippets()), ElementsAre("sig", "smile"));
+  EXPECT_EQ(saved(), store->userSnippets());
+}
+
+TEST_F(SnippetStoreTest, UpdatingReplacesTheFirstOfThatId) {
+  const auto store = makeStoreWithTwo();
+  store->addSnippet(mine("1", "again"));
+  store->updateSnippet(mine("1", "changed"));
+  EXPECT_THAT(triggersOf(store->userSnippets()), ElementsAre("changed", "sign", "again"));
+  EXPECT_EQ(saved(), store->userSnippets());
+  fs::remove(folder_ / userFile);
+  for (const char* id : {"emoji_smile", "unknown"}) store->updateSnippet(mine(id, "x"));
+  EXPECT_FALSE(fs::exists(folder_ / userFile));
+  EXPECT_THAT(triggersOf(store->allSnippets()),
+              ElementsAre("smile", "smirk", "shrug", "changed", "sign", "again"));
+}
+
+TEST_F(SnippetStoreTest, DeletingRemovesEveryOneOfThatIdAndAlwaysSaves) {
+  const auto store = makeStoreWithTwo();
+  store->addSnippet(mine("1", "again"));
+  store->deleteSnippet(store->userSnippets()[0].id);
+  EXPECT_THAT(triggersOf(store->userSnippets()), ElementsAre("sign"));
+  EXPECT_EQ(saved(), store->userSnippets());
+  fs::remove(folder_ / userFile);
+  store->deleteSnippet("emoji_smile");
+  EXPECT_EQ(saved().size(), 1U);
+  EXPECT_EQ(store->builtInSnippets().size(), 3U);
+}
+
+TEST_F(SnippetStoreTest, SearchFollowsEveryChange) {
+  const auto store = makeStoreWithTwo();
+  const auto found = [&](const char* query) { return triggersOf(store->search(query, 8)); };
+  EXPECT_THAT(found("si"), ElementsAre("sig", "sign"));
+  EXPECT_THAT(triggersOf(store->search("s", 2)), ElementsAre("sig", "sign"));
+  store->addSnippet(mine("3", "sib"));
+  EXPECT_THAT(found("si"), ElementsAre("sig", "sib", "sign"));
+  store->updateSnippet(mine("1", "silo"));
+  EXPECT_THAT(found("si"), ElementsAre("sib", "silo", "sign"));
+  store->deleteSnippet("3");
+  EXPECT_THAT(found("si"), ElementsAre("silo", "sign"));
+  store->usageTracker().recordUsage("sign");
+  EXPECT_THAT(found("si"), ElementsAre("sign", "silo"));
+  store->usageTracker().recordUsage("smirk");
+  EXPECT_THAT(found("smi"), ElementsAre("smirk", "smile"));
+  EXPECT_EQ(store->search("sign", 1).at(0), mine("2", "sign"));
+  // The counts on file lift entries from the start.
+  EXPECT_THAT(triggersOf(makeStore()->search("smi", 8)), ElementsAre("smirk", "smile"));
+}
+
+TEST_F(SnippetStoreTest, ImportAddsWhatHasANewTrigger) {
+  const auto store = makeStoreWithTwo();
+  Snippet builtIn = mine("theirs", "twice");
+  builtIn.isBuiltIn = true;
+  folder_.write("import.json",
+                encodeSnippets({mine("1", "smile"), mine("2", "Sig"), builtIn, mine("4", "sig"), builtIn},
+                               JsonStyle::compact));
+  EXPECT_EQ(store->importSnippets(folder_ / "import.json"), 3U);
+  EXPECT_THAT(triggersOf(store->userSnippets()), ElementsAre("sig", "sign", "Sig", "twice", "twice"));
+  EXPECT_EQ(saved(), store->userSnippets());
+  const Snippet& first = store->userSnippets()[3];
+  const Snippet& second = store->userSnippets()[4];
+  EXPECT_EQ(first.id.size(), 36U);
+  EXPECT_NE(first.id, second.id);
+  EXPECT_EQ(first,
+            (Snippet{first.id, builtIn.name, "twice", builtIn.replacement, {"word"}, "Custom", false}));
+  EXPECT_EQ(triggersOf(store->search("twice", 8)).size(), 2U);
+}
+
+TEST_F(SnippetStoreTest, AnImportThatAddsNothingWritesNothing) {
+  const auto store = makeStoreWithTwo();
+  store->exportSnippets(folder_ / "export.json");
+  fs::remove(folder_ / userFile);
+  EXPECT_EQ(store->importSnippets(folder_ / "export.json"), 0U);
+  folder_.write("bad.json", "[1]");
+  EXPECT_THROW(store->importSnippets(folder_ / "bad.json"), DataError);
+  for (const char* name : {"missing.json", "storage"}) {
+    EXPECT_THROW(store->importSnippets(folder_ / name), std::runtime_error) << name;
+  }
+  EXPECT_FALSE(fs::exists(folder_ / userFile));
+  EXPECT_EQ(store->userSnippets().size(), 2U);
+}
+
+TEST_F(SnippetStoreTest, ExportWritesTheUsersSnippetsOnly) {
+  const auto store = makeStoreWithTwo();
+  store->exportSnippets(folder_ / "export.json");
+  EXPECT_EQ(folder_.read("export.json"), encodeSnippets(store->userSnippets(), JsonStyle::pretty));
+  EXPECT_THROW(store->exportSnippets(folder_ / "missing/export.json"), std::runtime_error);
+  EXPECT_THROW(store->exportSnippets(folder_ / "storage"), std::runtime_error);
+}
+
+TEST_F(SnippetStoreTest, TellsObserversBeforeAndAfterEachChange) {
+  const auto store = makeStoreWithTwo();
+  std::vector<std::size_t> before;
+  std::vector<std::size_t> after;
+  const auto willChange = store->onWillChange([&] { before.push_back(store->userSnippets().size()); });
+  const auto changed = store->onChange([&] { after.push_back(store->userSnippets().size()); });
+  folder_.write("import.json", encodeSnippets({mine("a", "a"), mine("b", "b")}, JsonStyle::compact));
+  store->importSnippets(folder_ / "import.json");
+  store->updateSnippet(mine("unknown", "x"));
+  store->deleteSnippet("1");
+  EXPECT_THAT(before, ElementsAre(2U, 3U, 4U));
+  EXPECT_THAT(after, ElementsAre(3U, 4U, 3U));
+}
+
+TEST_F(SnippetStoreTest, AFailedSaveIsLoggedAndChangesNothingInMemory) {
+  const auto store = makeStore();
+  fs::remove_all(folder_ / "storage");
+  folder_.write("storage", "in the way");
+  log_.lines.clear();
+  store->addSnippet(mine("1", "sig"));
+  EXPECT_THAT(log_.lines, ElementsAre(StartsWith("[SnippetStore] Failed to save user snippets: ")));
+  EXPECT_EQ(store->userSnippets().size(), 1U);
+  EXPECT_EQ(folder_.read("storage"), "in the way");
+}
+
+TEST_F(SnippetStoreTest, ATextThatCannotBeWrittenKeepsTheOldFile) {
+  const auto store = makeStoreWithTwo();
+  Snippet bad = mine("3", "bad");
+  bad.replacement = "\xFF";
+  store->addSnippet(bad);
+  EXPECT_THAT(log_.lines,
+              ElementsAre("[SnippetStore] Failed to save user snippets: a text is not valid UTF-8"));
+  EXPECT_EQ(saved().size(), 2U);
+}
+
+TEST_F(SnippetStoreTest, UnreadableFilesSurviveSeveralLaunches) {
+  const std::string aside = "user-snippets.json.unreadable-2026-11-22T10-15-00";
+  const std::vector<std::string> names = {aside, aside + "-2", aside + "-3"};
+  for (std::size_t launch = 0; launch < names.size(); ++launch) {
+    const std::string content = "broken " + std::to_string(launch);
+    folder_.write(userFile, content);
+    const auto store = makeStore();
+    EXPECT_EQ(folder_.read(userFile), content);
+    log_.lines.clear();
+    store->addSnippet(mine("1", "sig"));
+    store->addSnippet(mine("2", "sign"));
+    EXPECT_THAT(log_.lines, ElementsAre("[SnippetStore] Moved the unreadable user-snippets.json to " +
+                                        (folder_ / ("storage/" + names[launch])).string()));
+    EXPECT_EQ(saved().size(), 2U);
+  }
+  for (std::size_t launch = 0; launch < names.size(); ++launch) {
+    EXPECT_EQ(folder_.read("storage/" + names[launch]), "broken " + std::to_string(launch));
+  }
+}
+
+TEST_F(SnippetStoreTest, NothingIsOverwrittenWhenMovingAsideFails) {
+  folder_.write(userFile, "broken");
+  const auto store = makeStore();
+  fs::rename(folder_ / "storage", folder_ / "kept");
+  folder_.write("storage", "no folder any more");
+  log_.lines.clear();
+  store->addSnippet(mine("1", "sig"));
+  EXPECT_THAT(log_.lines, ElementsAre(StartsWith("[SnippetStore] Failed to save user snippets: ")));
+  fs::remove(folder_ / "storage");
+  fs::rename(folder_ / "kept", folder_ / "storage");
+  EXPECT_EQ(folder_.read(userFile), "broken");
+  // As soon as it works again the file is still moved aside first.
+  store->saveUserSnippets();
+  EXPECT_EQ(folder_.read("storage/user-snippets.json.unreadable-2026-11-22T10-15-00"), "broken");
+  EXPECT_EQ(saved().size(), 1U);
+}
+
+}  // namespace
+}  // namespace tessarin

@@ -1,0 +1,111 @@
+#include <gmock/gmock.h>
+
+#include <cstdlib>
+
+#include "model/TemplateVariables.h"
+#include "support/ManualWallClock.h"
+
+namespace tessarin {
+namespace {
+
+using testing::ManualWallClock;
+
+class TemplateVariablesTest : public ::testing::Test {
+ protected:
+  std::string expand(const std::string& text, const std::string& pasteboard = "clip",
+                     const std::string& locale = "de_DE", const std::string& timeZone = "Europe/Berlin") {
+    const auto read = [&] {
+      ++pasteboardReads_;
+      return pasteboard;
+    };
+    return expandTemplateVariables(text, {clock_, read, locale, timeZone});
+  }
+
+  ManualWallClock clock_{ManualWallClock::utc(2026, 3, 14, 23, 5)};
+  int pasteboardReads_ = 0;
+};
+
+TEST_F(TemplateVariablesTest, ReplacesThemInTheirFixedOrder) {
+  const struct {
+    const char* text;
+    const char* pasteboard;
+    const char* expected;
+    int pasteboardReads;
+    int clockReads;
+  } cases[] = {
+      {"plain", "clip", "plain", 0, 0},
+      {"", "clip", "", 0, 0},
+      {"<{{clipboard}}|{{clipboard}}>", "clip", "<clip|clip>", 1, 0},
+      {"<{{clipboard}}>", "", "<>", 1, 0},
+      {"{{clipboard}}", "{{clipboard}}", "{{clipboard}}", 1, 0},
+      {"{{clipboard}}", "on {{date}}", "on 15.03.26", 1, 1},
+      {"{{date}} {{date}}", "", "15.03.26 15.03.26", 0, 1},
+      {"{{time}}{{date}}", "", "00:0515.03.26", 0, 2},
+      {"{{datetime}}", "", "15.03.26, 00:05", 0, 1},
+      {"{{Date}} {{ date }} {{TIME}} {{dates}} {date} }}", "",
+       "{{Date}} {{ date }} {{TIME}} {{dates}} {date} }}", 0, 0},
+      {"{{{date}}}", "", "{15.03.26}", 0, 1},
+      {"{{{{date}}{{date", "", "{{15.03.26{{date", 0, 1},
+      {"{{clip{{clipboard}}board}}", "", "{{clipboard}}", 1, 0},
+  };
+  for (const auto& c : cases) {
+    clock_.reads = pasteboardReads_ = 0;
+    EXPECT_EQ(expand(c.text, c.pasteboard), c.expected) << c.text;
+    EXPECT_EQ(pasteboardReads_, c.pasteboardReads) << c.text;
+    EXPECT_EQ(clock_.reads, c.clockReads) << c.text;
+  }
+}
+
+TEST_F(TemplateVariablesTest, DatesFollowLocaleAndZone) {
+  const struct {
+    const char* locale;
+    const char* timeZone;
+    const char* date;
+  } cases[] = {{"en_US", "America/New_York", "3/14/26"},
+               {"en_GB.UTF-8", "Europe/London", "14/03/2026"},
+               {"ja_JP.utf8", "Asia/Tokyo", "2026/03/15"},
+               {"de_AT@euro", "Europe/Vienna", "15.03.26"}};
+  for (const auto& [locale, timeZone, date] : cases) {
+    EXPECT_EQ(expand("{{date}}", "", locale, timeZone), date) << locale;
+  }
+}
+
+TEST_F(TemplateVariablesTest, WorksWithoutAPasteboard) {
+  EXPECT_EQ(expandTemplateVariables("<{{clipboard}}>", {clock_, nullptr}), "<>");
+}
+
+/// Sets an environment variable while it lives.
+class VariableGuard {
+ public:
+  VariableGuard(const char* name, const char* value) : name_(name) {
+    if (const char* previous = std::getenv(name)) previous_ = previous;
+    ::setenv(name, value, 1);
+  }
+  ~VariableGuard() {
+    if (previous_) {
+      ::setenv(name_, previous_->c_str(), 1);
+    } else {
+      ::unsetenv(name_);
+    }
+  }
+  VariableGuard(const VariableGuard&) = delete;
+  VariableGuard& operator=(const VariableGuard&) = delete;
+
+ private:
+  const char* name_;
+  std::optional<std::string> previous_;
+};
+
+TEST_F(TemplateVariablesTest, TheEnvironmentDecidesWithoutARestart) {
+  const VariableGuard all("LC_ALL", "");
+  const VariableGuard lang("LANG", "en_US.UTF-8");
+  const VariableGuard zone("TZ", "UTC");
+  EXPECT_EQ(expand("{{date}}", "", "", ""), "3/14/26");
+  const VariableGuard dates("LC_TIME", "de_DE.UTF-8");
+  EXPECT_EQ(expand("{{datetime}}", "", "", ""), "14.03.26, 23:05");
+  const VariableGuard other("TZ", "Asia/Tokyo");
+  EXPECT_EQ(expand("{{datetime}}", "", "", ""), "15.03.26, 08:05");
+}
+
+}  // namespace
+}  // namespace tessarin

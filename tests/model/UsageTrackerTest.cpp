@@ -1,0 +1,256 @@
+#include <gmock/gmock.h>
+
+#include <limits>
+#include <memory>
+#include <numeric>
+
+#include "model/UsageTracker.h"
+#include "support/LogRecorder.h"
+#include "support/ManualWallClock.h"
+#include "support/TemporaryFolder.h"
+
+namespace tessarin {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using testing::LogRecorder;
+using testing::ManualWallClock;
+using ::testing::Pair;
+using ::testing::StartsWith;
+using testing::TemporaryFolder;
+using TriggerCount = UsageTracker::TriggerCount;
+
+constexpr const char* countsFile = "usage-counts.json";
+constexpr const char* eventsFile = "usage-stats.json";
+
+class UsageTrackerTest : public ::testing::Test {
+ protected:
+  std::unique_ptr<UsageTracker> makeTracker(const std::string& timeZone = "UTC") const {
+    return std::make_unique<UsageTracker>(folder_.path(), clock_, LocalCalendar(timeZone));
+  }
+  /// A tracker that loaded an event at each of the moments.
+  std::unique_ptr<UsageTracker> makeTrackerOf(const std::vector<double>& seconds,
+                                              const std::string& timeZone) const {
+    UsageEventsText text;
+    for (const double s : seconds) text.append({"t", s});
+    folder_.write(eventsFile, text.json());
+    return makeTracker(timeZone);
+  }
+
+  TemporaryFolder folder_;
+  ManualWallClock clock_;
+  LogRecorder log_;
+};
+
+std::vector<std::int64_t> countsOf(const std::vector<UsageTracker::DayCount>& days) {
+  std::vector<std::int64_t> counts;
+  for (const auto& day : days) counts.push_back(day.count);
+  return counts;
+}
+
+TEST_F(UsageTrackerTest, RecordsIntoBothFilesAndReadsThemBack) {
+  const UsageTracker* tracker = nullptr;
+  const fs::path storage = folder_ / "not/there/yet";
+  UsageTracker first(storage, clock_);
+  EXPECT_FALSE(fs::exists(storage));
+  tracker = &first;
+  clock_.time = ManualWallClock::utc(2026, 3, 14, 9, 30, 15) + std::chrono::milliseconds(250);
+  first.recordUsage("smile");
+  clock_.time = ManualWallClock::utc(2026, 3, 14, 9, 30, 16);
+  first.recordUsage("a/\"b\"\n");
+  first.recordUsage("smile");
+  EXPECT_THAT(tracker->usageCounts(), ElementsAre(Pair("a/\"b\"\n", 1), Pair("smile", 2)));
+  EXPECT_EQ(folder_.read("not/there/yet/usage-counts.json"), R"({"a\/\"b\"\u000a":1,"smile":2})");
+  EXPECT_EQ(
+      folder_.read("not/there/yet/usage-stats.json"),
+      R"([{"trigger":"smile","timestamp":795173415.25},{"trigger":"a\/\"b\"\u000a","timestamp":795173416},)"
+      R"({"trigger":"smile","timestamp":795173416}])");
+
+  const UsageTracker second(storage, clock_);
+  EXPECT_EQ(second.usageCounts(), first.usageCounts());
+  EXPECT_EQ(second.usageEvents(), first.usageEvents());
+  EXPECT_THAT(log_.lines, IsEmpty());
+}
+
+TEST_F(UsageTrackerTest, KeepsTheLatestTenThousandEvents) {
+  std::vector<double> seconds(UsageTracker::maxEvents + 5);
+  std::iota(seconds.begin(), seconds.end(), 0);
+  const auto tracker = makeTrackerOf(seconds, "UTC");
+  EXPECT_EQ(tracker->usageEvents().size(), UsageTracker::maxEvents + 5);
+  tracker->recordUsage("t");
+  tracker->recordUsage("last");
+  ASSERT_EQ(tracker->usageEvents().size(), UsageTracker::maxEvents);
+  EXPECT_EQ(tracker->usageEvents().front().timestamp, 7);
+  EXPECT_EQ(tracker->usageEvents().back().trigger, "last");
+  EXPECT_EQ(makeTracker()->usageEvents(), tracker->usageEvents());
+  EXPECT_EQ(tracker->totalExpansions(), 2);
+}
+
+TEST_F(UsageTrackerTest, NoTriggerMakesAFileUnreadable) {
+  const auto tracker = makeTracker();
+  for (const std::string& trigger :
+       {std::string("\xFF"), std::string("a\0b", 3), std::string("\x01\x1F\\"), std::string()}) {
+    tracker->recordUsage(trigger);
+  }
+  const auto again = makeTracker();
+  EXPECT_EQ(again->usageEvents().size(), 4U);
+  EXPECT_EQ(again->totalExpansions(), 4);
+  EXPECT_THAT(log_.lines, IsEmpty());
+}
+
+TEST_F(UsageTrackerTest, TellsObserversBeforeAndAfter) {
+  const auto tracker = makeTracker();
+  std::vector<std::size_t> before;
+  std::vector<std::string> after;
+  const auto willChange = tracker->onWillChange(
+      [&] { before.push_back(tracker->usageCounts().size() + tracker->usageEvents().size()); });
+  const auto recorded = tracker->onRecorded([&](const std::string& trigger) {
+    EXPECT_EQ(tracker->usageCounts().at(trigger), 1);
+    after.push_back(trigger);
+  });
+  tracker->recordUsage("smile");
+  EXPECT_THAT(before, ElementsAre(0U, 1U));
+  EXPECT_THAT(after, ElementsAre("smile"));
+}
+
+TEST_F(UsageTrackerTest, CountsSaturate) {
+  folder_.write(countsFile, R"({"a":9223372036854775807,"b":5,"c":-3})");
+  const auto tracker = makeTracker();
+  tracker->recordUsage("a");
+  EXPECT_EQ(tracker->usageCounts().at("a"), std::numeric_limits<std::int64_t>::max());
+  EXPECT_EQ(tracker->totalExpansions(), std::numeric_limits<std::int64_t>::max() - 3);
+}
+
+TEST_F(UsageTrackerTest, TopUsedIsHighestFirst) {
+  folder_.write(countsFile, R"({"low":1,"high":30,"middle":7,"Middle":8})");
+  const auto tracker = makeTracker();
+  EXPECT_THAT(tracker->topUsed(2), ElementsAre(TriggerCount{"high", 30}, TriggerCount{"Middle", 8}));
+  EXPECT_EQ(tracker->topUsed(10).size(), 4U);
+  EXPECT_THAT(tracker->topUsed(0), IsEmpty());
+}
+
+TEST_F(UsageTrackerTest, UnreadableFilesAreLoggedAndLeftAlone) {
+  const struct {
+    const char* file;
+    const char* content;
+    const char* log;
+  } cases[] = {
+      {countsFile, R"({"a":1.0})", "[UsageTracker] Failed to load usage counts: "},
+      {countsFile, R"({"a":true})", "[UsageTracker] Failed to load usage counts: "},
+      {countsFile, R"({"a":"1"})", "[UsageTracker] Failed to load usage counts: "},
+      {countsFile, R"({"a":null})", "[UsageTracker] Failed to load usage counts: "},
+      {countsFile, R"({"a":9223372036854775808})", "[UsageTracker] Failed to load usage counts: "},
+      {countsFile, "[]", "[UsageTracker] Failed to load usage counts: "},
+      {countsFile, "", "[UsageTracker] Failed to load usage counts: "},
+      {eventsFile, "{}", "[UsageTracker] Failed to load usage events: "},
+      {eventsFile, R"([{"trigger":"a"}])", "[UsageTracker] Failed to load usage events: "},
+      {eventsFile, R"([{"trigger":"a","timestamp":"1"}])", "[UsageTracker] Failed to load usage events: "},
+      {eventsFile, R"([{"trigger":"a","timestamp":1e999}])", "[UsageTracker] Failed to load usage events: "},
+      {eventsFile, R"([{"trigger":7,"timestamp":1}])", "[UsageTracker] Failed to load usage events: "},
+      {eventsFile, R"([{"trigger":"a","timestamp":1})", "[UsageTracker] Failed to load usage events: "},
+  };
+  for (const auto& [file, content, line] : cases) {
+    const TemporaryFolder folder;
+    folder.write(file, content);
+    log_.lines.clear();
+    const UsageTracker tracker(folder.path(), clock_);
+    EXPECT_THAT(tracker.usageCounts(), IsEmpty()) << content;
+    EXPECT_THAT(tracker.usageEvents(), IsEmpty()) << content;
+    EXPECT_THAT(log_.lines, ElementsAre(StartsWith(line))) << content;
+    EXPECT_EQ(folder.read(file), content);
+  }
+}
+
+TEST_F(UsageTrackerTest, MovesAnUnreadableFileAsideBeforeTheFirstRecording) {
+  folder_.write(eventsFile, "broken");
+  const auto tracker = makeTracker("Europe/Berlin");
+  log_.lines.clear();
+  tracker->recordUsage("a");
+  tracker->recordUsage("a");
+  const std::string aside = "usage-stats.json.unreadable-2026-03-14T10-30-00";
+  EXPECT_THAT(log_.lines, ElementsAre("[UsageTracker] Moved the unreadable usage-stats.json to " +
+                                      (folder_ / aside).string()));
+  EXPECT_THAT(folder_.names(), ElementsAre(countsFile, eventsFile, aside));
+  EXPECT_EQ(folder_.read(aside), "broken");
+  EXPECT_EQ(makeTracker()->usageEvents().size(), 2U);
+}
+
+TEST_F(UsageTrackerTest, WhatCannotBeSavedStaysInMemory) {
+  folder_.write("file", "");
+  UsageTracker tracker(folder_ / "file", clock_);
+  EXPECT_THAT(log_.lines, IsEmpty());
+  tracker.recordUsage("a");
+  EXPECT_EQ(tracker.totalExpansions(), 1);
+  EXPECT_EQ(tracker.todayCount(), 1);
+  EXPECT_THAT(log_.lines, ElementsAre(StartsWith("[UsageTracker] Failed to save usage counts: "),
+                                      StartsWith("[UsageTracker] Failed to save usage events: ")));
+}
+
+TEST_F(UsageTrackerTest, TodayBeginsAtLocalMidnightAndHasNoEnd) {
+  clock_.time = ManualWallClock::utc(2026, 3, 14, 9, 30);
+  const double midnight = secondsSinceReferenceDate(ManualWallClock::utc(2026, 3, 13, 23));  // in Berlin
+  const auto tracker =
+      makeTrackerOf({midnight - 0.001, midnight, midnight + 1, midnight + 1e6}, "Europe/Berlin");
+  EXPECT_EQ(tracker->todayCount(), 3);
+  EXPECT_THAT(countsOf(tracker->dailyCounts()), ElementsAre(0, 0, 0, 0, 0, 1, 2));
+}
+
+TEST_F(UsageTrackerTest, DaysAreWholeCalendarDays) {
+  using Clock = ManualWallClock;
+  const struct {
+    const char* timeZone;
+    WallClock::TimePoint now;
+    std::vector<WallClock::TimePoint> starts;  // the last of the seven days and the one after
+  } cases[] = {
+      {"UTC",
+       Clock::utc(2026, 3, 1, 0),
+       {Clock::utc(2026, 2, 27), Clock::utc(2026, 2, 28), Clock::utc(2026, 3, 1)}},
+      // 23 hours on 29 March, 25 hours on 25 October
+      {"Europe/Berlin",
+       Clock::utc(2026, 3, 30, 12),
+       {Clock::utc(2026, 3, 27, 23), Clock::utc(2026, 3, 28, 23), Clock::utc(2026, 3, 29, 22)}},
+      {"Europe/Berlin",
+       Clock::utc(2026, 10, 26, 22, 59),
+       {Clock::utc(2026, 10, 23, 22), Clock::utc(2026, 10, 24, 22), Clock::utc(2026, 10, 25, 23)}},
+      // midnight of 4 November is skipped: the day begins at one
+      {"America/Sao_Paulo",
+       Clock::utc(2018, 11, 5, 12),
+       {Clock::utc(2018, 11, 3, 3), Clock::utc(2018, 11, 4, 3), Clock::utc(2018, 11, 5, 2)}},
+      {"America/Sao_Paulo",
+       Clock::utc(2018, 11, 4, 12),
+       {Clock::utc(2018, 11, 2, 3), Clock::utc(2018, 11, 3, 3), Clock::utc(2018, 11, 4, 3)}},
+      // the last hour of 17 February comes twice
+      {"America/Sao_Paulo",
+       Clock::utc(2018, 2, 18, 3),
+       {Clock::utc(2018, 2, 16, 2), Clock::utc(2018, 2, 17, 2), Clock::utc(2018, 2, 18, 3)}},
+      // the first hour of 1 November comes twice
+      {"America/Havana",
+       Clock::utc(2026, 11, 1, 12),
+       {Clock::utc(2026, 10, 30, 4), Clock::utc(2026, 10, 31, 4), Clock::utc(2026, 11, 1, 4)}},
+      // 30 December 2011 did not take place
+      {"Pacific/Apia",
+       Clock::utc(2011, 12, 31, 0),
+       {Clock::utc(2011, 12, 29, 10), Clock::utc(2011, 12, 30, 10)}},
+  };
+  for (const auto& [timeZone, now, starts] : cases) {
+    clock_.time = now;
+    std::vector<double> seconds;
+    for (const auto start : starts) {
+      seconds.push_back(secondsSinceReferenceDate(start) - 1);
+      seconds.push_back(secondsSinceReferenceDate(start));
+    }
+    const auto days = makeTrackerOf(seconds, timeZone)->dailyCounts();
+    ASSERT_EQ(days.size(), 7U);
+    EXPECT_EQ(days.back().date, starts.back()) << timeZone;
+    if (starts.size() < 3) continue;
+    EXPECT_EQ(days[4].date, starts[0]) << timeZone;
+    EXPECT_EQ(days[5].date, starts[1]) << timeZone;
+    EXPECT_THAT(countsOf(days), ElementsAre(0, 0, 0, 1, 2, 2, 1)) << timeZone;
+  }
+}
+
+}  // namespace
+}  // namespace tessarin

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <chrono>
+
+#include "platform/WallClock.h"
+
+namespace tessarin::testing {
+
+/// A time of day that stands still until it is set; counts how often it was read.
+class ManualWallClock final : public WallClock {
+ public:
+  explicit ManualWallClock(TimePoint start = utc(2026, 3, 14, 9, 30)) : time(start) {}
+
+  static TimePoint utc(int year, unsigned month, unsigned day, int hour = 0, int minute = 0, int second = 0) {
+    using namespace std::chrono;
+    return sys_days(std::chrono::year(year) / month / day) + hours(hour) + minutes(minute) + seconds(second);
+  }
+
+  TimePoint now() const override {
+    ++reads;
+    return time;
+  }
+  void advance(std::chrono::nanoseconds by) { time += by; }
+
+  TimePoint time;
+  mutable int reads = 0;
+};
+
+}  // namespace tessarin::testing
