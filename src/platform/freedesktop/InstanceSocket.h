@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/freedesktop/FileDescriptor.h"
+#include "base/FileDescriptor.h"
 
 namespace tessarin::freedesktop {
 
