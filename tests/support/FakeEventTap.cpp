@@ -55,7 +55,9 @@ void FakeEventTap::type(std::string_view keys) {
 
 void FakeEventTap::disable(KeyEventKind how) {
   isOn = false;
-  handler_({.kind = how});
+  KeyEvent event;
+  event.kind = how;
+  handler_(event);
 }
 
 bool FakeEventTap::isHeard(const KeyEvent& event) const {

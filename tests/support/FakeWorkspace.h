@@ -33,7 +33,8 @@ class FakeWorkspace final : public Workspace {
   void expectOpenUrl(std::string url) { urls_.expect(std::move(url)); }
   /// Another application comes to the front, and everybody is told.
   void activate(std::string bundleIdentifier) {
-    frontmost = Application{.bundleIdentifier = std::move(bundleIdentifier)};
+    frontmost.emplace();
+    frontmost->bundleIdentifier = std::move(bundleIdentifier);
     changeContext();
   }
   void changeContext() { contextChanged_.emit(); }

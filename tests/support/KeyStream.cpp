@@ -25,7 +25,11 @@ const NamedKey* namedKey(const std::string& symbol) {
 }  // namespace
 
 KeyEvent key(std::int64_t keyCode, std::string_view text, std::uint64_t flags) {
-  return {.keyCode = keyCode, .flags = flags, .text = text::toUtf16(text)};
+  KeyEvent event;
+  event.keyCode = keyCode;
+  event.flags = flags;
+  event.text = text::toUtf16(text);
+  return event;
 }
 
 KeyEvent letter(std::string_view text, std::uint64_t flags) {

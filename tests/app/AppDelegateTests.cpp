@@ -1,0 +1,303 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <string>
+#include <vector>
+
+#include "app/AppDelegate.h"
+#include "app/TestApp.h"
+#include "input/Preferences.h"
+#include "platform/KeyCodes.h"
+#include "support/KeyStream.h"
+
+namespace tessarin::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using Strings = std::vector<std::string>;
+
+class AppDelegateTest : public ::testing::Test {
+ protected:
+  void SetUp() override { app.launch(); }
+  /// What every way of abandoning leaves.
+  void expectAbandoned() {
+    EXPECT_EQ(app.query(), std::nullopt);
+    EXPECT_FALSE(app.popup.visible);
+    EXPECT_THAT(app.model().results(), IsEmpty());
+    EXPECT_EQ(app.model().query(), "");
+    EXPECT_FALSE(app.monitor().isIntercepting);
+    EXPECT_FALSE(app.monitor().shouldConsumeArrows);
+    EXPECT_EQ(app.tap.attention(), KeyAttention::triggerOnly);
+  }
+  TestApp app;
+};
+
+// The query
+
+TEST_F(AppDelegateTest, ShowsWhatEachQueryFinds) {
+  app.type(":");
+  EXPECT_EQ(app.shownTriggers(), std::nullopt);
+  app.type("sm");
+  EXPECT_EQ(app.shownTriggers(), (Strings{"smile", "smirk", "small"}));
+  app.type("ir");
+  EXPECT_EQ(app.shownTriggers(), Strings{"smirk"});
+  EXPECT_TRUE(app.monitor().isIntercepting);
+  EXPECT_EQ(app.popup.presented.back().query, "smir");
+}
+
+TEST_F(AppDelegateTest, PresentsOncePerKey) {
+  app.type(":smi");
+  EXPECT_EQ(app.popup.presented.size(), 3u);
+  app.type("↓");
+  ASSERT_EQ(app.popup.presented.size(), 4u);
+  EXPECT_EQ(app.popup.presented.back().selectedIndex, 1);
+}
+
+TEST_F(AppDelegateTest, HidesWithoutResultsAndKeepsTheQuery) {
+  app.type(":smq");
+  EXPECT_FALSE(app.popup.visible);
+  EXPECT_FALSE(app.monitor().isIntercepting);
+  EXPECT_EQ(app.model().query(), "smq");
+  EXPECT_EQ(app.query(), "smq");
+  app.type("⌫");
+  EXPECT_TRUE(app.popup.visible);
+}
+
+TEST_F(AppDelegateTest, HidesOnTheEmptyQueryAndGoesOnCollecting) {
+  app.type(":s⌫");
+  EXPECT_FALSE(app.popup.visible);
+  EXPECT_FALSE(app.monitor().isIntercepting);
+  EXPECT_EQ(app.query(), "");
+}
+
+TEST_F(AppDelegateTest, ShowsEightResultsAtMost) {
+  for (int i = 0; i < 12; ++i) {
+    app.app->snippetStore().addSnippet({.id = std::to_string(i),
+                                        .name = "n",
+                                        .trigger = "many" + std::to_string(i),
+                                        .replacement = "m",
+                                        .keywords = {},
+                                        .category = "Custom",
+                                        .isBuiltIn = false});
+  }
+  app.type(":many");
+  EXPECT_EQ(app.shownTriggers()->size(), 8u);
+}
+
+TEST_F(AppDelegateTest, AChangedTriggerIsShownAtOnce) {
+  app.type(":s");
+  app.defaults.set(preferences::key::triggerCharacter, ";");
+  EXPECT_EQ(app.popup.presented.back().triggerCharacter, ";");
+  app.type("⎋");
+  const auto presented = app.popup.presented.size();
+  app.defaults.set(preferences::key::triggerCharacter, ":");
+  EXPECT_EQ(app.popup.presented.size(), presented) << "a hidden popup stays hidden";
+}
+
+// Arrows
+
+TEST_F(AppDelegateTest, LeftAndRightNeitherCancelNorChangeTheQuery) {
+  app.type(":shrug←→");
+  EXPECT_EQ(app.query(), "shrug");
+  EXPECT_TRUE(app.popup.visible);
+  EXPECT_FALSE(app.model().skinToneMode()) << "a kaomoji has no skin tones";
+  EXPECT_EQ(app.tap.judged.back().second, KeyVerdict::pass);
+}
+
+TEST_F(AppDelegateTest, RightOpensThePickerAndIsSwallowed) {
+  app.type(":wave");
+  EXPECT_EQ(app.tap.press(key(keycode::right)), KeyVerdict::swallow);
+  EXPECT_TRUE(app.model().skinToneMode());
+  EXPECT_TRUE(app.monitor().shouldConsumeArrows);
+  EXPECT_EQ(app.popup.presented.back().skinToneVariants.size(), 6u);
+}
+
+TEST_F(AppDelegateTest, LeftFromTheFirstVariantClosesThePickerAndIsSwallowed) {
+  app.type(":wave→→←");
+  EXPECT_TRUE(app.model().skinToneMode());
+  EXPECT_EQ(app.tap.press(key(keycode::left)), KeyVerdict::swallow);
+  EXPECT_FALSE(app.model().skinToneMode());
+  EXPECT_FALSE(app.monitor().shouldConsumeArrows);
+  EXPECT_EQ(app.tap.press(key(keycode::left)), KeyVerdict::pass);
+}
+
+TEST_F(AppDelegateTest, ArrowsGoToTheDetectorWhileThePopupIsHidden) {
+  app.type(":←");
+  expectAbandoned();
+  app.type(":qqq↑↓");
+  EXPECT_EQ(app.query(), "qqq");
+  app.type("→");
+  expectAbandoned();
+}
+
+// Abandoning
+
+TEST_F(AppDelegateTest, EndsInManyWays) {
+  struct Way {
+    const char* name;
+    std::function<void(TestApp&)> end;
+  };
+  const Way ways[] = {
+      {"Escape", [](TestApp& a) { a.type("⎋"); }},
+      {"Space", [](TestApp& a) { a.type(" "); }},
+      {"chord", [](TestApp& a) { a.tap.press(letter("c", keyflag::control)); }},
+      {"another application", [](TestApp& a) { a.workspace.activate("org.example.Other"); }},
+      {"pointer press", [](TestApp& a) { a.workspace.changeContext(); }},
+      {"focus moved", [](TestApp& a) { a.accessibility.focus(std::make_shared<FakeElement>()); }},
+      {"tap timed out", [](TestApp& a) { a.tap.disable(KeyEventKind::disabledByTimeout); }},
+      {"tap disabled by input", [](TestApp& a) { a.tap.disable(KeyEventKind::disabledByUserInput); }},
+  };
+  for (const Way& way : ways) {
+    SCOPED_TRACE(way.name);
+    app.type(":wave→");
+    ASSERT_TRUE(app.popup.visible);
+    way.end(app);
+    expectAbandoned();
+    EXPECT_EQ(app.tap.press(key(keycode::returnKey, "\r")), KeyVerdict::pass);
+    EXPECT_THAT(app.insertion.replacements, IsEmpty());
+  }
+}
+
+TEST_F(AppDelegateTest, AConfirmationWithoutResultsEndsQuietly) {
+  app.type(":qqq");
+  EXPECT_EQ(app.tap.press(key(keycode::returnKey, "\r")), KeyVerdict::pass);
+  expectAbandoned();
+  EXPECT_THAT(app.insertion.replacements, IsEmpty());
+}
+
+// Where nothing is collected
+
+TEST_F(AppDelegateTest, BlockedApplicationsAreLeftAlone) {
+  for (const char* blocked : {"com.tinyspeck.slackmacgap", "com.apple.MobileSMS", "org.example.Chat"}) {
+    app.defaults.set(preferences::key::blacklistedApps, Strings{"org.example.Chat"});
+    app.workspace.activate(blocked);
+    EXPECT_TRUE(app.app->isBlockedAppActive());
+    app.type(":smile⏎");
+    EXPECT_EQ(app.query(), std::nullopt);
+  }
+  EXPECT_THAT(app.popup.presented, IsEmpty());
+  app.workspace.activate("org.example.Editor");
+  app.type(":s");
+  EXPECT_TRUE(app.popup.visible);
+}
+
+TEST_F(AppDelegateTest, AnUnknownApplicationIsNotBlocked) {
+  app.workspace.frontmost.reset();
+  EXPECT_FALSE(app.app->isBlockedAppActive());
+  app.workspace.frontmost.emplace();
+  app.defaults.set(preferences::key::blacklistedApps, Strings{""});
+  EXPECT_FALSE(app.app->isBlockedAppActive()) << "an application without identifier";
+  app.type(":s");
+  EXPECT_TRUE(app.popup.visible);
+}
+
+TEST_F(AppDelegateTest, PasswordFieldsAreLeftAlone) {
+  auto field = std::make_shared<FakeElement>();
+  field->attributes[std::string(attribute::role)] = std::string(role::secureTextField);
+  app.accessibility.focus(field);
+  app.type(":smile⏎");
+  EXPECT_EQ(app.document.text, ":smile\r");
+  EXPECT_THAT(app.popup.presented, IsEmpty());
+}
+
+// The switch
+
+TEST_F(AppDelegateTest, SwitchedOffItLeavesEverythingAsItIs) {
+  app.type(":wave→");
+  app.app->menuBarManager().toggleEnabled();
+  const auto presented = app.popup.presented.size();
+  app.tap.press(key(keycode::down));
+  app.tap.press(key(keycode::returnKey, "\r"));
+  EXPECT_EQ(app.query(), "wave");
+  EXPECT_TRUE(app.popup.visible);
+  EXPECT_EQ(app.popup.presented.size(), presented);
+  EXPECT_TRUE(app.model().skinToneMode());
+  EXPECT_TRUE(app.monitor().isIntercepting);
+  EXPECT_TRUE(app.monitor().shouldConsumeArrows);
+  EXPECT_EQ(app.tap.attention(), KeyAttention::everyKey);
+  app.app->menuBarManager().toggleEnabled();
+  app.type("⏎");
+  EXPECT_EQ(app.document.text, "👋");
+}
+
+TEST_F(AppDelegateTest, SwitchedOffItCollectsNothing) {
+  app.statusBar.choose("Disable Tessarin");
+  app.type(":smile⏎");
+  EXPECT_EQ(app.query(), std::nullopt);
+  EXPECT_THAT(app.popup.presented, IsEmpty());
+  EXPECT_EQ(app.tap.attention(), KeyAttention::triggerOnly);
+  app.statusBar.choose("Enable Tessarin");
+  app.type(":s");
+  EXPECT_TRUE(app.popup.visible);
+}
+
+// Attention
+
+TEST_F(AppDelegateTest, AttentionFollowsTheCollecting) {
+  app.tap.attentions.clear();
+  app.type("a:smile⏎b:x⎋c");
+  EXPECT_THAT(app.tap.attentions,
+              ElementsAre(KeyAttention::triggerOnly, KeyAttention::everyKey, KeyAttention::triggerOnly,
+                          KeyAttention::everyKey, KeyAttention::triggerOnly));
+}
+
+TEST_F(AppDelegateTest, KeysAreHeldBackUntilTheLastInsertionIsDone) {
+  app.insertion.finishesAtOnce = false;
+  app.type(":sm");
+  app.popup.clickRow(0);
+  EXPECT_EQ(app.tap.attention(), KeyAttention::holdBack) << "from before the first synthetic press on";
+  app.insertion.finish(InsertionOutcome::inserted);
+  EXPECT_EQ(app.tap.attention(), KeyAttention::triggerOnly);
+}
+
+TEST_F(AppDelegateTest, KeysAreLetGoWhateverCameOfTheInsertion) {
+  app.insertion.finishesAtOnce = false;
+  for (const auto outcome : {InsertionOutcome::unchanged, InsertionOutcome::erasedOnly}) {
+    app.type(":smile⏎");
+    EXPECT_EQ(app.tap.attention(), KeyAttention::holdBack);
+    app.insertion.finish(outcome);
+    EXPECT_EQ(app.tap.attention(), KeyAttention::triggerOnly);
+  }
+}
+
+TEST_F(AppDelegateTest, AnInsertionIsNotDisturbedFromOutside) {
+  app.insertion.finishesAtOnce = false;
+  app.type(":smile⏎");
+  app.workspace.changeContext();
+  app.accessibility.focus(std::make_shared<FakeElement>());
+  app.tap.disable(KeyEventKind::disabledByTimeout);
+  app.defaults.set(preferences::key::triggerCharacter, ";");
+  EXPECT_EQ(app.tap.attention(), KeyAttention::holdBack);
+  app.insertion.finish();
+  EXPECT_EQ(app.tap.attention(), KeyAttention::triggerOnly);
+  EXPECT_EQ(app.document.text, "😄");
+}
+
+TEST_F(AppDelegateTest, TheTapHearsOfAnotherTrigger) {
+  app.tap.isQuietWhileIdle = true;
+  app.defaults.set(preferences::key::triggerCharacter, "/");
+  EXPECT_EQ(app.tap.trigger(), "/");
+  app.type("/smile/");
+  EXPECT_EQ(app.document.text, "😄");
+}
+
+// The end
+
+TEST_F(AppDelegateTest, NothingThatItHandedOutOutlivesIt) {
+  app.insertion.finishesAtOnce = false;
+  app.type(":smile⏎");
+  app.app.reset();
+  app.insertion.finish();
+  app.popup.clickRow(0);
+  app.popup.clickVariant(0);
+  app.workspace.changeContext();
+  app.accessibility.focus(std::make_shared<FakeElement>());
+  app.defaults.set(preferences::key::triggerCharacter, ";");
+  app.queue.advance(std::chrono::seconds(10));
+  EXPECT_FALSE(app.tap.exists);
+}
+
+}  // namespace
+}  // namespace tessarin::testing

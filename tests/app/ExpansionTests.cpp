@@ -1,0 +1,216 @@
+// Whole expansions, from the first key to what stands in the document.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "app/TestApp.h"
+#include "input/Preferences.h"
+#include "platform/KeyCodes.h"
+#include "support/CaseName.h"
+#include "support/KeyStream.h"
+
+namespace tessarin::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+struct Expansion {
+  const char* name;
+  std::string keys;
+  std::string document;
+};
+
+/// On a desktop that holds each key while it is judged, and on one where keys reach the document first; on
+/// one that hands over every key, and on one that keeps quiet about all but the trigger.
+class Expansions : public ::testing::TestWithParam<std::tuple<Expansion, bool, bool>> {
+ protected:
+  const Expansion& expansion() const { return std::get<0>(GetParam()); }
+};
+
+TEST_P(Expansions, LeaveExactlyTheirTextBehind) {
+  TestApp app;
+  app.tap.keysReachDocumentFirst = std::get<1>(GetParam());
+  app.tap.isQuietWhileIdle = std::get<2>(GetParam());
+  app.launch();
+  app.type(expansion().keys);
+  EXPECT_EQ(app.document.text, expansion().document);
+  EXPECT_FALSE(app.popup.visible);
+}
+
+const Expansion expansions[] = {
+    {"ByReturn", "a:smile⏎b", "a😄b"},
+    {"ByTab", "a:smile⇥b", "a😄b"},
+    {"ByTrigger", "a:smile:b", "a😄b"},
+    {"OfAPrefix", ":smi⏎", "😄"},
+    {"InOtherLetterCase", ":SMILE⏎", "😄"},
+    {"OfTheSecondRow", ":sm↓⏎", "😏"},
+    {"OfTheLastRowByWrapping", ":smi↑⏎", "😏"},
+    {"OfASkinTone", ":wave→→→⏎", "👋\U0001F3FC"},
+    {"OfTheBaseAfterLeavingThePicker", ":wave→→←←⏎", "👋"},
+    {"AfterTypingIntoThePicker", ":wav→→e⏎", "👋"},
+    {"AfterCorrections", ":smul⌫⌫ile⏎", "😄"},
+    {"TwiceWithoutPause", ":smile⏎:wave⏎", "😄👋"},
+    {"TwiceByTrigger", ":smile::wave:", "😄👋"},
+    {"OfAKaomoji", ":shrug:!", "(ツ)!"},
+    {"CancelledByEscape", ":smile⎋⏎", ":smile\r"},
+    {"CancelledBySpace", ":smile ⏎", ":smile \r"},
+    {"CancelledByDeletingAll", ":s⌫⌫smile⏎", "smile\r"},
+    {"WithoutMatchByReturn", ":qqq⏎", ":qqq\r"},
+    {"WithoutMatchByTrigger", ":qqq:", ":qqq:"},
+    {"OfTheTriggerAlone", "::⏎", "::\r"},
+    {"AfterAnUnfinishedOne", ":qqq: :smile⏎", ":qqq: 😄"},
+    {"OfMoreLettersThanAreCollected", ":" + std::string(64, 'z') + "abc⏎", "long"},
+    {"OfDroppedLettersByTrigger", "x:" + std::string(64, 'z') + "é:", "xlong"},
+    {"OfDroppedLettersAfterDelete", ":" + std::string(64, 'z') + "ab⌫⌫⌫⌫⏎", "long"},
+    {"OfDroppedLettersWithoutMatch", ":" + std::string(64, 'z') + "a⌫bc⏎",
+     ":" + std::string(64, 'z') + "bc\r"},
+};
+INSTANTIATE_TEST_SUITE_P(Typed, Expansions,
+                         ::testing::Combine(::testing::ValuesIn(expansions), ::testing::Bool(),
+                                            ::testing::Bool()),
+                         [](const auto& parameter) {
+                           return std::string(std::get<0>(parameter.param).name) +
+                                  (std::get<1>(parameter.param) ? "InDocument" : "Held") +
+                                  (std::get<2>(parameter.param) ? "Quiet" : "");
+                         });
+
+class ExpansionTest : public ::testing::Test {
+ protected:
+  void SetUp() override { app.launch(); }
+  TestApp app;
+};
+
+// What is handed over
+
+TEST_F(ExpansionTest, ReturnHandsOverTriggerAndQuery) {
+  app.insertion.expectReplacement({5, "😄", false, ":smil"});
+  app.type(":smil⏎");
+  EXPECT_EQ(app.insertion.replacements.size(), 1u);
+  EXPECT_EQ(app.timesUsed("smile"), 1);
+}
+
+TEST_F(ExpansionTest, AHeldTriggerIsSwallowed) {
+  app.insertion.expectReplacement({4, "😄", false, ":smi"});
+  app.type(":smi");
+  EXPECT_EQ(app.tap.press(letter(":")), KeyVerdict::swallow);
+}
+
+TEST_F(ExpansionTest, ATriggerInTheDocumentIsErasedToo) {
+  app.tap.keysReachDocumentFirst = true;
+  app.insertion.expectReplacement({4, "😄", true, ":smi:"});
+  app.type(":smi");
+  EXPECT_EQ(app.tap.press(letter(":")), KeyVerdict::pass);
+}
+
+TEST_F(ExpansionTest, AReturnAfterATriggerThatConfirmedIsOrdinary) {
+  app.type(":smi:");
+  app.insertion.expectReplacement({5, "😏", false, ":smir"});
+  app.type(":smir⏎");
+}
+
+TEST_F(ExpansionTest, AnUnusedTriggerPasses) {
+  app.type(":qqq");
+  EXPECT_EQ(app.tap.press(letter(":")), KeyVerdict::pass);
+  EXPECT_THAT(app.insertion.replacements, IsEmpty());
+  EXPECT_THAT(app.app->snippetStore().usageTracker().usageEvents(), IsEmpty());
+}
+
+TEST_F(ExpansionTest, TheTriggerThatOpenedIsTheOneErased) {
+  app.type(":smi");
+  app.defaults.set(preferences::key::triggerCharacter, "/");
+  app.insertion.expectReplacement({4, "😄", false, ":smi"});
+  app.type("/");
+  app.insertion.expectReplacement({5, "😏", false, "/smir"});
+  app.type("/smir⏎");
+}
+
+TEST_F(ExpansionTest, ATriggerOfAnotherNormalFormIsErasedAsTyped) {
+  app.defaults.set(preferences::key::triggerCharacter, "é");
+  app.tap.keysReachDocumentFirst = true;
+  app.insertion.expectReplacement({3, "👋", true, "e\u0301wae\u0301"});
+  for (const char* typed : {"e\u0301", "w", "a", "e\u0301"}) app.tap.press(letter(typed));
+}
+
+TEST_F(ExpansionTest, LettersBeyondTheLimitAreErasedWithTheRest) {
+  const std::string typed = ":" + std::string(64, 'z') + "ab";
+  app.insertion.expectReplacement({67, "long", false, typed});
+  app.type(typed + "⏎");
+}
+
+// Clicks
+
+TEST_F(ExpansionTest, AClickErasesTheLettersTyped) {
+  app.type(":sm");
+  app.insertion.expectReplacement({3, "😏", false, ":sm"});
+  app.popup.clickRow(1);
+  EXPECT_EQ(app.query(), std::nullopt);
+  EXPECT_EQ(app.document.text, "😏");
+  EXPECT_EQ(app.timesUsed("smirk"), 1);
+  EXPECT_FALSE(app.popup.visible);
+}
+
+TEST_F(ExpansionTest, AClickWithAVariantHighlightedInsertsTheVariant) {
+  app.type(":wave→");
+  app.popup.clickVariant(5);
+  EXPECT_THAT(app.insertion.replacements, IsEmpty()) << "a variant is only highlighted";
+  EXPECT_EQ(app.popup.presented.back().skinToneSelectedIndex, 5);
+  app.insertion.expectReplacement({5, "👋\U0001F3FF", false, ":wave"});
+  app.popup.clickRow(0);
+}
+
+TEST_F(ExpansionTest, AClickOnNothingDoesNothing) {
+  app.type(":sm");
+  app.popup.clickRow(17);
+  app.popup.clickVariant(1);
+  EXPECT_EQ(app.query(), "sm");
+  EXPECT_EQ(app.model().skinToneSelectedIndex(), 0);
+  app.type("⎋");
+  app.popup.clickRow(0);
+  EXPECT_THAT(app.insertion.replacements, IsEmpty());
+}
+
+// Typing ahead
+
+TEST_F(ExpansionTest, KeysTypedDuringAnInsertionAreJudgedAfterIt) {
+  app.insertion.finishesAtOnce = false;
+  app.type("a:smile⏎b:wave⏎c");
+  EXPECT_EQ(app.document.text, "a:smile");
+  app.insertion.finish();
+  EXPECT_EQ(app.document.text, "a😄b:wave");
+  app.insertion.finish();
+  EXPECT_EQ(app.document.text, "a😄b👋c");
+}
+
+/// Erases nothing but what was typed, whatever is typed: the document fails the test otherwise.
+TEST(ExpansionStreams, NeverEraseMoreOrLessThanTheShortcode) {
+  const std::string overlong(63, 'z');
+  const std::vector<std::string> pieces = {
+      ":", ":sm", ":wav", ":" + overlong, "i", "l", "e", "z", "zz", "⌫", "⌫⌫", "⏎", "⏎", "⇥", ":",
+      " ", "⎋",   "x",    "e\u0301",      "V", ".", "::"};
+  std::size_t replacements = 0;
+  for (std::uint32_t seed = 0; seed < 40; ++seed) {
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    TestApp app;
+    app.tap.keysReachDocumentFirst = seed % 2;
+    app.tap.isQuietWhileIdle = seed / 2 % 2;
+    app.insertion.finishesAtOnce = seed / 4 % 2;
+    app.launch();
+    for (int i = 0; i < 300; ++i) {
+      if (app.insertion.underWay() && random() % 4 == 0) app.insertion.finish();
+      app.type(pieces[random() % pieces.size()]);
+    }
+    while (app.insertion.underWay()) app.insertion.finish();
+    replacements += app.insertion.replacements.size();
+  }
+  EXPECT_GT(replacements, 500u) << "the streams must confirm often enough";
+}
+
+}  // namespace
+}  // namespace tessarin::testing

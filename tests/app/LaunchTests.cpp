@@ -1,0 +1,144 @@
+// Launch, retry and shutdown of the controller.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+
+#include "app/TestApp.h"
+#include "input/Preferences.h"
+
+namespace tessarin::testing {
+namespace {
+
+using namespace std::chrono_literals;
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+constexpr const char* ready = "[Tessarin] App launched and ready";
+constexpr const char* started = "[Tessarin] Keyboard monitor started successfully";
+constexpr const char* failed =
+    "[Tessarin] Keyboard monitor failed to start — will retry when permission is granted";
+
+class LaunchTest : public ::testing::Test {
+ protected:
+  void launch() {
+    app.create();
+    app.log.lines.clear();
+    app.app->applicationDidFinishLaunching();
+  }
+  TestApp app;
+};
+
+TEST_F(LaunchTest, ShowsTheItemAndIsReady) {
+  launch();
+  EXPECT_THAT(app.statusBar.descriptions, ElementsAre("Tessarin"));
+  EXPECT_THAT(app.log.lines, ElementsAre(ready));
+  EXPECT_THAT(app.hooksRun, ElementsAre("updates"));
+  EXPECT_EQ(app.accessibility.prompts, 0);
+}
+
+TEST_F(LaunchTest, TheUpdateServiceComesFirstAndTheOnboardingLast) {
+  app.defaults.set(preferences::key::hasCompletedOnboarding, false);
+  app.accessibility.trusted = false;
+  launch();
+  EXPECT_THAT(app.hooksRun, ElementsAre("updates", "onboarding"));
+  EXPECT_EQ(app.accessibility.prompts, 1);
+}
+
+TEST_F(LaunchTest, LacksTheirHooksWithoutHarm) {
+  app.defaults.set(preferences::key::hasCompletedOnboarding, false);
+  AppDelegate bare({.eventTap = app.tap,
+                    .accessibility = app.accessibility,
+                    .inputMonitoring = app.monitoring,
+                    .workspace = app.workspace,
+                    .userDefaults = app.defaults,
+                    .mainQueue = app.queue,
+                    .autocompletePanel = app.popup,
+                    .textReplacer = app.insertion,
+                    .statusBar = app.statusBar,
+                    .wallClock = app.clock,
+                    .folders = {.resources = app.folder.path(), .storage = app.folder / "storage"},
+                    .menu = {},
+                    .startUpdateService = nullptr,
+                    .showOnboardingWindow = nullptr});
+  bare.applicationDidFinishLaunching();
+  EXPECT_EQ(app.log.lines.back(), ready);
+}
+
+TEST_F(LaunchTest, StartsTheMonitorAfterOneSecond) {
+  launch();
+  app.queue.advance(999ms);
+  EXPECT_EQ(app.tap.creations, 0);
+  app.queue.advance(1ms);
+  EXPECT_TRUE(app.tap.isOn);
+  EXPECT_EQ(app.tap.attention(), KeyAttention::triggerOnly);
+  EXPECT_EQ(app.tap.trigger(), ":");
+  EXPECT_EQ(app.log.lines.back(), started);
+}
+
+TEST_F(LaunchTest, RetriesEveryThreeSecondsOnceTrusted) {
+  app.accessibility.trusted = false;
+  launch();
+  app.queue.advance(1s);
+  EXPECT_EQ(app.accessibility.prompts, 2) << "at launch and by the first start";
+  EXPECT_THAT(app.log.lines, Contains(failed).Times(1));
+  app.queue.advance(9s);
+  EXPECT_EQ(app.accessibility.prompts, 2) << "a tick without trust does nothing";
+  EXPECT_THAT(app.log.lines, Contains(failed).Times(1));
+  app.accessibility.trusted = true;
+  app.queue.advance(2999ms);
+  EXPECT_FALSE(app.tap.isOn);
+  app.queue.advance(1ms);
+  EXPECT_TRUE(app.tap.isOn);
+  EXPECT_EQ(app.log.lines.back(), started);
+  app.tap.destroy();
+  app.queue.advance(30s);
+  EXPECT_THAT(app.log.lines, Contains(started).Times(1)) << "the retrying has ended";
+  EXPECT_EQ(app.tap.creations, 1);
+}
+
+TEST_F(LaunchTest, RetriesWhileThereIsNoTap) {
+  app.tap.isUsable = false;
+  launch();
+  app.queue.advance(7s);
+  EXPECT_EQ(app.tap.creations, 3);
+  EXPECT_THAT(app.log.lines, Contains(failed).Times(3));
+  app.tap.isUsable = true;
+  app.queue.advance(3s);
+  EXPECT_TRUE(app.tap.isOn);
+}
+
+TEST_F(LaunchTest, ShutdownEndsKeysAndTimers) {
+  app.launch();
+  app.type(":s");
+  app.app->applicationWillTerminate();
+  EXPECT_FALSE(app.tap.exists);
+  EXPECT_EQ(app.queue.pending(), 0u);
+  const int hides = app.popup.hides;
+  app.workspace.changeContext();
+  app.accessibility.focus(std::make_shared<FakeElement>());
+  EXPECT_EQ(app.popup.hides, hides);
+}
+
+TEST_F(LaunchTest, ShutdownEndsTheRetrying) {
+  app.accessibility.trusted = false;
+  app.launch();
+  app.app->applicationWillTerminate();
+  app.accessibility.trusted = true;
+  app.queue.advance(10s);
+  EXPECT_EQ(app.tap.creations, 0);
+}
+
+TEST_F(LaunchTest, ShutdownWithinTheFirstSecondStartsNothing) {
+  launch();
+  app.app->applicationWillTerminate();
+  app.queue.advance(10s);
+  EXPECT_EQ(app.tap.creations, 0);
+  EXPECT_THAT(app.log.lines, Not(Contains(failed)));
+}
+
+}  // namespace
+}  // namespace tessarin::testing

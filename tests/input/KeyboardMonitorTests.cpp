@@ -1,0 +1,319 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "input/KeyboardMonitor.h"
+#include "platform/KeyCodes.h"
+#include "support/CaseName.h"
+#include "support/FakeAccessibility.h"
+#include "support/FakeEventTap.h"
+#include "support/KeyStream.h"
+#include "support/LogRecorder.h"
+#include "support/ManualMainQueue.h"
+
+namespace tessarin::testing {
+namespace {
+
+using namespace std::chrono_literals;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class KeyboardMonitorTest : public ::testing::Test {
+ protected:
+  KeyboardMonitorTest() {
+    monitor->onKeyEvent = [this](const auto& characters, std::int64_t, std::uint64_t) {
+      heard.push_back(characters);
+      if (whileJudging) whileJudging();
+    };
+    monitor->onInterrupted = [this] { ++interruptions; };
+    monitor->setAttention(KeyAttention::triggerOnly, ":");
+  }
+
+  LogRecorder log;
+  FakeEventTap tap;
+  FakeAccessibility accessibility;
+  ManualMainQueue queue;
+  std::unique_ptr<KeyboardMonitor> monitor = std::make_unique<KeyboardMonitor>(tap, accessibility, queue);
+  std::vector<std::optional<std::string>> heard;
+  std::function<void()> whileJudging;
+  int interruptions = 0;
+};
+
+// Swallowing
+
+struct SwallowCase {
+  const char* name;
+  KeyEvent event;
+  bool whenShown;
+  bool withPicker;
+};
+
+class SwallowRule : public KeyboardMonitorTest, public ::testing::WithParamInterface<SwallowCase> {};
+
+TEST_P(SwallowRule, Holds) {
+  ASSERT_TRUE(monitor->start());
+  const auto verdict = [](bool swallowed) { return swallowed ? KeyVerdict::swallow : KeyVerdict::pass; };
+  for (const bool arrows : {false, true}) {
+    monitor->isIntercepting = false;
+    monitor->shouldConsumeArrows = arrows;
+    EXPECT_EQ(tap.press(GetParam().event), KeyVerdict::pass) << "popup hidden";
+    monitor->isIntercepting = true;
+    EXPECT_EQ(tap.press(GetParam().event), verdict(arrows ? GetParam().withPicker : GetParam().whenShown));
+  }
+  EXPECT_EQ(heard.size(), 4u) << "the owner hears of every key";
+}
+
+const SwallowCase swallowCases[] = {
+    {"Return", key(keycode::returnKey, "\r"), true, true},
+    {"Tab", key(keycode::tab, "\t"), true, true},
+    {"Escape", key(keycode::escape, "\x1b"), true, true},
+    {"Up", key(keycode::up), true, true},
+    {"Down", key(keycode::down), true, true},
+    {"DownWithShift", key(keycode::down, "", keyflag::shift), true, true},
+    {"Left", key(keycode::left), false, true},
+    {"Right", key(keycode::right), false, true},
+    {"Letter", letter("a"), false, false},
+    {"Digit", letter("7"), false, false},
+    {"Trigger", letter(":"), false, false},
+    {"Space", key(keycode::space, " "), false, false},
+    {"Delete", key(keycode::deleteBackward, "\b"), false, false},
+    {"ForwardDelete", key(keycode::forwardDelete), false, false},
+    {"LetterWithControl", letter("a", keyflag::control), false, false},
+};
+INSTANTIATE_TEST_SUITE_P(Keys, SwallowRule, ::testing::ValuesIn(swallowCases), CaseName());
+
+TEST_F(KeyboardMonitorTest, SwallowsWhatWasTheirsBeforeTheOwnerLetGo) {
+  monitor->start();
+  monitor->isIntercepting = true;
+  whileJudging = [&] { monitor->isIntercepting = false; };
+  EXPECT_EQ(tap.press(key(keycode::returnKey, "\r")), KeyVerdict::swallow);
+  EXPECT_EQ(tap.press(key(keycode::returnKey, "\r")), KeyVerdict::pass);
+}
+
+TEST_F(KeyboardMonitorTest, SwallowsWhatTheOwnerTookUpMeanwhile) {
+  monitor->start();
+  monitor->isIntercepting = true;
+  whileJudging = [&] { monitor->shouldConsumeArrows = true; };
+  EXPECT_EQ(tap.press(key(keycode::right)), KeyVerdict::swallow);
+}
+
+TEST_F(KeyboardMonitorTest, PassesTheLetterThatOpensThePopup) {
+  monitor->start();
+  whileJudging = [&] { monitor->isIntercepting = true; };
+  EXPECT_EQ(tap.press(letter("s")), KeyVerdict::pass);
+}
+
+TEST_F(KeyboardMonitorTest, TheOwnerMaySwallowTheKeyInHandOnly) {
+  monitor->start();
+  whileJudging = [&] { monitor->consumeCurrentKey(); };
+  EXPECT_EQ(tap.press(letter(":")), KeyVerdict::swallow);
+  whileJudging = nullptr;
+  EXPECT_EQ(tap.press(letter(":")), KeyVerdict::pass);
+}
+
+TEST_F(KeyboardMonitorTest, SwallowsWithoutAnOwnerToo) {
+  monitor->start();
+  monitor->onKeyEvent = nullptr;
+  monitor->isIntercepting = true;
+  EXPECT_EQ(tap.press(key(keycode::returnKey, "\r")), KeyVerdict::swallow);
+  EXPECT_EQ(tap.press(letter("a")), KeyVerdict::pass);
+}
+
+// What the owner hears
+
+TEST_F(KeyboardMonitorTest, HandsOnTextOrItsAbsence) {
+  monitor->start();
+  tap.press(letter("é"));
+  tap.press(letter("👋🏽"));
+  tap.press(key(keycode::left));
+  EXPECT_THAT(heard, ElementsAre("é", "👋🏽", std::nullopt));
+}
+
+TEST_F(KeyboardMonitorTest, HandsOnKeyCodeFlagsAndPlace) {
+  monitor->start();
+  tap.keysReachDocumentFirst = true;
+  monitor->onKeyEvent = [&](const auto&, std::int64_t keyCode, std::uint64_t flags) {
+    EXPECT_EQ(keyCode, keycode::other);
+    EXPECT_EQ(flags, keyflag::shift | keyflag::capsLock);
+    EXPECT_TRUE(monitor->isCurrentKeyInDocument());
+    ++interruptions;
+  };
+  tap.press(letter("A", keyflag::shift | keyflag::capsLock));
+  EXPECT_EQ(interruptions, 1);
+}
+
+TEST_F(KeyboardMonitorTest, PassesModifierChangesUnheard) {
+  monitor->start();
+  monitor->isIntercepting = true;
+  KeyEvent event = key(keycode::returnKey, "\r", keyflag::shift);
+  event.kind = KeyEventKind::flagsChanged;
+  EXPECT_EQ(tap.press(event), KeyVerdict::pass);
+  EXPECT_THAT(heard, IsEmpty());
+}
+
+TEST_F(KeyboardMonitorTest, BeginsTheBudgetOfEachKey) {
+  monitor->start();
+  KeyEvent event = letter("a");
+  event.budget = 70ms;
+  whileJudging = [&] { EXPECT_THAT(accessibility.budgets, ElementsAre(70ms)); };
+  tap.press(event);
+  EXPECT_EQ(heard.size(), 1u);
+}
+
+// Password fields
+
+class PasswordField : public KeyboardMonitorTest {
+ protected:
+  PasswordField() {
+    field->attributes[std::string(attribute::role)] = std::string(role::secureTextField);
+    accessibility.focus(field);
+    monitor->start();
+  }
+  std::shared_ptr<FakeElement> field = std::make_shared<FakeElement>();
+};
+
+TEST_F(PasswordField, GetsItsTriggerUnheard) {
+  EXPECT_EQ(tap.press(letter(":")), KeyVerdict::pass);
+  EXPECT_THAT(heard, IsEmpty());
+}
+
+TEST_F(PasswordField, IsLookedForAgainAtEachTrigger) {
+  tap.press(letter(":"));
+  field->attributes[std::string(attribute::role)] = std::string(role::textField);
+  tap.press(letter(":"));
+  EXPECT_THAT(heard, ElementsAre(":"));
+}
+
+TEST_F(PasswordField, IsNotLookedForAtOtherKeysNorWhileCollecting) {
+  tap.press(letter("a"));
+  monitor->setAttention(KeyAttention::everyKey, ":");
+  tap.press(letter(":"));
+  tap.press(letter("b"));
+  EXPECT_EQ(accessibility.calls, 0);
+  EXPECT_THAT(heard, ElementsAre("a", ":", "b"));
+}
+
+TEST_F(PasswordField, IsOnlyOneThatSaysSo) {
+  field->attributes.clear();
+  tap.press(letter(":"));
+  accessibility.system->attributes.clear();
+  tap.press(letter(":"));
+  EXPECT_THAT(heard, ElementsAre(":", ":"));
+}
+
+// Starting and stopping
+
+TEST_F(KeyboardMonitorTest, StartsOnce) {
+  EXPECT_TRUE(monitor->start());
+  EXPECT_TRUE(monitor->start());
+  EXPECT_EQ(tap.creations, 1);
+  EXPECT_TRUE(tap.isOn);
+  EXPECT_THAT(log.lines, ElementsAre("[KeyboardMonitor] Event tap started (.defaultTap)"));
+}
+
+TEST_F(KeyboardMonitorTest, AsksForTrustInsteadOfStarting) {
+  accessibility.trusted = false;
+  EXPECT_FALSE(monitor->start());
+  EXPECT_EQ(accessibility.prompts, 1);
+  EXPECT_EQ(tap.creations, 0);
+  EXPECT_THAT(log.lines, ElementsAre("[KeyboardMonitor] No Accessibility permission — requesting"));
+}
+
+TEST_F(KeyboardMonitorTest, StartsLaterWhenThereWasNoTap) {
+  tap.isUsable = false;
+  EXPECT_FALSE(monitor->start());
+  EXPECT_EQ(queue.pending(), 0u);
+  tap.isUsable = true;
+  EXPECT_TRUE(monitor->start());
+  EXPECT_THAT(log.lines,
+              ElementsAre("[KeyboardMonitor] Failed to create event tap — check Accessibility permission",
+                          "[KeyboardMonitor] Event tap started (.defaultTap)"));
+}
+
+TEST_F(KeyboardMonitorTest, StopsAndCanStartAgain) {
+  monitor->start();
+  monitor->stop();
+  EXPECT_FALSE(tap.exists);
+  EXPECT_FALSE(tap.isOn);
+  EXPECT_EQ(queue.pending(), 0u);
+  EXPECT_EQ(log.lines.back(), "[KeyboardMonitor] Event tap stopped");
+  EXPECT_TRUE(monitor->start());
+  EXPECT_TRUE(tap.isOn);
+}
+
+TEST_F(KeyboardMonitorTest, StopsWithoutHavingStarted) {
+  monitor->stop();
+  EXPECT_THAT(log.lines, ElementsAre("[KeyboardMonitor] Event tap stopped"));
+  EXPECT_EQ(tap.creations, 0);
+}
+
+TEST_F(KeyboardMonitorTest, StopsWhenItGoes) {
+  monitor->start();
+  monitor.reset();
+  EXPECT_FALSE(tap.exists);
+  EXPECT_EQ(queue.pending(), 0u);
+}
+
+// Keeping the tap alive
+
+class Disabling : public KeyboardMonitorTest, public ::testing::WithParamInterface<KeyEventKind> {};
+
+TEST_P(Disabling, IsUndoneAtOnceAndReported) {
+  monitor->start();
+  log.lines.clear();
+  tap.disable(GetParam());
+  EXPECT_TRUE(tap.isOn);
+  EXPECT_EQ(interruptions, 1);
+  EXPECT_THAT(heard, IsEmpty());
+  EXPECT_THAT(log.lines, IsEmpty());
+}
+INSTANTIATE_TEST_SUITE_P(BothKinds, Disabling,
+                         ::testing::Values(KeyEventKind::disabledByTimeout,
+                                           KeyEventKind::disabledByUserInput));
+
+TEST_F(KeyboardMonitorTest, ASilentlyDisabledTapIsFoundWithinFiveSeconds) {
+  monitor->start();
+  log.lines.clear();
+  tap.isOn = false;
+  queue.advance(4999ms);
+  EXPECT_FALSE(tap.isOn);
+  queue.advance(1ms);
+  EXPECT_TRUE(tap.isOn);
+  EXPECT_EQ(interruptions, 1);
+  EXPECT_THAT(log.lines, ElementsAre("[KeyboardMonitor] Re-enabling disabled event tap"));
+  queue.advance(20s);
+  EXPECT_EQ(log.lines.size(), 1u) << "nothing more while the tap is on";
+}
+
+// Attention
+
+TEST_F(KeyboardMonitorTest, TellsTheTapBeforeItIsSwitchedOn) {
+  monitor->setAttention(KeyAttention::triggerOnly, ";");
+  EXPECT_THAT(tap.attentions, IsEmpty());
+  monitor->start();
+  EXPECT_EQ(tap.trigger(), ";");
+}
+
+TEST_F(KeyboardMonitorTest, TellsTheTapOnceTheKeyIsJudged) {
+  monitor->start();
+  whileJudging = [&] {
+    monitor->setAttention(KeyAttention::holdBack, ":");
+    EXPECT_EQ(tap.attention(), KeyAttention::triggerOnly);
+    monitor->setAttention(KeyAttention::everyKey, ":");
+  };
+  tap.press(letter("a"));
+  EXPECT_THAT(tap.attentions, ElementsAre(KeyAttention::triggerOnly, KeyAttention::everyKey));
+}
+
+TEST_F(KeyboardMonitorTest, TellsTheTapAtOnceBetweenKeys) {
+  monitor->start();
+  monitor->setAttention(KeyAttention::holdBack, ":");
+  EXPECT_EQ(tap.attention(), KeyAttention::holdBack);
+}
+
+}  // namespace
+}  // namespace tessarin::testing

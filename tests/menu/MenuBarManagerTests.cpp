@@ -1,0 +1,146 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "input/Preferences.h"
+#include "menu/MenuBarManager.h"
+#include "support/FakeAccessibility.h"
+#include "support/FakeInputMonitoring.h"
+#include "support/FakeStatusBar.h"
+#include "support/FakeUserDefaults.h"
+#include "support/FakeWorkspace.h"
+#include "support/ManualMainQueue.h"
+
+namespace tessarin::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class MenuBarManagerTest : public ::testing::Test {
+ protected:
+  void makeManager(MenuBarManager::Hooks hooks) {
+    manager = std::make_unique<MenuBarManager>(
+        statusBar, defaults, queue, Permissions(accessibility, monitoring, workspace), std::move(hooks));
+  }
+  void SetUp() override {
+    makeManager({.openSettings = [this](SnippetStore*) { calls.push_back("settings"); },
+                 .checkForUpdates = [this] { calls.push_back("updates"); },
+                 .quit = [this] { calls.push_back("quit"); }});
+  }
+
+  FakeStatusBar statusBar;
+  FakeUserDefaults defaults;
+  ManualMainQueue queue;
+  FakeAccessibility accessibility;
+  FakeInputMonitoring monitoring;
+  FakeWorkspace workspace;
+  std::vector<std::string> calls;
+  std::unique_ptr<MenuBarManager> manager;
+};
+
+/// Title, shortcut and whether it can be chosen: "Quit Tessarin|q|+".
+std::vector<std::string> summary(const std::vector<MenuItem>& menu) {
+  std::vector<std::string> lines;
+  for (const MenuItem& item : menu) {
+    lines.push_back(
+        item.isSeparator() ? "---" : item.title + "|" + item.keyEquivalent + "|" + (item.action ? "+" : "-"));
+  }
+  return lines;
+}
+
+TEST_F(MenuBarManagerTest, ShowsTheWholeMenuAtLaunch) {
+  manager->setupStatusItem();
+  EXPECT_THAT(statusBar.descriptions, ElementsAre("Tessarin"));
+  EXPECT_THAT(statusBar.dimmed, IsEmpty());
+  ASSERT_EQ(statusBar.menus.size(), 1u);
+  EXPECT_THAT(summary(statusBar.menus.back()),
+              ElementsAre("Disable Tessarin||+", "---", "Check for Updates...||+", "Settings...|,|+", "---",
+                          "Permissions||-", "  Input Monitoring: ✓||-", "  Accessibility: ✓||-", "---",
+                          "Quit Tessarin|q|+"));
+}
+
+TEST_F(MenuBarManagerTest, DisablesWhatLeadsNowhere) {
+  makeManager({});
+  manager->setupStatusItem();
+  EXPECT_THAT(summary(statusBar.menus.back()),
+              ElementsAre("Disable Tessarin||+", "---", "Check for Updates...||-", "Settings...|,|-", "---",
+                          "Permissions||-", "  Input Monitoring: ✓||-", "  Accessibility: ✓||-", "---",
+                          "Quit Tessarin|q|-"));
+}
+
+TEST_F(MenuBarManagerTest, TogglesExpansion) {
+  manager->setupStatusItem();
+  statusBar.choose("Disable Tessarin");
+  EXPECT_FALSE(manager->isEnabled());
+  EXPECT_EQ(defaults.boolean(preferences::key::tessarinEnabled), false);
+  statusBar.choose("Enable Tessarin");
+  EXPECT_TRUE(manager->isEnabled());
+  EXPECT_EQ(defaults.boolean(preferences::key::tessarinEnabled), true);
+  EXPECT_THAT(statusBar.dimmed, ElementsAre(true, false));
+  EXPECT_TRUE(statusBar.item("Disable Tessarin"));
+}
+
+TEST_F(MenuBarManagerTest, StartsSwitchedOnWhateverIsStored) {
+  defaults.set(preferences::key::tessarinEnabled, false);
+  SetUp();
+  EXPECT_TRUE(manager->isEnabled());
+}
+
+TEST_F(MenuBarManagerTest, TogglesWithoutAnItemToo) {
+  manager->toggleEnabled();
+  EXPECT_FALSE(manager->isEnabled());
+  EXPECT_EQ(defaults.boolean(preferences::key::tessarinEnabled), false);
+  EXPECT_THAT(statusBar.dimmed, IsEmpty());
+  EXPECT_THAT(statusBar.menus, IsEmpty());
+}
+
+TEST_F(MenuBarManagerTest, RequestsWhatIsMissingAndShowsTheAnswer) {
+  accessibility.trusted = false;
+  monitoring.granted = false;
+  manager->setupStatusItem();
+  statusBar.choose("  Input Monitoring: ✗");
+  EXPECT_EQ(monitoring.requests, 1);
+  EXPECT_EQ(statusBar.menus.size(), 2u);
+  monitoring.granted = true;
+  statusBar.choose("  Accessibility: ✗ (optional)");
+  EXPECT_EQ(accessibility.prompts, 1);
+  EXPECT_TRUE(statusBar.item("  Input Monitoring: ✓")) << "the state of the moment";
+  EXPECT_TRUE(statusBar.item("  Accessibility: ✗ (optional)"));
+}
+
+TEST_F(MenuBarManagerTest, ShowsAGrantOnlyAfterTheNextRebuild) {
+  accessibility.trusted = false;
+  manager->setupStatusItem();
+  accessibility.trusted = true;
+  EXPECT_TRUE(statusBar.item("  Accessibility: ✗ (optional)"));
+  manager->rebuildMenu();
+  EXPECT_TRUE(statusBar.item("  Accessibility: ✓"));
+}
+
+TEST_F(MenuBarManagerTest, LeadsToSettingsUpdatesAndQuit) {
+  manager->setupStatusItem();
+  statusBar.choose("Settings...");
+  statusBar.choose("Check for Updates...");
+  EXPECT_THAT(calls, ElementsAre("settings")) << "the check begins after the menu has closed";
+  queue.runReady();
+  statusBar.choose("Quit Tessarin");
+  EXPECT_THAT(calls, ElementsAre("settings", "updates", "quit"));
+}
+
+TEST_F(MenuBarManagerTest, AMenuThatOutlivesItDoesNothing) {
+  manager->setupStatusItem();
+  manager->checkForUpdates();
+  manager.reset();
+  queue.runReady();
+  statusBar.choose("Disable Tessarin");
+  statusBar.choose("Quit Tessarin");
+  EXPECT_THAT(calls, IsEmpty());
+  EXPECT_THAT(defaults.writes, IsEmpty());
+}
+
+}  // namespace
+}  // namespace tessarin::testing
