@@ -100,9 +100,21 @@ void FocusEvents::onStateChanged(DBusMessage* message) {
     model_.elementUnfocused(*element);
   } else if (isOurs(element->bus)) {
     model_.ownFocused();
-  } else if (model_.elementFocused(*element)) {
-    moved_ = true;
+  } else {
+    onFocused(*element);
   }
+}
+
+void FocusEvents::onFocused(const ObjectReference& element) {
+  const auto& known = model_.focus().window;
+  if (!known || known->bus != element.bus) {
+    // Windows in the background move their focus about, too. Believing them would write into the wrong one.
+    FocusSearch search(connection_.get(), [this] { return isStopping_.load(); });
+    const auto window = search.windowOf(element);
+    if (window && !search.isActive(*window)) return;
+    if (window) model_.windowActivated(*window);
+  }
+  if (model_.elementFocused(element)) moved_ = true;
 }
 
 void FocusEvents::onWindow(DBusMessage* message) {

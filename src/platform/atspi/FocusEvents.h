@@ -43,6 +43,7 @@ class FocusEvents {
   void addMatches();
   void registerEvents();
   void onStateChanged(DBusMessage* message);
+  void onFocused(const ObjectReference& element);
   void onWindow(DBusMessage* message);
   void onNameOwnerChanged(DBusMessage* message);
   bool isOurs(const std::string& bus);

@@ -15,6 +15,7 @@ constexpr const char* accessible = "org.a11y.atspi.Accessible";
 constexpr std::chrono::milliseconds longestCall{100};
 constexpr std::chrono::milliseconds longestSearch{1500};
 constexpr int mostObjects = 2000;
+constexpr int farthestWindow = 64;
 
 }  // namespace
 
@@ -34,7 +35,7 @@ FocusModel::Focus FocusSearch::everywhere(const std::function<bool(const std::st
   for (const ObjectReference& application : children(desktop)) {
     if (isOurs(application.bus)) continue;
     for (const ObjectReference& window : children(application)) {
-      if ((states(window).value_or(0) & busState::active) != 0) return {inWindow(window), window};
+      if (isActive(window)) return {inWindow(window), window};
     }
   }
   return {};
@@ -56,10 +57,28 @@ std::vector<ObjectReference> FocusSearch::children(const ObjectReference& object
       .value_or(std::vector<ObjectReference>{});
 }
 
-bool FocusSearch::isMenuBar(const ObjectReference& object) {
+std::optional<std::uint32_t> FocusSearch::role(const ObjectReference& object) {
   const MessagePtr request = methodCall(object, accessible, "GetRole");
-  return MessageReader(callAndWait(connection_, request.get(), longestCall).get()).uint32() ==
-         busRole::menuBar;
+  return MessageReader(callAndWait(connection_, request.get(), longestCall).get()).uint32();
+}
+
+std::optional<ObjectReference> FocusSearch::windowOf(ObjectReference element) {
+  for (int step = 0; step < farthestWindow && mayGoOn(); ++step) {
+    const auto found = role(element);
+    if (!found) return std::nullopt;
+    if (isWindow(*found)) return element;
+    const MessagePtr request = propertyRead(element, accessible, "Parent");
+    const MessagePtr reply = callAndWait(connection_, request.get(), longestCall);
+    auto value = MessageReader(reply.get()).variant();
+    auto parent = value ? value->reference() : std::nullopt;
+    if (!parent) return std::nullopt;
+    element = *std::move(parent);
+  }
+  return std::nullopt;
+}
+
+bool FocusSearch::isActive(const ObjectReference& window) {
+  return (states(window).value_or(0) & busState::active) != 0;
 }
 
 void FocusSearch::visit(const ObjectReference& object) {
@@ -72,7 +91,7 @@ void FocusSearch::visit(const ObjectReference& object) {
     // Qt says of the current tab of a tab bar that it is focused, too: an editable one is the better answer.
     isDone_ = (*found & busState::editable) != 0;
   }
-  if ((*found & busState::managesDescendants) != 0 || isDone_ || isMenuBar(object)) return;
+  if ((*found & busState::managesDescendants) != 0 || isDone_ || role(object) == busRole::menuBar) return;
   for (const ObjectReference& child : children(object)) visit(child);
 }
 

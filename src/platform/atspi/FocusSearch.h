@@ -1,8 +1,10 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "platform/atspi/DBusHandles.h"
 #include "platform/atspi/FocusModel.h"
@@ -20,12 +22,15 @@ class FocusSearch {
   std::optional<ObjectReference> inWindow(const ObjectReference& window);
   /// The active window of all applications but our own, and the focused element in it.
   FocusModel::Focus everywhere(const std::function<bool(const std::string& bus)>& isOurs);
+  /// The window that holds the element.
+  std::optional<ObjectReference> windowOf(ObjectReference element);
+  bool isActive(const ObjectReference& window);
 
  private:
   bool mayGoOn();
   std::optional<std::uint64_t> states(const ObjectReference& object);
   std::vector<ObjectReference> children(const ObjectReference& object);
-  bool isMenuBar(const ObjectReference& object);
+  std::optional<std::uint32_t> role(const ObjectReference& object);
   void visit(const ObjectReference& object);
 
   DBusConnection* connection_;

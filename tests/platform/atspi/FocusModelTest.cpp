@@ -1,0 +1,108 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "platform/atspi/FocusModel.h"
+
+namespace tessarin::atspi {
+namespace {
+
+const ObjectReference window1{":1.1", "/window"}, window2{":1.1", "/dialog"}, other{":1.2", "/window"};
+const ObjectReference field1{":1.1", "/field"}, field2{":1.1", "/entry"}, otherField{":1.2", "/field"};
+
+struct Event {
+  char kind;  // + window activated, - deactivated, f element focused, u unfocused, g application gone, o ours
+  ObjectReference object;
+};
+
+struct Case {
+  const char* name;
+  std::vector<Event> events;
+  FocusModel::Focus focus;
+  int moves;
+};
+
+int judge(FocusModel& model, const Event& event) {
+  switch (event.kind) {
+    case '+':
+      model.windowActivated(event.object);
+      return 0;
+    case '-':
+      model.windowDeactivated(event.object);
+      return 0;
+    case 'f':
+      return model.elementFocused(event.object) ? 1 : 0;
+    case 'u':
+      model.elementUnfocused(event.object);
+      return 0;
+    case 'g':
+      model.applicationGone(event.object.bus);
+      return 0;
+    default:
+      model.ownFocused();
+      return 0;
+  }
+}
+
+TEST(FocusModelTest, followsTheEventsOfAllToolkits) {
+  const Case cases[] = {
+      {"window, then element", {{'+', window1}, {'f', field1}}, {field1, window1}, 1},
+      {"element, then window", {{'f', field1}, {'+', window1}}, {field1, window1}, 1},
+      {"element to element",
+       {{'+', window1}, {'f', field1}, {'u', field1}, {'f', field2}},
+       {field2, window1},
+       2},
+      {"late letting go",
+       {{'+', window1}, {'f', field1}, {'f', field2}, {'u', field1}},
+       {field2, window1},
+       2},
+      {"let go without the element", {{'+', window1}, {'f', field1}, {'-', window1}}, {{}, {}}, 1},
+      {"let go while unknown", {{'f', field1}, {'-', window1}}, {{}, {}}, 1},
+      {"away and back",
+       {{'+', window1}, {'f', field1}, {'-', window1}, {'+', window1}, {'f', field1}},
+       {field1, window1},
+       1},
+      {"told twice", {{'+', window1}, {'f', field1}, {'f', field1}}, {field1, window1}, 1},
+      {"next application before the last lets go",
+       {{'+', window1}, {'f', field1}, {'+', other}, {'f', otherField}, {'-', window1}, {'u', field1}},
+       {otherField, other},
+       2},
+      {"next window before the last lets go",
+       {{'+', window1}, {'f', field1}, {'+', window2}, {'-', window1}},
+       {{}, window2},
+       1},
+      {"other application tells only its window",
+       {{'+', window1}, {'f', field1}, {'+', other}},
+       {{}, other},
+       1},
+      {"gone", {{'+', window1}, {'f', field1}, {'g', window1}}, {{}, {}}, 1},
+      {"another one gone", {{'+', window1}, {'f', field1}, {'g', other}}, {field1, window1}, 1},
+      {"ours and back",
+       {{'+', window1}, {'f', field1}, {'o', {}}, {'+', window1}, {'f', field1}},
+       {field1, window1},
+       1},
+      {"ours", {{'+', window1}, {'f', field1}, {'o', {}}}, {{}, {}}, 1},
+  };
+  for (const Case& expected : cases) {
+    SCOPED_TRACE(expected.name);
+    FocusModel model;
+    int moves = 0;
+    for (const Event& event : expected.events) moves += judge(model, event);
+    EXPECT_EQ(model.focus(), expected.focus);
+    EXPECT_EQ(moves, expected.moves);
+  }
+}
+
+TEST(FocusModelTest, whatASearchFindsIsNoMove) {
+  FocusModel model;
+  model.windowActivated(window1);
+  EXPECT_EQ(model.windowToSearch(), window1);
+  model.found({field1, window1});
+  EXPECT_FALSE(model.windowToSearch());
+  EXPECT_FALSE(model.elementFocused(field1));
+  EXPECT_TRUE(model.elementFocused(field2));
+}
+
+}  // namespace
+}  // namespace tessarin::atspi
