@@ -1,0 +1,40 @@
+#include "ui/TrustPrompt.h"
+
+#include <QCoreApplication>
+#include <QPushButton>
+
+namespace tessarin::ui {
+namespace {
+
+QString tr(const char* text) { return QCoreApplication::translate("TrustPrompt", text); }
+
+}  // namespace
+
+TrustPrompt::~TrustPrompt() { delete dialog_; }
+
+void TrustPrompt::ask() {
+  if (dialog_) {
+    dialog_->raise();
+    return;
+  }
+  dialog_ = new QMessageBox(QMessageBox::Question, "Tessarin", tr("Allow Tessarin to expand shortcodes?"));
+  dialog_->setAttribute(Qt::WA_DeleteOnClose);
+  dialog_->setInformativeText(
+      tr("After you type the trigger character, Tessarin judges the keys that follow, shows matches beside the caret and "
+         "replaces the shortcode in the application you are typing in. While idle it sees no key but the trigger. Nothing "
+         "that you type is recorded.\n\nSaying yes also switches the session's accessibility on; applications that are "
+         "open now may have to be started again before text can be replaced directly in them."));
+  QPushButton* yes = dialog_->addButton(tr("Allow"), QMessageBox::AcceptRole);
+  dialog_->addButton(tr("Not Now"), QMessageBox::RejectRole);
+  dialog_->setDefaultButton(yes);
+  QObject::connect(dialog_, &QMessageBox::buttonClicked, dialog_, [this, yes](QAbstractButton* button) {
+    if (button == yes) allowed_();
+  });
+  dialog_->open();
+}
+
+void TrustPrompt::dismiss() {
+  if (dialog_) dialog_->close();
+}
+
+}  // namespace tessarin::ui
