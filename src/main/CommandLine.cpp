@@ -16,7 +16,8 @@ constexpr std::array options{
     Option{"--help", CommandLine::Action::help, "show this text"},
     Option{"--version", CommandLine::Action::version, "show the version"},
     Option{"--allow", CommandLine::Action::allow,
-           "let Tessarin judge keys and write into other applications, and switch the session's accessibility on"},
+           "let Tessarin judge keys and write into other applications, and switch the session's "
+           "accessibility on"},
     Option{"--disallow", CommandLine::Action::disallow, "take that back"},
     Option{"--toggle", CommandLine::Action::toggle, "switch expansion off or on in the running program"},
     Option{"--quit", CommandLine::Action::quit, "end the running program"},

@@ -8,8 +8,8 @@
 
 namespace tessarin {
 
-/// Turns SIGTERM, SIGINT and SIGHUP into an ordinary callback on the main loop. To be made before any thread is started,
-/// so that the signals are blocked in all of them.
+/// Turns SIGTERM, SIGINT and SIGHUP into an ordinary callback on the main loop. To be made before any thread
+/// is started, so that the signals are blocked in all of them.
 class UnixSignals {
  public:
   UnixSignals();

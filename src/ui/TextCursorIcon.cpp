@@ -18,7 +18,8 @@ QPixmap drawn(int scale, bool dimmed) {
   QPainter painter(&pixmap);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setOpacity(dimmed ? dimmedOpacity : 1.0);
-  painter.setPen(QPen(QGuiApplication::palette().color(QPalette::WindowText), 1.6, Qt::SolidLine, Qt::RoundCap));
+  painter.setPen(
+      QPen(QGuiApplication::palette().color(QPalette::WindowText), 1.6, Qt::SolidLine, Qt::RoundCap));
   // The stem, and at either end two serifs that bend away from it.
   painter.drawLine(QPointF(9, 4), QPointF(9, 14));
   for (const qreal side : {-1.0, 1.0}) {

@@ -6,11 +6,15 @@
 namespace tessarin::ui {
 namespace {
 
-QString tr(const char* text) { return QCoreApplication::translate("TrustPrompt", text); }
+QString tr(const char* text) {
+  return QCoreApplication::translate("TrustPrompt", text);
+}
 
 }  // namespace
 
-TrustPrompt::~TrustPrompt() { delete dialog_; }
+TrustPrompt::~TrustPrompt() {
+  delete dialog_;
+}
 
 void TrustPrompt::ask() {
   if (dialog_) {
@@ -20,9 +24,12 @@ void TrustPrompt::ask() {
   dialog_ = new QMessageBox(QMessageBox::Question, "Tessarin", tr("Allow Tessarin to expand shortcodes?"));
   dialog_->setAttribute(Qt::WA_DeleteOnClose);
   dialog_->setInformativeText(
-      tr("After you type the trigger character, Tessarin judges the keys that follow, shows matches beside the caret and "
-         "replaces the shortcode in the application you are typing in. While idle it sees no key but the trigger. Nothing "
-         "that you type is recorded.\n\nSaying yes also switches the session's accessibility on; applications that are "
+      tr("After you type the trigger character, Tessarin judges the keys that follow, shows matches beside "
+         "the caret and "
+         "replaces the shortcode in the application you are typing in. While idle it sees no key but the "
+         "trigger. Nothing "
+         "that you type is recorded.\n\nSaying yes also switches the session's accessibility on; "
+         "applications that are "
          "open now may have to be started again before text can be replaced directly in them."));
   QPushButton* yes = dialog_->addButton(tr("Allow"), QMessageBox::AcceptRole);
   dialog_->addButton(tr("Not Now"), QMessageBox::RejectRole);

@@ -6,8 +6,8 @@
 
 namespace tessarin::ui {
 
-/// Asks the user, in one plain dialog, whether the program may judge keys and write into other applications. The dialog
-/// stands beside everything else; asking again while it stands changes nothing.
+/// Asks the user, in one plain dialog, whether the program may judge keys and write into other applications.
+/// The dialog stands beside everything else; asking again while it stands changes nothing.
 class TrustPrompt {
  public:
   /// `allowed` runs when the user says yes. A no is not recorded: the question may be asked again later.

@@ -8,8 +8,8 @@
 
 namespace tessarin::ui {
 
-/// The tray item: a StatusNotifierItem, or an icon in an old-style tray. Where the desktop has neither, nothing is
-/// shown until one appears.
+/// The tray item: a StatusNotifierItem, or an icon in an old-style tray. Where the desktop has neither,
+/// nothing is shown until one appears.
 class QtStatusBar final : public StatusBar {
  public:
   void createItem(const std::string& description) override;

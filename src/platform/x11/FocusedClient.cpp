@@ -3,15 +3,11 @@
 #include "platform/x11/Handles.h"
 
 namespace tessarin::x11 {
-namespace {
-
 xcb_window_t topLevelUnderPointer(xcb_connection_t* connection, xcb_window_t root) {
   const Owned<xcb_query_pointer_reply_t> pointer(
       xcb_query_pointer_reply(connection, xcb_query_pointer(connection, root), nullptr));
   return pointer ? pointer->child : xcb_window_t{XCB_WINDOW_NONE};
 }
-
-}  // namespace
 
 std::uint32_t clientOf(xcb_connection_t* connection, std::uint32_t resource) {
   return resource & ~xcb_get_setup(connection)->resource_id_mask;

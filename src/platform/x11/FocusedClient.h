@@ -14,4 +14,7 @@ std::uint32_t clientOf(xcb_connection_t* connection, std::uint32_t resource);
 /// has it. Two round trips at most.
 std::uint32_t focusedClient(xcb_connection_t* connection, xcb_window_t root);
 
+/// The child of the root that the pointer is in; XCB_WINDOW_NONE over the bare root. One round trip.
+xcb_window_t topLevelUnderPointer(xcb_connection_t* connection, xcb_window_t root);
+
 }  // namespace tessarin::x11

@@ -115,7 +115,7 @@ void SelectionPeer::handleRequest(const xcb_selection_request_event_t& request) 
   }
   answer(request);
   if (manner_ != Manner::leavesMidway || asksWhat) return;
-  xcb_flush(thread_->connection());
+  thread_->serverTime(window_);  // the server has taken in the answer
   shutdown(xcb_get_file_descriptor(thread_->connection()), SHUT_RDWR);
 }
 

@@ -1,0 +1,97 @@
+#include "main/Desktop.h"
+
+#include "base/Log.h"
+#include "main/SessionKind.h"
+#include "platform/atspi/AccessibilityBus.h"
+#include "platform/freedesktop/BaseFolders.h"
+
+namespace tessarin {
+namespace {
+
+/// One sentence, where the session lacks what the program lives on.
+void sayWhatIsMissing(x11::X11InputMonitoring& inputMonitoring) {
+  if (isWaylandSession()) {
+    log("Tessarin",
+        "This is a Wayland session, in which keys typed in other applications cannot be judged yet: no "
+        "shortcode "
+        "expands, while the tray menu and the command line work.");
+  } else if (!inputMonitoring.isGranted()) {
+    log("Tessarin",
+        "The X server lacks XInput 2.2, XTest or XKB, so keys cannot be judged: no shortcode expands, while "
+        "the tray "
+        "menu and the command line work.");
+  }
+}
+
+}  // namespace
+
+Desktop::Desktop()
+    : defaults_(freedesktop::configFolder(processEnvironment) / "preferences.json"),
+      trust_(freedesktop::configFolder(processEnvironment)),
+      trustPrompt_([this] { allow(); }),
+      selections_(x11::X11Selections::connect(queue_)),
+      workspace_(x11::X11Workspace::connect(queue_)),
+      keyboard_(std::make_shared<x11::X11Keyboard>(queue_)),
+      eventTap_(keyboard_),
+      keyPoster_(keyboard_),
+      accessibility_(queue_, accessibilityOptions()),
+      accessibilityHelper_(accessibility_, workspace(), defaults_),
+      pasteHelper_(general(), primary(), keyPoster_, queue_),
+      textReplacer_(accessibilityHelper_, pasteHelper_, clock_),
+      autocompletePanel_(popupWindow_, screens_, accessibility_, queue_) {
+  defaults_.watch(queue_);
+  if (workspace_) workspace_->setOwnPopup(popupWindow_.windowId());
+  sayWhatIsMissing(inputMonitoring_);
+}
+
+AppDelegate::Services Desktop::services(SnippetStore::Folders folders) {
+  return {eventTap_,
+          accessibility_,
+          inputMonitoring_,
+          workspace(),
+          defaults_,
+          queue_,
+          autocompletePanel_,
+          textReplacer_,
+          statusBar_,
+          clock_,
+          std::move(folders),
+          {},
+          {},
+          {}};
+}
+
+void Desktop::shutdown() {
+  pasteHelper_.finish();
+  if (selections_) selections_->shutdown();
+}
+
+atspi::AtspiAccessibility::Options Desktop::accessibilityOptions() {
+  atspi::AtspiAccessibility::Options options;
+  options.isTrusted = [this] { return trust_.isTrusted(); };
+  options.prompt = [this] {
+    if (!trust_.isTrusted()) trustPrompt_.ask();
+  };
+  options.coordinateSpace = [this] { return screens_.space(); };
+  options.activeWindowOrigin = [this] { return activeWindow_.origin(); };
+  return options;
+}
+
+Pasteboard& Desktop::general() {
+  return selections_ ? selections_->general() : static_cast<Pasteboard&>(noPasteboard_);
+}
+
+Pasteboard& Desktop::primary() {
+  return selections_ ? selections_->primary() : static_cast<Pasteboard&>(noPasteboard_);
+}
+
+Workspace& Desktop::workspace() {
+  return workspace_ ? *workspace_ : static_cast<Workspace&>(noWorkspace_);
+}
+
+void Desktop::allow() {
+  trust_.allow();
+  atspi::AccessibilityBus::enable();
+}
+
+}  // namespace tessarin

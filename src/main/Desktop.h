@@ -1,0 +1,75 @@
+#pragma once
+
+#include <memory>
+
+#include "app/AppDelegate.h"
+#include "insertion/AccessibilityHelper.h"
+#include "insertion/PasteHelper.h"
+#include "insertion/TextReplacer.h"
+#include "platform/atspi/AtspiAccessibility.h"
+#include "platform/freedesktop/JsonUserDefaults.h"
+#include "platform/freedesktop/TrustRecord.h"
+#include "platform/none/NoPasteboard.h"
+#include "platform/none/NoWorkspace.h"
+#include "platform/qt/QtMainQueue.h"
+#include "platform/qt/QtScreens.h"
+#include "platform/qt/QtStatusBar.h"
+#include "platform/x11/ActiveWindow.h"
+#include "platform/x11/X11EventTap.h"
+#include "platform/x11/X11InputMonitoring.h"
+#include "platform/x11/X11KeyPoster.h"
+#include "platform/x11/X11Keyboard.h"
+#include "platform/x11/X11Selections.h"
+#include "platform/x11/X11Workspace.h"
+#include "popup/AutocompletePanel.h"
+#include "ui/PopupWindow.h"
+#include "ui/TrustPrompt.h"
+
+namespace tessarin {
+
+/// The backends of this session and what the core puts on top of them, in the order in which they need one
+/// another.
+class Desktop {
+ public:
+  Desktop();
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+
+  AppDelegate::Services services(SnippetStore::Folders folders);
+  /// Gives the clipboard back and hands it over, while the connections still stand.
+  void shutdown();
+
+ private:
+  atspi::AtspiAccessibility::Options accessibilityOptions();
+  Pasteboard& general();
+  Pasteboard& primary();
+  Workspace& workspace();
+  void allow();
+
+  ui::QtMainQueue queue_;
+  SystemWallClock clock_;
+  freedesktop::JsonUserDefaults defaults_;
+  freedesktop::TrustRecord trust_;
+  ui::TrustPrompt trustPrompt_;
+  ui::QtStatusBar statusBar_;
+  ui::QtScreens screens_;
+  ui::PopupWindow popupWindow_;
+
+  none::NoPasteboard noPasteboard_;
+  none::NoWorkspace noWorkspace_;
+  std::unique_ptr<x11::X11Selections> selections_;
+  std::unique_ptr<x11::X11Workspace> workspace_;
+  x11::ActiveWindow activeWindow_;
+  x11::X11InputMonitoring inputMonitoring_;
+  std::shared_ptr<x11::X11Keyboard> keyboard_;
+  x11::X11EventTap eventTap_;
+  x11::X11KeyPoster keyPoster_;
+  atspi::AtspiAccessibility accessibility_;
+
+  AccessibilityHelper accessibilityHelper_;
+  PasteHelper pasteHelper_;
+  TextReplacer textReplacer_;
+  AutocompletePanel autocompletePanel_;
+};
+
+}  // namespace tessarin

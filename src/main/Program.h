@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QSocketNotifier>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "main/Desktop.h"
+#include "main/UnixSignals.h"
+#include "platform/freedesktop/FolderLock.h"
+#include "platform/freedesktop/InstanceSocket.h"
+
+class QApplication;
+
+namespace tessarin {
+
+/// The running instance: the desktop's backends with the controller on top, requests of later instances, and
+/// an orderly end. Needs the application object.
+class Program {
+ public:
+  Program(QApplication& application, UnixSignals& signals, const std::filesystem::path& resources,
+          const std::filesystem::path& storage);
+  ~Program();
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  /// Until the user quits, the session ends or a signal asks for it. Returns the exit status.
+  int run();
+
+ private:
+  void listenForRequests(const std::filesystem::path& storage);
+  std::string answer(const std::string& request);
+
+  QApplication& application_;
+  Desktop desktop_;
+  AppDelegate controller_;
+  std::optional<freedesktop::InstanceSocket> requests_;
+  std::unique_ptr<QSocketNotifier> requestNotifier_;
+};
+
+}  // namespace tessarin

@@ -1,0 +1,164 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "platform/freedesktop/ApplicationMatcher.h"
+#include "platform/freedesktop/BundleIdentifiers.h"
+#include "support/TemporaryFolder.h"
+
+namespace tessarin::testing {
+namespace {
+
+namespace fs = std::filesystem;
+using freedesktop::ApplicationMatcher;
+using freedesktop::DesktopEntries;
+using freedesktop::WindowIdentity;
+
+std::string entry(const std::string& name, const std::string& more = {}) {
+  return "[Desktop Entry]\nType=Application\nName=" + name + "\n" + more;
+}
+
+class ApplicationMatcherTest : public ::testing::Test {
+ protected:
+  void install(const std::string& id, const std::string& content) {
+    folder.write(id + ".desktop", content);
+    // Two files within one tick of the file system's clock look like one change.
+    fs::last_write_time(folder.path(), fs::file_time_type::clock::now() + std::chrono::hours(++changes));
+  }
+  std::string identifierOf(const WindowIdentity& window) {
+    const auto application = matcher.applicationOf(window);
+    return application ? application->bundleIdentifier : "none";
+  }
+
+  int changes = 0;
+  TemporaryFolder folder;
+  ApplicationMatcher matcher{
+      std::make_shared<DesktopEntries>(std::vector<fs::path>{folder.path()}, std::vector<std::string>{})};
+};
+
+struct Match {
+  const char* name;
+  WindowIdentity window;
+  const char* identifier;
+  bool isTerminal = false;
+};
+
+class Matching : public ApplicationMatcherTest, public ::testing::WithParamInterface<Match> {
+ protected:
+  Matching() {
+    install("org.example.Editor", entry("Editor"));
+    install("writer", entry("Writer", "StartupWMClass=office-writer\n"));
+    install("debian-xterm", entry("XTerm", "StartupWMClass=XTerm\nCategories=System;TerminalEmulator;\n"));
+    install("some-terminal", entry("Some", "Categories=GTK;TerminalEmulator\n"));
+    install("google-chrome", entry("Chrome", "StartupWMClass=Google-chrome\n"));
+    install("chrome-notes-Default", entry("Notes", "StartupWMClass=crx_notes\n"));
+    install("firefox-esr", entry("Firefox", "StartupWMClass=firefox-esr\n"));
+    install("painter", entry("Painter", "Exec=/opt/painter/bin/paint %U\n"));
+  }
+};
+
+TEST_P(Matching, FindsTheApplicationOfAWindow) {
+  const auto application = matcher.applicationOf(GetParam().window);
+  ASSERT_TRUE(application);
+  EXPECT_EQ(application->bundleIdentifier, GetParam().identifier);
+  EXPECT_EQ(application->isTerminal, GetParam().isTerminal);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Windows, Matching,
+    ::testing::Values(
+        Match{"ApplicationId", {"org.example.Editor", "Other", "other", ""}, "org.example.Editor"},
+        Match{"StartupClass", {"", "Office-Writer", "soffice", ""}, "writer"},
+        Match{"ClassIsId", {"", "Writer", "w", ""}, "writer"},
+        Match{"InstanceIsId", {"", "Unheard", "writer", ""}, "writer"},
+        Match{"LastPartOfId", {"", "editor", "editor", ""}, "org.example.Editor"},
+        Match{"NotInstalled", {"", "Plain-Program", "plain", ""}, "Plain-Program"},
+        Match{"OnlyAProgram", {"", "", "", "paint"}, "painter"},
+        Match{"ClassBeforeProgram", {"", "Tool", "tool", "paint"}, "Tool"},
+        Match{"ListedById", {"", "firefox-esr", "Navigator", ""}, "org.mozilla.firefox"},
+        Match{"ListedByClassOnly", {"", "Brave-browser", "brave-browser", ""}, "com.brave.Browser"},
+        Match{"ListedByApplicationId", {"com.mitchellh.ghostty", "", "", ""}, "com.mitchellh.ghostty", true},
+        Match{"Browser", {"", "Google-chrome", "google-chrome", ""}, "com.google.Chrome"},
+        Match{"WebApplication", {"", "Google-chrome", "crx_notes", ""}, "chrome-notes-Default"},
+        Match{"OtherWindowOfBrowser", {"", "Google-chrome", "Devtools", ""}, "com.google.Chrome"},
+        Match{"Terminal", {"", "XTerm", "xterm", ""}, "debian-xterm", true},
+        Match{"UnknownTerminal", {"", "UXTerm", "uxterm", ""}, "UXTerm", true},
+        Match{"TerminalByCategory", {"", "some-terminal", "x", ""}, "some-terminal", true},
+        Match{"ListedTerminal", {"", "kitty", "kitty", ""}, "net.kovidgoyal.kitty", true}),
+    [](const auto& tested) { return tested.param.name; });
+
+TEST_F(ApplicationMatcherTest, KnowsNothingOfAWindowThatSaysNothing) {
+  EXPECT_EQ(identifierOf({}), "none");
+}
+
+TEST_F(ApplicationMatcherTest, LeavesAnAmbiguousNameAlone) {
+  install("org.one.Notes", entry("One"));
+  EXPECT_EQ(identifierOf({"", "notes", "", ""}), "org.one.Notes");
+  install("org.two.Notes", entry("Two"));
+  EXPECT_EQ(identifierOf({"", "notes", "", ""}), "notes");
+}
+
+TEST_F(ApplicationMatcherTest, NoticesWhatIsInstalledAndRemovedLater) {
+  EXPECT_EQ(identifierOf({"", "Foo", "", ""}), "Foo");
+  install("foo", entry("Foo"));
+  EXPECT_EQ(identifierOf({"", "Foo", "", ""}), "foo");
+  fs::remove(folder / "foo.desktop");
+  install("bar", entry("Bar"));
+  EXPECT_EQ(identifierOf({"", "Foo", "", ""}), "Foo");
+}
+
+TEST_F(ApplicationMatcherTest, FindsWhatIsInstalledUnderAnIdentifier) {
+  install("firefox-esr", entry("Firefox ESR", "Icon=firefox-icon\n"));
+  const auto info = matcher.installed("org.mozilla.firefox");
+  ASSERT_TRUE(info);
+  EXPECT_EQ(info->name, "Firefox ESR");
+  EXPECT_EQ(info->icon, "firefox-icon");
+  EXPECT_EQ(info->location, (folder / "firefox-esr.desktop").string());
+  EXPECT_TRUE(matcher.installed("firefox-esr"));
+  EXPECT_FALSE(matcher.installed("com.brave.Browser"));
+  EXPECT_FALSE(matcher.installed(""));
+}
+
+TEST(DesktopEntries, TheFirstFolderWinsAndCanRemove) {
+  const TemporaryFolder folder;
+  for (const char* name : {"user", "system", "system/kde"}) fs::create_directory(folder / name);
+  folder.write("user/both.desktop", entry("Of the user"));
+  folder.write("system/both.desktop", entry("Of the system"));
+  folder.write("user/gone.desktop", "[Desktop Entry]\nHidden=true\n");
+  folder.write("system/gone.desktop", entry("Gone", "StartupWMClass=gone\n"));
+  folder.write("system/kde/deep.desktop", entry("Deep"));
+  folder.write("system/note.txt", entry("No entry"));
+  DesktopEntries entries({folder / "user", folder / "system", folder / "missing"}, {});
+  EXPECT_EQ(entries.withId("both")->name, "Of the user");
+  EXPECT_FALSE(entries.withId("gone"));
+  EXPECT_FALSE(entries.withStartupWmClass("gone"));
+  EXPECT_EQ(entries.withId("kde-deep")->name, "Deep");
+  EXPECT_EQ(entries.withId("KDE-Deep")->id, "kde-deep");
+  EXPECT_FALSE(entries.withId("note"));
+}
+
+TEST(BundleIdentifiers, EveryNameLeadsThereAndBack) {
+  const std::vector<std::pair<const char*, const char*>> products = {
+      {"firefox", "org.mozilla.firefox"},
+      {"Chromium", "com.google.Chrome"},
+      {"google-chrome-unstable", "com.google.Chrome.canary"},
+      {"kitty", "net.kovidgoyal.kitty"},
+      {"Alacritty", "io.alacritty"},
+      {"org.wezfurlong.wezterm", "com.github.wez.wezterm"},
+      {"Hyper", "co.zeit.hyper"},
+      {"Microsoft-edge", "com.microsoft.edgemac"},
+      {"Opera", "com.operasoftware.Opera"},
+      {"Vivaldi-stable", "com.vivaldi.Vivaldi"},
+      {"Slack", "com.tinyspeck.slackmacgap"},
+  };
+  for (const auto& [name, identifier] : products) {
+    EXPECT_EQ(freedesktop::listedIdentifier(name), identifier);
+    EXPECT_THAT(freedesktop::namesOfListed(identifier), ::testing::Not(::testing::IsEmpty()));
+  }
+  EXPECT_EQ(freedesktop::listedIdentifier("gedit"), std::nullopt);
+  EXPECT_EQ(freedesktop::listedIdentifier(""), std::nullopt);
+}
+
+}  // namespace
+}  // namespace tessarin::testing

@@ -1,0 +1,111 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "platform/freedesktop/BaseFolders.h"
+#include "platform/freedesktop/DesktopEntry.h"
+
+namespace tessarin::testing {
+namespace {
+
+using freedesktop::localeCandidates;
+using freedesktop::parseDesktopEntry;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+constexpr const char* editor = R"(# comment
+[Desktop Entry]
+Type=Application
+Name=Text Editor
+Name[de]=Texteditor
+Name[de_AT]=Schreiberl
+ Icon = org.example.Editor
+StartupWMClass=Org.example
+Exec="/opt/my editor/bin/edit" --new %U
+Categories=Utility;TerminalEmulator;
+
+[Desktop Action new]
+Name=New window
+Exec=other
+)";
+
+TEST(DesktopEntry, IsReadFromItsMainGroup) {
+  const auto entry = parseDesktopEntry(editor, {});
+  ASSERT_TRUE(entry);
+  EXPECT_EQ(entry->name, "Text Editor");
+  EXPECT_EQ(entry->icon, "org.example.Editor");
+  EXPECT_EQ(entry->startupWmClass, "Org.example");
+  EXPECT_EQ(entry->program, "edit");
+  EXPECT_TRUE(entry->isTerminalEmulator);
+  EXPECT_FALSE(entry->isHidden);
+}
+
+struct LocaleCase {
+  const char* locale;
+  const char* name;
+};
+
+class LocalizedEntry : public ::testing::TestWithParam<LocaleCase> {};
+
+TEST_P(LocalizedEntry, HasTheNameOfTheLocale) {
+  EXPECT_EQ(parseDesktopEntry(editor, localeCandidates(GetParam().locale))->name, GetParam().name);
+}
+
+INSTANTIATE_TEST_SUITE_P(Locales, LocalizedEntry,
+                         ::testing::Values(LocaleCase{"de_AT.UTF-8", "Schreiberl"},
+                                           LocaleCase{"de_DE.UTF-8@euro", "Texteditor"},
+                                           LocaleCase{"de", "Texteditor"}, LocaleCase{"fr_FR", "Text Editor"},
+                                           LocaleCase{"C", "Text Editor"}, LocaleCase{"", "Text Editor"}));
+
+TEST(LocaleCandidates, GoFromTheNarrowToTheWide) {
+  EXPECT_THAT(localeCandidates("sr_RS.UTF-8@latin"), ElementsAre("sr_RS@latin", "sr_RS", "sr@latin", "sr"));
+  EXPECT_THAT(localeCandidates("C.UTF-8"), IsEmpty());
+}
+
+class NoEntry : public ::testing::TestWithParam<const char*> {};
+
+TEST_P(NoEntry, IsReadFromThis) {
+  EXPECT_FALSE(parseDesktopEntry(GetParam(), {}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Contents, NoEntry,
+                         ::testing::Values("", "\n\n", "Type=Application\nName=No group\n",
+                                           "[Desktop Entry]\nType=Link\nName=Link\n",
+                                           "[Desktop Entry]\nType=Application\n",
+                                           "[Desktop Entry\nType=Application\nName=Broken\n",
+                                           "[Other]\nType=Application\nName=Other\n",
+                                           "[Desktop Entry]\n=\n["));
+
+TEST(DesktopEntry, EscapesAreUndone) {
+  const auto entry = parseDesktopEntry("[Desktop Entry]\r\nType=Application\r\nName=a\\sb\\\\c\\\r\n", {});
+  EXPECT_EQ(entry->name, "a b\\c\\");
+}
+
+Environment environment(std::map<std::string, std::string> variables) {
+  return [variables](const std::string& name) -> std::optional<std::string> {
+    const auto found = variables.find(name);
+    if (found == variables.end()) return std::nullopt;
+    return found->second;
+  };
+}
+
+TEST(BaseFolders, FollowTheEnvironment) {
+  EXPECT_EQ(freedesktop::configFolder(environment({{"HOME", "/h"}})), "/h/.config/tessarin");
+  EXPECT_EQ(freedesktop::configFolder(environment({{"HOME", "/h"}, {"XDG_CONFIG_HOME", "/c"}})),
+            "/c/tessarin");
+  EXPECT_EQ(freedesktop::configFolder(environment({{"HOME", "/h"}, {"XDG_CONFIG_HOME", "c"}})),
+            "/h/.config/tessarin");
+}
+
+TEST(BaseFolders, TheUsersApplicationsComeFirstAndNoneTwice) {
+  EXPECT_THAT(
+      freedesktop::applicationFolders(
+          environment({{"HOME", "/h"}, {"XDG_DATA_DIRS", "/a/:relative:/var/lib/flatpak/exports/share:/a"}})),
+      ElementsAre(
+          "/h/.local/share/applications", "/a/applications", "/var/lib/flatpak/exports/share/applications",
+          "/h/.local/share/flatpak/exports/share/applications", "/var/lib/snapd/desktop/applications"));
+  EXPECT_THAT(freedesktop::applicationFolders(environment({{"HOME", "/h"}})),
+              ::testing::IsSupersetOf({"/usr/local/share/applications", "/usr/share/applications"}));
+}
+
+}  // namespace
+}  // namespace tessarin::testing

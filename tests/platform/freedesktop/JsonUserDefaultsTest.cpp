@@ -1,0 +1,235 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "platform/freedesktop/JsonUserDefaults.h"
+#include "support/Eventually.h"
+#include "support/FakeUserDefaults.h"
+#include "support/LogRecorder.h"
+#include "support/ManualMainQueue.h"
+#include "support/TemporaryFolder.h"
+#include "support/UserDefaultsSuite.h"
+
+namespace tessarin::testing {
+namespace {
+
+namespace fs = std::filesystem;
+using freedesktop::JsonUserDefaults;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using ::testing::StartsWith;
+
+struct JsonWorld {
+  UserDefaults& defaults() { return preferences; }
+  TemporaryFolder folder;
+  JsonUserDefaults preferences{folder / "tessarin" / "preferences.json"};
+};
+struct FakeWorld {
+  UserDefaults& defaults() { return preferences; }
+  FakeUserDefaults preferences;
+};
+INSTANTIATE_TYPED_TEST_SUITE_P(Json, UserDefaultsSuite, ::testing::Types<JsonWorld>);
+INSTANTIATE_TYPED_TEST_SUITE_P(Fake, UserDefaultsSuite, ::testing::Types<FakeWorld>);
+
+class JsonUserDefaultsTest : public ::testing::Test {
+ protected:
+  std::string content() const { return folder.read("preferences.json"); }
+  void write(const std::string& text) const { folder.write("preferences.json", text); }
+
+  TemporaryFolder folder;
+  fs::path file = folder / "preferences.json";
+};
+
+TEST_F(JsonUserDefaultsTest, FindsAgainWhatAnEarlierRunSet) {
+  JsonUserDefaults(file).set("triggerCharacter", ";");
+  JsonUserDefaults(file).set("blacklistedApps", std::vector<std::string>{"org.example.a"});
+  const JsonUserDefaults later(file);
+  EXPECT_EQ(later.string("triggerCharacter"), ";");
+  EXPECT_EQ(later.stringArray("blacklistedApps"), std::vector<std::string>{"org.example.a"});
+}
+
+TEST_F(JsonUserDefaultsTest, KeepsWhatItDoesNotKnow) {
+  write(R"({"other": {"a": [1, 2.5, null]}, "showMenuBarIcon": true})");
+  JsonUserDefaults(file).set("showMenuBarIcon", false);
+  EXPECT_EQ(content(), R"({
+  "other": {
+    "a": [
+      1,
+      2.5,
+      null
+    ]
+  },
+  "showMenuBarIcon": false
+}
+)");
+}
+
+TEST_F(JsonUserDefaultsTest, AListThatHoldsMoreThanTextsIsAbsent) {
+  write(R"({"list": ["a", 1], "text": 5, "flag": 1})");
+  const JsonUserDefaults defaults(file);
+  EXPECT_EQ(defaults.stringArray("list"), std::nullopt);
+  EXPECT_EQ(defaults.string("text"), std::nullopt);
+  EXPECT_EQ(defaults.boolean("flag"), std::nullopt);
+}
+
+class MalformedPreferences : public JsonUserDefaultsTest,
+                             public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(MalformedPreferences, AreLoggedOnceAndMovedAsideBeforeTheFirstWrite) {
+  write(GetParam());
+  LogRecorder log;
+  JsonUserDefaults defaults(file);
+  EXPECT_EQ(defaults.string("triggerCharacter"), std::nullopt);
+  EXPECT_THAT(log.lines, ElementsAre(StartsWith("[UserDefaults] Failed to load preferences: ")));
+  EXPECT_EQ(content(), GetParam());
+  defaults.set("triggerCharacter", "/");
+  defaults.set("triggerCharacter", ";");
+  EXPECT_THAT(folder.names(), ElementsAre("preferences.json", "preferences.json.unreadable"));
+  EXPECT_EQ(folder.read("preferences.json.unreadable"), GetParam());
+  EXPECT_EQ(JsonUserDefaults(file).string("triggerCharacter"), ";");
+}
+
+INSTANTIATE_TEST_SUITE_P(Contents, MalformedPreferences,
+                         ::testing::Values("", "{", "[]", "{\"triggerCharacter\": \";\"", "\xff\xfe",
+                                           "{\"triggerCharacter\": \"\xff\"}"));
+
+TEST_F(JsonUserDefaultsTest, AnEarlierUnreadableFileIsNotOverwritten) {
+  folder.write("preferences.json.unreadable", "first");
+  write("second");
+  LogRecorder log;
+  JsonUserDefaults(file).set("flag", true);
+  EXPECT_EQ(folder.read("preferences.json.unreadable"), "first");
+  EXPECT_EQ(folder.read("preferences.json.unreadable-2"), "second");
+}
+
+TEST_F(JsonUserDefaultsTest, AValueThatJsonCannotHoldStaysInMemory) {
+  LogRecorder log;
+  JsonUserDefaults defaults(file);
+  defaults.set("triggerCharacter", "\xff");
+  defaults.set("flag", true);
+  EXPECT_EQ(defaults.string("triggerCharacter"), "\xff");
+  EXPECT_THAT(log.lines, ElementsAre(HasSubstr("in memory only: triggerCharacter")));
+  EXPECT_EQ(content(), "{\n  \"flag\": true\n}\n");
+}
+
+TEST_F(JsonUserDefaultsTest, WhatCouldNotBeSavedStaysInMemoryAndIsSavedLater) {
+  const fs::path blocked = folder / "blocked";
+  folder.write("blocked", "a file where the folder should be");
+  LogRecorder log;
+  JsonUserDefaults defaults(blocked / "preferences.json");
+  defaults.set("text", "a");
+  EXPECT_EQ(defaults.string("text"), "a");
+  EXPECT_THAT(log.lines, ElementsAre(HasSubstr("Failed to save preferences"), HasSubstr("in memory only")));
+  fs::remove(blocked);
+  defaults.set("flag", true);
+  const JsonUserDefaults later(blocked / "preferences.json");
+  EXPECT_EQ(later.string("text"), "a");
+  EXPECT_EQ(later.boolean("flag"), true);
+}
+
+TEST_F(JsonUserDefaultsTest, SettingOneKeyKeepsWhatAnotherProgramWroteMeanwhile) {
+  JsonUserDefaults defaults(file);
+  defaults.set("text", "ours");
+  write(R"({"text": "theirs", "flag": true})");
+  defaults.set("list", std::vector<std::string>{});
+  EXPECT_EQ(defaults.string("text"), "theirs");
+  EXPECT_EQ(JsonUserDefaults(file).boolean("flag"), true);
+}
+
+TEST_F(JsonUserDefaultsTest, ReloadsOnlyWhatHasChanged) {
+  JsonUserDefaults defaults(file);
+  defaults.set("text", "a");
+  int changes = 0;
+  const auto subscription = defaults.onChange([&] { ++changes; });
+  defaults.reloadIfChanged();
+  EXPECT_EQ(changes, 0);
+  write(R"({"text":   "a"})");
+  defaults.reloadIfChanged();
+  EXPECT_EQ(changes, 0) << "the same values in another layout";
+  write(R"({"text": "other"})");
+  defaults.reloadIfChanged();
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(defaults.string("text"), "other");
+  fs::remove(file);
+  defaults.reloadIfChanged();
+  EXPECT_EQ(changes, 2);
+  EXPECT_EQ(defaults.string("text"), std::nullopt);
+}
+
+struct LinkCase {
+  const char* name;
+  bool targetExists;
+};
+
+class LinkedPreferences : public JsonUserDefaultsTest, public ::testing::WithParamInterface<LinkCase> {};
+
+TEST_P(LinkedPreferences, AreReplacedBehindTheLink) {
+  fs::create_directory(folder / "dotfiles");
+  const fs::path target = folder / "dotfiles" / "ours.json";
+  if (GetParam().targetExists) JsonUserDefaults(target).set("flag", true);
+  fs::create_symlink("dotfiles/ours.json", file);
+  JsonUserDefaults defaults(file);
+  defaults.set("text", "a");
+  EXPECT_TRUE(fs::is_symlink(file));
+  EXPECT_EQ(JsonUserDefaults(target).string("text"), "a");
+  EXPECT_EQ(JsonUserDefaults(target).boolean("flag").has_value(), GetParam().targetExists);
+}
+
+INSTANTIATE_TEST_SUITE_P(Links, LinkedPreferences,
+                         ::testing::Values(LinkCase{"Whole", true}, LinkCase{"Dangling", false}),
+                         [](const auto& tested) { return tested.param.name; });
+
+class WatchedPreferences : public JsonUserDefaultsTest {
+ protected:
+  bool waitFor(std::function<bool()> condition) {
+    return eventually(condition, [this] { queue.runReady(); });
+  }
+  ManualMainQueue queue;
+};
+
+TEST_F(WatchedPreferences, FollowWritingReplacingAndRemoving) {
+  JsonUserDefaults defaults(file);
+  defaults.watch(queue);
+  write(R"({"text": "written"})");
+  EXPECT_TRUE(waitFor([&] { return defaults.string("text") == "written"; }));
+  folder.write("new", R"({"text": "replaced"})");
+  fs::rename(folder / "new", file);
+  EXPECT_TRUE(waitFor([&] { return defaults.string("text") == "replaced"; }));
+  fs::remove(file);
+  EXPECT_TRUE(waitFor([&] { return !defaults.string("text"); }));
+}
+
+TEST_F(WatchedPreferences, FollowAFolderThatDidNotExist) {
+  const fs::path deep = folder / "a" / "b" / "preferences.json";
+  JsonUserDefaults defaults(deep);
+  defaults.watch(queue);
+  JsonUserDefaults(deep).set("text", "a");
+  EXPECT_TRUE(waitFor([&] { return defaults.string("text") == "a"; }));
+}
+
+TEST_F(WatchedPreferences, FollowALink) {
+  fs::create_directory(folder / "dotfiles");
+  folder.write("dotfiles/ours.json", "{}");
+  fs::create_symlink("dotfiles/ours.json", file);
+  JsonUserDefaults defaults(file);
+  defaults.watch(queue);
+  folder.write("dotfiles/ours.json", R"({"text": "a"})");
+  EXPECT_TRUE(waitFor([&] { return defaults.string("text") == "a"; }));
+}
+
+TEST_F(WatchedPreferences, DoNotTellOfOurOwnWriting) {
+  JsonUserDefaults defaults(file);
+  defaults.watch(queue);
+  int changes = 0;
+  const auto subscription = defaults.onChange([&] { ++changes; });
+  defaults.set("text", "a");
+  EXPECT_TRUE(eventually([&] { return queue.pending() > 0; })) << "the news of it never came";
+  queue.runReady();
+  EXPECT_EQ(changes, 1);
+}
+
+}  // namespace
+}  // namespace tessarin::testing

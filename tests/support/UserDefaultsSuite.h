@@ -1,0 +1,70 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "platform/UserDefaults.h"
+
+namespace tessarin::testing {
+
+/// How a UserDefaults behaves, whoever implements it. `World` offers `UserDefaults& defaults()`.
+template <class World>
+class UserDefaultsSuite : public ::testing::Test {
+ protected:
+  UserDefaults& defaults() { return world.defaults(); }
+  World world;
+};
+
+TYPED_TEST_SUITE_P(UserDefaultsSuite);
+
+TYPED_TEST_P(UserDefaultsSuite, HasNothingAtFirst) {
+  EXPECT_EQ(this->defaults().string("text"), std::nullopt);
+  EXPECT_EQ(this->defaults().boolean("flag"), std::nullopt);
+  EXPECT_EQ(this->defaults().stringArray("list"), std::nullopt);
+}
+
+TYPED_TEST_P(UserDefaultsSuite, AnswersWhatWasSetLast) {
+  UserDefaults& defaults = this->defaults();
+  defaults.set("text", "a");
+  defaults.set("text", ";");
+  defaults.set("flag", true);
+  defaults.set("flag", false);
+  defaults.set("list", std::vector<std::string>{"b", "", "😀"});
+  EXPECT_EQ(defaults.string("text"), ";");
+  EXPECT_EQ(defaults.boolean("flag"), false);
+  EXPECT_EQ(defaults.stringArray("list"), (std::vector<std::string>{"b", "", "😀"}));
+  defaults.set("list", std::vector<std::string>{});
+  EXPECT_EQ(defaults.stringArray("list"), std::vector<std::string>());
+}
+
+TYPED_TEST_P(UserDefaultsSuite, AValueOfAnotherTypeIsAbsent) {
+  UserDefaults& defaults = this->defaults();
+  defaults.set("text", "true");
+  defaults.set("flag", true);
+  defaults.set("list", std::vector<std::string>{"a"});
+  EXPECT_EQ(defaults.boolean("text"), std::nullopt);
+  EXPECT_EQ(defaults.stringArray("text"), std::nullopt);
+  EXPECT_EQ(defaults.string("flag"), std::nullopt);
+  EXPECT_EQ(defaults.string("list"), std::nullopt);
+  defaults.set("text", false);
+  EXPECT_EQ(defaults.string("text"), std::nullopt);
+  EXPECT_EQ(defaults.boolean("text"), false);
+}
+
+TYPED_TEST_P(UserDefaultsSuite, TellsAfterEveryChangeUntilUnsubscribed) {
+  UserDefaults& defaults = this->defaults();
+  std::vector<std::string> seen;
+  auto subscription = defaults.onChange([&] { seen.push_back(defaults.string("text").value_or("none")); });
+  defaults.set("text", "a");
+  defaults.set("text", "b");
+  subscription.reset();
+  defaults.set("text", "c");
+  EXPECT_EQ(seen, (std::vector<std::string>{"a", "b"}));
+}
+
+REGISTER_TYPED_TEST_SUITE_P(UserDefaultsSuite, HasNothingAtFirst, AnswersWhatWasSetLast,
+                            AValueOfAnotherTypeIsAbsent, TellsAfterEveryChangeUntilUnsubscribed);
+
+}  // namespace tessarin::testing
