@@ -3,6 +3,7 @@
 #include "base/Log.h"
 #include "main/SessionKind.h"
 #include "platform/atspi/AccessibilityBus.h"
+#include "platform/freedesktop/ApplicationMatcher.h"
 #include "platform/freedesktop/BaseFolders.h"
 
 namespace tessarin {
@@ -23,6 +24,11 @@ void sayWhatIsMissing(x11::X11InputMonitoring& inputMonitoring) {
   }
 }
 
+std::shared_ptr<const freedesktop::ApplicationMatcher> applicationMatcher() {
+  return std::make_shared<freedesktop::ApplicationMatcher>(
+      std::make_shared<freedesktop::DesktopEntries>(freedesktop::applicationFolders(processEnvironment)));
+}
+
 }  // namespace
 
 Desktop::Desktop()
@@ -30,7 +36,7 @@ Desktop::Desktop()
       trust_(freedesktop::configFolder(processEnvironment)),
       trustPrompt_([this] { allow(); }),
       selections_(x11::X11Selections::connect(queue_)),
-      workspace_(x11::X11Workspace::connect(queue_)),
+      workspace_(x11::X11Workspace::connect(queue_, applicationMatcher())),
       keyboard_(std::make_shared<x11::X11Keyboard>(queue_)),
       eventTap_(keyboard_),
       keyPoster_(keyboard_),
