@@ -1,0 +1,228 @@
+#include "platform/x11/KeyFilter.h"
+
+#include <poll.h>
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+#include "base/Log.h"
+#include "platform/KeyCodes.h"
+
+namespace tessarin::x11 {
+namespace {
+
+xkb_keysym_t symbolOf(std::int64_t keyCode) {
+  switch (keyCode) {
+    case keycode::deleteBackward:
+      return XKB_KEY_BackSpace;
+    case keycode::v:
+      return XKB_KEY_v;
+    case keycode::insert:
+      return XKB_KEY_Insert;
+    default:
+      return XKB_KEY_NoSymbol;
+  }
+}
+
+std::uint8_t modifiersOf(std::uint64_t flags, const ModifierBits& bits) {
+  unsigned modifiers = 0;
+  if ((flags & keyflag::shift) != 0) modifiers |= ModifierBits::shift;
+  if ((flags & keyflag::control) != 0) modifiers |= ModifierBits::control;
+  if ((flags & keyflag::option) != 0) modifiers |= bits.alt;
+  if ((flags & keyflag::command) != 0) modifiers |= bits.super;
+  return static_cast<std::uint8_t>(modifiers);
+}
+
+}  // namespace
+
+KeyFilter::KeyFilter(xcb_connection_t* connection, xcb_window_t root, TapControl& control, KeyJudge& judge)
+    : connection_(connection),
+      control_(control),
+      judge_(judge),
+      events_(connection, root),
+      grabs_(connection, root),
+      synthetic_(connection, events_, [this](const TypedKey& key) { keep(key); }) {
+  refreshLayout();
+}
+
+void KeyFilter::run() {
+  while (!control_.isStopping() && xcb_connection_has_error(connection_) == 0) {
+    control_.clearWakeUp();
+    while (const auto press = events_.next()) {
+      takeNews();
+      handle(press->key);
+    }
+    // Whatever waits for an answer of the server may read events too, so look again before sleeping.
+    const bool news = takeNews();
+    const bool settled = settle();
+    const bool posted = carryOutPosts();
+    grabs_.holdChords();
+    xcb_flush(connection_);
+    if (!news && !settled && !posted) wait();
+  }
+  leave();
+}
+
+bool KeyFilter::takeNews() {
+  const bool layout = events_.takeLayoutChange();
+  const bool manager = events_.takeManagerChange();
+  const bool locks = events_.takeLockChange();
+  const bool releases = !events_.takeReleases().empty();
+  if (layout) refreshLayout();
+  if (manager) grabs_.forgetOwners();
+  if (locks && holding_ == Holding::everything) {
+    holding_ = Holding::trigger;
+    holdBy(control_.settings());
+  }
+  if (releases) synthetic_.followReleases();
+  return layout || manager || locks || releases;
+}
+
+// The server tells of a new mapping also when the user merely goes from one keyboard to another.
+void KeyFilter::refreshLayout() {
+  std::string fingerprint = KeyboardLayout::fingerprint(connection_);
+  if (layout_ && fingerprint == fingerprint_) return;
+  auto layout = KeyboardLayout::read(connection_);
+  if (!layout) {
+    log("KeyFilter", "The server does not tell its keyboard mapping");
+    return;
+  }
+  layout_ = std::move(layout);
+  fingerprint_ = std::move(fingerprint);
+  translator_.reset();
+  grabs_.setKeys(*layout_, grabbedTrigger_);
+  holding_ = Holding::nothing;
+  holdBy(control_.settings());
+}
+
+KeyFilter::Holding KeyFilter::wantedHolding(const TapSettings& settings) const {
+  if (!layout_) return Holding::nothing;
+  if (!kept_.empty()) return Holding::everything;
+  if (!settings.isEnabled) return Holding::nothing;
+  return settings.attention == KeyAttention::triggerOnly ? Holding::trigger : Holding::everything;
+}
+
+bool KeyFilter::holdBy(const TapSettings& settings) {
+  const bool sameTrigger = settings.trigger == grabbedTrigger_;
+  if (!sameTrigger && layout_) {
+    grabbedTrigger_ = settings.trigger;
+    triggerText_ = utf16Text(grabbedTrigger_);
+    grabs_.setKeys(*layout_, grabbedTrigger_);
+    holding_ = Holding::nothing;
+  }
+  const Holding wanted = wantedHolding(settings);
+  if (wanted == holding_) return !sameTrigger;
+  holding_ = wanted;
+  if (wanted == Holding::nothing) grabs_.holdNothing();
+  if (wanted == Holding::trigger) grabs_.holdTrigger();
+  if (wanted == Holding::everything) {
+    const KeyboardState now = keyboardState(connection_).value_or(KeyboardState{});
+    grabs_.holdEverything(now.locked & layout_->bits().locks());
+  }
+  return true;
+}
+
+void KeyFilter::handle(const TypedKey& key) {
+  const TapSettings settings = control_.settings();
+  if (!kept_.empty() || (settings.isEnabled && settings.attention == KeyAttention::holdBack)) {
+    keep(key);
+    swallowHeldKey(connection_);
+  } else {
+    const KeyVerdict verdict = decide(key);
+    // What is held next has to be settled before this key is answered: the next one comes right behind it.
+    holdBy(control_.settings());
+    verdict == KeyVerdict::pass ? replayHeldKey(connection_) : swallowHeldKey(connection_);
+  }
+  xcb_flush(connection_);
+  grabs_.holdChords();
+}
+
+void KeyFilter::keep(const TypedKey& key) {
+  if (kept_.empty()) keptSince_ = Clock::now();
+  kept_.push_back(key);
+  holdBy(control_.settings());
+}
+
+KeyVerdict KeyFilter::decide(const TypedKey& key) {
+  const TapSettings settings = control_.settings();
+  if (!settings.isEnabled || !layout_) return KeyVerdict::pass;
+  const bool onlyTrigger = settings.attention == KeyAttention::triggerOnly;
+  // The keys before the trigger were not seen, so a sequence that they began is unknown.
+  if (onlyTrigger) translator_.reset();
+  const auto event = translator_.translate(*layout_, key);
+  if (!event) return KeyVerdict::pass;
+  if (onlyTrigger && (event->text != triggerText_ || (event->flags & keyflag::chord) != 0)) {
+    return KeyVerdict::pass;
+  }
+  return ask(*event);
+}
+
+KeyVerdict KeyFilter::ask(const KeyEvent& event) {
+  const auto verdict = judge_.ask(event);
+  if (!verdict) switchOff();
+  return verdict.value_or(KeyVerdict::pass);
+}
+
+void KeyFilter::switchOff() {
+  control_.setEnabled(false);
+  judge_.reportTimeOut();
+}
+
+bool KeyFilter::settle() {
+  const TapSettings settings = control_.settings();
+  if (kept_.empty()) return holdBy(settings);
+  if (!settings.isEnabled || settings.attention != KeyAttention::holdBack) {
+    judgeFirstKept();
+    return true;
+  }
+  if (!keptTooLong()) return false;
+  switchOff();
+  return true;
+}
+
+// The key stays in the queue until it has been typed, so that everything that comes meanwhile stands behind
+// it.
+void KeyFilter::judgeFirstKept() {
+  const TypedKey key = kept_.front();
+  if (decide(key) == KeyVerdict::pass && layout_) synthetic_.type(*layout_, key);
+  kept_.pop_front();
+  keptSince_ = Clock::now();
+  holdBy(control_.settings());
+}
+
+bool KeyFilter::keptTooLong() const {
+  return Clock::now() - keptSince_ >= holdBackTime;
+}
+
+bool KeyFilter::carryOutPosts() {
+  const std::vector<KeyPress> presses = control_.takePosts();
+  for (const KeyPress& press : presses) {
+    if (!layout_) break;
+    synthetic_.typeChord(*layout_, symbolOf(press.keyCode), modifiersOf(press.flags, layout_->bits()));
+  }
+  return !presses.empty();
+}
+
+void KeyFilter::wait() {
+  pollfd sources[] = {{xcb_get_file_descriptor(connection_), POLLIN, 0}, {control_.wakeFd(), POLLIN, 0}};
+  int timeout = -1;
+  if (!kept_.empty()) {
+    const auto left = keptSince_ + holdBackTime - Clock::now();
+    timeout = static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(left).count());
+    if (timeout < 0) timeout = 0;
+  }
+  poll(sources, 2, timeout);
+}
+
+void KeyFilter::leave() {
+  if (xcb_connection_has_error(connection_) != 0) {
+    log("KeyFilter", "The X server has gone");
+    return;
+  }
+  control_.setEnabled(false);
+  while (!kept_.empty()) judgeFirstKept();
+  carryOutPosts();
+  synthetic_.returnModifiers();
+  grabs_.holdNothing();
+  events_.sync();
+}
+
+}  // namespace tessarin::x11

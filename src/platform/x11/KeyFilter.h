@@ -1,0 +1,71 @@
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <chrono>
+#include <deque>
+#include <memory>
+#include <string>
+
+#include "platform/x11/KeyGrabs.h"
+#include "platform/x11/KeyJudge.h"
+#include "platform/x11/KeyTranslator.h"
+#include "platform/x11/KeyboardLayout.h"
+#include "platform/x11/ServerEvents.h"
+#include "platform/x11/SyntheticKeys.h"
+#include "platform/x11/TapControl.h"
+
+namespace tessarin::x11 {
+
+/// The keyboard thread's work: takes held keys, has them judged, answers them, keeps those that are held
+/// back, and types what is to be typed. Everything but the constructor runs on that thread.
+class KeyFilter {
+ public:
+  /// Keys are held back for this long at most; then something has gone wrong, and the user gets the keyboard
+  /// back. An insertion by pasting takes two seconds in the worst case.
+  static constexpr std::chrono::seconds holdBackTime{5};
+
+  KeyFilter(xcb_connection_t* connection, xcb_window_t root, TapControl& control, KeyJudge& judge);
+
+  /// Returns when the control says stop or the server has gone.
+  void run();
+
+ private:
+  using Clock = std::chrono::steady_clock;
+  enum class Holding { nothing, trigger, everything };
+
+  // Each answers whether there was anything to do.
+  bool takeNews();
+  bool settle();
+  bool carryOutPosts();
+
+  void refreshLayout();
+  bool holdBy(const TapSettings& settings);
+  Holding wantedHolding(const TapSettings& settings) const;
+  void handle(const TypedKey& key);
+  void keep(const TypedKey& key);
+  KeyVerdict decide(const TypedKey& key);
+  KeyVerdict ask(const KeyEvent& event);
+  void judgeFirstKept();
+  bool keptTooLong() const;
+  void switchOff();
+  void wait();
+  void leave();
+
+  xcb_connection_t* connection_;
+  TapControl& control_;
+  KeyJudge& judge_;
+  ServerEvents events_;
+  KeyGrabs grabs_;
+  SyntheticKeys synthetic_;
+  KeyTranslator translator_;
+  std::unique_ptr<KeyboardLayout> layout_;
+  std::string fingerprint_;
+  std::string grabbedTrigger_;
+  std::u16string triggerText_;
+  Holding holding_ = Holding::nothing;
+  std::deque<TypedKey> kept_;
+  Clock::time_point keptSince_;
+};
+
+}  // namespace tessarin::x11

@@ -1,0 +1,46 @@
+#include "platform/x11/KeyJudge.h"
+
+#include <utility>
+
+namespace tessarin::x11 {
+
+KeyVerdict KeyJudge::Owner::judge(const KeyEvent& event) const {
+  const auto current = handler;
+  return current ? (*current)(event) : KeyVerdict::pass;
+}
+
+void KeyJudge::setHandler(EventTap::Handler handler) {
+  owner_->handler = handler ? std::make_shared<const EventTap::Handler>(std::move(handler)) : nullptr;
+}
+
+std::optional<KeyVerdict> KeyJudge::ask(const KeyEvent& event) {
+  const auto question = std::make_shared<KeyQuestion>();
+  {
+    const std::lock_guard lock(mutex_);
+    if (closed_) return std::nullopt;
+    question_ = question;
+  }
+  queue_.async([question, owner = owner_, event = KeyEvent(event)]() mutable {
+    const auto budget = question->claim();
+    if (!budget) return;
+    event.budget = *budget;
+    question->answer(owner->judge(event));
+  });
+  return question->await();
+}
+
+void KeyJudge::reportTimeOut() {
+  queue_.async([owner = owner_] {
+    KeyEvent event;
+    event.kind = KeyEventKind::disabledByTimeout;
+    owner->judge(event);
+  });
+}
+
+void KeyJudge::close() {
+  const std::lock_guard lock(mutex_);
+  closed_ = true;
+  if (question_) question_->cancel();
+}
+
+}  // namespace tessarin::x11

@@ -1,0 +1,39 @@
+#include "platform/x11/KeyQuestion.h"
+
+#include <algorithm>
+
+namespace tessarin::x11 {
+
+std::optional<std::chrono::milliseconds> KeyQuestion::claim() {
+  const std::lock_guard lock(mutex_);
+  if (state_ != State::asked) return std::nullopt;
+  state_ = State::claimed;
+  const auto used = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - asked_);
+  return std::max(answerTime - used, std::chrono::milliseconds(0));
+}
+
+void KeyQuestion::answer(KeyVerdict verdict) {
+  const std::lock_guard lock(mutex_);
+  if (state_ != State::claimed) return;
+  state_ = State::answered;
+  verdict_ = verdict;
+  changed_.notify_all();
+}
+
+void KeyQuestion::cancel() {
+  const std::lock_guard lock(mutex_);
+  if (state_ == State::asked) state_ = State::givenUp;
+  changed_.notify_all();
+}
+
+std::optional<KeyVerdict> KeyQuestion::await() {
+  std::unique_lock lock(mutex_);
+  const auto isOver = [this] { return state_ == State::answered || state_ == State::givenUp; };
+  changed_.wait_until(lock, asked_ + answerTime, isOver);
+  if (state_ == State::claimed) changed_.wait_until(lock, asked_ + answerTime + graceTime, isOver);
+  if (state_ == State::answered) return verdict_;
+  state_ = State::givenUp;
+  return std::nullopt;
+}
+
+}  // namespace tessarin::x11

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <optional>
+
+#include "platform/EventTap.h"
+
+namespace tessarin::x11 {
+
+/// One key that the main thread is asked about while the server holds it. Whoever comes first decides: the
+/// main thread by claiming it, or the asking thread by giving up; a question given up is never judged.
+class KeyQuestion {
+ public:
+  using Clock = std::chrono::steady_clock;
+
+  /// How long the user's keyboard may stand still for one key. People notice more than that.
+  static constexpr std::chrono::milliseconds answerTime{200};
+  /// How much longer it may take once the main thread is at work on it: the answer is then near, and letting
+  /// the key by would do twice what it does.
+  static constexpr std::chrono::milliseconds graceTime{100};
+
+  /// Main thread: takes the question. The time left to answer; none when it was given up.
+  std::optional<std::chrono::milliseconds> claim();
+  /// Main thread, after `claim`.
+  void answer(KeyVerdict verdict);
+
+  /// The asking thread: waits. None when it gave up.
+  std::optional<KeyVerdict> await();
+  /// Any thread: an unclaimed question is given up at once.
+  void cancel();
+
+ private:
+  enum class State { asked, claimed, answered, givenUp };
+
+  const Clock::time_point asked_ = Clock::now();
+  std::mutex mutex_;
+  std::condition_variable changed_;
+  State state_ = State::asked;
+  KeyVerdict verdict_ = KeyVerdict::pass;
+};
+
+}  // namespace tessarin::x11

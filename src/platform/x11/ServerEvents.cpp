@@ -1,0 +1,98 @@
+#include "platform/x11/ServerEvents.h"
+
+#include <xcb/xinput.h>
+
+#include <string_view>
+#include <utility>
+
+#include "platform/x11/Handles.h"
+#include "platform/x11/XkbProtocol.h"
+
+namespace tessarin::x11 {
+namespace {
+
+constexpr std::uint8_t sentBit = 0x80;
+
+xcb_atom_t intern(xcb_connection_t* connection, std::string_view name) {
+  const Owned<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
+      connection, xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data()),
+      nullptr));
+  return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+}  // namespace
+
+ServerEvents::ServerEvents(xcb_connection_t* connection, xcb_window_t root)
+    : connection_(connection), root_(root) {
+  const Owned<xcb_xkb_use_extension_reply_t> xkb(
+      xcb_xkb_use_extension_reply(connection, xcb_xkb_use_extension(connection, 1, 0), nullptr));
+  const Owned<xcb_input_xi_query_version_reply_t> input(
+      xcb_input_xi_query_version_reply(connection, xcb_input_xi_query_version(connection, 2, 2), nullptr));
+  managerAtom_ = intern(connection, "_NET_SUPPORTING_WM_CHECK");
+  if (const auto* data = xcb_get_extension_data(connection, &xcb_xkb_id)) xkbEvent_ = data->first_event;
+  if (const auto* data = xcb_get_extension_data(connection, &xcb_input_id)) inputOpcode_ = data->major_opcode;
+  const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
+  xcb_change_window_attributes(connection, root, XCB_CW_EVENT_MASK, &mask);
+  selectXkbEvents();
+}
+
+void ServerEvents::selectXkbEvents() {
+  constexpr std::uint16_t whole = XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY;
+  constexpr std::uint16_t maps = XCB_XKB_MAP_PART_KEY_TYPES | XCB_XKB_MAP_PART_KEY_SYMS |
+                                 XCB_XKB_MAP_PART_MODIFIER_MAP | XCB_XKB_MAP_PART_KEY_ACTIONS |
+                                 XCB_XKB_MAP_PART_VIRTUAL_MODS | XCB_XKB_MAP_PART_VIRTUAL_MOD_MAP;
+  xcb_xkb_select_events_details_t details{};
+  details.affectState = XCB_XKB_STATE_PART_MODIFIER_LOCK;
+  details.stateDetails = XCB_XKB_STATE_PART_MODIFIER_LOCK;
+  xcb_xkb_select_events_aux(connection_, XCB_XKB_ID_USE_CORE_KBD, whole | XCB_XKB_EVENT_TYPE_STATE_NOTIFY, 0,
+                            whole, maps, maps, &details);
+}
+
+void ServerEvents::sync() {
+  const Owned<xcb_get_input_focus_reply_t> reply(
+      xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
+}
+
+void ServerEvents::watchReleases(bool watched) {
+  struct {
+    xcb_input_event_mask_t header;
+    std::uint32_t mask;
+  } selection{{XCB_INPUT_DEVICE_ALL, 1},
+              watched ? std::uint32_t{XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE} : 0U};
+  xcb_input_xi_select_events(connection_, root_, 1, &selection.header);
+}
+
+std::optional<HeldPress> ServerEvents::pick(xcb_generic_event_t* (*poll)(xcb_connection_t*)) {
+  while (const Owned<xcb_generic_event_t> event{poll(connection_)}) {
+    if (event->response_type == XCB_KEY_PRESS) {
+      const auto& press = reinterpret_cast<const xcb_key_press_event_t&>(*event);
+      return HeldPress{TypedKey::of(press.detail, press.state), event->full_sequence};
+    }
+    note(*event);
+  }
+  return std::nullopt;
+}
+
+void ServerEvents::note(const xcb_generic_event_t& event) {
+  const std::uint8_t type = event.response_type & ~sentBit;
+  if (type == XCB_MAPPING_NOTIFY) {
+    layoutChanged_ = true;
+  } else if (type == XCB_PROPERTY_NOTIFY) {
+    managerChanged_ |= reinterpret_cast<const xcb_property_notify_event_t&>(event).atom == managerAtom_;
+  } else if (type == xkbEvent_ && xkbEvent_ != 0) {
+    noteXkb(event);
+  } else if (type == XCB_GE_GENERIC) {
+    const auto& raw = reinterpret_cast<const xcb_input_raw_key_release_event_t&>(event);
+    if (raw.extension == inputOpcode_ && raw.event_type == XCB_INPUT_RAW_KEY_RELEASE) {
+      releases_.push_back(static_cast<std::uint8_t>(raw.detail));
+    }
+  }
+}
+
+void ServerEvents::noteXkb(const xcb_generic_event_t& event) {
+  const std::uint8_t kind = event.pad0;
+  locksChanged_ |= kind == XCB_XKB_STATE_NOTIFY;
+  layoutChanged_ |= kind == XCB_XKB_NEW_KEYBOARD_NOTIFY || kind == XCB_XKB_MAP_NOTIFY;
+}
+
+}  // namespace tessarin::x11

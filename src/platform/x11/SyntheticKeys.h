@@ -1,0 +1,52 @@
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <functional>
+#include <utility>
+
+#include "platform/x11/ExactModifiers.h"
+#include "platform/x11/KeyboardLayout.h"
+#include "platform/x11/ServerEvents.h"
+
+namespace tessarin::x11 {
+
+/// Types keys for the program, each with exactly the modifiers and the group asked for. One thread.
+///
+/// Our own presses come back through our grabs. They are told from the user's by their order: the server is
+/// grabbed, everything that has come is taken in, and then the first press that comes is ours.
+class SyntheticKeys {
+ public:
+  /// `keep` takes over a key of the user's that came in between; it is swallowed afterwards.
+  using Keep = std::function<void(const TypedKey&)>;
+
+  SyntheticKeys(xcb_connection_t* connection, ServerEvents& events, Keep keep)
+      : connection_(connection), events_(events), keep_(std::move(keep)), modifiers_(connection, events) {}
+
+  /// Presses and releases the key. It has passed our own grabs when this returns. No key is held before the
+  /// call.
+  void type(const KeyboardLayout& layout, const TypedKey& key);
+  /// The same with these modifiers and the locks and the group in effect.
+  void typeChord(const KeyboardLayout& layout, xkb_keysym_t symbol, std::uint8_t modifiers);
+  /// To be called when keys were let go of anywhere.
+  void followReleases() { modifiers_.followReleases(); }
+  /// Lets go of every modifier that is still pressed for the user.
+  void returnModifiers() { modifiers_.returnAll(); }
+
+ private:
+  void takeIn();
+  void pressAndLetBy(const TypedKey& key);
+  void keep(const HeldPress& press);
+
+  xcb_connection_t* connection_;
+  ServerEvents& events_;
+  Keep keep_;
+  ExactModifiers modifiers_;
+};
+
+/// Answers the key that is held: lets the focused window have it.
+void replayHeldKey(xcb_connection_t* connection);
+/// Answers the key that is held: nobody gets it.
+void swallowHeldKey(xcb_connection_t* connection);
+
+}  // namespace tessarin::x11

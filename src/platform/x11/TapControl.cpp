@@ -1,0 +1,67 @@
+#include "platform/x11/TapControl.h"
+
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+#include <cstdint>
+
+namespace tessarin::x11 {
+
+TapControl::TapControl() : wakeFd_(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {}
+
+TapControl::~TapControl() {
+  close(wakeFd_);
+}
+
+void TapControl::wake() {
+  const std::uint64_t one = 1;
+  // Fails only when the counter is full, and then the thread will wake up anyway.
+  [[maybe_unused]] const auto written = write(wakeFd_, &one, sizeof one);
+}
+
+void TapControl::clearWakeUp() {
+  std::uint64_t count = 0;
+  [[maybe_unused]] const auto taken = read(wakeFd_, &count, sizeof count);
+}
+
+void TapControl::setEnabled(bool enabled) {
+  const std::lock_guard lock(mutex_);
+  if (std::exchange(settings_.isEnabled, enabled) != enabled) wake();
+}
+
+void TapControl::setAttention(KeyAttention attention, const std::string& trigger) {
+  const std::lock_guard lock(mutex_);
+  const TapSettings wanted{settings_.isEnabled, attention, trigger};
+  if (settings_ == wanted) return;
+  settings_ = wanted;
+  wake();
+}
+
+void TapControl::post(const std::vector<KeyPress>& presses) {
+  const std::lock_guard lock(mutex_);
+  posts_.insert(posts_.end(), presses.begin(), presses.end());
+  wake();
+}
+
+void TapControl::stop() {
+  const std::lock_guard lock(mutex_);
+  stopping_ = true;
+  wake();
+}
+
+TapSettings TapControl::settings() const {
+  const std::lock_guard lock(mutex_);
+  return settings_;
+}
+
+bool TapControl::isStopping() const {
+  const std::lock_guard lock(mutex_);
+  return stopping_;
+}
+
+std::vector<KeyPress> TapControl::takePosts() {
+  const std::lock_guard lock(mutex_);
+  return std::exchange(posts_, {});
+}
+
+}  // namespace tessarin::x11

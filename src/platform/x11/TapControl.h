@@ -1,0 +1,52 @@
+#pragma once
+
+#include <mutex>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/EventTap.h"
+#include "platform/KeyPoster.h"
+
+namespace tessarin::x11 {
+
+/// What the tap's owner wants at the moment.
+struct TapSettings {
+  bool isEnabled = false;
+  KeyAttention attention = KeyAttention::triggerOnly;
+  std::string trigger;
+  bool operator==(const TapSettings&) const = default;
+};
+
+/// What the main thread tells the keyboard thread. Any thread.
+class TapControl {
+ public:
+  TapControl();
+  ~TapControl();
+  TapControl(const TapControl&) = delete;
+  TapControl& operator=(const TapControl&) = delete;
+
+  void setEnabled(bool enabled);
+  void setAttention(KeyAttention attention, const std::string& trigger);
+  void post(const std::vector<KeyPress>& presses);
+  /// The thread is to end.
+  void stop();
+
+  TapSettings settings() const;
+  bool isStopping() const;
+  std::vector<KeyPress> takePosts();
+  /// Readable when something was said since `clearWakeUp`.
+  int wakeFd() const { return wakeFd_; }
+  void clearWakeUp();
+
+ private:
+  void wake();
+
+  mutable std::mutex mutex_;
+  TapSettings settings_;
+  std::vector<KeyPress> posts_;
+  bool stopping_ = false;
+  int wakeFd_ = -1;
+};
+
+}  // namespace tessarin::x11

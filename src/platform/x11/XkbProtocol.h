@@ -1,0 +1,6 @@
+#pragma once
+
+// The protocol header names a structure member "explicit", which C++ reserves.
+#define explicit explicitKeys
+#include <xcb/xkb.h>
+#undef explicit

@@ -1,0 +1,90 @@
+#include "DocumentWindow.h"
+
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+#include "platform/x11/XkbProtocol.h"
+
+namespace tessarin::testing {
+namespace {
+
+std::string nameOf(xkb_keysym_t symbol) {
+  char name[64];
+  xkb_keysym_get_name(symbol, name, sizeof name);
+  return name;
+}
+
+std::string modifierNames(const x11::ModifierBits& bits, std::uint8_t modifiers) {
+  std::string names;
+  if ((modifiers & x11::ModifierBits::control) != 0) names += "Control-";
+  if ((modifiers & bits.alt & bits.chord()) != 0) names += "Alt-";
+  if ((modifiers & bits.super) != 0) names += "Super-";
+  return names;
+}
+
+}  // namespace
+
+DocumentWindow::DocumentWindow(const std::string& display)
+    : connection_(xcb_connect(display.c_str(), nullptr)) {
+  xcb_connection_t* c = connection_.get();
+  const x11::Owned<xcb_xkb_use_extension_reply_t> xkb(
+      xcb_xkb_use_extension_reply(c, xcb_xkb_use_extension(c, 1, 0), nullptr));
+  layout_ = x11::KeyboardLayout::read(c);
+  const xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(c)).data;
+  const xcb_window_t window = xcb_generate_id(c);
+  const std::uint32_t values[] = {1, XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE};
+  xcb_create_window(c, XCB_COPY_FROM_PARENT, window, screen->root, 0, 0, 100, 100, 0,
+                    XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
+                    XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values);
+  xcb_map_window(c, window);
+  xcb_set_input_focus(c, XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
+  text();
+}
+
+const std::string& DocumentWindow::text() {
+  xcb_connection_t* c = connection_.get();
+  const x11::Owned<xcb_get_input_focus_reply_t> sync(
+      xcb_get_input_focus_reply(c, xcb_get_input_focus(c), nullptr));
+  while (const x11::Owned<xcb_generic_event_t> event{xcb_poll_for_event(c)}) take(*event);
+  return text_;
+}
+
+void DocumentWindow::take(const xcb_generic_event_t& event) {
+  const std::uint8_t type = event.response_type & 0x7f;
+  const auto& key = reinterpret_cast<const xcb_key_press_event_t&>(event);
+  if (type == XCB_MAPPING_NOTIFY) layout_ = x11::KeyboardLayout::read(connection_.get());
+  if (type == XCB_KEY_PRESS) takePress(x11::TypedKey::of(key.detail, key.state));
+  if (type == XCB_KEY_RELEASE) ++releases_;
+}
+
+void DocumentWindow::takePress(const x11::TypedKey& key) {
+  ++presses_;
+  const xkb_keysym_t symbol = layout_->symbol(key);
+  if (symbol == XKB_KEY_NoSymbol || x11::isModifierSymbol(symbol)) return;
+  const std::string chord = modifierNames(layout_->bits(), key.modifiers);
+  const bool isShifted = (key.modifiers & x11::ModifierBits::shift) != 0;
+  const std::string typed = x11::symbolText(symbol);
+  if (symbol == XKB_KEY_BackSpace && chord.empty() && !isShifted) {
+    eraseOne();
+  } else if (symbol == XKB_KEY_Return && chord.empty()) {
+    text_ += '\n';
+  } else if (nameOf(symbol) == "v" && chord == "Control-" && !clipboard.empty()) {
+    text_ += clipboard;
+    ++pastes_;
+  } else if (!chord.empty() || typed.empty() || static_cast<unsigned char>(typed[0]) < ' ') {
+    text_ += "<" + chord + (isShifted ? "Shift-" : "") + nameOf(symbol) + ">";
+  } else {
+    text_ += typed;
+  }
+}
+
+void DocumentWindow::eraseOne() {
+  while (!text_.empty() && (static_cast<unsigned char>(text_.back()) & 0xc0) == 0x80) text_.pop_back();
+  if (!text_.empty()) text_.pop_back();
+}
+
+void DocumentWindow::replaceBeforeCaret(int characters, const std::string& text) {
+  for (int i = 0; i < characters; ++i) eraseOne();
+  text_ += text;
+}
+
+}  // namespace tessarin::testing

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/x11/Handles.h"
+#include "platform/x11/KeyboardLayout.h"
+
+namespace tessarin::testing {
+
+/// A window with the keyboard focus that keeps what is typed into it as text, like an editor: BackSpace
+/// erases, and a pasting chord (Control-v) writes `clipboard`. Any other chord or nameless key is written out
+/// in angle brackets ("<Shift-BackSpace>").
+class DocumentWindow {
+ public:
+  explicit DocumentWindow(const std::string& display);
+
+  /// Everything that had been typed when this was called.
+  const std::string& text();
+  /// What an insertion through the accessibility bus does.
+  void replaceBeforeCaret(int characters, const std::string& text);
+  void clear() { text_.clear(); }
+
+  int presses() const { return presses_; }
+  int releases() const { return releases_; }
+  int pastes() const { return pastes_; }
+  std::string clipboard;
+
+ private:
+  void take(const xcb_generic_event_t& event);
+  void takePress(const x11::TypedKey& key);
+  void eraseOne();
+
+  x11::Connection connection_;
+  std::unique_ptr<x11::KeyboardLayout> layout_;
+  std::string text_;
+  int presses_ = 0;
+  int releases_ = 0;
+  int pastes_ = 0;
+};
+
+}  // namespace tessarin::testing

@@ -1,0 +1,113 @@
+#include "TapFixture.h"
+
+#include "platform/KeyCodes.h"
+#include "platform/x11/KeyTranslator.h"
+
+namespace tessarin::testing {
+
+void TapFixture::setLayout(const std::vector<std::string>& layout) {
+  std::vector<std::string> command{"setxkbmap"};
+  command.insert(command.end(), layout.begin(), layout.end());
+  ASSERT_EQ(display.run(command), 0);
+}
+
+void TapFixture::start(const std::vector<std::string>& layout, bool withManager) {
+  if (withManager) display.startWindowManager();
+  setLayout(layout);
+  document = std::make_unique<DocumentWindow>(display.name());
+  document->clipboard = "😀";
+  typist = std::make_unique<Typist>(display.name());
+  keyboard = std::make_shared<x11::X11Keyboard>(queue, display.name());
+  tap = std::make_unique<x11::X11EventTap>(keyboard);
+  poster = std::make_unique<x11::X11KeyPoster>(keyboard);
+  ASSERT_TRUE(tap->create([this](const KeyEvent& event) { return judge(event); }));
+  attend(KeyAttention::triggerOnly);
+  tap->setEnabled(true);
+  waitUntilHeld();
+}
+
+// A trigger that is seen shows that the thread is at work.
+void TapFixture::waitUntilHeld() {
+  int typed = 0;
+  while (seen.empty()) {
+    ASSERT_LT(typed, 200);
+    typist->type(trigger);
+    ++typed;
+    queue.runUntil([this] { return !seen.empty(); }, std::chrono::milliseconds(50));
+  }
+  ASSERT_TRUE(queue.runUntil([&] { return document->text().size() == typed * trigger.size(); }));
+  collecting_ = false;
+  attend(KeyAttention::triggerOnly);
+  document->clear();
+  seen.clear();
+}
+
+void TapFixture::attend(KeyAttention attention) {
+  tap->setAttention(attention, trigger);
+}
+
+KeyVerdict TapFixture::judge(const KeyEvent& event) {
+  if (event.kind == KeyEventKind::disabledByTimeout) {
+    ++timeOuts;
+    collecting_ = false;
+    attend(KeyAttention::triggerOnly);
+    tap->setEnabled(true);
+    return KeyVerdict::pass;
+  }
+  seen.push_back(event);
+  if (onKey) onKey(event);
+  if (!collecting_) {
+    collecting_ = event.text == x11::utf16Text(trigger);
+    typed_ = 1;
+    if (collecting_) attend(KeyAttention::everyKey);
+    return KeyVerdict::pass;
+  }
+  if (event.keyCode == keycode::returnKey) {
+    insert();
+    return KeyVerdict::swallow;
+  }
+  if (event.keyCode == keycode::deleteBackward) {
+    --typed_;
+  } else if (event.text.size() == 1 && event.keyCode >= keycode::other) {
+    ++typed_;
+  } else {
+    collecting_ = false;
+    attend(KeyAttention::triggerOnly);
+  }
+  return KeyVerdict::pass;
+}
+
+void TapFixture::insert() {
+  ++insertions;
+  collecting_ = false;
+  if (insertion == Insertion::direct) {
+    document->text();
+    document->replaceBeforeCaret(typed_, "😀");
+    attend(KeyAttention::triggerOnly);
+    return;
+  }
+  attend(KeyAttention::holdBack);
+  std::vector<KeyPress> presses(static_cast<std::size_t>(typed_), {keycode::deleteBackward, 0});
+  presses.push_back({keycode::v, keyflag::control});
+  poster->post(presses);
+  finishWhenPasted(document->pastes() + 1);
+}
+
+void TapFixture::finishWhenPasted(int pastes) {
+  document->text();
+  if (document->pastes() >= pastes) {
+    attend(KeyAttention::triggerOnly);
+    return;
+  }
+  queue.after(std::chrono::milliseconds(1), [this, pastes] { finishWhenPasted(pastes); });
+}
+
+void TapFixture::expectDocument(const std::string& expected) {
+  typist->sync();
+  queue.runUntil([&] { return document->text() == expected; });
+  // Nothing may follow.
+  queue.runUntil([] { return false; }, std::chrono::milliseconds(20));
+  EXPECT_EQ(document->text(), expected);
+}
+
+}  // namespace tessarin::testing

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "DocumentWindow.h"
+#include "LiveMainQueue.h"
+#include "Typist.h"
+#include "platform/x11/X11EventTap.h"
+#include "platform/x11/X11KeyPoster.h"
+#include "support/desktop/PrivateDisplay.h"
+
+namespace tessarin::testing {
+
+/// A display with a document, a typist, and a tap whose owner collects after ":" like the program does:
+/// letters pass, Return is swallowed and starts an insertion, anything else ends the collecting.
+class TapFixture : public ::testing::Test {
+ protected:
+  enum class Insertion { direct, paste };
+
+  /// Sets the layout (arguments of setxkbmap) before anybody looks at it.
+  void start(const std::vector<std::string>& layout = {"us"}, bool withManager = false);
+  void typeAs(Typist::Keyboard device) { typist = std::make_unique<Typist>(display.name(), device); }
+  void setLayout(const std::vector<std::string>& layout);
+
+  /// Waits until the document is as expected and everything typed has been dealt with.
+  void expectDocument(const std::string& expected);
+  KeyVerdict judge(const KeyEvent& event);
+  void attend(KeyAttention attention);
+
+  PrivateDisplay display;
+  LiveMainQueue queue;
+  std::unique_ptr<DocumentWindow> document;
+  std::unique_ptr<Typist> typist;
+  std::shared_ptr<x11::X11Keyboard> keyboard;
+  std::unique_ptr<x11::X11EventTap> tap;
+  std::unique_ptr<x11::X11KeyPoster> poster;
+
+  Insertion insertion = Insertion::direct;
+  std::string trigger = ":";
+  std::vector<KeyEvent> seen;
+  std::function<void(const KeyEvent&)> onKey;
+  int insertions = 0;
+  int timeOuts = 0;
+
+ private:
+  void insert();
+  void finishWhenPasted(int pastes);
+  void waitUntilHeld();
+
+  bool collecting_ = false;
+  int typed_ = 0;
+};
+
+}  // namespace tessarin::testing

@@ -1,0 +1,116 @@
+#include "Typist.h"
+
+#include <xcb/xinput.h>
+#include <xcb/xtest.h>
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+#include <stdexcept>
+#include <string_view>
+
+#include "platform/x11/KeyTranslator.h"
+#include "platform/x11/XkbProtocol.h"
+
+namespace tessarin::testing {
+namespace {
+
+std::uint8_t realKeyboard(xcb_connection_t* connection) {
+  const x11::Owned<xcb_input_xi_query_version_reply_t> version(
+      xcb_input_xi_query_version_reply(connection, xcb_input_xi_query_version(connection, 2, 2), nullptr));
+  const x11::Owned<xcb_input_xi_query_device_reply_t> reply(xcb_input_xi_query_device_reply(
+      connection, xcb_input_xi_query_device(connection, XCB_INPUT_DEVICE_ALL), nullptr));
+  for (auto at = xcb_input_xi_query_device_infos_iterator(reply.get()); at.rem > 0;
+       xcb_input_xi_device_info_next(&at)) {
+    const std::string_view name(xcb_input_xi_device_info_name(at.data), at.data->name_len);
+    if (at.data->type == XCB_INPUT_DEVICE_TYPE_SLAVE_KEYBOARD && !name.ends_with("XTEST keyboard")) {
+      return static_cast<std::uint8_t>(at.data->deviceid);
+    }
+  }
+  throw std::runtime_error("the server has no keyboard");
+}
+
+xkb_keysym_t symbolOf(char32_t c) {
+  if (c == '\n') return XKB_KEY_Return;
+  if (c == '\b') return XKB_KEY_BackSpace;
+  return xkb_utf32_to_keysym(c);
+}
+
+}  // namespace
+
+Typist::Typist(const std::string& display, Keyboard keyboard)
+    : connection_(xcb_connect(display.c_str(), nullptr)) {
+  xcb_connection_t* c = connection_.get();
+  const x11::Owned<xcb_xkb_use_extension_reply_t> xkb(
+      xcb_xkb_use_extension_reply(c, xcb_xkb_use_extension(c, 1, 0), nullptr));
+  if (keyboard == Keyboard::real) {
+    realDevice_ = realKeyboard(c);
+    realPress_ = xcb_get_extension_data(c, &xcb_input_id)->first_event + XCB_INPUT_DEVICE_KEY_PRESS;
+  }
+  readLayout();
+}
+
+void Typist::readLayout() {
+  layout_ = x11::KeyboardLayout::read(connection_.get());
+}
+
+void Typist::lock(std::uint8_t group, std::uint8_t modifiers) {
+  xcb_xkb_latch_lock_state(connection_.get(), XCB_XKB_ID_USE_CORE_KBD, 0xff, modifiers, 1, group, 0, 0, 0);
+  group_ = group;
+  sync();
+}
+
+void Typist::sync() {
+  xcb_connection_t* c = connection_.get();
+  const x11::Owned<xcb_get_input_focus_reply_t> reply(
+      xcb_get_input_focus_reply(c, xcb_get_input_focus(c), nullptr));
+}
+
+void Typist::key(bool down, std::uint8_t code) {
+  const std::uint8_t type = realPress_ != 0 ? realPress_ + (down ? 0 : 1)
+                            : down          ? XCB_KEY_PRESS
+                                            : XCB_KEY_RELEASE;
+  xcb_test_fake_input(connection_.get(), type, code, XCB_CURRENT_TIME, XCB_NONE, 0, 0, realDevice_);
+}
+
+x11::TypedKey Typist::find(xkb_keysym_t symbol) const {
+  for (const unsigned modifiers : {0U, 1U, unsigned{layout_->bits().levels}, layout_->bits().levels | 1U}) {
+    for (unsigned code = 8; code < 256; ++code) {
+      const x11::TypedKey key{static_cast<std::uint8_t>(code), static_cast<std::uint8_t>(modifiers), group_};
+      if (layout_->symbol(key) == symbol) return key;
+    }
+  }
+  throw std::runtime_error("no key for that");
+}
+
+void Typist::setModifiers(bool down, std::uint8_t modifiers) {
+  for (unsigned bit = 1; bit <= 0x80; bit <<= 1) {
+    if ((modifiers & bit) != 0) key(down, *layout_->keyHolding(static_cast<std::uint8_t>(bit)));
+  }
+}
+
+void Typist::type(const std::string& text) {
+  for (const char16_t c : x11::utf16Text(text)) {
+    const x11::TypedKey found = find(symbolOf(c));
+    setModifiers(true, found.modifiers);
+    key(true, found.code);
+    key(false, found.code);
+    setModifiers(false, found.modifiers);
+  }
+  xcb_flush(connection_.get());
+}
+
+void Typist::press(xkb_keysym_t symbol) {
+  key(true, find(symbol).code);
+  xcb_flush(connection_.get());
+}
+
+void Typist::release(xkb_keysym_t symbol) {
+  key(false, find(symbol).code);
+  xcb_flush(connection_.get());
+}
+
+void Typist::tap(xkb_keysym_t symbol) {
+  press(symbol);
+  release(symbol);
+}
+
+}  // namespace tessarin::testing
