@@ -65,11 +65,11 @@ void TriggerDetector::deleteLast(const std::string& query) {
 }
 
 void TriggerDetector::extend(const std::string& query, const std::string& characters) {
-  std::string longer = query + characters;
-  if (text::characterCount(longer) <= maximumQueryLength) changeQuery(std::move(longer));
+  const std::string longer = query + characters;
+  if (text::characterCount(longer) <= maximumQueryLength) changeQuery(longer);
 }
 
-void TriggerDetector::changeQuery(std::string query) {
+void TriggerDetector::changeQuery(const std::string& query) {
   state_ = Accumulating{query};
   if (onQueryChanged) onQueryChanged(query);
 }

@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <variant>
 
 namespace tessarin {
@@ -53,7 +54,7 @@ class TriggerDetector {
   void judgeCharacters(const std::string& query, const std::optional<std::string>& characters);
   void deleteLast(const std::string& query);
   void extend(const std::string& query, const std::string& characters);
-  void changeQuery(std::string query);
+  void changeQuery(const std::string& query);
   void cancel();
   void finish(const std::string& query);
   bool isTrigger(const std::string& characters) const;

@@ -17,7 +17,6 @@
 namespace tessarin::testing {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 struct Expansion {

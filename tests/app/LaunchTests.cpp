@@ -14,7 +14,6 @@ namespace {
 using namespace std::chrono_literals;
 using ::testing::Contains;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 using ::testing::Not;
 
 constexpr const char* ready = "[Tessarin] App launched and ready";

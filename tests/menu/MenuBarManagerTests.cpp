@@ -45,6 +45,7 @@ class MenuBarManagerTest : public ::testing::Test {
 /// Title, shortcut and whether it can be chosen: "Quit Tessarin|q|+".
 std::vector<std::string> summary(const std::vector<MenuItem>& menu) {
   std::vector<std::string> lines;
+  lines.reserve(menu.size());
   for (const MenuItem& item : menu) {
     lines.push_back(
         item.isSeparator() ? "---" : item.title + "|" + item.keyEquivalent + "|" + (item.action ? "+" : "-"));
