@@ -21,4 +21,9 @@ inline UDate toIcuDate(WallClock::TimePoint time) {
   return std::chrono::duration<double, std::milli>(time.time_since_epoch()).count();
 }
 
+inline WallClock::TimePoint fromIcuDate(UDate date) {
+  const std::chrono::duration<double, std::milli> sinceEpoch(date);
+  return WallClock::TimePoint(std::chrono::duration_cast<WallClock::TimePoint::duration>(sinceEpoch));
+}
+
 }  // namespace tessarin

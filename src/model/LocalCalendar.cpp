@@ -28,16 +28,21 @@ void setHour(icu::Calendar& calendar, int hour) {
 
 }  // namespace
 
-std::optional<LocalCalendar::TimePoint> LocalCalendar::startOfDay(TimePoint time, int daysLater) const {
+std::vector<std::optional<LocalCalendar::TimePoint>> LocalCalendar::startsOfDays(TimePoint time, int first,
+                                                                                 int last) const {
   UErrorCode error = U_ZERO_ERROR;
   icu::GregorianCalendar calendar = makeCalendar(timeZone_, time, error);
-  setHour(calendar, 12);  // noon exists every day, so the step lands in the right one
-  calendar.add(UCAL_DATE, daysLater, error);
-  setHour(calendar, 0);
-  const UDate start = calendar.getTime(error);
-  if (U_FAILURE(error)) return std::nullopt;
-  using Milliseconds = std::chrono::duration<double, std::milli>;
-  return TimePoint(std::chrono::duration_cast<TimePoint::duration>(Milliseconds(start)));
+  std::vector<std::optional<TimePoint>> starts;
+  for (int days = first; days <= last; ++days) {
+    UErrorCode dayError = error;
+    calendar.setTime(toIcuDate(time), dayError);
+    setHour(calendar, 12);  // noon exists every day, so the step lands in the right one
+    calendar.add(UCAL_DATE, days, dayError);
+    setHour(calendar, 0);
+    const UDate start = calendar.getTime(dayError);
+    starts.push_back(U_SUCCESS(dayError) ? std::optional(fromIcuDate(start)) : std::nullopt);
+  }
+  return starts;
 }
 
 std::string LocalCalendar::fileNameStamp(TimePoint time) const {

@@ -107,13 +107,14 @@ std::vector<UsageTracker::TriggerCount> UsageTracker::topUsed(std::size_t n) con
 }
 
 std::vector<UsageTracker::DayCount> UsageTracker::dailyCounts() const {
-  constexpr int days = 7;
+  constexpr int daysBefore = 6;
   const auto now = clock_.now();
-  const auto today = calendar_.startOfDay(now).value_or(now);
+  const auto starts = calendar_.startsOfDays(now, -daysBefore, 1);
+  const auto today = starts[daysBefore].value_or(now);
   std::vector<DayCount> counts;
-  for (int k = days - 1; k >= 0; --k) {
-    const auto day = calendar_.startOfDay(now, -k);
-    const auto next = calendar_.startOfDay(now, 1 - k);
+  for (std::size_t i = 0; i <= daysBefore; ++i) {
+    const auto& day = starts[i];
+    const auto& next = starts[i + 1];
     if (day && next) {
       counts.push_back(
           {*day, eventsBetween(secondsSinceReferenceDate(*day), secondsSinceReferenceDate(*next))});

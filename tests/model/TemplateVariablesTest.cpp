@@ -64,7 +64,9 @@ TEST_F(TemplateVariablesTest, DatesFollowLocaleAndZone) {
   } cases[] = {{"en_US", "America/New_York", "3/14/26"},
                {"en_GB.UTF-8", "Europe/London", "14/03/2026"},
                {"ja_JP.utf8", "Asia/Tokyo", "2026/03/15"},
-               {"de_AT@euro", "Europe/Vienna", "15.03.26"}};
+               {"de_AT@euro", "Europe/Vienna", "15.03.26"},
+               {"C.UTF-8", "UTC", "3/14/26"},
+               {"POSIX", "UTC", "3/14/26"}};
   for (const auto& [locale, timeZone, date] : cases) {
     EXPECT_EQ(expand("{{date}}", "", locale, timeZone), date) << locale;
   }
