@@ -54,7 +54,8 @@ fs::path DataFile::freeName() const {
   const std::string name =
       description_.path.string() + ".unreadable-" + calendar_.fileNameStamp(clock_.now());
   fs::path candidate = name;
-  for (int n = 2; fs::symlink_status(candidate).type() != fs::file_type::not_found; ++n) {
+  std::error_code ignored;  // whatever is wrong with the name, the move will say
+  for (int n = 2; fs::exists(fs::symlink_status(candidate, ignored)); ++n) {
     candidate = name + "-" + std::to_string(n);
   }
   return candidate;

@@ -1,23 +1,45 @@
 #include "model/SnippetCoding.h"
 
-#include "base/Json.h"
+#include <jansson.h>
+
+#include <cstdlib>
+#include <memory>
+
+#include "base/DataError.h"
+#include "model/JsonRecords.h"
 
 namespace tessarin {
 namespace {
 
-Snippet readSnippet(const JsonRecord& record) {
-  return {record.string("id"),          record.string("name"),      record.string("trigger"),
-          record.string("replacement"), record.strings("keywords"), record.string("category"),
-          record.boolean("isBuiltIn")};
-}
+struct Release {
+  void operator()(json_t* value) const { json_decref(value); }
+  void operator()(char* text) const { std::free(text); }
+};
+using JsonOwner = std::unique_ptr<json_t, Release>;
 
-EmojiData readEmojiData(const JsonRecord& record) {
-  return {record.string("name"), record.string("trigger"), record.string("replacement"),
-          record.strings("keywords"), record.string("category")};
+constexpr std::array<JsonField<Snippet>, 7> snippetFields = {{{"id", &Snippet::id},
+                                                              {"name", &Snippet::name},
+                                                              {"trigger", &Snippet::trigger},
+                                                              {"replacement", &Snippet::replacement},
+                                                              {"keywords", &Snippet::keywords},
+                                                              {"category", &Snippet::category},
+                                                              {"isBuiltIn", &Snippet::isBuiltIn}}};
+
+constexpr std::array<JsonField<EmojiData>, 5> emojiDataFields = {{{"name", &EmojiData::name},
+                                                                  {"trigger", &EmojiData::trigger},
+                                                                  {"replacement", &EmojiData::replacement},
+                                                                  {"keywords", &EmojiData::keywords},
+                                                                  {"category", &EmojiData::category}}};
+
+JsonOwner makeText(const std::string& text) {
+  if (text.find('\0') != std::string::npos) throw DataError("a text holds a zero character");
+  JsonOwner value(json_stringn(text.data(), text.size()));
+  if (!value) throw DataError("a text is not valid UTF-8");
+  return value;
 }
 
 void setText(json_t& object, const char* key, const std::string& text) {
-  json_object_set_new(&object, key, makeJsonString(text).release());
+  json_object_set_new(&object, key, makeText(text).release());
 }
 
 JsonOwner makeObject(const Snippet& snippet) {
@@ -28,7 +50,7 @@ JsonOwner makeObject(const Snippet& snippet) {
   setText(*object, "replacement", snippet.replacement);
   JsonOwner keywords(json_array());
   for (const std::string& keyword : snippet.keywords) {
-    json_array_append_new(keywords.get(), makeJsonString(keyword).release());
+    json_array_append_new(keywords.get(), makeText(keyword).release());
   }
   json_object_set_new(object.get(), "keywords", keywords.release());
   setText(*object, "category", snippet.category);
@@ -39,18 +61,21 @@ JsonOwner makeObject(const Snippet& snippet) {
 }  // namespace
 
 std::vector<Snippet> decodeSnippets(std::string_view json) {
-  return readJsonArray<Snippet>(*parseJsonArray(json), readSnippet);
+  return decodeJsonRecords(json, snippetFields);
 }
 
 std::vector<EmojiData> decodeEmojiData(std::string_view json) {
-  return readJsonArray<EmojiData>(*parseJsonArray(json), readEmojiData);
+  return decodeJsonRecords(json, emojiDataFields);
 }
 
 std::string encodeSnippets(const std::vector<Snippet>& snippets, JsonStyle style) {
   const JsonOwner array(json_array());
   for (const Snippet& snippet : snippets) json_array_append_new(array.get(), makeObject(snippet).release());
   constexpr std::size_t pretty = JSON_INDENT(2) | JSON_SORT_KEYS;
-  return dumpJson(*array, JSON_ESCAPE_SLASH | (style == JsonStyle::pretty ? pretty : JSON_COMPACT));
+  const std::size_t flags = JSON_ESCAPE_SLASH | (style == JsonStyle::pretty ? pretty : JSON_COMPACT);
+  const std::unique_ptr<char, Release> text(json_dumps(array.get(), flags));
+  if (!text) throw DataError("cannot be written as JSON");
+  return text.get();
 }
 
 }  // namespace tessarin

@@ -5,7 +5,7 @@
 #include <charconv>
 
 #include "base/DataError.h"
-#include "base/Json.h"
+#include "model/JsonRecords.h"
 #include "text/Graphemes.h"
 
 namespace tessarin {
@@ -46,18 +46,18 @@ void appendNumber(std::string& json, Number number) {
 }  // namespace
 
 UsageCounts decodeUsageCounts(std::string_view json) {
-  const JsonOwner object = parseJson(json);
-  if (!json_is_object(object.get())) throw DataError("the top level is not an object");
+  JsonReader reader(json);
+  if (reader.kind() != JsonReader::Kind::object) throw DataError("the top level is not an object");
   UsageCounts counts;
-  std::size_t member = 0;
-  const char* trigger = nullptr;
-  json_t* count = nullptr;
-  json_object_foreach(object.get(), trigger, count) {
-    ++member;
-    if (!json_is_integer(count))
-      throw DataError("the count of entry " + std::to_string(member) + " is not an integer");
-    counts.emplace(trigger, json_integer_value(count));
-  }
+  std::size_t entry = 0;
+  reader.members([&](const std::string& trigger) {
+    ++entry;
+    if (reader.kind() != JsonReader::Kind::number || !reader.isInteger()) {
+      throw DataError("the count of entry " + std::to_string(entry) + " is not an integer");
+    }
+    counts[trigger] = reader.integer();
+  });
+  reader.end();
   return counts;
 }
 
@@ -73,9 +73,9 @@ std::string encodeUsageCounts(const UsageCounts& counts) {
 }
 
 std::vector<UsageEvent> decodeUsageEvents(std::string_view json) {
-  return readJsonArray<UsageEvent>(*parseJsonArray(json), [](const JsonRecord& record) {
-    return UsageEvent{record.string("trigger"), record.number("timestamp")};
-  });
+  constexpr std::array<JsonField<UsageEvent>, 2> fields = {
+      {{"trigger", &UsageEvent::trigger}, {"timestamp", &UsageEvent::timestamp}}};
+  return decodeJsonRecords(json, fields);
 }
 
 std::string encodeUsageEvent(const UsageEvent& event) {

@@ -1,8 +1,10 @@
 #include <gmock/gmock.h>
 
+#include <fstream>
 #include <memory>
 
 #include "base/DataError.h"
+#include "base/Files.h"
 #include "model/SnippetCoding.h"
 #include "model/SnippetStore.h"
 #include "support/LogRecorder.h"
@@ -13,6 +15,7 @@ namespace tessarin {
 namespace {
 
 namespace fs = std::filesystem;
+using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -118,7 +121,7 @@ TEST_F(SnippetStoreTest, EachLoadingStepFailsByItself) {
       EXPECT_THAT(log_.lines[i], StartsWith("[SnippetStore] " + c.log[i])) << c.name;
     }
     EXPECT_THAT(store.userSnippets(), IsEmpty());
-    if (c.user) EXPECT_EQ(folder.read("user-snippets.json"), *c.user);
+    EXPECT_EQ(folder.read("user-snippets.json"), c.user.value_or(""));
   }
 }
 
@@ -287,17 +290,34 @@ TEST_F(SnippetStoreTest, UnreadableFilesSurviveSeveralLaunches) {
 }
 
 TEST_F(SnippetStoreTest, NothingIsOverwrittenWhenMovingAsideFails) {
+  // A path so long that the file has room in it, and its longer name beside it has not.
+  constexpr std::size_t longestPath = 4095;
+  fs::path storage = folder_ / "storage";
+  while (storage.string().size() + 250 < longestPath) storage /= std::string(200, 'd');
+  storage /= std::string(
+      longestPath - storage.string().size() - std::string("//user-snippets.json").size() - 4, 'e');
+  fs::create_directories(storage);
+  const fs::path file = storage / "user-snippets.json";
+  std::ofstream(file) << "broken";
+  SnippetStore store({folder_ / "resources", storage}, clock_);
+  log_.lines.clear();
+  store.addSnippet(mine("1", "sig"));
+  store.addSnippet(mine("2", "sign"));
+  const auto line =
+      AllOf(StartsWith("[SnippetStore] Failed to save user snippets: cannot move "), HasSubstr("aside"));
+  EXPECT_THAT(log_.lines, ElementsAre(line, line));
+  EXPECT_EQ(readFile(file), "broken");
+  EXPECT_EQ(std::distance(fs::directory_iterator(storage), {}), 1);
+}
+
+TEST_F(SnippetStoreTest, AFileThatCameBackIsStillMovedAsideFirst) {
   folder_.write(userFile, "broken");
   const auto store = makeStore();
   fs::rename(folder_ / "storage", folder_ / "kept");
   folder_.write("storage", "no folder any more");
-  log_.lines.clear();
   store->addSnippet(mine("1", "sig"));
-  EXPECT_THAT(log_.lines, ElementsAre(StartsWith("[SnippetStore] Failed to save user snippets: ")));
   fs::remove(folder_ / "storage");
   fs::rename(folder_ / "kept", folder_ / "storage");
-  EXPECT_EQ(folder_.read(userFile), "broken");
-  // As soon as it works again the file is still moved aside first.
   store->saveUserSnippets();
   EXPECT_EQ(folder_.read("storage/user-snippets.json.unreadable-2026-11-22T10-15-00"), "broken");
   EXPECT_EQ(saved().size(), 1U);

@@ -9,7 +9,7 @@ namespace tessarin::testing {
 /// A time of day that stands still until it is set; counts how often it was read.
 class ManualWallClock final : public WallClock {
  public:
-  explicit ManualWallClock(TimePoint start = utc(2026, 3, 14, 9, 30)) : time(start) {}
+  explicit ManualWallClock(TimePoint start = utc(2026, 3, 14, 9, 30, 0)) : time(start) {}
 
   static TimePoint utc(int year, unsigned month, unsigned day, int hour = 0, int minute = 0, int second = 0) {
     using namespace std::chrono;

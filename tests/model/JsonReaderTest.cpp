@@ -1,0 +1,136 @@
+#include <gmock/gmock.h>
+#include <jansson.h>
+
+#include <memory>
+#include <random>
+
+#include "base/DataError.h"
+#include "model/JsonReader.h"
+
+namespace tessarin {
+namespace {
+
+using ::testing::AllOf;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+std::string errorOf(const std::string& text) {
+  try {
+    JsonReader reader(text);
+    reader.skip();
+    reader.end();
+  } catch (const DataError& error) {
+    return error.what();
+  }
+  return "no error";
+}
+
+TEST(JsonReader, NamesWhatIsWrongWithoutQuotingTheText) {
+  const struct {
+    std::string text;
+    const char* error;
+  } cases[] = {
+      {"", "ends too early (line 1, column 1)"},
+      {" \n ", "ends too early (line 2, column 2)"},
+      {"[1, 2", "ends too early"},
+      {R"([{"secret")", "ends too early"},
+      {R"(["secret)", "ends too early"},
+      {R"(["secret\)", "ends too early"},
+      {"[]\n[\"secret\"]", "goes on after its end (line 2, column 1)"},
+      {"[\"secret\xFF\"]", "not valid UTF-8"},
+      {R"(["secret\u0000"])", "zero character"},
+      {std::string("[\"secret\0\"]", 11), "not valid JSON"},
+      {R"(["secret\uD800"])", "not valid JSON"},
+      {R"(["secret\uD800\u0041"])", "surrogate"},
+      {R"(["secret\uDC00"])", "surrogate"},
+      {R"(["secret\u12"])", "not valid JSON"},
+      {R"(["secret\u+123"])", "not valid JSON"},
+      {R"(["secret\x"])", "not valid JSON"},
+      {"[\"secret\n\"]", "not valid JSON"},
+      {std::string(100'000, '['), "nested too deeply"},
+      {"[1e999]", "out of range"},
+      {"[secret]", "not valid JSON (line 1, column 2)"},
+      {"[1,]", "not valid JSON"},
+      {"[,1]", "not valid JSON"},
+      {"[1 2]", "not valid JSON"},
+      {R"({"a":1,})", "not valid JSON"},
+      {R"({"a" 1})", "not valid JSON"},
+      {R"({a:1})", "not valid JSON"},
+      {"[truE]", "not valid JSON"},
+      {"'a'", "not valid JSON"},
+  };
+  for (const auto& [text, error] : cases) {
+    EXPECT_THAT(errorOf(text), AllOf(HasSubstr(error), Not(HasSubstr("secret")))) << text.substr(0, 30);
+  }
+}
+
+TEST(JsonReader, ReadsEveryKindOfValue) {
+  JsonReader reader(
+      "\xEF\xBB\xBF [ \"a\\\"\\\\\\/\\b\\f\\n\\r\\t\\u00e9\\u20AC\\uD83D\\ude00é😀\" ,true,false, -0, "
+      "12.5e-1, "
+      "9223372036854775807 ] ");
+  std::vector<double> numbers;
+  std::vector<bool> booleans;
+  std::string text;
+  reader.elements([&] {
+    if (reader.kind() == JsonReader::Kind::string) return text = reader.string(), void();
+    if (reader.kind() == JsonReader::Kind::boolean) return booleans.push_back(reader.boolean());
+    if (numbers.size() < 2) return numbers.push_back(reader.number());
+    EXPECT_EQ(reader.integer(), INT64_MAX);
+  });
+  reader.end();
+  EXPECT_EQ(text, "a\"\\/\b\f\n\r\té€😀é😀");
+  EXPECT_EQ(booleans, (std::vector<bool>{true, false}));
+  EXPECT_EQ(numbers, (std::vector<double>{0, 1.25}));
+}
+
+TEST(JsonReader, IntegersAreWrittenAsSuch) {
+  for (const char* text : {"1.0", "1e2", "1E2", "9223372036854775808", "-9223372036854775809"}) {
+    JsonReader reader(text);
+    EXPECT_THROW(reader.integer(), DataError) << text;
+  }
+  EXPECT_EQ(JsonReader("-9223372036854775808").integer(), INT64_MIN);
+}
+
+struct Release {
+  void operator()(json_t* value) const { json_decref(value); }
+};
+
+/// Another reader's opinion.
+bool isAcceptedElsewhere(const std::string& text) {
+  const std::unique_ptr<json_t, Release> value(
+      json_loadb(text.data(), text.size(), JSON_DECODE_ANY | JSON_DECODE_INT_AS_REAL, nullptr));
+  return value != nullptr;
+}
+
+TEST(JsonReader, AgreesWithAnotherReaderOnDamagedTexts) {
+  const std::string whole =
+      "[{\"id\":\"\\u00e9\\\"\\n\",\"n\":[-1.5e+3,0,20],\"é\":{\"t\":true,\"f\":false}},\n [ null, [] ,{}, "
+      "\"\\uD83D\\uDE00\"]]";
+  const std::string pieces = "[]{}\",:\\u0dD8e.-+ 1tn\n\x01\xC3\xA9";
+  std::mt19937 random(20260314);
+  int accepted = 0;
+  for (int round = 0; round < 20'000; ++round) {
+    std::string text = whole;
+    for (std::size_t edits = 1 + random() % 3; edits > 0; --edits) {
+      const std::size_t at = random() % text.size();
+      switch (random() % 3) {
+        case 0:
+          text.erase(at, 1 + random() % 3);
+          break;
+        case 1:
+          text[at] = pieces[random() % pieces.size()];
+          break;
+        default:
+          text.insert(at, 1, pieces[random() % pieces.size()]);
+      }
+    }
+    const bool isAccepted = errorOf(text) == "no error";
+    accepted += isAccepted ? 1 : 0;
+    ASSERT_EQ(isAccepted, isAcceptedElsewhere(text)) << text << "\n" << errorOf(text);
+  }
+  EXPECT_GT(accepted, 500);
+}
+
+}  // namespace
+}  // namespace tessarin
