@@ -1,10 +1,14 @@
 #include "main/Desktop.h"
 
+#include <clocale>
+
 #include "base/Log.h"
 #include "main/SessionKind.h"
 #include "platform/atspi/AccessibilityBus.h"
 #include "platform/freedesktop/ApplicationMatcher.h"
 #include "platform/freedesktop/BaseFolders.h"
+#include "platform/freedesktop/DesktopEntries.h"
+#include "platform/freedesktop/DesktopEntry.h"
 
 namespace tessarin {
 namespace {
@@ -25,8 +29,9 @@ void sayWhatIsMissing(x11::X11InputMonitoring& inputMonitoring) {
 }
 
 std::shared_ptr<const freedesktop::ApplicationMatcher> applicationMatcher() {
-  return std::make_shared<freedesktop::ApplicationMatcher>(
-      std::make_shared<freedesktop::DesktopEntries>(freedesktop::applicationFolders(processEnvironment)));
+  return std::make_shared<freedesktop::ApplicationMatcher>(std::make_shared<freedesktop::DesktopEntries>(
+      freedesktop::applicationFolders(processEnvironment),
+      freedesktop::localeCandidates(std::setlocale(LC_MESSAGES, nullptr))));
 }
 
 }  // namespace

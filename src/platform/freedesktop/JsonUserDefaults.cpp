@@ -10,7 +10,7 @@
 #include "base/AtomicFile.h"
 #include "base/DataError.h"
 #include "base/Files.h"
-#include "base/Json.h"
+#include "platform/freedesktop/Json.h"
 #include "base/Log.h"
 
 namespace tessarin::freedesktop {
