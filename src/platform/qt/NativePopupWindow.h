@@ -1,0 +1,26 @@
+#pragma once
+
+#include "base/Geometry.h"
+
+class QWidget;
+
+namespace tessarin::ui {
+
+/// Does to a window of ours what cannot be said in Qt's logical coordinates: exact places in native pixels
+/// and corners cut out of the window's shape. Without an X server it does what Qt can do.
+class NativePopupWindow {
+ public:
+  explicit NativePopupWindow(QWidget& window) : window_(window) {}
+
+  /// Whether a compositor runs, so that what is transparent is seen so.
+  bool isComposited() const;
+  /// Native pixels, y downwards.
+  void setGeometry(const Rect& pixels) const;
+  /// Cuts the corners off, or undoes it. `radius` in native pixels.
+  void setRounded(bool isRounded, double radius) const;
+
+ private:
+  QWidget& window_;
+};
+
+}  // namespace tessarin::ui

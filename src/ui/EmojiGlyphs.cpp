@@ -1,0 +1,120 @@
+#include "ui/EmojiGlyphs.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QTextLayout>
+#include <cmath>
+
+#include "text/Graphemes.h"
+#include "ui/EmojiFont.h"
+#include "ui/PopupTheme.h"
+
+namespace tessarin::ui {
+namespace {
+
+constexpr qsizetype cacheBytes = 512 * 1024;
+constexpr double tileSide = 22.0 / 28.0;
+
+/// Draws the text as one line, what it covers (not its line box) centred in the frame, and shrunk to its
+/// width.
+void drawCentred(QPainter& painter, const QRectF& frame, const QString& text, const QFont& font) {
+  QTextLayout layout(text, font);
+  layout.beginLayout();
+  QTextLine line = layout.createLine();
+  line.setLineWidth(10000);
+  layout.endLayout();
+  const double width = line.naturalTextWidth();
+  const double shrink = std::min(1.0, frame.width() / std::max(width, 1.0));
+  painter.save();
+  painter.translate(frame.center());
+  painter.scale(shrink, shrink);
+  layout.draw(&painter, QPointF(-width / 2, -line.height() / 2));
+  painter.restore();
+}
+
+void drawTile(QPainter& painter, const QRectF& frame, const QStringList& lines, const QColor& color) {
+  const double side = std::min(frame.width(), frame.height()) * tileSide;
+  QRectF tile(0, 0, side, side);
+  tile.moveCenter(frame.center());
+  QColor faint = color;
+  faint.setAlphaF(color.alphaF() * 0.45F);
+  painter.setPen(QPen(faint, 1));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(tile.adjusted(0.5, 0.5, -0.5, -0.5), side / 6, side / 6);
+  QFont font = fonts::monospaced(static_cast<int>(side * 0.38), QFont::DemiBold);
+  painter.setFont(font);
+  painter.setPen(color);
+  const double half = (side - 4) / 2;
+  for (int i = 0; i < lines.size(); ++i) {
+    const QRectF line(tile.left(), tile.top() + 2 + i * half, side, half);
+    painter.drawText(line, Qt::AlignCenter, lines[i]);
+  }
+}
+
+QString cacheKey(const QString& text, int size, const QColor& color, QSizeF frame, double ratio) {
+  return QStringLiteral("%1|%2|%3|%4x%5|%6")
+      .arg(text)
+      .arg(size)
+      .arg(color.rgba())
+      .arg(frame.width())
+      .arg(frame.height())
+      .arg(ratio);
+}
+
+}  // namespace
+
+EmojiGlyphs::EmojiGlyphs() : cache_(cacheBytes) {}
+
+void EmojiGlyphs::draw(QPainter& painter, const QRectF& frame, const QString& text, int size,
+                       const QColor& color) {
+  const double ratio = painter.device()->devicePixelRatio() * painter.transform().m11();
+  const QString key = cacheKey(text, size, color, frame.size(), ratio);
+  QImage* image = cache_.object(key);
+  if (image == nullptr) {
+    image = new QImage(render(text, size, color, frame.size(), ratio));
+    const QImage copy = *image;
+    cache_.insert(key, image, copy.sizeInBytes());
+    painter.drawImage(frame.topLeft(), copy);
+    return;
+  }
+  painter.drawImage(frame.topLeft(), *image);
+}
+
+QImage EmojiGlyphs::render(const QString& text, int size, const QColor& color, QSizeF side,
+                           double pixelRatio) {
+  QImage image(std::lround(side.width() * pixelRatio), std::lround(side.height() * pixelRatio),
+               QImage::Format_ARGB32_Premultiplied);
+  image.setDevicePixelRatio(pixelRatio);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                         QPainter::SmoothPixmapTransform);
+  const QRectF frame(QPointF(0, 0), side);
+  painter.setPen(color);
+  if (!canDraw(text)) {
+    drawTile(painter, frame, tileLines(text), color);
+  } else {
+    drawCentred(painter, frame, text, emoji::isEmoji(text) ? emoji::font(size) : fonts::system(size));
+  }
+  return image;
+}
+
+bool EmojiGlyphs::canDraw(const QString& text) {
+  std::string rest = text.toStdString();
+  while (!rest.empty()) {
+    const std::string character = text::firstCharacter(rest);
+    if (!emoji::hasGlyph(QString::fromStdString(character))) return false;
+    rest.erase(0, character.size());
+  }
+  return true;
+}
+
+QStringList EmojiGlyphs::tileLines(const QString& text) {
+  const auto codePoints = text.toUcs4();
+  const QString hex =
+      QString::number(codePoints.isEmpty() ? 0 : codePoints.first(), 16).toUpper().rightJustified(4, u'0');
+  const auto first = (hex.size() + 1) / 2;
+  return {hex.left(first), hex.mid(first)};
+}
+
+}  // namespace tessarin::ui

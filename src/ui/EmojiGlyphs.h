@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QCache>
+#include <QColor>
+#include <QImage>
+#include <QString>
+
+class QPainter;
+class QRectF;
+
+namespace tessarin::ui {
+
+/// Draws replacements: emoji in colour, kaomoji and other text in the given colour, and a tile with the code
+/// point for what no installed font can draw. Pictures are kept, in a bounded number of bytes.
+class EmojiGlyphs {
+ public:
+  EmojiGlyphs();
+
+  /// Centred in `frame`. `size`: of the font, in points; a text wider than the frame is drawn smaller.
+  void draw(QPainter& painter, const QRectF& frame, const QString& text, int size, const QColor& color);
+
+  /// Whether the fonts have one picture for each character of the text.
+  static bool canDraw(const QString& text);
+  /// The tile's lines: the hexadecimal code point in two halves, e.g. "1F9", "C9".
+  static QStringList tileLines(const QString& text);
+  qsizetype cachedBytes() const { return cache_.totalCost(); }
+
+ private:
+  /// The text painted in the middle of an image of `side` points.
+  static QImage render(const QString& text, int size, const QColor& color, QSizeF side, double pixelRatio);
+
+  QCache<QString, QImage> cache_;
+};
+
+}  // namespace tessarin::ui

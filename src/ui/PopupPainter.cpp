@@ -1,0 +1,189 @@
+#include "ui/PopupPainter.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+#include <cmath>
+
+#include "text/Graphemes.h"
+#include "ui/KeyHintRow.h"
+
+namespace tessarin::ui {
+namespace {
+
+constexpr double headerPadding = 12;
+constexpr double rowPadding = 10;
+constexpr double rowSpacing = 8;
+constexpr double emojiSide = 28;
+constexpr double highlightInset = 4;
+constexpr double indicatorWidth = 3;
+
+double pixelRatioOf(const QPainter& painter) {
+  return painter.device()->devicePixelRatio() * painter.transform().m11();
+}
+
+/// Draws one line, vertically centred, from x on, and answers where it ended.
+double drawLeft(QPainter& painter, const QRectF& band, double x, double maxWidth, const QString& text) {
+  const QFontMetricsF metrics(painter.font());
+  const QString shown = metrics.elidedText(text, Qt::ElideRight, maxWidth);
+  painter.drawText(QRectF(x, band.top(), maxWidth, band.height()),
+                   Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine, shown);
+  return x + std::min(maxWidth, std::ceil(metrics.horizontalAdvance(shown)));
+}
+
+/// Draws one line that ends at `right`, and answers where it began.
+double drawRight(QPainter& painter, const QRectF& band, double right, const QString& text) {
+  const double width = std::ceil(QFontMetricsF(painter.font()).horizontalAdvance(text));
+  painter.drawText(QRectF(right - width, band.top(), width, band.height()),
+                   Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
+  return right - width;
+}
+
+QString matchCount(std::size_t count) {
+  return QStringLiteral("%1 match%2").arg(count).arg(count == 1 ? QString() : QStringLiteral("es"));
+}
+
+QColor whiteAt(double opacity) {
+  return QColor::fromRgbF(1, 1, 1, static_cast<float>(opacity));
+}
+
+}  // namespace
+
+void PopupPainter::paint(QPainter& painter, const PopupContent& content, const PopupLayout& layout,
+                         const PopupView& view) {
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+  paintCard(painter, layout, view.isTranslucent);
+  if (!layout.header().isNull()) paintHeader(painter, layout.header(), content);
+  if (!layout.picker().isNull()) paintPicker(painter, content, layout);
+  paintList(painter, content, layout, view);
+  if (!layout.footer().isNull()) drawKeyHints(painter, layout.footer(), content.hints, theme_);
+  paintDividers(painter, layout);
+}
+
+void PopupPainter::paintCard(QPainter& painter, const PopupLayout& layout, bool isTranslucent) const {
+  constexpr double translucentOpacity = 0.94;
+  const QRectF card(QPointF(0, 0), layout.size());
+  QColor ground = theme_.card;
+  if (isTranslucent) ground.setAlphaF(translucentOpacity);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(ground);
+  painter.drawRoundedRect(card, PopupLayout::cornerRadius, PopupLayout::cornerRadius);
+  const double width = std::max(0.5, 1 / pixelRatioOf(painter));
+  const double inset = width / 2;
+  painter.setPen(QPen(theme_.primaryAt(0.1), width));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(card.adjusted(inset, inset, -inset, -inset), PopupLayout::cornerRadius - inset,
+                          PopupLayout::cornerRadius - inset);
+}
+
+void PopupPainter::paintHeader(QPainter& painter, const QRectF& band, const PopupContent& content) const {
+  constexpr double spacing = 4;
+  painter.setFont(fonts::system(10));
+  painter.setPen(theme_.secondary);
+  const double counter =
+      drawRight(painter, band, band.right() - headerPadding, matchCount(content.rows.size()));
+
+  painter.setFont(fonts::system(12));
+  const QString dots = QStringLiteral("…");
+  const double dotsWidth = QFontMetricsF(painter.font()).horizontalAdvance(dots);
+  const double room = counter - headerPadding - dotsWidth - 2 * spacing;
+
+  painter.setFont(fonts::monospaced(12, QFont::Medium));
+  painter.setPen(theme_.primaryAt(0.7));
+  const double end = drawLeft(painter, band, headerPadding, room,
+                              QString::fromStdString(content.triggerCharacter + content.query));
+  painter.setFont(fonts::system(12));
+  painter.setPen(theme_.secondary);
+  drawLeft(painter, band, end + spacing, dotsWidth + 1, dots);
+}
+
+void PopupPainter::paintPicker(QPainter& painter, const PopupContent& content, const PopupLayout& layout) {
+  constexpr int fontSize = 24;
+  constexpr double radius = 6;
+  constexpr double border = 2;
+  for (int i = 0; i < static_cast<int>(content.skinToneVariants.size()); ++i) {
+    const QRectF cell = layout.variant(i);
+    if (i == content.skinToneSelectedIndex) {
+      painter.setBrush(theme_.accentAt(0.3));
+      painter.setPen(QPen(theme_.accent, border));
+      painter.drawRoundedRect(cell.adjusted(1, 1, -1, -1), radius - 1, radius - 1);
+    }
+    glyphs_.draw(painter, cell, QString::fromStdString(content.skinToneVariants[static_cast<std::size_t>(i)]),
+                 fontSize, theme_.primary);
+  }
+}
+
+void PopupPainter::paintList(QPainter& painter, const PopupContent& content, const PopupLayout& layout,
+                             const PopupView& view) {
+  const QRectF list = layout.list();
+  if (content.rows.empty()) {
+    painter.setFont(fonts::system(12));
+    painter.setPen(theme_.secondary);
+    painter.drawText(list, Qt::AlignCenter, QStringLiteral("No matches"));
+    return;
+  }
+  painter.save();
+  painter.setClipRect(list, Qt::IntersectClip);
+  for (int i = 0; i < static_cast<int>(content.rows.size()); ++i) {
+    const QRectF rect = layout.row(i, view.scroll);
+    if (rect.intersects(list)) paintRow(painter, rect, content, i, view.hoveredRow == i);
+  }
+  paintScrollIndicator(painter, layout, view.scroll);
+  painter.restore();
+}
+
+void PopupPainter::paintRow(QPainter& painter, const QRectF& rect, const PopupContent& content, int index,
+                            bool isHovered) {
+  const PopupRow& row = content.rows[static_cast<std::size_t>(index)];
+  const bool isSelected = index == content.selectedIndex;
+  if (isSelected || isHovered) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(isSelected ? theme_.accent : theme_.primaryAt(0.06));
+    painter.drawRoundedRect(rect.adjusted(highlightInset, 0, -highlightInset, 0), 4, 4);
+  }
+  const QColor primary = isSelected ? QColor(Qt::white) : theme_.primary;
+  const QRectF emoji(rect.left() + rowPadding, rect.center().y() - emojiSide / 2, emojiSide, emojiSide);
+  const int size = text::characterCount(row.replacement) <= 2 ? 20 : 10;
+  glyphs_.draw(painter, emoji, QString::fromStdString(row.replacement), size, primary);
+
+  double right = rect.right() - rowPadding;
+  if (row.supportsSkinTones) {
+    painter.setFont(fonts::system(10));
+    painter.setPen(isSelected ? whiteAt(0.6) : theme_.primaryAt(0.275));
+    right = drawRight(painter, rect, right, QStringLiteral("→")) - rowSpacing;
+  }
+  double x = emoji.right() + rowSpacing;
+  painter.setFont(fonts::monospaced(13, QFont::Medium));
+  painter.setPen(primary);
+  const std::string trigger = content.triggerCharacter + row.trigger + content.triggerCharacter;
+  x = drawLeft(painter, rect, x, right - x, QString::fromStdString(trigger)) + rowSpacing;
+  painter.setFont(fonts::system(12));
+  painter.setPen(isSelected ? whiteAt(0.8) : theme_.secondary);
+  if (right > x) drawLeft(painter, rect, x, right - x, QString::fromStdString(row.name));
+}
+
+void PopupPainter::paintScrollIndicator(QPainter& painter, const PopupLayout& layout, double scroll) const {
+  if (layout.maxScroll() <= 0 || layout.list().height() < 2 * indicatorWidth) return;
+  const QRectF list = layout.list().adjusted(0, 2, 0, -2);
+  const double whole = layout.list().height() + layout.maxScroll();
+  const double length = std::max(12.0, list.height() * layout.list().height() / whole);
+  const double top = list.top() + (list.height() - length) * scroll / layout.maxScroll();
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(theme_.primaryAt(0.3));
+  painter.drawRoundedRect(QRectF(list.right() - indicatorWidth - 0.5, top, indicatorWidth, length),
+                          indicatorWidth / 2, indicatorWidth / 2);
+}
+
+void PopupPainter::paintDividers(QPainter& painter, const PopupLayout& layout) const {
+  const double ratio = pixelRatioOf(painter);
+  const double thickness = std::max(1.0, std::floor(ratio)) / ratio;
+  for (const double y : layout.dividers()) {
+    const double inset = PopupLayout::dividerInset;
+    painter.fillRect(
+        QRectF(inset, std::round(y * ratio) / ratio, layout.size().width() - 2 * inset, thickness),
+        theme_.primaryAt(0.1));
+  }
+}
+
+}  // namespace tessarin::ui

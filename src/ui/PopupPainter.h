@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+
+#include "platform/PopupPresenter.h"
+#include "ui/EmojiGlyphs.h"
+#include "ui/PopupLayout.h"
+#include "ui/PopupTheme.h"
+
+class QPainter;
+class QPalette;
+
+namespace tessarin::ui {
+
+/// What the picture shows beyond its content.
+struct PopupView {
+  double scroll = 0;              ///< of the list, in points
+  std::optional<int> hoveredRow;  ///< the row under the pointer
+  bool isTranslucent = false;     ///< what lies behind may shine through; else the card is opaque
+};
+
+/// Paints the popup into any painter, in points from the painter's origin.
+class PopupPainter {
+ public:
+  explicit PopupPainter(const QPalette& palette) : theme_(palette) {}
+  void setPalette(const QPalette& palette) { theme_ = PopupTheme(palette); }
+
+  void paint(QPainter& painter, const PopupContent& content, const PopupLayout& layout,
+             const PopupView& view);
+
+ private:
+  void paintCard(QPainter& painter, const PopupLayout& layout, bool isTranslucent) const;
+  void paintHeader(QPainter& painter, const QRectF& band, const PopupContent& content) const;
+  void paintPicker(QPainter& painter, const PopupContent& content, const PopupLayout& layout);
+  void paintList(QPainter& painter, const PopupContent& content, const PopupLayout& layout,
+                 const PopupView& view);
+  void paintRow(QPainter& painter, const QRectF& rect, const PopupContent& content, int index,
+                bool isHovered);
+  void paintScrollIndicator(QPainter& painter, const PopupLayout& layout, double scroll) const;
+  void paintDividers(QPainter& painter, const PopupLayout& layout) const;
+
+  PopupTheme theme_;
+  EmojiGlyphs glyphs_;
+};
+
+}  // namespace tessarin::ui

@@ -1,0 +1,143 @@
+#include "ui/PopupWindow.h"
+
+#include <QEasingCurve>
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+#include <cmath>
+#include <utility>
+
+#include "platform/qt/NativePopupWindow.h"
+
+namespace tessarin::ui {
+namespace {
+
+constexpr int scrollMilliseconds = 100;
+constexpr Qt::WindowFlags popupFlags = Qt::ToolTip | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint |
+                                       Qt::WindowDoesNotAcceptFocus | Qt::WindowStaysOnTopHint;
+
+}  // namespace
+
+PopupWindow::PopupWindow(Space space)
+    : QWidget(nullptr, popupFlags), space_(std::move(space)), painter_(palette()) {
+  setAttribute(Qt::WA_ShowWithoutActivating);
+  setAttribute(Qt::WA_TranslucentBackground);
+  setAttribute(Qt::WA_X11NetWmWindowTypePopupMenu);
+  setFocusPolicy(Qt::NoFocus);
+  setMouseTracking(true);
+  setAccessibleName(QStringLiteral("Tessarin"));
+  resize(PopupLayout::sizeFor(1).toSize());
+  scrolling_.setDuration(scrollMilliseconds);
+  scrolling_.setEasingCurve(QEasingCurve::InOutQuad);
+  connect(&scrolling_, &QVariantAnimation::valueChanged, this,
+          [this](const QVariant& value) { setScroll(value.toDouble()); });
+  winId();
+}
+
+void PopupWindow::show(const PopupContent& content, const Rect& frame) {
+  const bool wasVisible = isVisible();
+  setContent(content, QSizeF(frame.width, frame.height));
+  if (!wasVisible || frame_ != frame) place(frame);
+  if (!wasVisible) setVisible(true);
+  update();
+}
+
+void PopupWindow::hide() {
+  scrolling_.stop();
+  setVisible(false);
+  frame_.reset();
+  hoveredRow_.reset();
+  pressed_ = {};
+  content_ = {};
+}
+
+void PopupWindow::setContent(const PopupContent& content, QSizeF size) {
+  const bool isSameList = isVisible() && content.rows == content_.rows;
+  const bool isSelectionMoved = content.selectedIndex != content_.selectedIndex;
+  const bool isPickerToggled = content.skinToneMode != content_.skinToneMode;
+  content_ = content;
+  layout_ = PopupLayout(content, size);
+  const double target = layout_.scrollCentring(content.selectedIndex);
+  if (!isSameList) {
+    scrolling_.stop();
+    hoveredRow_.reset();
+    pressed_ = {};
+    scroll_ = target;
+  } else if (isPickerToggled) {
+    scrolling_.stop();
+    scroll_ = target;
+  } else if (isSelectionMoved && target != scroll_) {
+    scrolling_.stop();
+    scrolling_.setStartValue(scroll_);
+    scrolling_.setEndValue(target);
+    scrolling_.start();
+  }
+}
+
+void PopupWindow::place(const Rect& frame) {
+  frame_ = frame;
+  const CoordinateSpace space = space_();
+  const Rect pixels = space.toPixels(space.flipped(frame));
+  const NativePopupWindow native(*this);
+  isTranslucent_ = native.isComposited();
+  native.setGeometry(pixels);
+  native.setRounded(!isTranslucent_, PopupLayout::cornerRadius * space.scale());
+}
+
+void PopupWindow::setScroll(double scroll) {
+  const double clamped = layout_.clampedScroll(scroll);
+  if (std::exchange(scroll_, clamped) != clamped) update();
+}
+
+void PopupWindow::setHoveredRow(std::optional<int> row) {
+  if (std::exchange(hoveredRow_, row) != row) update();
+}
+
+PopupWindow::Target PopupWindow::targetAt(QPointF point) const {
+  return {layout_.rowAt(point, scroll_), layout_.variantAt(point)};
+}
+
+void PopupWindow::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter_.paint(painter, content_, layout_, {scroll_, hoveredRow_, isTranslucent_});
+}
+
+void PopupWindow::mouseMoveEvent(QMouseEvent* event) {
+  setHoveredRow(layout_.rowAt(event->position(), scroll_));
+}
+
+void PopupWindow::leaveEvent(QEvent*) {
+  setHoveredRow(std::nullopt);
+}
+
+void PopupWindow::mousePressEvent(QMouseEvent* event) {
+  pressed_ = event->button() == Qt::LeftButton ? targetAt(event->position()) : Target{};
+}
+
+void PopupWindow::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  const Target released = targetAt(event->position());
+  if (std::exchange(pressed_, {}) != released) return;
+  // Copies: a click may hide the popup and set other callbacks.
+  const auto onRow = rowClicked_;
+  const auto onVariant = variantClicked_;
+  if (released.row && onRow) onRow(*released.row);
+  if (released.variant && onVariant) onVariant(*released.variant);
+}
+
+void PopupWindow::wheelEvent(QWheelEvent* event) {
+  constexpr double pointsPerDegree = PopupLayout::rowHeight / 15;  // a notch of 15 degrees moves one row
+  scrolling_.stop();
+  const double pixels = event->pixelDelta().y();
+  setScroll(scroll_ - (pixels != 0 ? pixels : event->angleDelta().y() / 8.0 * pointsPerDegree));
+  setHoveredRow(layout_.rowAt(event->position(), scroll_));
+  event->accept();
+}
+
+void PopupWindow::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) painter_.setPalette(palette());
+}
+
+}  // namespace tessarin::ui

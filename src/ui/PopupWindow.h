@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QVariantAnimation>
+#include <QWidget>
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+#include "platform/CoordinateSpace.h"
+#include "platform/PopupSurface.h"
+#include "ui/PopupPainter.h"
+
+namespace tessarin::ui {
+
+/// The popup on screen: a window that the window manager leaves alone and that never takes the focus. The
+/// native window is made at once and stays hidden, so that showing it costs little. Main thread.
+class PopupWindow final : public QWidget, public PopupSurface {
+ public:
+  /// Answers where points lie at the moment; asked at every show.
+  using Space = std::function<CoordinateSpace()>;
+  explicit PopupWindow(Space space);
+
+  void show(const PopupContent& content, const Rect& frame) override;
+  void hide() override;
+  void onRowClicked(std::function<void(int index)> callback) override { rowClicked_ = std::move(callback); }
+  void onVariantClicked(std::function<void(int index)> callback) override {
+    variantClicked_ = std::move(callback);
+  }
+
+  /// The X window, to be told from other programs' windows.
+  std::uint32_t nativeWindow() const { return static_cast<std::uint32_t>(winId()); }
+  double scroll() const { return scroll_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  /// What a click can meet.
+  struct Target {
+    std::optional<int> row;
+    std::optional<int> variant;
+    bool operator==(const Target&) const = default;
+  };
+  Target targetAt(QPointF point) const;
+  void setContent(const PopupContent& content, QSizeF size);
+  void place(const Rect& frame);
+  void setScroll(double scroll);
+  void setHoveredRow(std::optional<int> row);
+
+  Space space_;
+  PopupPainter painter_;
+  PopupContent content_;
+  PopupLayout layout_;
+  std::optional<Rect> frame_;  ///< as shown, screen coordinates
+  double scroll_ = 0;
+  std::optional<int> hoveredRow_;
+  bool isTranslucent_ = false;
+  Target pressed_;
+  QVariantAnimation scrolling_;
+  std::function<void(int)> rowClicked_;
+  std::function<void(int)> variantClicked_;
+};
+
+}  // namespace tessarin::ui
