@@ -7,7 +7,6 @@ namespace tessarin {
 namespace {
 
 using ::testing::AllOf;
-using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;

@@ -36,6 +36,7 @@ Snippet mine(const std::string& id, const std::string& trigger) {
 
 std::vector<std::string> triggersOf(const std::vector<Snippet>& snippets) {
   std::vector<std::string> triggers;
+  triggers.reserve(snippets.size());
   for (const Snippet& snippet : snippets) triggers.push_back(snippet.trigger);
   return triggers;
 }

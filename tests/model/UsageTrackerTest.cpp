@@ -14,7 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using ::testing::ElementsAre;
-using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using testing::LogRecorder;
 using testing::ManualWallClock;
@@ -47,6 +46,7 @@ class UsageTrackerTest : public ::testing::Test {
 
 std::vector<std::int64_t> countsOf(const std::vector<UsageTracker::DayCount>& days) {
   std::vector<std::int64_t> counts;
+  counts.reserve(days.size());
   for (const auto& day : days) counts.push_back(day.count);
   return counts;
 }

@@ -13,7 +13,9 @@ class ManualWallClock final : public WallClock {
 
   static TimePoint utc(int year, unsigned month, unsigned day, int hour = 0, int minute = 0, int second = 0) {
     using namespace std::chrono;
-    return sys_days(std::chrono::year(year) / month / day) + hours(hour) + minutes(minute) + seconds(second);
+    return sys_days(
+               year_month_day(std::chrono::year(year), std::chrono::month(month), std::chrono::day(day))) +
+           hours(hour) + minutes(minute) + seconds(second);
   }
 
   TimePoint now() const override {
