@@ -7,6 +7,12 @@
 #include "platform/x11/Handles.h"
 
 namespace tessarin::x11 {
+namespace {
+
+constexpr std::uint32_t watched =
+    XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_FOCUS_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+
+}  // namespace
 ActiveWindow::ActiveWindow(xcb_connection_t* connection, Atoms& atoms, WindowProperties& properties,
                            xcb_window_t root, Changed changed)
     : connection_(connection),
@@ -22,13 +28,16 @@ ActiveWindow::ActiveWindow(xcb_connection_t* connection, Atoms& atoms, WindowPro
 void ActiveWindow::refresh() {
   manager_ = properties_.managerWindow();
   if (isManaged()) select(manager_, XCB_EVENT_MASK_STRUCTURE_NOTIFY);
-  const xcb_window_t window = isManaged() ? properties_.activeWindow() : focusedWindow();
+  follow(isManaged() ? properties_.activeWindow() : focusedWindow());
+}
+
+void ActiveWindow::follow(xcb_window_t window) {
   if (window == window_) return;
   const bool isStillNeeded = window_ == focus_ || window_ == XCB_WINDOW_NONE;
   if (!isStillNeeded) select(window_, XCB_EVENT_MASK_NO_EVENT);
   window_ = window;
   if (window_ != XCB_WINDOW_NONE) {
-    select(window_, XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_FOCUS_CHANGE);
+    select(window_, watched);
   }
   changed_(Change::otherWindow);
 }
@@ -42,7 +51,7 @@ xcb_window_t ActiveWindow::focusedWindow() {
     const xcb_window_t pointed = topLevelUnderPointer(connection_, root_);
     return pointed == XCB_WINDOW_NONE ? pointed : properties_.identifiedWindow(pointed);
   }
-  select(focus_, XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_FOCUS_CHANGE);
+  select(focus_, watched);
   return properties_.identifiedWindow(focus_);
 }
 
@@ -56,10 +65,19 @@ void ActiveWindow::handle(const xcb_generic_event_t& event) {
       handleFocus(reinterpret_cast<const xcb_focus_in_event_t&>(event));
       break;
     case XCB_DESTROY_NOTIFY:
-      if (reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window == manager_) refresh();
+      handleDestroyed(reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window);
       break;
     default:
       break;
+  }
+}
+
+void ActiveWindow::handleDestroyed(xcb_window_t window) {
+  if (window == manager_) {
+    refresh();
+  } else if (window == window_ && isManaged()) {
+    // Not every window manager takes back the name of the last window.
+    follow(XCB_WINDOW_NONE);
   }
 }
 

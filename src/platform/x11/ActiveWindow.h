@@ -28,6 +28,8 @@ class ActiveWindow {
   bool isManaged() const { return manager_ != XCB_WINDOW_NONE; }
 
  private:
+  void follow(xcb_window_t window);
+  void handleDestroyed(xcb_window_t window);
   void handleProperty(const xcb_property_notify_event_t& event);
   void handleFocus(const xcb_focus_in_event_t& event);
   xcb_window_t focusedWindow();

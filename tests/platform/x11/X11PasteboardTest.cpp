@@ -9,6 +9,7 @@
 #include "platform/x11/SelectionTargets.h"
 #include "platform/x11/X11Selections.h"
 #include "support/Eventually.h"
+#include "support/FakePasteboard.h"
 #include "support/LogRecorder.h"
 #include "support/ManualMainQueue.h"
 #include "support/PasteboardSuite.h"
@@ -78,6 +79,22 @@ struct X11PasteboardWorld {
 
 INSTANTIATE_TYPED_TEST_SUITE_P(X11, PasteboardSuite, ::testing::Types<X11PasteboardWorld>);
 
+struct FakePasteboardWorld {
+  Pasteboard& pasteboard() { return fake; }
+  void copyElsewhere(Items items) { fake.copyElsewhere(std::move(items)); }
+  std::optional<std::string> pasteIntoFocusedApplication() { return fake.readByApplication(); }
+  template <class Condition>
+  bool waitFor(Condition condition) {
+    queue.runReady();
+    return condition();
+  }
+
+  ManualMainQueue queue;
+  FakePasteboard fake{queue};
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Fake, PasteboardSuite, ::testing::Types<FakePasteboardWorld>);
+
 class X11PasteboardTest : public ::testing::Test {
  protected:
   Pasteboard& pasteboard() { return world.pasteboard(); }
@@ -136,6 +153,8 @@ TEST_F(X11PasteboardTest, WorksWithACommandLineClient) {
   folder.write("in", blob(1'000'000));
   const auto shell = [](const std::string& command) { return display().run({"sh", "-c", command}); };
   ASSERT_EQ(shell("xclip -selection clipboard -t image/png -i '" + (folder / "in").string() + "'"), 0);
+  // It takes the selection in the background.
+  ASSERT_TRUE(world.waitFor([&] { return !peer().targets("CLIPBOARD").empty(); }));
   const auto saved = world.wholeSnapshot();
   EXPECT_THAT(saved->items, ElementsAre(PasteboardItem{"image/png", folder.read("in")}));
   pasteboard().writeText("für 😀");
