@@ -246,8 +246,14 @@ TEST_F(AppDelegateTest, AttentionFollowsTheCollecting) {
 TEST_F(AppDelegateTest, KeysAreHeldBackUntilTheLastInsertionIsDone) {
   app.insertion.finishesAtOnce = false;
   app.type(":sm");
+  bool wasAsked = false;
+  app.insertion.onAsked = [&] {
+    wasAsked = true;
+    EXPECT_EQ(app.tap.attention(), KeyAttention::holdBack) << "before the first synthetic press";
+  };
   app.popup.clickRow(0);
-  EXPECT_EQ(app.tap.attention(), KeyAttention::holdBack) << "from before the first synthetic press on";
+  EXPECT_TRUE(wasAsked);
+  EXPECT_EQ(app.tap.attention(), KeyAttention::holdBack);
   app.insertion.finish(InsertionOutcome::inserted);
   EXPECT_EQ(app.tap.attention(), KeyAttention::triggerOnly);
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/AppDelegate.h"
+#include "platform/WallClock.h"
 #include "support/FakeAccessibility.h"
 #include "support/FakeDocument.h"
 #include "support/FakeEventTap.h"
@@ -18,7 +19,6 @@
 #include "support/FakeWorkspace.h"
 #include "support/LogRecorder.h"
 #include "support/ManualMainQueue.h"
-#include "support/ManualWallClock.h"
 #include "support/TemporaryFolder.h"
 
 namespace tessarin::testing {
@@ -53,7 +53,7 @@ class TestApp {
   FakeWorkspace workspace;
   FakeUserDefaults defaults;
   ManualMainQueue queue;
-  ManualWallClock clock;
+  SystemWallClock clock;
   FakePopupPresenter popup;
   FakeTextInsertion insertion;
   FakeStatusBar statusBar;

@@ -36,6 +36,7 @@ class FakeTextInsertion final : public TextInsertion {
 
   void replace(const Replacement& replacement, Completion done) override {
     replacements.push_back(replacement);
+    if (onAsked) onAsked();
     expected_.came(replacement);
     underWay_.emplace_back(replacement, std::move(done));
     if (finishesAtOnce) finish();
@@ -52,6 +53,7 @@ class FakeTextInsertion final : public TextInsertion {
   std::size_t underWay() const { return underWay_.size(); }
 
   bool finishesAtOnce = true;
+  std::function<void()> onAsked;  ///< before anything is inserted
   std::function<void(const Replacement&)> onInserted;
   std::vector<Replacement> replacements;
 
