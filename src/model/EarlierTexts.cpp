@@ -28,7 +28,10 @@ std::size_t EarlierTexts::coveredAt(std::string_view rest, std::size_t atLeast) 
   if (rest.size() == 1 || !pairs_.test(pairOf(rest[0], rest[1]))) return 1;
   std::size_t length = std::max<std::size_t>(atLeast, 1);
   const std::size_t most = std::min<std::size_t>(rest.size(), 255);
-  while (length < most && texts_.find(rest.substr(0, length + 1)) != std::string::npos) ++length;
+  std::size_t at = 0;
+  while (length < most && (at = texts_.find(rest.substr(0, length + 1), at)) != std::string::npos) {
+    while (length < most && texts_[at + length] == rest[length]) ++length;
+  }
   return length;
 }
 
