@@ -40,6 +40,7 @@ Desktop::Desktop()
     : defaults_(freedesktop::configFolder(processEnvironment) / "preferences.json"),
       trust_(freedesktop::configFolder(processEnvironment)),
       trustPrompt_([this] { allow(); }),
+      popupWindow_([this] { return screens_.space(); }),
       selections_(x11::X11Selections::connect(queue_)),
       workspace_(x11::X11Workspace::connect(queue_, applicationMatcher())),
       keyboard_(std::make_shared<x11::X11Keyboard>(queue_)),
@@ -51,7 +52,7 @@ Desktop::Desktop()
       textReplacer_(accessibilityHelper_, pasteHelper_, clock_),
       autocompletePanel_(popupWindow_, screens_, accessibility_, queue_) {
   defaults_.watch(queue_);
-  if (workspace_) workspace_->setOwnPopup(popupWindow_.windowId());
+  if (workspace_) workspace_->setOwnPopup(popupWindow_.nativeWindow());
   sayWhatIsMissing(inputMonitoring_);
 }
 
