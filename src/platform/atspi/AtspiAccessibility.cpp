@@ -24,6 +24,7 @@ std::optional<AttributeValue> element(const std::optional<ObjectReference>& obje
 
 AtspiAccessibility::AtspiAccessibility(MainQueue& queue, Options options)
     : options_(std::move(options)),
+      channel_(options_.longestCall),
       watcher_(options_.sessionBusAddress, options_.ownProcess, [&queue, weak = std::weak_ptr(focusMoved_)] {
         queue.async([weak] {
           if (const auto signal = weak.lock()) signal->emit();

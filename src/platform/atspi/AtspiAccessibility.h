@@ -36,6 +36,8 @@ class AtspiAccessibility final : public Accessibility {
     std::function<std::optional<Point>()> activeWindowOrigin;
     /// Empty for the environment's.
     std::string sessionBusAddress;
+    /// Many times what an application that is awake needs, and still no delay that a user feels.
+    std::chrono::milliseconds longestCall{50};
     /// Whose windows are nobody's: a call into our own process would wait for itself.
     std::uint32_t ownProcess = static_cast<std::uint32_t>(getpid());
   };

@@ -17,7 +17,7 @@ bool CallChannel::isConnected() const {
 
 Answer CallChannel::call(MessagePtr request) {
   const std::string bus = dbus_message_get_destination(request.get());
-  const auto longest = budget_.allowance(longestCall);
+  const auto longest = budget_.allowance(longestCall_);
   if (!isConnected() || longest == CallBudget::Duration::zero() || isPassedOver(bus)) return {};
   DBusPendingCall* sent = nullptr;
   if (!dbus_connection_send_with_reply(connection_.get(), request.get(), &sent, DBUS_TIMEOUT_INFINITE) ||
@@ -33,7 +33,7 @@ Answer CallChannel::call(MessagePtr request) {
 Answer CallChannel::awaitOwed(const std::string& bus) {
   const auto owed = owed_.find(bus);
   if (owed == owed_.end()) return {};
-  if (!wait(owed->second.get(), budget_.allowance(longestCall))) return {Answer::Kind::unanswered, nullptr};
+  if (!wait(owed->second.get(), budget_.allowance(longestCall_))) return {Answer::Kind::unanswered, nullptr};
   const PendingCallPtr pending = std::move(owed->second);
   owed_.erase(owed);
   return answered(pending.get());

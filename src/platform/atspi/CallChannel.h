@@ -25,7 +25,7 @@ struct Answer {
 /// call time out is passed over until that answer has come. Main thread.
 class CallChannel {
  public:
-  static constexpr std::chrono::milliseconds longestCall{50};
+  explicit CallChannel(std::chrono::milliseconds longestCall) : longestCall_(longestCall) {}
 
   /// From now on calls go this way. The connection is connected and has not been used yet.
   void use(ConnectionPtr connection);
@@ -43,6 +43,7 @@ class CallChannel {
   bool wait(DBusPendingCall* pending, CallBudget::Duration longest);
   static Answer answered(DBusPendingCall* pending);
 
+  const std::chrono::milliseconds longestCall_;
   ConnectionPtr connection_;
   /// Goes before the connection that it belongs to.
   std::map<std::string, PendingCallPtr> owed_;

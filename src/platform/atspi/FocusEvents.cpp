@@ -27,7 +27,8 @@ constexpr const char* matches[] = {
     "type='signal',sender='org.freedesktop.DBus',member='NameOwnerChanged',arg0='org.a11y.atspi.Registry'",
 };
 
-constexpr const char* events[] = {"object:state-changed:focused", "window:activate", "window:deactivate"};
+constexpr const char* wantedEvents[] = {"object:state-changed:focused", "window:activate",
+                                        "window:deactivate"};
 
 std::optional<ObjectReference> sender(DBusMessage* message) {
   const char* bus = dbus_message_get_sender(message);
@@ -62,7 +63,7 @@ void FocusEvents::addMatches() {
 
 void FocusEvents::registerEvents() {
   mustRegister_ = false;
-  for (const char* event : events) {
+  for (const char* event : wantedEvents) {
     const MessagePtr request = methodCall({registry, "/org/a11y/atspi/registry"}, registry, "RegisterEvent");
     dbus_message_append_args(request.get(), DBUS_TYPE_STRING, &event, DBUS_TYPE_INVALID);
     dbus_message_set_no_reply(request.get(), TRUE);

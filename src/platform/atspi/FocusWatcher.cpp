@@ -15,10 +15,11 @@ namespace tessarin::atspi {
 namespace {
 
 constexpr std::chrono::seconds betweenRequests{5};
-// Most applications tell the focused element right after the window; GTK 4 tells the window before its
-// objects can be called.
+// Most applications tell the focused element right after the window. GTK 4 tells the window alone, and before
+// its objects can be called: while it starts on a busy machine that takes seconds.
 constexpr std::chrono::milliseconds searchDelays[] = {
-    std::chrono::milliseconds(30), std::chrono::milliseconds(150), std::chrono::milliseconds(600)};
+    std::chrono::milliseconds(30),   std::chrono::milliseconds(150),  std::chrono::milliseconds(600),
+    std::chrono::milliseconds(1500), std::chrono::milliseconds(3000), std::chrono::milliseconds(6000)};
 constexpr const char* launcherMatch =
     "type='signal',sender='org.freedesktop.DBus',member='NameOwnerChanged',arg0='org.a11y.Bus'";
 

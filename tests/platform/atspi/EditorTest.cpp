@@ -29,37 +29,37 @@ double millisecondsSince(Clock::time_point start) {
   return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-struct Desktop {
-  Desktop() : session((display.startWindowManager(), display.variable())) {}
-  PrivateDisplay display;
-  PrivateSession session;
-};
-
-/// One desktop for all tests of this file; every test starts its own editors.
+/// One display for all tests of this file. Each has a session of its own, for editors open what was open
+/// last.
 class EditorTest : public ::testing::Test {
  protected:
-  static void SetUpTestSuite() { desktop = std::make_unique<Desktop>(); }
-  static void TearDownTestSuite() { desktop.reset(); }
+  static void SetUpTestSuite() {
+    display = std::make_unique<PrivateDisplay>();
+    display->startWindowManager();
+  }
+  static void TearDownTestSuite() { display.reset(); }
 
-  EditorTest() { openAccessibility(); }
+  /// Editors on a busy machine need their time; what is tested here is what they do.
+  EditorTest() { openAccessibility(std::chrono::seconds(2)); }
 
-  void openAccessibility() {
+  void openAccessibility(std::chrono::milliseconds longestCall) {
     AtspiAccessibility::Options options;
     options.isTrusted = [] { return true; };
     options.coordinateSpace = [] { return CoordinateSpace(1, 1024); };
     options.activeWindowOrigin = [this] { return windowOrigin; };
-    options.sessionBusAddress = desktop->session.busAddress();
+    options.sessionBusAddress = session.busAddress();
+    options.longestCall = longestCall;
     accessibility = std::make_unique<AtspiAccessibility>(queue, options);
   }
 
   std::string fileWith(const std::string& text) {
-    const auto file = desktop->session.folder() / ("text" + std::to_string(++files) + ".txt");
+    const auto file = session.folder() / ("text" + std::to_string(++files) + ".txt");
     std::ofstream(file) << text;
     return file.string();
   }
 
   ElementRef focusedElement() {
-    accessibility->beginBudget(std::chrono::seconds(1));
+    accessibility->beginBudget(std::chrono::seconds(10));
     const auto application =
         readAttribute<ElementRef>(*accessibility, accessibility->systemWide(), attribute::focusedApplication);
     if (!application) return nullptr;
@@ -95,19 +95,18 @@ class EditorTest : public ::testing::Test {
     return accessibility->setAttribute(element, attribute::selectedText, text);
   }
 
-  void type(const std::string& text) {
-    ASSERT_EQ(desktop->session.run({"xdotool", "type", "--delay", "1", text}), 0);
-  }
-  void press(const std::string& key) { ASSERT_EQ(desktop->session.run({"xdotool", "key", key}), 0); }
+  void type(const std::string& text) { ASSERT_EQ(session.run({"xdotool", "type", "--delay", "1", text}), 0); }
+  void press(const std::string& key) { ASSERT_EQ(session.run({"xdotool", "key", key}), 0); }
 
-  static std::unique_ptr<Desktop> desktop;
+  static std::unique_ptr<PrivateDisplay> display;
+  PrivateSession session{display->variable()};
   ManualMainQueue queue;
   std::unique_ptr<AtspiAccessibility> accessibility;
   std::optional<Point> windowOrigin;
   int files = 0;
 };
 
-std::unique_ptr<Desktop> EditorTest::desktop;
+std::unique_ptr<PrivateDisplay> EditorTest::display;
 
 struct Editor {
   const char* name;
@@ -124,10 +123,10 @@ class EachEditorTest : public EditorTest, public ::testing::WithParamInterface<E
   void open(const std::string& text) {
     std::vector<std::string> command = GetParam().command;
     command.push_back(fileWith(text));
-    editor = desktop->session.start(command);
+    editor = session.start(command);
     ASSERT_TRUE(eventually([this] { return hasValue(); }));
-    press("ctrl+End");
-    ASSERT_TRUE(eventually([&] { return before(1) != "(no text)" && caret() != TextRange{0, 0}; }));
+    // The file may be read after the window has come, and the caret is set back then.
+    ASSERT_TRUE(eventually([&] { return before(100) == text; }, [this] { press("ctrl+End"); }));
   }
 
   ChildProcess editor;
@@ -140,7 +139,7 @@ INSTANTIATE_TEST_SUITE_P(Editors, EachEditorTest,
                          [](const auto& instance) { return std::string(instance.param.name); });
 
 TEST_P(EachEditorTest, replacesTheTypedShortcodeExactly) {
-  open("é😀 ñ");
+  ASSERT_NO_FATAL_FAILURE(open("é😀 ñ"));
   type(":smile");
   ASSERT_TRUE(eventually([this] { return before(6) == ":smile"; }));
   EXPECT_EQ(before(8), " ñ:smile");
@@ -156,7 +155,7 @@ TEST_P(EachEditorTest, replacesTheTypedShortcodeExactly) {
 }
 
 TEST_P(EachEditorTest, replacesInTheMiddleByTextOfManyUnits) {
-  open("é😀 ñ|rest");
+  ASSERT_NO_FATAL_FAILURE(open("é😀 ñ|rest"));
   for (int i = 0; i < 5; ++i) press("Left");
   type(":a");
   ASSERT_TRUE(eventually([this] { return before(2) == ":a"; }));
@@ -168,7 +167,7 @@ TEST_P(EachEditorTest, replacesInTheMiddleByTextOfManyUnits) {
 
 TEST_P(EachEditorTest, tellsWhereTheCaretIs) {
   if (std::string(GetParam().name) == "gtk4") windowOrigin = Point{0, 0};
-  open("one two");
+  ASSERT_NO_FATAL_FAILURE(open("one two"));
   const ElementRef element = focusedElement();
   std::vector<double> milliseconds;
   std::optional<AttributeValue> bounds;
@@ -194,35 +193,36 @@ TEST_P(EachEditorTest, tellsWhereTheCaretIs) {
 }
 
 TEST_P(EachEditorTest, isAMultiLineTextField) {
-  open("text");
+  ASSERT_NO_FATAL_FAILURE(open("text"));
   EXPECT_EQ(readAttribute<std::string>(*accessibility, focusedElement(), attribute::role), role::textArea);
 }
 
 TEST_P(EachEditorTest, isFoundWhenItHadTheFocusBeforeUs) {
-  open("text");
-  openAccessibility();
+  ASSERT_NO_FATAL_FAILURE(open("text"));
+  openAccessibility(std::chrono::seconds(2));
   EXPECT_TRUE(eventually([this] { return hasValue(); }));
   EXPECT_EQ(before(100), "text");
 }
 
 TEST_P(EachEditorTest, whenStoppedIsPassedOverUntilItAnswersAgain) {
-  open("text");
+  ASSERT_NO_FATAL_FAILURE(open("text"));
+  openAccessibility(std::chrono::milliseconds(50));
+  ASSERT_TRUE(eventually([this] { return before(100) == "text"; }));
   const ElementRef element = focusedElement();
-  accessibility->beginBudget(std::chrono::milliseconds(150));
   kill(editor.pid(), SIGSTOP);
   const auto start = Clock::now();
   EXPECT_FALSE(accessibility->attribute(element, attribute::selectedTextRange));
-  EXPECT_LT(millisecondsSince(start), 75);
+  EXPECT_LT(millisecondsSince(start), 50 + 60) << "one call, and what a busy machine adds";
   const auto again = Clock::now();
   for (int i = 0; i < 10; ++i) EXPECT_FALSE(accessibility->attribute(element, attribute::role));
-  EXPECT_LT(millisecondsSince(again), 20);
+  EXPECT_LT(millisecondsSince(again), 50) << "ten calls";
   kill(editor.pid(), SIGCONT);
   EXPECT_TRUE(eventually([this] { return before(100) == "text"; }));
 }
 
 TEST_F(EditorTest, aTerminalHasNoValue) {
-  const ChildProcess terminal = desktop->session.start({"xterm"});
-  ASSERT_EQ(desktop->session.run({"xdotool", "search", "--sync", "--onlyvisible", "--class", "xterm"}), 0);
+  const ChildProcess terminal = session.start({"xterm"});
+  ASSERT_EQ(session.run({"xdotool", "search", "--sync", "--onlyvisible", "--class", "xterm"}), 0);
   EXPECT_FALSE(hasValue());
 }
 
@@ -231,15 +231,15 @@ TEST_F(EditorTest, theFocusIsLostToAWindowThatIsNotAccessible) {
                                                   std::vector<std::string>{"gnome-text-editor", "-s"},
                                                   std::vector<std::string>{"featherpad", "--standalone"}}) {
     SCOPED_TRACE(command.front());
-    const ChildProcess editor = desktop->session.start(command);
+    const ChildProcess editor = session.start(command);
     ASSERT_TRUE(eventually([this] { return hasValue(); }));
-    const ChildProcess terminal = desktop->session.start({"xterm"});
+    const ChildProcess terminal = session.start({"xterm"});
     EXPECT_TRUE(eventually([this] { return focusedElement() == nullptr; }));
   }
 }
 
 TEST_F(EditorTest, tellsOfTheFocusMovingInsideAnApplication) {
-  const ChildProcess editor = desktop->session.start({"mousepad", "--disable-server"});
+  const ChildProcess editor = session.start({"mousepad", "--disable-server"});
   ASSERT_TRUE(eventually([this] { return hasValue(); }));
   queue.runReady();
   int moves = 0;

@@ -98,6 +98,7 @@ void appendStates(DBusMessage* message, std::uint64_t states) {
 
 void appendNames(DBusMessage* message, std::vector<const char*> names) {
   std::vector<const void*> values;
+  values.reserve(names.size());
   for (const char*& name : names) values.push_back(&name);
   appendArray(message, "s", DBUS_TYPE_STRING, values);
 }
