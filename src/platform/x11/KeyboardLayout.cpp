@@ -40,7 +40,14 @@ std::string symbolText(xkb_keysym_t symbol) {
   return size > 1 ? std::string(buffer, static_cast<std::size_t>(size) - 1) : std::string();
 }
 
+bool announceXkb(xcb_connection_t* connection) {
+  const Owned<xcb_xkb_use_extension_reply_t> reply(
+      xcb_xkb_use_extension_reply(connection, xcb_xkb_use_extension(connection, 1, 0), nullptr));
+  return reply && reply->supported != 0;
+}
+
 std::unique_ptr<KeyboardLayout> KeyboardLayout::read(xcb_connection_t* connection) {
+  if (!announceXkb(connection)) return nullptr;
   std::unique_ptr<KeyboardLayout> layout(new KeyboardLayout);
   return layout->load(connection) ? std::move(layout) : nullptr;
 }

@@ -61,6 +61,9 @@ class KeyboardLayout {
   ModifierBits bits_;
 };
 
+/// Tells the server that this client knows XKB. Without that it answers no XKB request and leaves the group
+/// out of key events. False when the server does not know it.
+bool announceXkb(xcb_connection_t* connection);
 /// Whether the key with this symbol types nothing by itself: modifiers, locks, group switches.
 bool isModifierSymbol(xkb_keysym_t symbol);
 /// The keys of media and of the machine itself (volume, brightness, …).

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/x11/Handles.h"
+#include "platform/x11/KeyboardLayout.h"
 #include "platform/x11/XkbProtocol.h"
 
 namespace tessarin::x11 {
@@ -24,8 +25,7 @@ xcb_atom_t intern(xcb_connection_t* connection, std::string_view name) {
 
 ServerEvents::ServerEvents(xcb_connection_t* connection, xcb_window_t root)
     : connection_(connection), root_(root) {
-  const Owned<xcb_xkb_use_extension_reply_t> xkb(
-      xcb_xkb_use_extension_reply(connection, xcb_xkb_use_extension(connection, 1, 0), nullptr));
+  announceXkb(connection);
   const Owned<xcb_input_xi_query_version_reply_t> input(
       xcb_input_xi_query_version_reply(connection, xcb_input_xi_query_version(connection, 2, 2), nullptr));
   managerAtom_ = intern(connection, "_NET_SUPPORTING_WM_CHECK");
@@ -33,7 +33,17 @@ ServerEvents::ServerEvents(xcb_connection_t* connection, xcb_window_t root)
   if (const auto* data = xcb_get_extension_data(connection, &xcb_input_id)) inputOpcode_ = data->major_opcode;
   const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
   xcb_change_window_attributes(connection, root, XCB_CW_EVENT_MASK, &mask);
+  useWholeStateWhileHolding();
   selectXkbEvents();
+}
+
+// Without this the group is missing in the events of held keys.
+void ServerEvents::useWholeStateWhileHolding() {
+  constexpr std::uint32_t flags =
+      XCB_XKB_PER_CLIENT_FLAG_GRABS_USE_XKB_STATE | XCB_XKB_PER_CLIENT_FLAG_LOOKUP_STATE_WHEN_GRABBED;
+  const Owned<xcb_xkb_per_client_flags_reply_t> reply(xcb_xkb_per_client_flags_reply(
+      connection_, xcb_xkb_per_client_flags(connection_, XCB_XKB_ID_USE_CORE_KBD, flags, flags, 0, 0, 0),
+      nullptr));
 }
 
 void ServerEvents::selectXkbEvents() {

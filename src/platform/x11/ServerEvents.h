@@ -43,6 +43,7 @@ class ServerEvents {
   std::optional<HeldPress> pick(xcb_generic_event_t* (*poll)(xcb_connection_t*));
   void note(const xcb_generic_event_t& event);
   void noteXkb(const xcb_generic_event_t& event);
+  void useWholeStateWhileHolding();
   void selectXkbEvents();
 
   xcb_connection_t* connection_;

@@ -26,17 +26,23 @@ std::string modifierNames(const x11::ModifierBits& bits, std::uint8_t modifiers)
 DocumentWindow::DocumentWindow(const std::string& display)
     : connection_(xcb_connect(display.c_str(), nullptr)) {
   xcb_connection_t* c = connection_.get();
-  const x11::Owned<xcb_xkb_use_extension_reply_t> xkb(
-      xcb_xkb_use_extension_reply(c, xcb_xkb_use_extension(c, 1, 0), nullptr));
+  x11::announceXkb(c);
+  xkbEvent_ = xcb_get_extension_data(c, &xcb_xkb_id)->first_event;
+  constexpr std::uint16_t changes = XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY;
+  xcb_xkb_select_events(c, XCB_XKB_ID_USE_CORE_KBD, changes, 0, changes, 0xff, 0xff, nullptr);
   layout_ = x11::KeyboardLayout::read(c);
   const xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(c)).data;
-  const xcb_window_t window = xcb_generate_id(c);
+  window_ = xcb_generate_id(c);
   const std::uint32_t values[] = {1, XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE};
-  xcb_create_window(c, XCB_COPY_FROM_PARENT, window, screen->root, 0, 0, 100, 100, 0,
+  xcb_create_window(c, XCB_COPY_FROM_PARENT, window_, screen->root, 0, 0, 100, 100, 0,
                     XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
                     XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values);
-  xcb_map_window(c, window);
-  xcb_set_input_focus(c, XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
+  xcb_map_window(c, window_);
+  takeFocus();
+}
+
+void DocumentWindow::takeFocus() {
+  xcb_set_input_focus(connection_.get(), XCB_INPUT_FOCUS_PARENT, window_, XCB_CURRENT_TIME);
   text();
 }
 
@@ -51,7 +57,7 @@ const std::string& DocumentWindow::text() {
 void DocumentWindow::take(const xcb_generic_event_t& event) {
   const std::uint8_t type = event.response_type & 0x7f;
   const auto& key = reinterpret_cast<const xcb_key_press_event_t&>(event);
-  if (type == XCB_MAPPING_NOTIFY) layout_ = x11::KeyboardLayout::read(connection_.get());
+  if (type == xkbEvent_) layout_ = x11::KeyboardLayout::read(connection_.get());
   if (type == XCB_KEY_PRESS) takePress(x11::TypedKey::of(key.detail, key.state));
   if (type == XCB_KEY_RELEASE) ++releases_;
 }
@@ -67,7 +73,7 @@ void DocumentWindow::takePress(const x11::TypedKey& key) {
     eraseOne();
   } else if (symbol == XKB_KEY_Return && chord.empty()) {
     text_ += '\n';
-  } else if (nameOf(symbol) == "v" && chord == "Control-" && !clipboard.empty()) {
+  } else if (chord == "Control-" && !isShifted && isPasteKey(key.code) && !clipboard.empty()) {
     text_ += clipboard;
     ++pastes_;
   } else if (!chord.empty() || typed.empty() || static_cast<unsigned char>(typed[0]) < ' ') {
@@ -75,6 +81,11 @@ void DocumentWindow::takePress(const x11::TypedKey& key) {
   } else {
     text_ += typed;
   }
+}
+
+// As toolkits do: the key's symbol in the first layout counts, whichever group is in effect.
+bool DocumentWindow::isPasteKey(std::uint8_t code) const {
+  return layout_->symbol({code, 0, 0}) == XKB_KEY_v || layout_->symbol({code, 0, 1}) == XKB_KEY_v;
 }
 
 void DocumentWindow::eraseOne() {

@@ -20,6 +20,7 @@ class DocumentWindow {
   const std::string& text();
   /// What an insertion through the accessibility bus does.
   void replaceBeforeCaret(int characters, const std::string& text);
+  void takeFocus();
   void clear() { text_.clear(); }
 
   int presses() const { return presses_; }
@@ -30,10 +31,13 @@ class DocumentWindow {
  private:
   void take(const xcb_generic_event_t& event);
   void takePress(const x11::TypedKey& key);
+  bool isPasteKey(std::uint8_t code) const;
   void eraseOne();
 
   x11::Connection connection_;
   std::unique_ptr<x11::KeyboardLayout> layout_;
+  xcb_window_t window_ = XCB_NONE;
+  std::uint8_t xkbEvent_ = 0;
   std::string text_;
   int presses_ = 0;
   int releases_ = 0;

@@ -66,7 +66,10 @@ KeyVerdict TapFixture::judge(const KeyEvent& event) {
     insert();
     return KeyVerdict::swallow;
   }
-  if (event.keyCode == keycode::deleteBackward) {
+  if (typed_ > 1 && event.text == x11::utf16Text(trigger)) {
+    ++typed_;
+    insert();
+  } else if (event.keyCode == keycode::deleteBackward) {
     --typed_;
   } else if (event.text.size() == 1 && event.keyCode >= keycode::other) {
     ++typed_;

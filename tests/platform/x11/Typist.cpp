@@ -39,8 +39,7 @@ xkb_keysym_t symbolOf(char32_t c) {
 Typist::Typist(const std::string& display, Keyboard keyboard)
     : connection_(xcb_connect(display.c_str(), nullptr)) {
   xcb_connection_t* c = connection_.get();
-  const x11::Owned<xcb_xkb_use_extension_reply_t> xkb(
-      xcb_xkb_use_extension_reply(c, xcb_xkb_use_extension(c, 1, 0), nullptr));
+  x11::announceXkb(c);
   if (keyboard == Keyboard::real) {
     realDevice_ = realKeyboard(c);
     realPress_ = xcb_get_extension_data(c, &xcb_input_id)->first_event + XCB_INPUT_DEVICE_KEY_PRESS;

@@ -50,5 +50,147 @@ TEST_F(X11EventTapTest, KeepsKeysOfARealKeyboardInOrderBehindAPaste) {
   EXPECT_EQ(insertions, 50);
 }
 
+TEST_F(X11EventTapTest, KeepsOrderUnderAWindowManagerThatOwnsCombinations) {
+  start({"us"}, true);
+  for (int i = 0; i < 50; ++i) typist->type("a:eEdDrR\nE ");
+  expectDocument(repeated("a😀E ", 50));
+  insertion = Insertion::paste;
+  document->clear();
+  for (int i = 0; i < 20; ++i) typist->type("a:eEdDrR\nE ");
+  expectDocument(repeated("a😀E ", 20));
+  EXPECT_EQ(insertions, 70);
+}
+
+TEST_F(X11EventTapTest, LetsTheWindowManagerComeAndGo) {
+  start();
+  typist->type(":e\n");
+  expectDocument("😀");
+  display.startWindowManager();
+  document->takeFocus();
+  typist->type(":e\ne");
+  expectDocument("😀😀e");
+  display.stopWindowManager();
+  typist->type(":e\ne");
+  expectDocument("😀😀e😀e");
+}
+
+TEST_F(X11EventTapTest, SwallowsAKeyThatOverlapsOthers) {
+  start();
+  typist->type(":a");
+  typist->press(XKB_KEY_b);
+  typist->press(XKB_KEY_Return);
+  typist->press(XKB_KEY_c);
+  typist->release(XKB_KEY_b);
+  typist->press(XKB_KEY_d);
+  typist->release(XKB_KEY_Return);
+  typist->release(XKB_KEY_c);
+  typist->release(XKB_KEY_d);
+  typist->type("e");
+  expectDocument("😀cde");
+}
+
+TEST_F(X11EventTapTest, KeepsOverlappingKeysInOrderBehindAPaste) {
+  for (const auto device : {Typist::Keyboard::synthetic, Typist::Keyboard::real}) {
+    insertion = Insertion::paste;
+    if (!tap) start();
+    typeAs(device);
+    document->clear();
+    typist->type(":a");
+    typist->press(XKB_KEY_Return);
+    typist->press(XKB_KEY_c);
+    typist->press(XKB_KEY_d);
+    typist->release(XKB_KEY_c);
+    typist->press(XKB_KEY_c);
+    typist->release(XKB_KEY_Return);
+    expectDocument("😀cdc");
+    typist->release(XKB_KEY_c);
+    typist->release(XKB_KEY_d);
+    typist->type("dc");
+    expectDocument("😀cdcdc");
+  }
+}
+
+TEST_F(X11EventTapTest, SeesAndPassesAutoRepeat) {
+  start();
+  ASSERT_EQ(display.run({"xset", "r", "rate", "120", "100"}), 0);
+  typist->type(":ab");
+  typist->press(XKB_KEY_o);
+  ASSERT_TRUE(queue.runUntil([this] { return seen.size() >= 10; }));
+  typist->release(XKB_KEY_o);
+  typist->sync();
+  queue.runUntil([this] { return document->text().size() == seen.size(); });
+  expectDocument(":ab" + std::string(seen.size() - 3, 'o'));
+  typist->press(XKB_KEY_BackSpace);
+  ASSERT_TRUE(queue.runUntil([this] { return document->text().size() <= 2; }));
+  typist->release(XKB_KEY_BackSpace);
+}
+
+TEST_F(X11EventTapTest, KeepsAutoRepeatBehindAnInsertion) {
+  start();
+  ASSERT_EQ(display.run({"xset", "r", "rate", "120", "100"}), 0);
+  attend(KeyAttention::holdBack);
+  typist->press(XKB_KEY_o);
+  queue.runUntil([] { return false; }, std::chrono::milliseconds(300));
+  typist->release(XKB_KEY_o);
+  typist->type("p");
+  typist->sync();
+  EXPECT_EQ(document->text(), "");
+  attend(KeyAttention::triggerOnly);
+  ASSERT_TRUE(queue.runUntil([this] { return document->text().ends_with('p'); }));
+  const std::string letters(document->text().size() - 1, 'o');
+  EXPECT_GE(letters.size(), 5U);
+  EXPECT_EQ(document->text(), letters + "p");
+}
+
+TEST_F(X11EventTapTest, JudgesKeptKeysInOrderAsIfTypedJustThen) {
+  start();
+  attend(KeyAttention::holdBack);
+  typist->type("x:smile\ny:ab\nz");
+  queue.runUntil([] { return false; }, std::chrono::milliseconds(50));
+  EXPECT_TRUE(seen.empty());
+  EXPECT_EQ(document->text(), "");
+  attend(KeyAttention::triggerOnly);
+  typist->type("1:cd\n2");
+  expectDocument("x😀y😀z1😀2");
+  EXPECT_EQ(insertions, 3);
+}
+
+TEST_F(X11EventTapTest, PassesKeptKeysOnWhenItIsDestroyed) {
+  start();
+  attend(KeyAttention::holdBack);
+  typist->type("x:smile\nY");
+  typist->sync();
+  queue.runUntil([] { return false; }, std::chrono::milliseconds(50));
+  EXPECT_EQ(document->text(), "");
+  tap->destroy();
+  expectDocument("x:smile\nY");
+  EXPECT_TRUE(seen.empty());
+  typist->type(":z");
+  expectDocument("x:smile\nY:z");
+}
+
+TEST_F(X11EventTapTest, PassesKeptKeysOnWhenTheThreadEnds) {
+  start();
+  attend(KeyAttention::holdBack);
+  typist->type("x:Ab");
+  typist->sync();
+  queue.runUntil([] { return false; }, std::chrono::milliseconds(50));
+  tap.reset();
+  poster.reset();
+  keyboard.reset();
+  expectDocument("x:Ab");
+}
+
+TEST_F(X11EventTapTest, LetsGoOfTheKeyboardWhenSwitchedOff) {
+  start();
+  typist->type(":a");
+  expectDocument(":a");
+  tap->setEnabled(false);
+  EXPECT_FALSE(tap->isEnabled());
+  typist->type("b\n:");
+  expectDocument(":ab\n:");
+  EXPECT_EQ(seen.size(), 2U);
+}
+
 }  // namespace
 }  // namespace tessarin::testing

@@ -1,0 +1,113 @@
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+#include "TapFixture.h"
+#include "platform/KeyCodes.h"
+
+namespace tessarin::testing {
+namespace {
+
+class X11EventTapLayoutTest : public TapFixture {};
+
+TEST_F(X11EventTapLayoutTest, FindsTheTriggerInEachGroup) {
+  start({"us,ru"});
+  typist->type(":ab\n");
+  expectDocument("😀");
+  typist->lock(1);
+  typist->type(":привет\nя ");
+  expectDocument("😀😀я ");
+  typist->lock(0);
+  typist->type("^:ab\n");
+  expectDocument("😀😀я ^😀");
+}
+
+TEST_F(X11EventTapLayoutTest, FollowsANewMapping) {
+  start({"us"});
+  typist->type(":a\n");
+  expectDocument("😀");
+  for (const char* layout : {"fr", "de", "us"}) {
+    setLayout({layout});
+    document->clear();
+    typist->readLayout();
+    for (int i = 0; i < 5; ++i) typist->type("a:qzy\nm ");
+    expectDocument("a😀m a😀m a😀m a😀m a😀m ");
+  }
+}
+
+TEST_F(X11EventTapLayoutTest, FindsTheTriggerUnderLocks) {
+  start();
+  const auto layout =
+      x11::KeyboardLayout::read(x11::Connection(xcb_connect(display.name().c_str(), nullptr)).get());
+  const auto numLock = layout->bits().numLock;
+  ASSERT_NE(numLock, 0);
+  for (const unsigned locks : {0x02U, unsigned{numLock}, numLock | 0x02U}) {
+    typist->lock(0, static_cast<std::uint8_t>(locks));
+    document->clear();
+    typist->type(":ab\n:cd\n");
+    expectDocument("😀😀");
+  }
+}
+
+TEST_F(X11EventTapLayoutTest, ReportsAComposedCharacterOnce) {
+  start({"de"});
+  typist->type(":");
+  typist->tap(XKB_KEY_dead_acute);
+  typist->type("e");
+  ASSERT_TRUE(queue.runUntil([this] { return seen.size() == 2; }));
+  EXPECT_EQ(seen[1].text, u"é");
+  typist->type("\n");
+  ASSERT_TRUE(queue.runUntil([this] { return insertions == 1; }));
+}
+
+TEST_F(X11EventTapLayoutTest, SendsNoEventForModifiersLocksAndMediaKeys) {
+  start();
+  typist->type(":");
+  for (const xkb_keysym_t symbol : {XKB_KEY_Shift_L, XKB_KEY_Control_R, XKB_KEY_Caps_Lock, XKB_KEY_Caps_Lock,
+                                    XKB_KEY_XF86AudioMute, XKB_KEY_Super_L}) {
+    typist->tap(symbol);
+  }
+  typist->type("a");
+  ASSERT_TRUE(queue.runUntil([this] { return seen.size() >= 2; }));
+  EXPECT_EQ(seen[1].text, u"a");
+}
+
+struct NamedKey {
+  xkb_keysym_t symbol;
+  std::int64_t code;
+};
+
+TEST_F(X11EventTapLayoutTest, NamesTheKeysThatMeanSomething) {
+  start();
+  const NamedKey keys[] = {
+      {XKB_KEY_Return, 36}, {XKB_KEY_Tab, 48},     {XKB_KEY_space, 49},    {XKB_KEY_BackSpace, 51},
+      {XKB_KEY_Escape, 53}, {XKB_KEY_Delete, 117}, {XKB_KEY_Left, 123},    {XKB_KEY_Right, 124},
+      {XKB_KEY_Down, 125},  {XKB_KEY_Up, 126},     {XKB_KEY_KP_Enter, -1}, {XKB_KEY_F5, -1},
+  };
+  tap->destroy();
+  ASSERT_TRUE(tap->create([this](const KeyEvent& event) {
+    seen.push_back(event);
+    return KeyVerdict::swallow;
+  }));
+  attend(KeyAttention::everyKey);
+  tap->setEnabled(true);
+  ASSERT_TRUE(queue.runUntil([this] {
+    if (!seen.empty()) return true;
+    typist->type("a");
+    typist->sync();
+    return false;
+  }));
+  typist->sync();
+  queue.runUntil([] { return false; }, std::chrono::milliseconds(50));
+  for (const NamedKey& key : keys) {
+    seen.clear();
+    typist->tap(key.symbol);
+    ASSERT_TRUE(queue.runUntil([this] { return seen.size() == 1; }));
+    if (key.code < 0) {
+      EXPECT_GE(seen[0].keyCode, keycode::other);
+    } else {
+      EXPECT_EQ(seen[0].keyCode, key.code);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tessarin::testing

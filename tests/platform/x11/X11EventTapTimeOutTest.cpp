@@ -1,0 +1,89 @@
+#include "TapFixture.h"
+#include "platform/x11/KeyQuestion.h"
+
+namespace tessarin::testing {
+namespace {
+
+using namespace std::chrono_literals;
+
+class X11EventTapTimeOutTest : public TapFixture {
+ protected:
+  /// Waits for the document while the main thread does nothing else.
+  bool comesBy(const std::string& expected, std::chrono::milliseconds time) {
+    const auto deadline = queue.now() + time;
+    while (document->text() != expected) {
+      if (queue.now() > deadline) return false;
+    }
+    return true;
+  }
+};
+
+TEST_F(X11EventTapTimeOutTest, LetsTheKeyByAndNeverJudgesItLater) {
+  start();
+  const auto before = queue.now();
+  typist->type(":ab\n");
+  EXPECT_TRUE(comesBy(":ab\n", 5s));
+  EXPECT_GE(queue.now() - before, x11::KeyQuestion::answerTime);
+  EXPECT_FALSE(tap->isEnabled());
+  EXPECT_TRUE(queue.runUntil([this] { return timeOuts == 1; }));
+  EXPECT_TRUE(seen.empty());
+  EXPECT_TRUE(tap->isEnabled());
+  document->clear();
+  EXPECT_TRUE(queue.runUntil([this] {
+    if (!seen.empty()) return true;
+    typist->type("a:");
+    typist->sync();
+    return false;
+  }));
+}
+
+TEST_F(X11EventTapTimeOutTest, WaitsForAnAnswerThatIsNear) {
+  start();
+  onKey = [this](const KeyEvent& event) {
+    EXPECT_GT(event.budget, 0ms);
+    EXPECT_LE(event.budget, x11::KeyQuestion::answerTime);
+    const auto until = queue.now() + x11::KeyQuestion::answerTime + x11::KeyQuestion::graceTime / 4;
+    while (queue.now() < until) document->text();
+  };
+  typist->type(":");
+  ASSERT_TRUE(queue.runUntil([this] { return seen.size() == 1; }));
+  EXPECT_EQ(timeOuts, 0);
+  EXPECT_TRUE(tap->isEnabled());
+  onKey = {};
+  typist->type("a\nb");
+  expectDocument("😀b");
+}
+
+TEST_F(X11EventTapTimeOutTest, GivesUpOnAHandlerThatHangs) {
+  start();
+  onKey = [this](const KeyEvent&) { EXPECT_TRUE(comesBy(":a", 5s)); };
+  typist->type(":a");
+  EXPECT_TRUE(queue.runUntil([this] { return timeOuts == 1; }));
+}
+
+TEST_F(X11EventTapTimeOutTest, PassesKeptKeysOnWhenTheMainThreadHangs) {
+  start();
+  attend(KeyAttention::holdBack);
+  typist->type("x:ab\n");
+  queue.runUntil([] { return false; }, 50ms);
+  EXPECT_EQ(document->text(), "");
+  attend(KeyAttention::triggerOnly);
+  EXPECT_TRUE(comesBy("x:ab\n", 5s));
+  EXPECT_TRUE(seen.empty());
+}
+
+TEST(KeyQuestion, IsDecidedByWhoeverComesFirst) {
+  x11::KeyQuestion givenUp;
+  givenUp.cancel();
+  EXPECT_EQ(givenUp.await(), std::nullopt);
+  EXPECT_EQ(givenUp.claim(), std::nullopt);
+
+  x11::KeyQuestion answered;
+  EXPECT_GT(answered.claim().value_or(0ms), 0ms);
+  answered.answer(KeyVerdict::swallow);
+  answered.cancel();
+  EXPECT_EQ(answered.await(), KeyVerdict::swallow);
+}
+
+}  // namespace
+}  // namespace tessarin::testing
