@@ -3,17 +3,17 @@
 #include <unicode/uchar.h>
 
 #include <QGlyphRun>
-#include <QStringList>
 #include <QTextLayout>
 #include <algorithm>
 
+#include "text/Graphemes.h"
 #include "ui/PopupTheme.h"
 
 namespace tessarin::ui::emoji {
 namespace {
 
-constexpr char32_t emojiSelector = 0xFE0F;
-constexpr char32_t keyCap = 0x20E3;
+constexpr char16_t emojiSelector = 0xFE0F;
+constexpr char16_t keyCap = 0x20E3;
 
 bool asksForPicture(char32_t codePoint) {
   return codePoint == emojiSelector || codePoint == keyCap ||
@@ -22,9 +22,23 @@ bool asksForPicture(char32_t codePoint) {
           u_hasBinaryProperty(static_cast<UChar32>(codePoint), UCHAR_EXTENDED_PICTOGRAPHIC));
 }
 
-/// Glyphs that take room; joiners and selectors that a font leaves in a run do not.
+bool isPicture(const QString& character) {
+  return std::ranges::any_of(character.toUcs4(), asksForPicture);
+}
+
+template <class Predicate>
+bool allCharacters(const QString& text, Predicate predicate) {
+  std::string rest = text.toStdString();
+  while (!rest.empty()) {
+    const std::string character = text::firstCharacter(rest);
+    if (!predicate(QString::fromStdString(character))) return false;
+    rest.erase(0, character.size());
+  }
+  return true;
+}
+
 struct Shaped {
-  int visible = 0;
+  int visible = 0;  ///< glyphs that take room
   bool hasMissing = false;
 };
 
@@ -48,7 +62,12 @@ Shaped shape(const QString& text, const QFont& font) {
 }  // namespace
 
 bool isEmoji(const QString& text) {
-  return std::ranges::any_of(text.toUcs4(), [](char32_t codePoint) { return asksForPicture(codePoint); });
+  return !text.isEmpty() && allCharacters(text, isPicture);
+}
+
+QString pictureText(const QString& text) {
+  QString plain = text;
+  return plain.remove(emojiSelector);
 }
 
 QFont font(int size) {
@@ -58,11 +77,13 @@ QFont font(int size) {
   return font;
 }
 
-bool hasGlyph(const QString& character) {
-  if (!isEmoji(character)) return !shape(character, fonts::system(12)).hasMissing;
-  QFont picture = font(12);
-  const Shaped shaped = shape(character, picture);
-  return !shaped.hasMissing && shaped.visible == 1;
+bool hasGlyphs(const QString& text) {
+  constexpr int anySize = 12;
+  if (!isEmoji(text)) return !shape(text, fonts::system(anySize)).hasMissing;
+  return allCharacters(text, [](const QString& character) {
+    const Shaped shaped = shape(pictureText(character), font(anySize));
+    return !shaped.hasMissing && shaped.visible == 1;
+  });
 }
 
 }  // namespace tessarin::ui::emoji

@@ -1,7 +1,7 @@
 #include "ui/EmojiGlyphs.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
-#include <QPainterPath>
 #include <QTextLayout>
 #include <cmath>
 
@@ -15,21 +15,21 @@ namespace {
 constexpr qsizetype cacheBytes = 512 * 1024;
 constexpr double tileSide = 22.0 / 28.0;
 
-/// Draws the text as one line, what it covers (not its line box) centred in the frame, and shrunk to its
-/// width.
+/// Kaomoji are recognised as a whole, so they shrink to their frame; below this share nothing could be read.
+constexpr double leastShrink = 0.55;
+
+/// Draws the text as one line in the middle of the frame.
 void drawCentred(QPainter& painter, const QRectF& frame, const QString& text, const QFont& font) {
-  QTextLayout layout(text, font);
+  const QString shown = QFontMetricsF(font).elidedText(text, Qt::ElideRight, frame.width() / leastShrink);
+  QTextLayout layout(shown, font);
   layout.beginLayout();
-  QTextLine line = layout.createLine();
-  line.setLineWidth(10000);
+  const QTextLine line = layout.createLine();
   layout.endLayout();
   const double width = line.naturalTextWidth();
   const double shrink = std::min(1.0, frame.width() / std::max(width, 1.0));
-  painter.save();
   painter.translate(frame.center());
   painter.scale(shrink, shrink);
   layout.draw(&painter, QPointF(-width / 2, -line.height() / 2));
-  painter.restore();
 }
 
 void drawTile(QPainter& painter, const QRectF& frame, const QStringList& lines, const QColor& color) {
@@ -91,22 +91,19 @@ QImage EmojiGlyphs::render(const QString& text, int size, const QColor& color, Q
                          QPainter::SmoothPixmapTransform);
   const QRectF frame(QPointF(0, 0), side);
   painter.setPen(color);
-  if (!canDraw(text)) {
+  if (needsTile(text)) {
     drawTile(painter, frame, tileLines(text), color);
+  } else if (emoji::isEmoji(text)) {
+    drawCentred(painter, frame, emoji::pictureText(text), emoji::font(size));
   } else {
-    drawCentred(painter, frame, text, emoji::isEmoji(text) ? emoji::font(size) : fonts::system(size));
+    drawCentred(painter, frame, text.simplified(), fonts::system(size));
   }
   return image;
 }
 
-bool EmojiGlyphs::canDraw(const QString& text) {
-  std::string rest = text.toStdString();
-  while (!rest.empty()) {
-    const std::string character = text::firstCharacter(rest);
-    if (!emoji::hasGlyph(QString::fromStdString(character))) return false;
-    rest.erase(0, character.size());
-  }
-  return true;
+bool EmojiGlyphs::needsTile(const QString& text) {
+  const bool isShort = text::characterCount(text.toStdString()) <= 2;
+  return (isShort || emoji::isEmoji(text)) && !emoji::hasGlyphs(text);
 }
 
 QStringList EmojiGlyphs::tileLines(const QString& text) {

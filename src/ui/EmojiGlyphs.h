@@ -19,8 +19,9 @@ class EmojiGlyphs {
   /// Centred in `frame`. `size`: of the font, in points; a text wider than the frame is drawn smaller.
   void draw(QPainter& painter, const QRectF& frame, const QString& text, int size, const QColor& color);
 
-  /// Whether the fonts have one picture for each character of the text.
-  static bool canDraw(const QString& text);
+  /// Whether a tile stands for this text: for an emoji, or any text of up to two characters, that the fonts
+  /// have no glyph for. Longer texts are recognised without the letter that a font lacks.
+  static bool needsTile(const QString& text);
   /// The tile's lines: the hexadecimal code point in two halves, e.g. "1F9", "C9".
   static QStringList tileLines(const QString& text);
   qsizetype cachedBytes() const { return cache_.totalCost(); }
