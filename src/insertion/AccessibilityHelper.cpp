@@ -16,6 +16,8 @@ constexpr milliseconds insertionBudget{120};
 /// Editors were seen to lag behind fast typing by up to 40 ms.
 constexpr milliseconds longestWait{60};
 constexpr milliseconds waitStep{2};
+/// For one look at an application that was seen to answer.
+constexpr milliseconds arrivalBudget{60};
 constexpr int ancestorsExamined = 5;
 
 /// The characters before a caret, as many as there can be.
@@ -48,6 +50,19 @@ InsertionOutcome AccessibilityHelper::insertText(const std::string& typed, std::
       break;
   }
   return InsertionOutcome::unchanged;
+}
+
+std::optional<bool> AccessibilityHelper::hasArrived(const std::string& text) {
+  accessibility_.beginBudget(arrivalBudget);
+  const auto element = focusedElement();
+  if (!element || !accessibility_.attribute(*element, attribute::value)) return std::nullopt;
+  const auto location = caret(*element);
+  if (!location) return std::nullopt;
+  const auto count = static_cast<std::int64_t>(text::characterCount(text));
+  const auto before = accessibility_.parameterizedAttribute(*element, attribute::stringForRange,
+                                                            rangeBefore(*location, count));
+  const auto* found = before ? std::get_if<std::string>(&*before) : nullptr;
+  return found ? std::optional(text::equals(*found, text)) : std::nullopt;
 }
 
 std::optional<ElementRef> AccessibilityHelper::focusedTextElement() {

@@ -25,6 +25,9 @@ class AccessibilityHelper {
   /// `typed` is not looked for. The whole takes 120 ms at most.
   InsertionOutcome insertText(const std::string& typed, std::int64_t count, const std::string& text);
 
+  /// Whether the text stands right before the caret by now. None where that cannot be told.
+  std::optional<bool> hasArrived(const std::string& text);
+
   /// The focused element, when it accepts direct insertion.
   std::optional<ElementRef> focusedTextElement();
   /// Whether the element is part of a web page: itself, or by one of its five nearest ancestors.

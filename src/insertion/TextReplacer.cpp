@@ -1,5 +1,6 @@
 #include "insertion/TextReplacer.h"
 
+#include <chrono>
 #include <string_view>
 #include <utility>
 
@@ -10,6 +11,9 @@ namespace tessarin {
 namespace {
 
 constexpr std::string_view component = "TextReplacer";
+/// 200 ms in all: an application may turn the text into something else, and keys are not held back for that.
+constexpr int looksForArrival = 40;
+constexpr std::chrono::milliseconds betweenLooks{5};
 
 std::int64_t charactersToErase(const Replacement& replacement) {
   return replacement.deleteCount + (replacement.includeTriggerChar ? 1 : 0);
@@ -51,10 +55,24 @@ void TextReplacer::run(const Replacement& replacement) {
 void TextReplacer::paste(std::int64_t count, const std::string& text, InsertionOutcome soFar) {
   const auto chord = accessibilityHelper_.isTerminal() ? PasteChord::shiftInsert : PasteChord::controlV;
   pasteHelper_.pasteText(count, text, chord,
-                         [this, soFar, alive = std::weak_ptr<char>(alive_)](InsertionOutcome outcome) {
+                         [this, soFar, text, alive = std::weak_ptr<char>(alive_)](InsertionOutcome outcome) {
                            if (alive.expired()) return;
-                           finish(outcome == InsertionOutcome::unchanged ? soFar : outcome);
+                           if (outcome == InsertionOutcome::inserted) {
+                             finishOnceArrived(text, looksForArrival);
+                           } else {
+                             finish(outcome == InsertionOutcome::unchanged ? soFar : outcome);
+                           }
                          });
+}
+
+void TextReplacer::finishOnceArrived(const std::string& text, int looksLeft) {
+  if (looksLeft == 0 || accessibilityHelper_.hasArrived(text).value_or(true)) {
+    finish(InsertionOutcome::inserted);
+    return;
+  }
+  queue_.after(betweenLooks, [this, text, looksLeft, alive = std::weak_ptr<char>(alive_)] {
+    if (!alive.expired()) finishOnceArrived(text, looksLeft - 1);
+  });
 }
 
 void TextReplacer::finish(InsertionOutcome outcome) {

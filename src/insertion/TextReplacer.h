@@ -7,6 +7,7 @@
 
 #include "insertion/AccessibilityHelper.h"
 #include "insertion/PasteHelper.h"
+#include "platform/MainQueue.h"
 #include "platform/TextInsertion.h"
 #include "platform/WallClock.h"
 
@@ -18,8 +19,9 @@ namespace tessarin {
 class TextReplacer final : public TextInsertion {
  public:
   /// All must outlive the replacer.
-  TextReplacer(AccessibilityHelper& accessibilityHelper, PasteHelper& pasteHelper, const WallClock& clock)
-      : accessibilityHelper_(accessibilityHelper), pasteHelper_(pasteHelper), clock_(clock) {}
+  TextReplacer(AccessibilityHelper& accessibilityHelper, PasteHelper& pasteHelper, MainQueue& queue,
+               const WallClock& clock)
+      : accessibilityHelper_(accessibilityHelper), pasteHelper_(pasteHelper), queue_(queue), clock_(clock) {}
 
   void replace(const Replacement& replacement, Completion done) override;
 
@@ -32,10 +34,13 @@ class TextReplacer final : public TextInsertion {
   void startNext();
   void run(const Replacement& replacement);
   void paste(std::int64_t count, const std::string& text, InsertionOutcome soFar);
+  /// Some applications read the pasteboard and go on taking keys before the text stands in the document.
+  void finishOnceArrived(const std::string& text, int looksLeft);
   void finish(InsertionOutcome outcome);
 
   AccessibilityHelper& accessibilityHelper_;
   PasteHelper& pasteHelper_;
+  MainQueue& queue_;
   const WallClock& clock_;
   std::deque<Request> waiting_;
   Completion done_;

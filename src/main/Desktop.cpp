@@ -49,7 +49,7 @@ Desktop::Desktop()
       accessibility_(queue_, accessibilityOptions()),
       accessibilityHelper_(accessibility_, workspace(), defaults_),
       pasteHelper_(general(), primary(), keyPoster_, queue_),
-      textReplacer_(accessibilityHelper_, pasteHelper_, clock_),
+      textReplacer_(accessibilityHelper_, pasteHelper_, queue_, clock_),
       autocompletePanel_(popupWindow_, screens_, accessibility_, queue_) {
   defaults_.watch(queue_);
   if (workspace_) workspace_->setOwnPopup(popupWindow_.nativeWindow());
@@ -85,6 +85,7 @@ atspi::AtspiAccessibility::Options Desktop::accessibilityOptions() {
     if (!trust_.isTrusted()) trustPrompt_.ask();
   };
   options.coordinateSpace = [this] { return screens_.space(); };
+  options.activeProcess = [this] { return activeWindow_.process(); };
   options.activeWindowOrigin = [this] { return activeWindow_.origin(); };
   return options;
 }

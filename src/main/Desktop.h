@@ -14,7 +14,7 @@
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/QtScreens.h"
 #include "platform/qt/QtStatusBar.h"
-#include "platform/x11/ActiveWindowOrigin.h"
+#include "platform/x11/ActiveWindowProbe.h"
 #include "platform/x11/X11EventTap.h"
 #include "platform/x11/X11InputMonitoring.h"
 #include "platform/x11/X11KeyPoster.h"
@@ -59,7 +59,7 @@ class Desktop {
   none::NoWorkspace noWorkspace_;
   std::unique_ptr<x11::X11Selections> selections_;
   std::unique_ptr<x11::X11Workspace> workspace_;
-  x11::ActiveWindowOrigin activeWindow_;
+  x11::ActiveWindowProbe activeWindow_;
   x11::X11InputMonitoring inputMonitoring_;
   std::shared_ptr<x11::X11Keyboard> keyboard_;
   x11::X11EventTap eventTap_;

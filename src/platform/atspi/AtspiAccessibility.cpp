@@ -3,6 +3,7 @@
 #include <thread>
 #include <utility>
 
+#include "platform/atspi/Messages.h"
 #include "platform/atspi/Roles.h"
 
 namespace tessarin::atspi {
@@ -79,8 +80,33 @@ std::optional<AttributeValue> AtspiAccessibility::attribute(const ElementRef& el
   return asked->isApplication() ? ofApplication(*asked, name) : ofObject(asked->object(), name);
 }
 
+FocusModel::Focus AtspiAccessibility::focus() {
+  FocusModel::Focus current = watcher_.focus();
+  if (current.element) return current;
+  FocusModel::Focus lost = watcher_.lostFocus();
+  return lost.element && isFrontmost(lost.element->bus) ? lost : current;
+}
+
+std::optional<std::uint32_t> AtspiAccessibility::processOf(const std::string& bus) {
+  MessagePtr request =
+      methodCall({DBUS_SERVICE_DBUS, DBUS_PATH_DBUS}, DBUS_INTERFACE_DBUS, "GetConnectionUnixProcessID");
+  const char* name = bus.c_str();
+  dbus_message_append_args(request.get(), DBUS_TYPE_STRING, &name, DBUS_TYPE_INVALID);
+  const Answer answer = channel_.call(std::move(request));
+  return answer.reply ? MessageReader(answer.reply.get()).uint32() : std::nullopt;
+}
+
+bool AtspiAccessibility::isFrontmost(const std::string& bus) {
+  if (!options_.activeProcess) return false;
+  const auto known = processes_.find(bus);
+  const auto process = known != processes_.end() ? std::optional(known->second) : processOf(bus);
+  if (!process) return false;
+  processes_[bus] = *process;
+  return options_.activeProcess() == process;
+}
+
 AtspiAccessibility::Value AtspiAccessibility::focusedApplication() {
-  const FocusModel::Focus focus = watcher_.focus();
+  const FocusModel::Focus focus = this->focus();
   const auto& known = focus.element ? focus.element : focus.window;
   if (!known) return std::nullopt;
   return atspi::element(ObjectReference{known->bus, applicationPath});
@@ -89,7 +115,7 @@ AtspiAccessibility::Value AtspiAccessibility::focusedApplication() {
 AtspiAccessibility::Value AtspiAccessibility::ofApplication(const AtspiElement& application,
                                                             std::string_view name) {
   const std::string& bus = application.object().bus;
-  const FocusModel::Focus focus = watcher_.focus();
+  const FocusModel::Focus focus = this->focus();
   const bool hasElement = focus.element && focus.element->bus == bus;
   if (name == attribute::focusedElement) return hasElement ? atspi::element(focus.element) : std::nullopt;
   if (name != attribute::focusedWindow) return std::nullopt;

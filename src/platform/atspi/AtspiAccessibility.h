@@ -34,6 +34,9 @@ class AtspiAccessibility final : public Accessibility {
     /// Top left of the active window's visible frame on the screen, in pixels. Some applications (GTK 4) know
     /// rectangles relative to their window only; without this they have none.
     std::function<std::optional<Point>()> activeWindowOrigin;
+    /// Process that the active window belongs to, none when that is not known. An application that let the
+    /// focus go without another taking it still has it while it is this one.
+    std::function<std::optional<std::uint32_t>()> activeProcess;
     /// Empty for the environment's.
     std::string sessionBusAddress;
     /// Many times what an application that is awake needs, and still no delay that a user feels.
@@ -62,6 +65,9 @@ class AtspiAccessibility final : public Accessibility {
   using Value = std::optional<AttributeValue>;
 
   void prepare();
+  FocusModel::Focus focus();
+  bool isFrontmost(const std::string& bus);
+  std::optional<std::uint32_t> processOf(const std::string& bus);
   Value focusedApplication();
   Value ofApplication(const AtspiElement& application, std::string_view name);
   Value ofObject(const ObjectReference& object, std::string_view name);
@@ -77,6 +83,7 @@ class AtspiAccessibility final : public Accessibility {
   const Options options_;
   CallChannel channel_;
   std::map<std::string, Toolkit> toolkits_;
+  std::map<std::string, std::uint32_t> processes_;
   struct Selection {
     ObjectReference object;
     TextRange range;

@@ -18,8 +18,8 @@ class FocusModel {
     bool operator==(const Focus&) const = default;
   };
 
-  /// Answers whether the focus has moved to an element other than the last one. Losing the focus is no move,
-  /// nor is getting it back.
+  /// Answers whether the focus has moved inside an application. Losing the focus is no move, nor is getting
+  /// it back; nor is another application's word, which may come late: the active window tells of that.
   bool elementFocused(const ObjectReference& element);
   void elementUnfocused(const ObjectReference& element);
   void windowActivated(const ObjectReference& window);
@@ -31,13 +31,20 @@ class FocusModel {
   void found(const Focus& focus);
 
   const Focus& focus() const { return focus_; }
+  /// What had the focus last, when it was let go and nothing has taken its place. GTK 4 lets go for every key
+  /// that is held for its verdict, though the user has gone nowhere; whether that is so, the active window
+  /// tells.
+  const Focus& lost() const { return lost_; }
   /// The active window whose focused element is not known.
   std::optional<ObjectReference> windowToSearch() const;
   /// How many times a window has been activated.
   int activations() const { return activations_; }
 
  private:
+  void letGo();
+
   Focus focus_;
+  Focus lost_;
   std::optional<ObjectReference> lastElement_;
   int activations_ = 0;
 };

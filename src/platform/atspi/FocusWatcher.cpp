@@ -58,6 +58,11 @@ FocusModel::Focus FocusWatcher::focus() const {
   return focus_;
 }
 
+FocusModel::Focus FocusWatcher::lostFocus() const {
+  const std::lock_guard lock(mutex_);
+  return lost_;
+}
+
 ConnectionPtr FocusWatcher::takeCallConnection() {
   const std::lock_guard lock(mutex_);
   return std::move(callConnection_);
@@ -142,7 +147,7 @@ void FocusWatcher::takeIn() {
 
 void FocusWatcher::planSearch() {
   const int activations = events_->model().activations();
-  if (std::exchange(activations_, activations) == activations) return;
+  if (std::exchange(activations_, activations) == activations || !events_->model().windowToSearch()) return;
   searches_ = 0;
   searchAt_ = Clock::now() + searchDelays[0];
 }
@@ -160,6 +165,7 @@ void FocusWatcher::publish() {
   {
     const std::lock_guard lock(mutex_);
     focus_ = events_ ? events_->model().focus() : FocusModel::Focus{};
+    lost_ = events_ ? events_->model().lost() : FocusModel::Focus{};
   }
   if (events_ && events_->takeMoved()) focusMoved_();
 }

@@ -30,6 +30,8 @@ class FocusWatcher {
   FocusWatcher& operator=(const FocusWatcher&) = delete;
 
   FocusModel::Focus focus() const;
+  /// See FocusModel::lost.
+  FocusModel::Focus lostFocus() const;
   /// The connection for calls, when a new one has been made since it was last asked.
   ConnectionPtr takeCallConnection();
   /// Asks for another try when there is no bus; one in five seconds is made.
@@ -58,7 +60,8 @@ class FocusWatcher {
   std::atomic<bool> isConnectionWanted_ = true;
 
   mutable std::mutex mutex_;
-  FocusModel::Focus focus_;        // guarded by mutex_
+  FocusModel::Focus focus_;  // guarded by mutex_
+  FocusModel::Focus lost_;
   ConnectionPtr callConnection_;   // guarded by mutex_
   Clock::time_point lastRequest_;  // main thread
 

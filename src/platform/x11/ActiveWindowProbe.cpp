@@ -1,4 +1,4 @@
-#include "platform/x11/ActiveWindowOrigin.h"
+#include "platform/x11/ActiveWindowProbe.h"
 
 #include <cstring>
 #include <string_view>
@@ -13,8 +13,8 @@ xcb_atom_t atom(xcb_connection_t* connection, std::string_view name) {
 }
 
 /// A property of 32-bit numbers; null unless it has at least `count` of them.
-Owned<xcb_get_property_reply_t> numbers(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t property,
-                                        std::uint32_t count) {
+Owned<xcb_get_property_reply_t> numbers(xcb_connection_t* connection, xcb_window_t window,
+                                        xcb_atom_t property, std::uint32_t count) {
   const auto cookie = xcb_get_property(connection, 0, window, property, XCB_ATOM_ANY, 0, count);
   Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection, cookie, nullptr));
   return reply && reply->format == 32 && reply->value_len >= count ? std::move(reply) : nullptr;
@@ -22,15 +22,16 @@ Owned<xcb_get_property_reply_t> numbers(xcb_connection_t* connection, xcb_window
 
 }  // namespace
 
-ActiveWindowOrigin::ActiveWindowOrigin(const std::string& display)
+ActiveWindowProbe::ActiveWindowProbe(const std::string& display)
     : connection_(xcb_connect(display.empty() ? nullptr : display.c_str(), nullptr)) {
   if (xcb_connection_has_error(connection_.get()) != 0) return;
   root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_.get())).data->root;
   activeWindow_ = atom(connection_.get(), "_NET_ACTIVE_WINDOW");
   frameExtents_ = atom(connection_.get(), "_GTK_FRAME_EXTENTS");
+  process_ = atom(connection_.get(), "_NET_WM_PID");
 }
 
-std::optional<Point> ActiveWindowOrigin::origin() const {
+std::optional<Point> ActiveWindowProbe::origin() const {
   const auto active = window();
   if (!active) return std::nullopt;
   const auto cookie = xcb_translate_coordinates(connection_.get(), *active, root_, 0, 0);
@@ -41,7 +42,15 @@ std::optional<Point> ActiveWindowOrigin::origin() const {
   return Point{reply->dst_x + inside.x, reply->dst_y + inside.y};
 }
 
-std::optional<xcb_window_t> ActiveWindowOrigin::window() const {
+std::optional<std::uint32_t> ActiveWindowProbe::process() const {
+  const auto active = window();
+  if (!active) return std::nullopt;
+  const auto reply = numbers(connection_.get(), *active, process_, 1);
+  if (!reply) return std::nullopt;
+  return *static_cast<std::uint32_t*>(xcb_get_property_value(reply.get()));
+}
+
+std::optional<xcb_window_t> ActiveWindowProbe::window() const {
   if (root_ == XCB_NONE) return std::nullopt;
   const auto reply = numbers(connection_.get(), root_, activeWindow_, 1);
   if (!reply) return std::nullopt;
@@ -49,7 +58,7 @@ std::optional<xcb_window_t> ActiveWindowOrigin::window() const {
   return window == XCB_NONE ? std::nullopt : std::optional(window);
 }
 
-Point ActiveWindowOrigin::shadow(xcb_window_t window) const {
+Point ActiveWindowProbe::shadow(xcb_window_t window) const {
   const auto reply = numbers(connection_.get(), window, frameExtents_, 4);
   if (!reply) return {};
   const auto* extents = static_cast<std::uint32_t*>(xcb_get_property_value(reply.get()));
