@@ -33,6 +33,7 @@ PopupWindow::PopupWindow(Space space)
   connect(&scrolling_, &QVariantAnimation::valueChanged, this,
           [this](const QVariant& value) { setScroll(value.toDouble()); });
   winId();
+  NativePopupWindow(*this).setClass();
 }
 
 void PopupWindow::show(const PopupContent& content, const Rect& frame) {
