@@ -24,7 +24,7 @@ TEST_P(PopupLayoutOfRows, FillsThePopupFromEdgeToEdge) {
     EXPECT_EQ(layout.header().top(), 0);
     EXPECT_EQ(layout.footer().bottom(), layout.size().height());
     const double dividers = hasPicker && layout.list().height() > 0 ? 3 : 2;
-    EXPECT_EQ(layout.header().height() + layout.picker().height() + std::max(0.0, layout.list().height()) +
+    EXPECT_EQ(layout.header().height() + layout.picker().height() + layout.list().height() +
                   layout.footer().height() + dividers,
               layout.size().height());
   }

@@ -21,10 +21,14 @@ std::unique_ptr<T, Free> owned(T* pointer) {
   return std::unique_ptr<T, Free>(pointer);
 }
 
-bool isOurs(xcb_connection_t* connection, xcb_window_t window) {
+bool isViewable(xcb_connection_t* connection, xcb_window_t window) {
   const auto attributes = owned(
       xcb_get_window_attributes_reply(connection, xcb_get_window_attributes(connection, window), nullptr));
-  if (!attributes || attributes->map_state != XCB_MAP_STATE_VIEWABLE) return false;
+  return attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE;
+}
+
+bool isOurs(xcb_connection_t* connection, xcb_window_t window) {
+  if (!isViewable(connection, window)) return false;
   const auto name = owned(xcb_get_property_reply(
       connection,
       xcb_get_property(connection, 0, window, XCB_ATOM_WM_CLASS, XCB_GET_PROPERTY_TYPE_ANY, 0, 64), nullptr));
@@ -49,9 +53,18 @@ xcb_window_t XClient::openWindow(const Rect& frame, bool hasFocus) {
                     XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
   xcb_map_window(connection_.get(), window);
   sync();
-  if (hasFocus && !eventually([&] { return focusedWindow() == window; }))
-    throw std::runtime_error("the window manager gave our window no focus");
+  if (hasFocus) focus(window);
   return window;
+}
+
+void XClient::focus(xcb_window_t window) {
+  const auto isFocused = [&] {
+    // Refused until the window manager has mapped the window.
+    if (isViewable(connection_.get(), window))
+      xcb_set_input_focus(connection_.get(), XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
+    return focusedWindow() == window && activeWindow() == window;
+  };
+  if (!eventually(isFocused)) throw std::runtime_error("our window did not get the focus");
 }
 
 xcb_window_t XClient::focusedWindow() const {
