@@ -15,13 +15,13 @@ namespace {
 constexpr qsizetype cacheBytes = 512 * 1024;
 constexpr double tileSide = 22.0 / 28.0;
 
-/// Kaomoji are recognised as a whole, so they shrink to their frame; below this share nothing could be read.
-constexpr double leastShrink = 0.55;
+bool isShort(const QString& text) {
+  return text::characterCount(text.toStdString()) <= 2;
+}
 
-/// Draws the text as one line in the middle of the frame.
-void drawCentred(QPainter& painter, const QRectF& frame, const QString& text, const QFont& font) {
-  const QString shown = QFontMetricsF(font).elidedText(text, Qt::ElideRight, frame.width() / leastShrink);
-  QTextLayout layout(shown, font);
+/// Draws the text as one line in the middle of the frame, smaller when it is too wide.
+void drawLine(QPainter& painter, const QRectF& frame, const QString& text, const QFont& font) {
+  QTextLayout layout(text, font);
   layout.beginLayout();
   const QTextLine line = layout.createLine();
   layout.endLayout();
@@ -30,6 +30,36 @@ void drawCentred(QPainter& painter, const QRectF& frame, const QString& text, co
   painter.translate(frame.center());
   painter.scale(shrink, shrink);
   layout.draw(&painter, QPointF(-width / 2, -line.height() / 2));
+}
+
+/// How much of the text fits beside the frame's edges, broken anywhere.
+int lengthOfFirstLine(const QString& text, const QFont& font, double width) {
+  QTextLayout layout(text, font);
+  QTextOption option;
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  layout.setTextOption(option);
+  layout.beginLayout();
+  QTextLine line = layout.createLine();
+  line.setLineWidth(width);
+  layout.endLayout();
+  return line.textLength();
+}
+
+/// Kaomoji and the beginnings of longer texts, on two lines where one is too short.
+void drawText(QPainter& painter, const QRectF& frame, const QString& text, const QFont& font) {
+  const QFontMetricsF metrics(font);
+  const auto split = lengthOfFirstLine(text, font, frame.width());
+  QStringList lines{text.left(split).trimmed()};
+  if (split < text.size())
+    lines << metrics.elidedText(text.mid(split).trimmed(), Qt::ElideRight, frame.width());
+  const double height = metrics.height();
+  double top = frame.center().y() - height * static_cast<double>(lines.size()) / 2;
+  painter.setFont(font);
+  for (const QString& line : lines) {
+    painter.drawText(QRectF(frame.left(), top, frame.width(), height), Qt::AlignCenter | Qt::TextDontClip,
+                     line);
+    top += height;
+  }
 }
 
 void drawTile(QPainter& painter, const QRectF& frame, const QStringList& lines, const QColor& color) {
@@ -94,16 +124,17 @@ QImage EmojiGlyphs::render(const QString& text, int size, const QColor& color, Q
   if (needsTile(text)) {
     drawTile(painter, frame, tileLines(text), color);
   } else if (emoji::isEmoji(text)) {
-    drawCentred(painter, frame, emoji::pictureText(text), emoji::font(size));
+    drawLine(painter, frame, emoji::pictureText(text), emoji::font(size));
+  } else if (isShort(text)) {
+    drawLine(painter, frame, text, fonts::system(size));
   } else {
-    drawCentred(painter, frame, text.simplified(), fonts::system(size));
+    drawText(painter, frame, text.simplified(), fonts::system(size));
   }
   return image;
 }
 
 bool EmojiGlyphs::needsTile(const QString& text) {
-  const bool isShort = text::characterCount(text.toStdString()) <= 2;
-  return (isShort || emoji::isEmoji(text)) && !emoji::hasGlyphs(text);
+  return (isShort(text) || emoji::isEmoji(text)) && !emoji::hasGlyphs(text);
 }
 
 QStringList EmojiGlyphs::tileLines(const QString& text) {

@@ -36,7 +36,7 @@ PopupLayout::PopupLayout(const PopupContent& content, QSizeF size)
   const double footerHeight = rowCount_ > 0 ? bands.footer + divider : 0;
   list_ = QRectF(0, 0, size.width(), size.height() - footerHeight);
   placeHeader(!content.query.empty(), bands.header);
-  if (content.skinToneMode) placePicker(std::min(variantSide + 2 * pickerPaddingY, list_.height() - divider));
+  if (content.skinToneMode) placePicker();
   if (rowCount_ == 0) return;
   dividers_.push_back(list_.bottom());
   footer_ = QRectF(0, list_.bottom() + divider, size.width(), bands.footer);
@@ -53,11 +53,13 @@ void PopupLayout::placeHeader(bool isShown, double height) {
   list_.setTop(height + divider);
 }
 
-void PopupLayout::placePicker(double height) {
+void PopupLayout::placePicker() {
+  const double height = std::min(variantSide + 2 * pickerPaddingY, list_.height());
   picker_ = QRectF(0, list_.top(), size_.width(), height);
-  list_.setTop(picker_.bottom() + divider);
-  // Where the list has no room left, the footer's divider stands at the same place.
-  if (list_.height() >= divider) dividers_.push_back(picker_.bottom());
+  // Where the list has no room left, the footer's divider ends the picker.
+  const bool hasList = list_.bottom() - picker_.bottom() > divider;
+  if (hasList) dividers_.push_back(picker_.bottom());
+  list_.setTop(hasList ? picker_.bottom() + divider : list_.bottom());
 }
 
 QRectF PopupLayout::row(int index, double scroll) const {

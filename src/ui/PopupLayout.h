@@ -46,7 +46,7 @@ class PopupLayout {
 
  private:
   void placeHeader(bool isShown, double height);
-  void placePicker(double height);
+  void placePicker();
 
   QSizeF size_;
   QRectF header_;

@@ -33,13 +33,13 @@ PopupWindow::PopupWindow(Space space)
   connect(&scrolling_, &QVariantAnimation::valueChanged, this,
           [this](const QVariant& value) { setScroll(value.toDouble()); });
   winId();
+  NativePopupWindow(*this).setClass();
 }
 
 void PopupWindow::show(const PopupContent& content, const Rect& frame) {
   const bool wasVisible = isVisible();
   setContent(content, QSizeF(frame.width, frame.height));
-  if (!wasVisible || frame_ != frame) place(frame);
-  if (!wasVisible) setVisible(true);
+  if (!wasVisible || frame_ != frame) showAt(frame);
   update();
 }
 
@@ -75,7 +75,7 @@ void PopupWindow::setContent(const PopupContent& content, QSizeF size) {
   }
 }
 
-void PopupWindow::place(const Rect& frame) {
+void PopupWindow::showAt(const Rect& frame) {
   frame_ = frame;
   const CoordinateSpace space = space_();
   const Rect pixels = space.toPixels(space.flipped(frame));
@@ -83,6 +83,9 @@ void PopupWindow::place(const Rect& frame) {
   isTranslucent_ = native.isComposited();
   native.setGeometry(pixels);
   native.setRounded(!isTranslucent_, PopupLayout::cornerRadius * space.scale());
+  if (isVisible()) return;
+  setVisible(true);
+  native.setGeometry(pixels);  // showing has put Qt's rounded place back
 }
 
 void PopupWindow::setScroll(double scroll) {

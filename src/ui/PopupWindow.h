@@ -49,7 +49,7 @@ class PopupWindow final : public QWidget, public PopupSurface {
   };
   Target targetAt(QPointF point) const;
   void setContent(const PopupContent& content, QSizeF size);
-  void place(const Rect& frame);
+  void showAt(const Rect& frame);
   void setScroll(double scroll);
   void setHoveredRow(std::optional<int> row);
 

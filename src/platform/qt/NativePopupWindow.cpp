@@ -60,6 +60,14 @@ bool NativePopupWindow::isComposited() const {
   return reply && reply->owner != XCB_NONE;
 }
 
+void NativePopupWindow::setClass() const {
+  const auto x = qtConnection();
+  if (!x) return;
+  constexpr char instanceAndClass[] = "tessarin\0Tessarin";
+  xcb_change_property(x->connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window_.winId()),
+                      XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8, sizeof(instanceAndClass), instanceAndClass);
+}
+
 void NativePopupWindow::setGeometry(const Rect& pixels) const {
   const QRect exact(static_cast<int>(std::lround(pixels.x)), static_cast<int>(std::lround(pixels.y)),
                     static_cast<int>(std::lround(pixels.width)),

@@ -14,6 +14,8 @@ class NativePopupWindow {
 
   /// Whether a compositor runs, so that what is transparent is seen so.
   bool isComposited() const;
+  /// Names the window as one of Tessarin's, whatever the program's file is called.
+  void setClass() const;
   /// Native pixels, y downwards.
   void setGeometry(const Rect& pixels) const;
   /// Cuts the corners off, or undoes it. `radius` in native pixels.

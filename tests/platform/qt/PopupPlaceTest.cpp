@@ -1,0 +1,73 @@
+#include <gmock/gmock.h>
+
+#include "platform/CoordinateSpace.h"
+#include "platform/qt/XClient.h"
+#include "support/Eventually.h"
+#include "support/desktop/PrivateDisplay.h"
+#include "ui/PopupChild.h"
+
+namespace tessarin::testing {
+namespace {
+
+/// Two monitors side by side, the second one lower, as `xrandr --setmonitor` lays them out.
+void layOutMonitors(const PrivateDisplay& display) {
+  ASSERT_EQ(display.run({"xrandr", "--setmonitor", "*left", "1280/340x1024/270+0+0", "screen"}), 0);
+  ASSERT_EQ(display.run({"xrandr", "--setmonitor", "right", "1320/340x900/270+1280+124", "none"}), 0);
+}
+
+struct Place {
+  int x;
+  int y;
+  int rows;
+};
+
+class PopupPlace : public ::testing::TestWithParam<int> {};
+
+TEST_P(PopupPlace, IsTheFrameGivenToThePixel) {
+  const PrivateDisplay display("2600x1024x24");
+  layOutMonitors(display);
+  XClient client(display.name());
+  client.setDpi(GetParam());
+  const double scale = GetParam() / 96.0;
+  const CoordinateSpace space(scale, 1024 / scale);
+  for (const Place& place : {Place{0, 0, 1}, Place{101, 67, 8}, Place{1277, 500, 3}, Place{1413, 125, 8}}) {
+    const Rect pixels{static_cast<double>(place.x), static_cast<double>(place.y), 320 * scale,
+                      (64 + 36 * place.rows) * scale};
+    const Rect frame = space.flipped(space.toPoints(pixels));
+    const ChildProcess child = startPopupChild(display.variable(), place.rows, {frame.x, frame.y});
+    ASSERT_TRUE(eventually([&] { return client.popup().has_value(); }));
+    const auto window = *client.popup();
+    EXPECT_TRUE(eventually([&] { return client.frameOf(window) == pixels; }, [] {}, std::chrono::seconds(3)))
+        << place.x << "," << place.y << ": " << ::testing::PrintToString(client.frameOf(window).x) << ","
+        << client.frameOf(window).y << " " << client.frameOf(window).width << "x"
+        << client.frameOf(window).height;
+    EXPECT_TRUE(client.isOverrideRedirect(window));
+    // Nobody composes windows here, so the corners are cut off.
+    EXPECT_FALSE(client.isInShape(window, 0, 0));
+    EXPECT_TRUE(client.isInShape(window, static_cast<int>(4 * scale), static_cast<int>(4 * scale)));
+    EXPECT_FALSE(
+        client.isInShape(window, static_cast<int>(pixels.width) - 1, static_cast<int>(pixels.height) - 1));
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Dpi, PopupPlace, ::testing::Values(96, 144, 192));
+
+TEST(PopupFocus, StaysWithTheApplicationWhenThePopupOpensAndIsClicked) {
+  PrivateDisplay display;
+  display.startWindowManager();
+  XClient client(display.name());
+  client.movePointer(600, 600);
+  const auto application = client.openWindow({100, 100, 400, 300}, true);
+  const auto active = client.activeWindow();
+  const ChildProcess child = startPopupChild(display.variable(), 3, {700, 500});
+  ASSERT_TRUE(eventually([&] { return client.popup().has_value(); }));
+  const Rect frame = client.frameOf(*client.popup());
+  client.click(static_cast<int>(frame.x) + 100, static_cast<int>(frame.y) + 60);
+  // The child leaves when its row is clicked, after all that Qt does about the press.
+  ASSERT_TRUE(eventually([&] { return !client.popup().has_value(); }));
+  EXPECT_EQ(client.focusedWindow(), application);
+  EXPECT_EQ(client.activeWindow(), active);
+}
+
+}  // namespace
+}  // namespace tessarin::testing

@@ -1,0 +1,140 @@
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <cstdlib>
+
+#include "platform/qt/QtScreens.h"
+#include "platform/qt/XClient.h"
+#include "support/Eventually.h"
+#include "ui/PopupContents.h"
+#include "ui/PopupWindow.h"
+
+namespace tessarin::ui {
+namespace {
+
+using ::testing::ElementsAre;
+using testing::eventually;
+using testing::popupWithRows;
+using testing::withPicker;
+
+/// A popup whose top left corner is at the pixel (200, 100) of the test program's display.
+class PopupWindowTest : public ::testing::Test {
+ protected:
+  PopupWindowTest() {
+    client.movePointer(0, 0);
+    window.onRowClicked([this](int index) { rows.push_back(index); });
+    window.onVariantClicked([this](int index) { variants.push_back(index); });
+  }
+
+  void show(const PopupContent& content) {
+    const QSizeF size = PopupLayout::sizeFor(static_cast<int>(content.rows.size()));
+    layout = PopupLayout(content, size);
+    window.show(content, {200, 1024 - 100 - size.height(), size.width(), size.height()});
+    ASSERT_TRUE(becomes([this] { return client.popup() == window.nativeWindow(); }));
+  }
+  template <class Condition>
+  bool becomes(Condition condition) {
+    return eventually(condition, [] { QApplication::processEvents(); });
+  }
+  void clickAt(QPointF point) {
+    client.click(200 + static_cast<int>(point.x()), 100 + static_cast<int>(point.y()));
+  }
+
+  testing::XClient client{std::getenv("DISPLAY")};
+  QtScreens screens;
+  PopupWindow window{[this] { return screens.space(); }};
+  PopupLayout layout;
+  std::vector<int> rows;
+  std::vector<int> variants;
+};
+
+TEST_F(PopupWindowTest, StandsAtItsFrameAndGoesWhenHidden) {
+  show(popupWithRows(3));
+  EXPECT_EQ(client.frameOf(window.nativeWindow()), (Rect{200, 100, 320, 172}));
+  window.hide();
+  EXPECT_TRUE(becomes([this] { return !client.popup(); }));
+}
+
+TEST_F(PopupWindowTest, FollowsItsFrameWhileItIsShown) {
+  show(popupWithRows(3));
+  window.show(popupWithRows(8), {10, 20, 320, 352});
+  EXPECT_TRUE(becomes([this] {
+    return client.frameOf(window.nativeWindow()) == Rect{10, 1024 - 20 - 352, 320, 352};
+  }));
+}
+
+TEST_F(PopupWindowTest, TellsTheRowThatIsClicked) {
+  show(popupWithRows(8));
+  clickAt(layout.row(2, 0).center());
+  EXPECT_TRUE(becomes([this] { return !rows.empty(); }));
+  EXPECT_THAT(rows, ElementsAre(2));
+  EXPECT_THAT(variants, ElementsAre());
+}
+
+TEST_F(PopupWindowTest, TellsTheVariantThatIsClicked) {
+  show(withPicker(popupWithRows(8)));
+  clickAt(layout.variant(4).center());
+  EXPECT_TRUE(becomes([this] { return !variants.empty(); }));
+  EXPECT_THAT(variants, ElementsAre(4));
+  EXPECT_THAT(rows, ElementsAre());
+}
+
+TEST_F(PopupWindowTest, ClicksOutsideRowsAndCellsTellNothing) {
+  show(popupWithRows(8));
+  clickAt(layout.header().center());
+  clickAt(layout.footer().center());
+  clickAt(layout.row(5, 0).center());
+  EXPECT_TRUE(becomes([this] { return !rows.empty(); }));
+  EXPECT_THAT(rows, ElementsAre(5));
+}
+
+TEST_F(PopupWindowTest, AClickMayHideThePopup) {
+  show(popupWithRows(8));
+  window.onRowClicked([this](int index) {
+    rows.push_back(index);
+    window.hide();
+    window.onRowClicked({});
+  });
+  clickAt(layout.row(0, 0).center());
+  EXPECT_TRUE(becomes([this] { return !client.popup(); }));
+  EXPECT_THAT(rows, ElementsAre(0));
+}
+
+TEST_F(PopupWindowTest, TheWheelMovesTheListAndClicksFollowIt) {
+  show(withPicker(popupWithRows(8)));
+  client.scrollDown(300, 100 + static_cast<int>(layout.list().center().y()));
+  EXPECT_TRUE(becomes([this] { return window.scroll() == 36; })) << window.scroll();
+  clickAt(layout.row(1, 36).center());
+  EXPECT_TRUE(becomes([this] { return !rows.empty(); }));
+  EXPECT_THAT(rows, ElementsAre(1));
+}
+
+TEST_F(PopupWindowTest, GlidesToTheSelectedRowButOpensThere) {
+  show(withPicker(popupWithRows(8, 7)));
+  EXPECT_EQ(window.scroll(), layout.maxScroll());
+  show(withPicker(popupWithRows(8, 0)));
+  EXPECT_EQ(window.scroll(), layout.maxScroll()) << "the way has only begun";
+  EXPECT_TRUE(becomes([this] { return window.scroll() == 0; }));
+}
+
+TEST_F(PopupWindowTest, ThePointerTintsTheRowBelowIt) {
+  show(popupWithRows(3));
+  const QPoint spot(7, static_cast<int>(layout.row(1, 0).center().y()));
+  const QColor before = window.grab().toImage().pixelColor(spot);
+  client.movePointer(200 + 150, 100 + spot.y());
+  EXPECT_TRUE(becomes([&] { return window.grab().toImage().pixelColor(spot) != before; }));
+  client.movePointer(0, 0);
+  EXPECT_TRUE(becomes([&] { return window.grab().toImage().pixelColor(spot) == before; }));
+}
+
+TEST_F(PopupWindowTest, NeverAsksForTheFocus) {
+  const auto focused = client.focusedWindow();
+  show(popupWithRows(3));
+  clickAt(layout.row(0, 0).center());
+  EXPECT_TRUE(becomes([this] { return !rows.empty(); }));
+  EXPECT_EQ(client.focusedWindow(), focused);
+  EXPECT_FALSE(window.isActiveWindow());
+}
+
+}  // namespace
+}  // namespace tessarin::ui

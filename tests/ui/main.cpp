@@ -1,0 +1,20 @@
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <cstdlib>
+
+#include "support/desktop/PrivateDisplay.h"
+#include "ui/PopupChild.h"
+
+/// The tests of windows run on an X server of their own. The program also starts itself anew, for windows at
+/// another scale: see PopupChild.h.
+int main(int argc, char** argv) {
+  if (tessarin::testing::isPopupChild(argc, argv)) return tessarin::testing::runPopupChild(argc, argv);
+  ::testing::InitGoogleMock(&argc, argv);
+  const tessarin::testing::PrivateDisplay display;
+  ::setenv("DISPLAY", display.name().c_str(), 1);
+  ::setenv("QT_QPA_PLATFORM", "xcb", 1);
+  const QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  return RUN_ALL_TESTS();
+}
