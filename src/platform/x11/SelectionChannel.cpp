@@ -101,6 +101,7 @@ void SelectionChannel::write(const std::vector<PasteboardItem>& items) {
   for (const auto& item : items) names.push_back(item.type);
   const auto targets = atoms_.atoms(names);
   std::vector<Representation> contents;
+  contents.reserve(items.size());
   for (std::size_t i = 0; i < items.size(); ++i) contents.push_back(restored(items[i], targets[i]));
   take(std::move(contents), nullptr);
 }

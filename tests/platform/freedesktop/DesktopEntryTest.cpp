@@ -80,7 +80,7 @@ TEST(DesktopEntry, EscapesAreUndone) {
   EXPECT_EQ(entry->name, "a b\\c\\");
 }
 
-Environment environment(std::map<std::string, std::string> variables) {
+Environment environment(const std::map<std::string, std::string>& variables) {
   return [variables](const std::string& name) -> std::optional<std::string> {
     const auto found = variables.find(name);
     if (found == variables.end()) return std::nullopt;

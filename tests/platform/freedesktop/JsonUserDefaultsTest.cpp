@@ -18,8 +18,6 @@ namespace fs = std::filesystem;
 using freedesktop::JsonUserDefaults;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::Not;
 using ::testing::StartsWith;
 
 struct JsonWorld {
@@ -184,7 +182,7 @@ INSTANTIATE_TEST_SUITE_P(Links, LinkedPreferences,
 
 class WatchedPreferences : public JsonUserDefaultsTest {
  protected:
-  bool waitFor(std::function<bool()> condition) {
+  bool waitFor(const std::function<bool()>& condition) {
     return eventually(condition, [this] { queue.runReady(); });
   }
   ManualMainQueue queue;

@@ -76,6 +76,12 @@ std::vector<std::string> SelectionPeer::requestedTargets() {
   return names;
 }
 
+std::string SelectionPeer::lastReadType() {
+  std::string name;
+  thread_->call([&] { name = atoms_.name(lastReadType_); }, patience);
+  return name;
+}
+
 void SelectionPeer::takeFocus() {
   thread_->call(
       [&] {
@@ -278,6 +284,7 @@ void SelectionPeer::takeProperty(xcb_atom_t property) {
     return;
   }
   const auto length = static_cast<std::size_t>(xcb_get_property_value_length(reply.get()));
+  lastReadType_ = reply->type;
   if (!reading_->data) reading_->data.emplace();
   reading_->data->append(static_cast<const char*>(xcb_get_property_value(reply.get())), length);
   reading_->isDone = !reading_->isIncremental || length == 0;

@@ -44,6 +44,8 @@ class SelectionPeer {
 
   /// Everything that a selection's owner gives for the target; none when it refuses or takes 10 s.
   std::optional<std::string> read(const std::string& selection, const std::string& target);
+  /// The type under which the owner gave what was read last.
+  std::string lastReadType();
   /// What the owner says it offers.
   std::vector<std::string> targets(const std::string& selection);
   /// Asks for the target and takes at most this many pieces of it.
@@ -93,6 +95,7 @@ class SelectionPeer {
   std::vector<xcb_selection_request_event_t> unanswered_;
   std::vector<Sending> sendings_;
   std::shared_ptr<Reading> reading_;
+  xcb_atom_t lastReadType_ = XCB_ATOM_NONE;
 };
 
 }  // namespace tessarin::testing

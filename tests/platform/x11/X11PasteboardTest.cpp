@@ -111,7 +111,9 @@ struct Copied {
 
 Items fortyTypes() {
   Items items;
-  for (int i = 0; i < 40; ++i) items.push_back({"application/x-type-" + std::to_string(i), blob(i * 1000)});
+  for (std::size_t i = 0; i < 40; ++i) {
+    items.push_back({"application/x-type-" + std::to_string(i), blob(i * 1000)});
+  }
   return items;
 }
 
@@ -138,7 +140,8 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         Copied{"text", {{"UTF8_STRING", "Grüße 👋🏽\n"}, {"STRING", "Gr\xfc\xdf"}}},
         Copied{"emptyText", {{"UTF8_STRING", ""}}},
-        Copied{"htmlAndText", {{"text/html", "<p>a\0b</p>"}, {"text/plain;charset=utf-8", "ab"}}},
+        Copied{"htmlAndText",
+               {{"text/html", std::string("<p>a\0b</p>", 10)}, {"text/plain;charset=utf-8", "ab"}}},
         Copied{"picture", {{"image/png", blob(5'000'000)}}},
         Copied{"pictureInPieces", {{"image/png", blob(5'000'000)}, {"text/html", blob(70'000)}}, 65'536},
         Copied{"files",
@@ -163,6 +166,17 @@ TEST_F(X11PasteboardTest, WorksWithACommandLineClient) {
   pasteboard().write(saved->items);
   ASSERT_EQ(shell("xclip -selection clipboard -t image/png -o > '" + (folder / "out").string() + "'"), 0);
   EXPECT_TRUE(folder.read("out") == folder.read("in"));
+}
+
+TEST_F(X11PasteboardTest, PutsBackTextUnderTheTypeThatItHad) {
+  ManualMainQueue otherQueue;
+  const auto other = x11::X11Selections::connect(otherQueue, display().name());
+  other->general().writeText("é");  // its TEXT says that it is UTF-8
+  const auto saved = world.wholeSnapshot();
+  pasteboard().writeText("for one paste");
+  pasteboard().write(saved->items);
+  EXPECT_EQ(peer().read("CLIPBOARD", "TEXT"), "é");
+  EXPECT_EQ(peer().lastReadType(), "UTF8_STRING");
 }
 
 TEST_F(X11PasteboardTest, KeepsTheTwoSelectionsApart) {
