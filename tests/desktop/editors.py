@@ -90,7 +90,7 @@ class Featherpad(Editor):
 
 
 class Xterm(Editor):
-    """A terminal that copies its lines into a file."""
+    """A terminal that copies its lines into a file; where the lines end does not count."""
 
     command = ("xterm", "-fa", "DejaVu Sans Mono", "-e", "sh", "-c", 'stty -echoctl iutf8; exec cat > "$0"')
 
@@ -102,8 +102,7 @@ class Xterm(Editor):
         self.typist.press("Return")
 
     def document(self):
-        text = self.path.read_text()
-        return text.removeprefix("q\n").rstrip("\n")
+        return self.path.read_text().removeprefix("q").replace("\n", "")
 
     def wait_for_document(self, expected, seconds=20.0):
         self.save()

@@ -12,8 +12,8 @@ from session import Session, Tessarin, wait_for
 from typist import Typist
 
 SNIPPETS = {
-    "zzone": "first",
-    "zztwo": "second",
+    "zqxone": "first",
+    "zqxtwo": "second",
     "today": "{{date}}",
     "quote": "[{{clipboard}}]",
 } | {"k" * length: f"<{length}>" for length in range(1, 64)}
@@ -28,8 +28,9 @@ ROWS = [
     ("Return confirms", ["a:smile\nb "], "a😄b "),
     ("Tab confirms", ["a:smile\tb "], "a😄b "),
     ("the trigger confirms", ["a:smile:b "], "a😄b "),
-    ("Down chooses the next row", ["a:zz", key("Down"), "\nb"], "asecondb"),
-    ("Up wraps to the last row", ["a:zzt", key("Up"), "\nb"], "asecondb"),
+    # What was used comes first the next time: the second row of the pair puts the order back for the next program.
+    ("Down chooses the next row", ["a:zqx", key("Down"), "\nb"], "asecondb"),
+    ("Up wraps to the last row", ["a:zqx", key("Up"), "\nb"], "afirstb"),
     ("a skin tone", ["a:wave", key("Right"), key("Right"), "\nb"], "a👋🏻b"),
     ("Left closes the strip again", ["a:wave", key("Right"), key("Left"), "\nb"], "a👋b"),
     ("Escape cancels", ["a:smile", key("Escape"), "b"], "a:smileb"),
@@ -37,7 +38,7 @@ ROWS = [
     ("BackSpace shortens the query", ["a:smilex\b\nb"], "a😄b"),
     ("BackSpace over the trigger ends it", ["a:s\b\bx:smile\nb"], "ax😄b"),
     ("two in a row", [":tada\n:tada\n:+1\t"], "🎉🎉👍"),
-    ("nothing matches", ["a:zzzzqq:b"], "a:zzzzqq:b"),
+    ("nothing matches", ["a:zqxqq:b"], "a:zqxqq:b"),
     ("an ordinary colon", ["ratio 1: 2:1 a::b"], "ratio 1: 2:1 a::b"),
 ]
 
@@ -70,10 +71,10 @@ class DesktopTest(unittest.TestCase):
             else:
                 self.typist.type(step)
 
-    def check(self, editor, steps, expected):
+    def check(self, editor, steps, expected, seconds=8):
         start = editor.document()
         self.play(steps)
-        self.assertEqual(editor.wait_for_document(start + expected, 8), start + expected)
+        self.assertEqual(editor.wait_for_document(start + expected, seconds), start + expected)
 
     def wait_for_popup(self):
         return wait_for(self.typist.popup, what="the popup")
@@ -91,7 +92,7 @@ class InEveryProgram(DesktopTest):
         for program in ALL:
             with self.subTest(program=program.__name__), program(self.session, self.typist) as editor:
                 for confirm in "\n\t:":
-                    self.check(editor, [f"a:smile{confirm}b " * 67], "a😄b " * 67)
+                    self.check(editor, [f"a:smile{confirm}b " * 67], "a😄b " * 67, seconds=90)
 
     def test_direct_insertion_where_it_can_be(self):
         for program, line in ((Mousepad, "Replaced via Accessibility API"),
@@ -100,18 +101,22 @@ class InEveryProgram(DesktopTest):
                               (Xterm, "Falling back to paste method")):
             with self.subTest(program=program.__name__), program(self.session, self.typist) as editor:
                 before = self.tessarin.log.count(line)
-                self.play(["x:smile"])
-                self.wait_for_popup()
-                time.sleep(0.1)  # a person's pause: the editor has taken in the letters
-                self.play(["\n"])
-                self.assertEqual(editor.wait_for_document("x😄"), "x😄")
-                self.assertGreater(self.tessarin.log.count(line), before)
+                for count in range(1, 6):  # an editor that has just started may not answer on the bus yet
+                    self.play(["x:smile"])
+                    self.wait_for_popup()
+                    time.sleep(0.1)  # a person's pause: the editor has taken in the letters
+                    self.play(["\n"])
+                    self.assertEqual(editor.wait_for_document("x😄" * count), "x😄" * count)
+                    if self.tessarin.log.count(line) > before:
+                        break
+                else:
+                    self.fail(f"never: {line}")
 
 
 class WithThePointer(DesktopTest):
     def test_click_on_a_row_inserts_it(self):
         with Mousepad(self.session, self.typist) as editor:
-            self.play(["a:zz"])
+            self.play(["a:zqxt"])
             x, y, width, height = self.wait_for_popup()
             self.typist.click(x + width / 2, y + height - 28 - 18)  # the last row, above the hints
             self.assertEqual(editor.wait_for_document("asecond"), "asecond")
@@ -211,8 +216,8 @@ class Modes(DesktopTest):
 class NeverInTheLog(DesktopTest):
     def test_typed_text_stays_out_of_the_log(self):
         with Mousepad(self.session, self.typist) as editor:
-            self.check(editor, ["sesame:zzone\n sesame:zzunknown "], "sesamefirst sesame:zzunknown ")
-        for word in ("sesame", "zzone", "zzunknown", "first"):
+            self.check(editor, ["sesame:zqxone\n sesame:zqxunknown "], "sesamefirst sesame:zqxunknown ")
+        for word in ("sesame", "zqxone", "zqxunknown", "first"):
             self.assertNotIn(word, self.tessarin.log)
 
 
