@@ -1,0 +1,331 @@
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTextEdit>
+#include <QValidator>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "platform/qt/OwnWindowsAccessibility.h"
+#include "platform/qt/TestApplication.h"
+#include "support/CaseName.h"
+#include "support/FakeAccessibility.h"
+
+namespace tessarin::ui {
+namespace {
+
+using testing::CaseName;
+using testing::ensureApplication;
+using testing::eventuallyInLoop;
+using testing::FakeAccessibility;
+using testing::FakeElement;
+using testing::showFocused;
+
+/// One kind of editor: how it is made, filled with its caret at the end, and read.
+struct Editor {
+  std::string name;
+  std::string_view role;
+  std::function<QWidget*(QWidget* parent)> make;
+  std::function<void(QWidget*, const QString&)> fill;
+  std::function<QString(QWidget*)> text;
+  std::function<void(QWidget*)> selectLastCharacter;
+};
+
+template <class Edit>
+void selectLast(QWidget* widget) {
+  auto* edit = static_cast<Edit*>(widget);
+  QTextCursor cursor = edit->textCursor();
+  cursor.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor);
+  edit->setTextCursor(cursor);
+}
+
+template <class Edit>
+Editor multiLine(std::string name) {
+  return {std::move(name),
+          role::textArea,
+          [](QWidget* parent) { return new Edit(parent); },
+          [](QWidget* widget, const QString& text) {
+            auto* edit = static_cast<Edit*>(widget);
+            edit->setPlainText(text);
+            edit->moveCursor(QTextCursor::End);
+          },
+          [](QWidget* widget) { return static_cast<Edit*>(widget)->toPlainText(); },
+          selectLast<Edit>};
+}
+
+Editor lineEdit() {
+  return {"LineEdit",
+          role::textField,
+          [](QWidget* parent) { return new QLineEdit(parent); },
+          [](QWidget* widget, const QString& text) { static_cast<QLineEdit*>(widget)->setText(text); },
+          [](QWidget* widget) { return static_cast<QLineEdit*>(widget)->text(); },
+          [](QWidget* widget) {
+            auto* edit = static_cast<QLineEdit*>(widget);
+            edit->setSelection(static_cast<int>(edit->text().size()) - 1, 1);
+          }};
+}
+
+/// A window of our own beside other applications that are scripted.
+class World : public ::testing::Test {
+ protected:
+  World() { ensureApplication(); }
+
+  template <class T>
+  std::optional<T> read(const ElementRef& element, std::string_view name) {
+    return readAttribute<T>(accessibility(), element, name);
+  }
+  ElementRef focusedApplication() {
+    return read<ElementRef>(accessibility().systemWide(), attribute::focusedApplication).value_or(nullptr);
+  }
+  ElementRef focused() {
+    return read<ElementRef>(focusedApplication(), attribute::focusedElement).value_or(nullptr);
+  }
+  std::optional<std::string> string(const ElementRef& element, const TextRange& range) {
+    const auto value = accessibility().parameterizedAttribute(element, attribute::stringForRange, range);
+    return value ? std::optional(std::get<std::string>(*value)) : std::nullopt;
+  }
+  AccessibilityStatus replace(const ElementRef& element, const TextRange& range, const std::string& text) {
+    const auto selected = accessibility().setAttribute(element, attribute::selectedTextRange, range);
+    if (selected != AccessibilityStatus::success) return selected;
+    return accessibility().setAttribute(element, attribute::selectedText, text);
+  }
+  /// Made at first use: the application object stands by then.
+  OwnWindowsAccessibility& accessibility() {
+    if (!accessibility_) accessibility_ = std::make_unique<OwnWindowsAccessibility>(others);
+    return *accessibility_;
+  }
+
+  FakeAccessibility others;
+
+ private:
+  std::unique_ptr<OwnWindowsAccessibility> accessibility_;
+};
+
+class OwnEditors : public World, public ::testing::WithParamInterface<Editor> {
+ protected:
+  void SetUp() override {
+    window.resize(300, 200);
+    widget = GetParam().make(&window);
+    widget->setGeometry(20, 30, 200, 60);
+    ASSERT_TRUE(showFocused(window, *widget));
+  }
+  void fill(const char* text) { GetParam().fill(widget, QString::fromUtf8(text)); }
+  std::string text() const { return GetParam().text(widget).toStdString(); }
+  TextRange before(std::int64_t count) {
+    const auto caret = read<TextRange>(focused(), attribute::selectedTextRange)->location;
+    return {caret - count, count};
+  }
+
+  QWidget window;
+  QWidget* widget = nullptr;
+};
+
+TEST_P(OwnEditors, SayWhatTheyAre) {
+  EXPECT_EQ(read<std::string>(focused(), attribute::role), GetParam().role);
+  EXPECT_EQ(read<std::string>(focused(), attribute::value), "");
+}
+
+TEST_P(OwnEditors, TellTheCaretAndTheTextBeforeIt) {
+  fill("a :smile");
+  EXPECT_EQ(read<TextRange>(focused(), attribute::selectedTextRange), (TextRange{8, 0}));
+  EXPECT_EQ(string(focused(), before(6)), ":smile");
+  EXPECT_EQ(string(focused(), before(0)), "");
+}
+
+TEST_P(OwnEditors, CountCharactersNotCodeUnits) {
+  fill("👨‍👩‍👧é:x");
+  EXPECT_EQ(string(focused(), before(4)), "👨‍👩‍👧é:x");
+  EXPECT_EQ(string(focused(), before(3)), "é:x");
+}
+
+TEST_P(OwnEditors, RefuseMoreCharactersThanThereAre) {
+  fill("ab");
+  EXPECT_EQ(string(focused(), {-1, 3}), std::nullopt);
+  EXPECT_EQ(string(focused(), {0, 3}), std::nullopt);
+  EXPECT_EQ(replace(focused(), {0, 3}, "x"), AccessibilityStatus::failure);
+  EXPECT_EQ(text(), "ab");
+}
+
+TEST_P(OwnEditors, ReplaceTheCharactersBeforeTheCaret) {
+  fill("a😀:smile");
+  EXPECT_EQ(replace(focused(), before(6), "😄"), AccessibilityStatus::success);
+  EXPECT_EQ(text(), "a😀😄");
+  EXPECT_EQ(read<TextRange>(focused(), attribute::selectedTextRange), (TextRange{5, 0}));
+}
+
+TEST_P(OwnEditors, WriteAtTheCaretWhenNothingIsReplaced) {
+  fill("ab");
+  EXPECT_EQ(replace(focused(), before(0), "c"), AccessibilityStatus::success);
+  EXPECT_EQ(text(), "abc");
+}
+
+TEST_P(OwnEditors, TakeASelectionWithinTheRangeAndNoOther) {
+  fill("a:smile");
+  GetParam().selectLastCharacter(widget);
+  EXPECT_EQ(read<TextRange>(focused(), attribute::selectedTextRange), (TextRange{6, 1}));
+  EXPECT_EQ(replace(focused(), {1, 3}, "x"), AccessibilityStatus::failure);
+  EXPECT_EQ(replace(focused(), {1, 6}, "x"), AccessibilityStatus::success);
+  EXPECT_EQ(text(), "ax");
+}
+
+TEST_P(OwnEditors, WriteOnlyOnceForARange) {
+  fill("abc");
+  ASSERT_EQ(replace(focused(), before(1), "x"), AccessibilityStatus::success);
+  EXPECT_EQ(accessibility().setAttribute(focused(), attribute::selectedText, std::string("y")),
+            AccessibilityStatus::failure);
+  EXPECT_EQ(text(), "abx");
+}
+
+TEST_P(OwnEditors, ShowTheCaretWithinTheirFrame) {
+  fill("abc");
+  const auto position = read<Point>(focused(), attribute::position);
+  const auto size = read<Size>(focused(), attribute::size);
+  const auto bounds = accessibility().parameterizedAttribute(focused(), attribute::boundsForRange, before(0));
+  ASSERT_TRUE(position && size && bounds);
+  EXPECT_EQ(*size, (Size{200, 60}));
+  const Rect caret = std::get<Rect>(*bounds);
+  const Rect frame{position->x, position->y, size->width, size->height};
+  EXPECT_GT(caret.height, 5);
+  EXPECT_TRUE(frame.contains({caret.x, caret.y})) << caret.x << ", " << caret.y;
+  EXPECT_TRUE(frame.contains({caret.x, caret.maxY()})) << caret.x << ", " << caret.maxY();
+}
+
+TEST_P(OwnEditors, FailOnceTheyHaveGone) {
+  fill("abc");
+  const ElementRef element = focused();
+  delete widget;
+  EXPECT_EQ(read<std::string>(element, attribute::role), std::nullopt);
+  EXPECT_EQ(string(element, {0, 1}), std::nullopt);
+  EXPECT_EQ(replace(element, {0, 1}, "x"), AccessibilityStatus::failure);
+}
+
+INSTANTIATE_TEST_SUITE_P(, OwnEditors,
+                         ::testing::Values(lineEdit(), multiLine<QTextEdit>("TextEdit"),
+                                           multiLine<QPlainTextEdit>("PlainTextEdit")),
+                         CaseName());
+
+class OwnWindows : public World {
+ protected:
+  QWidget window;
+};
+
+TEST_F(OwnWindows, KeepPasswordsToThemselves) {
+  auto* edit = new QLineEdit("secret", &window);
+  edit->setEchoMode(QLineEdit::Password);
+  ASSERT_TRUE(showFocused(window, *edit));
+  EXPECT_EQ(read<std::string>(focused(), attribute::role), role::secureTextField);
+  EXPECT_EQ(read<std::string>(focused(), attribute::value), std::nullopt);
+  EXPECT_EQ(read<TextRange>(focused(), attribute::selectedTextRange), std::nullopt);
+  EXPECT_EQ(string(focused(), {0, 3}), std::nullopt);
+}
+
+TEST_F(OwnWindows, AreNotWrittenToWhereTextIsReadOnly) {
+  auto* edit = new QLineEdit("abc", &window);
+  edit->setReadOnly(true);
+  ASSERT_TRUE(showFocused(window, *edit));
+  EXPECT_EQ(read<std::string>(focused(), attribute::value), std::nullopt);
+  EXPECT_EQ(replace(focused(), {0, 3}, "x"), AccessibilityStatus::failure);
+  EXPECT_EQ(edit->text(), "abc");
+}
+
+TEST_F(OwnWindows, HaveElementsWithoutText) {
+  auto* button = new QPushButton("Allow", &window);
+  ASSERT_TRUE(showFocused(window, *button));
+  EXPECT_EQ(read<std::string>(focused(), attribute::role), role::unknown);
+  EXPECT_EQ(read<std::string>(focused(), attribute::value), std::nullopt);
+  const auto above = read<ElementRef>(focused(), attribute::parent);
+  ASSERT_TRUE(above);
+  EXPECT_EQ(read<std::string>(*above, attribute::role), role::window);
+}
+
+TEST_F(OwnWindows, ReplaceInTheCaretsParagraph) {
+  auto* edit = new QTextEdit(&window);
+  edit->setPlainText("one\ntwo:x");
+  edit->moveCursor(QTextCursor::End);
+  ASSERT_TRUE(showFocused(window, *edit));
+  EXPECT_EQ(read<TextRange>(focused(), attribute::selectedTextRange), (TextRange{5, 0}));
+  EXPECT_EQ(replace(focused(), {3, 2}, "a\nb"), AccessibilityStatus::success);
+  EXPECT_EQ(edit->toPlainText(), "one\ntwoa\nb");
+}
+
+TEST_F(OwnWindows, UndoAReplacement) {
+  auto* edit = new QTextEdit(&window);
+  ASSERT_TRUE(showFocused(window, *edit));
+  edit->insertPlainText("a:smile");
+  ASSERT_EQ(replace(focused(), {1, 6}, "😄"), AccessibilityStatus::success);
+  edit->undo();
+  EXPECT_EQ(edit->toPlainText(), "a:smile");
+}
+
+TEST_F(OwnWindows, SayWhenATextWasNotTaken) {
+  auto* edit = new QLineEdit(&window);
+  edit->setMaxLength(3);
+  edit->setText("abc");
+  ASSERT_TRUE(showFocused(window, *edit));
+  EXPECT_EQ(replace(focused(), {2, 1}, "xyz"), AccessibilityStatus::erasedOnly);
+  EXPECT_EQ(replace(focused(), {3, 0}, "xyz"), AccessibilityStatus::failure);
+}
+
+TEST_F(OwnWindows, TellOfEveryMoveOfTheFocus) {
+  auto* first = new QLineEdit(&window);
+  auto* second = new QLineEdit(&window);
+  ASSERT_TRUE(showFocused(window, *first));
+  int moves = 0;
+  Subscription token = accessibility().onFocusMoved([&moves] { ++moves; });
+  second->setFocus();
+  EXPECT_EQ(moves, 1);
+  others.focus(std::make_shared<FakeElement>());
+  EXPECT_EQ(moves, 2);
+  token.reset();
+  first->setFocus();
+  others.focus(std::make_shared<FakeElement>());
+  EXPECT_EQ(moves, 2);
+}
+
+TEST_F(OwnWindows, LeaveNothingToWaitFor) {
+  auto* edit = new QLineEdit(&window);
+  EXPECT_TRUE(accessibility().pause(std::chrono::milliseconds(1)));
+  ASSERT_TRUE(showFocused(window, *edit));
+  EXPECT_FALSE(accessibility().pause(std::chrono::milliseconds(1)));
+}
+
+using OtherApplications = World;
+
+TEST_F(OtherApplications, AreAskedWhileNoWindowOfOursIsActive) {
+  const auto element = std::make_shared<FakeElement>();
+  element->attributes["AXRole"] = std::string(role::textArea);
+  element->parameterized["AXStringForRange"] = [](const AttributeValue&) { return std::string("theirs"); };
+  others.focus(element);
+  ASSERT_EQ(focused(), element);
+  EXPECT_EQ(read<std::string>(focused(), attribute::role), role::textArea);
+  EXPECT_EQ(string(focused(), {0, 6}), "theirs");
+  EXPECT_EQ(replace(focused(), {0, 6}, "x"), AccessibilityStatus::success);
+  EXPECT_EQ(others.writes.size(), 2U);
+}
+
+TEST_F(OtherApplications, AreNotAskedForOurFocus) {
+  QWidget window;
+  auto* edit = new QLineEdit(&window);
+  ASSERT_TRUE(showFocused(window, *edit));
+  others.calls = 0;
+  EXPECT_EQ(read<std::string>(focused(), attribute::role), role::textField);
+  EXPECT_EQ(others.calls, 0);
+  window.hide();
+  EXPECT_TRUE(eventuallyInLoop([this] { return focusedApplication() == others.application; }));
+}
+
+TEST_F(OtherApplications, DecideAboutTrust) {
+  EXPECT_TRUE(accessibility().isTrusted());
+  others.trusted = false;
+  EXPECT_FALSE(accessibility().isTrusted());
+  accessibility().prompt();
+  EXPECT_EQ(others.prompts, 1);
+  accessibility().beginBudget(std::chrono::milliseconds(120));
+  EXPECT_EQ(others.budgets.size(), 1U);
+}
+
+}  // namespace
+}  // namespace tessarin::ui
