@@ -59,7 +59,8 @@ class TextReplacerTest : public ::testing::Test {
   AccessibilityHelper accessibilityHelper{accessibility, workspace, defaults};
   PasteHelper pasteHelper{general, primary, keys, queue};
   SystemWallClock clock;
-  std::optional<TextReplacer> replacer{std::in_place, accessibilityHelper, pasteHelper, clock};
+  std::optional<TextReplacer> replacer{std::in_place, accessibilityHelper, pasteHelper, queue,
+                                       clock};
   std::vector<InsertionOutcome> outcomes;
 };
 
