@@ -6,11 +6,14 @@
 #include "insertion/AccessibilityHelper.h"
 #include "insertion/PasteHelper.h"
 #include "insertion/TextReplacer.h"
+#include "platform/GuardedEventTap.h"
 #include "platform/atspi/AtspiAccessibility.h"
 #include "platform/freedesktop/JsonUserDefaults.h"
+#include "platform/freedesktop/ScreenLock.h"
 #include "platform/freedesktop/TrustRecord.h"
 #include "platform/none/NoPasteboard.h"
 #include "platform/none/NoWorkspace.h"
+#include "platform/qt/OwnWindowsAccessibility.h"
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/QtScreens.h"
 #include "platform/qt/QtStatusBar.h"
@@ -62,9 +65,12 @@ class Desktop {
   x11::ActiveWindowProbe activeWindow_;
   x11::X11InputMonitoring inputMonitoring_;
   std::shared_ptr<x11::X11Keyboard> keyboard_;
-  x11::X11EventTap eventTap_;
+  x11::X11EventTap x11EventTap_;
+  std::unique_ptr<freedesktop::ScreenLock> screenLock_;
+  GuardedEventTap eventTap_;
   x11::X11KeyPoster keyPoster_;
-  atspi::AtspiAccessibility accessibility_;
+  atspi::AtspiAccessibility otherApplications_;
+  ui::OwnWindowsAccessibility accessibility_;
 
   AccessibilityHelper accessibilityHelper_;
   PasteHelper pasteHelper_;
