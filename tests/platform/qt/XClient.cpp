@@ -53,18 +53,27 @@ xcb_window_t XClient::openWindow(const Rect& frame, bool hasFocus) {
                     XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
   xcb_map_window(connection_.get(), window);
   sync();
-  if (hasFocus) focus(window);
+  if (hasFocus && !eventually([&] { return activeWindow() == window; }, [&] { askForFocus(window); }))
+    throw std::runtime_error("our window did not get the focus");
   return window;
 }
 
-void XClient::focus(xcb_window_t window) {
-  const auto isFocused = [&] {
-    // Refused until the window manager has mapped the window.
-    if (isViewable(connection_.get(), window))
-      xcb_set_input_focus(connection_.get(), XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
-    return focusedWindow() == window && activeWindow() == window;
-  };
-  if (!eventually(isFocused)) throw std::runtime_error("our window did not get the focus");
+void XClient::askForFocus(xcb_window_t window) {
+  // A window manager that has only just come forgets requests to map a window.
+  if (!isViewable(connection_.get(), window)) {
+    xcb_map_window(connection_.get(), window);
+    return;
+  }
+  xcb_client_message_event_t message{};
+  message.response_type = XCB_CLIENT_MESSAGE;
+  message.format = 32;
+  message.window = window;
+  message.type = atom("_NET_ACTIVE_WINDOW");
+  message.data.data32[0] = 2;  // as a task bar asks
+  xcb_send_event(connection_.get(), 0, root_,
+                 XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                 reinterpret_cast<const char*>(&message));
+  sync();
 }
 
 xcb_window_t XClient::focusedWindow() const {

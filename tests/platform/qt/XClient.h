@@ -41,7 +41,7 @@ class XClient {
     void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
   };
   xcb_atom_t atom(const std::string& name) const;
-  void focus(xcb_window_t window);
+  void askForFocus(xcb_window_t window);
   void press(std::uint8_t button);
   void sync() const;
 
