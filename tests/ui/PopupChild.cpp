@@ -24,7 +24,7 @@ int runPopupChild(int argc, char** argv) {
   const int rows = std::atoi(argv[2]);
   const QSizeF size = ui::PopupLayout::sizeFor(rows);
   window.show(popupWithRows(rows), {std::atof(argv[3]), std::atof(argv[4]), size.width(), size.height()});
-  window.onRowClicked([](int) { QApplication::quit(); });
+  window.onRowClicked([&](int) { window.setWindowTitle(clickedTitle); });
   return QApplication::exec();
 }
 

@@ -13,8 +13,11 @@ namespace tessarin::testing {
 bool isPopupChild(int argc, char** argv);
 int runPopupChild(int argc, char** argv);
 
-/// Shows a popup of `rows` rows with its frame's origin at `origin` (screen coordinates, points) until a row
-/// is clicked.
+/// The popup's title after a row was clicked, all earlier events having been dealt with.
+inline constexpr const char* clickedTitle = "clicked";
+
+/// Shows a popup of `rows` rows with its frame's origin at `origin` (screen coordinates, points) until it is
+/// stopped.
 ChildProcess startPopupChild(const std::string& displayVariable, int rows, Point origin);
 
 }  // namespace tessarin::testing

@@ -127,6 +127,17 @@ TEST_F(PopupWindowTest, ThePointerTintsTheRowBelowIt) {
   EXPECT_TRUE(becomes([&] { return window.grab().toImage().pixelColor(spot) == before; }));
 }
 
+TEST_F(PopupWindowTest, LeavesItsCornersToACompositor) {
+  show(popupWithRows(3));
+  EXPECT_TRUE(becomes([this] { return !client.isInShape(window.nativeWindow(), 0, 0); }));
+  window.hide();
+  testing::XClient compositor(std::getenv("DISPLAY"));
+  compositor.becomeCompositor();
+  show(popupWithRows(3));
+  EXPECT_TRUE(becomes([this] { return client.isInShape(window.nativeWindow(), 0, 0); }));
+  EXPECT_LT(window.grab().toImage().pixelColor(160, 4).alpha(), 255);
+}
+
 TEST_F(PopupWindowTest, NeverAsksForTheFocus) {
   const auto focused = client.focusedWindow();
   show(popupWithRows(3));

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <stdexcept>
-#include <string_view>
 
 #include "support/Eventually.h"
 
@@ -27,15 +26,19 @@ bool isViewable(xcb_connection_t* connection, xcb_window_t window) {
   return attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE;
 }
 
+std::string textProperty(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t property) {
+  constexpr std::uint32_t enoughWords = 64;
+  const auto reply = owned(xcb_get_property_reply(
+      connection,
+      xcb_get_property(connection, 0, window, property, XCB_GET_PROPERTY_TYPE_ANY, 0, enoughWords), nullptr));
+  if (!reply) return {};
+  return {static_cast<const char*>(xcb_get_property_value(reply.get())),
+          static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
+}
+
 bool isOurs(xcb_connection_t* connection, xcb_window_t window) {
   if (!isViewable(connection, window)) return false;
-  const auto name = owned(xcb_get_property_reply(
-      connection,
-      xcb_get_property(connection, 0, window, XCB_ATOM_WM_CLASS, XCB_GET_PROPERTY_TYPE_ANY, 0, 64), nullptr));
-  if (!name) return false;
-  const std::string_view text(static_cast<const char*>(xcb_get_property_value(name.get())),
-                              static_cast<std::size_t>(xcb_get_property_value_length(name.get())));
-  return text.find("tessarin") != std::string_view::npos;
+  return textProperty(connection, window, XCB_ATOM_WM_CLASS).find("tessarin") != std::string::npos;
 }
 
 }  // namespace
@@ -53,18 +56,27 @@ xcb_window_t XClient::openWindow(const Rect& frame, bool hasFocus) {
                     XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
   xcb_map_window(connection_.get(), window);
   sync();
-  if (hasFocus) focus(window);
+  if (hasFocus && !eventually([&] { return activeWindow() == window; }, [&] { askForFocus(window); }))
+    throw std::runtime_error("our window did not get the focus");
   return window;
 }
 
-void XClient::focus(xcb_window_t window) {
-  const auto isFocused = [&] {
-    // Refused until the window manager has mapped the window.
-    if (isViewable(connection_.get(), window))
-      xcb_set_input_focus(connection_.get(), XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
-    return focusedWindow() == window && activeWindow() == window;
-  };
-  if (!eventually(isFocused)) throw std::runtime_error("our window did not get the focus");
+void XClient::askForFocus(xcb_window_t window) {
+  // A window manager that has only just come forgets requests to map a window.
+  if (!isViewable(connection_.get(), window)) {
+    xcb_map_window(connection_.get(), window);
+    return;
+  }
+  xcb_client_message_event_t message{};
+  message.response_type = XCB_CLIENT_MESSAGE;
+  message.format = 32;
+  message.window = window;
+  message.type = atom("_NET_ACTIVE_WINDOW");
+  message.data.data32[0] = 2;  // as a task bar asks
+  xcb_send_event(connection_.get(), 0, root_,
+                 XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                 reinterpret_cast<const char*>(&message));
+  sync();
 }
 
 xcb_window_t XClient::focusedWindow() const {
@@ -101,6 +113,10 @@ Rect XClient::frameOf(xcb_window_t window) const {
           static_cast<double>(reply->height)};
 }
 
+std::string XClient::titleOf(xcb_window_t window) const {
+  return textProperty(connection_.get(), window, XCB_ATOM_WM_NAME);
+}
+
 bool XClient::isOverrideRedirect(xcb_window_t window) const {
   const auto reply = owned(xcb_get_window_attributes_reply(
       connection_.get(), xcb_get_window_attributes(connection_.get(), window), nullptr));
@@ -133,6 +149,14 @@ void XClient::click(int x, int y) {
 void XClient::scrollDown(int x, int y) {
   movePointer(x, y);
   press(XCB_BUTTON_INDEX_5);
+}
+
+void XClient::becomeCompositor() {
+  const xcb_window_t window = xcb_generate_id(connection_.get());
+  xcb_create_window(connection_.get(), XCB_COPY_FROM_PARENT, window, root_, 0, 0, 1, 1, 0,
+                    XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
+  xcb_set_selection_owner(connection_.get(), window, atom("_NET_WM_CM_S0"), XCB_CURRENT_TIME);
+  sync();
 }
 
 void XClient::setDpi(int dpi) {

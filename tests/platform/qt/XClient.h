@@ -26,6 +26,7 @@ class XClient {
   std::optional<xcb_window_t> popup() const;
   /// In native pixels of the root window.
   Rect frameOf(xcb_window_t window) const;
+  std::string titleOf(xcb_window_t window) const;
   bool isOverrideRedirect(xcb_window_t window) const;
   /// Whether this pixel of the window belongs to its shape.
   bool isInShape(xcb_window_t window, int x, int y) const;
@@ -33,6 +34,8 @@ class XClient {
   void movePointer(int x, int y);
   void click(int x, int y);
   void scrollDown(int x, int y);
+  /// Says that windows are composed here, as long as this client lives.
+  void becomeCompositor();
   void setDpi(int dpi);
   void setRootNumbers(const std::string& property, const std::vector<std::uint32_t>& numbers);
 
@@ -41,7 +44,7 @@ class XClient {
     void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
   };
   xcb_atom_t atom(const std::string& name) const;
-  void focus(xcb_window_t window);
+  void askForFocus(xcb_window_t window);
   void press(std::uint8_t button);
   void sync() const;
 
