@@ -2,6 +2,7 @@
 #include <xkbcommon/xkbcommon-keysyms.h>
 
 #include "platform/KeyCodes.h"
+#include "platform/x11/Handles.h"
 #include "platform/x11/KeyTranslator.h"
 #include "platform/x11/KeyboardLayout.h"
 #include "support/desktop/PrivateDisplay.h"
