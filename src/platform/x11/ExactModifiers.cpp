@@ -24,6 +24,7 @@ void ExactModifiers::impose(const KeyboardLayout& layout, const TypedKey& wanted
   pressed_.clear();
   changedLocks_ = 0;
   groupChanged_ = false;
+  latchesChanged_ = false;
   if (sessionKeysDown(connection_)[wanted.code]) fake(XCB_KEY_RELEASE, wanted.code);
   before_ = keyboardState(connection_).value_or(KeyboardState{});
   const auto unwanted = static_cast<std::uint8_t>(before_.modifiers & ~wanted.modifiers);
@@ -60,10 +61,17 @@ void ExactModifiers::setLocks(const TypedKey& wanted, std::uint8_t missing) {
   changedLocks_ = missing | tooMany;
   groupChanged_ = wanted.group != before_.group;
   const auto latches = static_cast<std::uint8_t>(before_.latched & ~wanted.modifiers);
-  if (changedLocks_ == 0 && !groupChanged_ && latches == 0) return;
+  latchesChanged_ = latches != 0;
+  if (changedLocks_ == 0 && !groupChanged_ && !latchesChanged_) return;
   const int group = wanted.group - before_.baseGroup;
   xcb_xkb_latch_lock_state(connection_, XCB_XKB_ID_USE_CORE_KBD, changedLocks_, missing,
                            groupChanged_ ? 1 : 0, static_cast<std::uint8_t>(group), latches, 0, 0);
+}
+
+TypedKey ExactModifiers::withoutImposed(TypedKey key) const {
+  const bool changed =
+      !released_.empty() || !pressed_.empty() || changedLocks_ != 0 || groupChanged_ || latchesChanged_;
+  return changed ? TypedKey{key.code, before_.modifiers, before_.group} : key;
 }
 
 void ExactModifiers::restore() {

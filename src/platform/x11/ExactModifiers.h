@@ -33,6 +33,8 @@ class ExactModifiers {
 
   /// `wanted.code` is let go of as well, if it is down.
   void impose(const KeyboardLayout& layout, const TypedKey& wanted);
+  /// The key as it would have come without `impose`: a key of the user's that slips in has our modifiers.
+  TypedKey withoutImposed(TypedKey key) const;
   /// Undoes it. A modifier that the user has let go of in the meantime stays up.
   void restore();
   /// Lets go of the modifiers that were pressed for the user when the user's own key comes up.
@@ -56,6 +58,7 @@ class ExactModifiers {
   std::vector<std::uint8_t> pressed_;
   std::uint8_t changedLocks_ = 0;
   bool groupChanged_ = false;
+  bool latchesChanged_ = false;
   KeySet borrowed_;  ///< pressed by us because the user holds them on a keyboard of their own
 };
 

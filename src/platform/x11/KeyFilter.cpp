@@ -33,18 +33,18 @@ std::uint8_t modifiersOf(std::uint64_t flags, const ModifierBits& bits) {
 
 }  // namespace
 
-KeyFilter::KeyFilter(xcb_connection_t* connection, xcb_window_t root, TapControl& control, KeyJudge& judge)
-    : connection_(connection),
+KeyFilter::KeyFilter(const SessionKeyboard& keyboard, TapControl& control, KeyJudge& judge)
+    : keyboard_(keyboard),
       control_(control),
       judge_(judge),
-      events_(connection, root),
-      grabs_(connection, root),
-      synthetic_(connection, events_, [this](const TypedKey& key) { keep(key); }) {
+      events_(keyboard),
+      grabs_(keyboard),
+      synthetic_(keyboard, events_, [this](const TypedKey& key) { keep(key); }) {
   refreshLayout();
 }
 
 void KeyFilter::run() {
-  while (!control_.isStopping() && xcb_connection_has_error(connection_) == 0) {
+  while (!control_.isStopping() && xcb_connection_has_error(keyboard_.connection) == 0) {
     control_.clearWakeUp();
     while (const auto press = events_.next()) {
       takeNews();
@@ -54,8 +54,7 @@ void KeyFilter::run() {
     const bool news = takeNews();
     const bool settled = settle();
     const bool posted = carryOutPosts();
-    grabs_.holdChords();
-    xcb_flush(connection_);
+    xcb_flush(keyboard_.connection);
     if (!news && !settled && !posted) wait();
   }
   leave();
@@ -78,9 +77,9 @@ bool KeyFilter::takeNews() {
 
 // The server tells of a new mapping also when the user merely goes from one keyboard to another.
 void KeyFilter::refreshLayout() {
-  std::string fingerprint = KeyboardLayout::fingerprint(connection_);
+  std::string fingerprint = KeyboardLayout::fingerprint(keyboard_.connection);
   if (layout_ && fingerprint == fingerprint_) return;
-  auto layout = KeyboardLayout::read(connection_);
+  auto layout = KeyboardLayout::read(keyboard_.connection);
   if (!layout) {
     log("KeyFilter", "The server does not tell its keyboard mapping");
     return;
@@ -114,25 +113,37 @@ bool KeyFilter::holdBy(const TapSettings& settings) {
   if (wanted == Holding::nothing) grabs_.holdNothing();
   if (wanted == Holding::trigger) grabs_.holdTrigger();
   if (wanted == Holding::everything) {
-    const KeyboardState now = keyboardState(connection_).value_or(KeyboardState{});
+    const KeyboardState now = keyboardState(keyboard_.connection).value_or(KeyboardState{});
     grabs_.holdEverything(now.locked & layout_->bits().locks());
   }
   return true;
 }
 
 void KeyFilter::handle(const TypedKey& key) {
+  if (passesUnjudged(key)) {
+    keyboard_.replayHeldKey();
+    xcb_flush(keyboard_.connection);
+    return;
+  }
   const TapSettings settings = control_.settings();
   if (!kept_.empty() || (settings.isEnabled && settings.attention == KeyAttention::holdBack)) {
     keep(key);
-    swallowHeldKey(connection_);
+    keyboard_.swallowHeldKey();
   } else {
     const KeyVerdict verdict = decide(key);
     // What is held next has to be settled before this key is answered: the next one comes right behind it.
     holdBy(control_.settings());
-    verdict == KeyVerdict::pass ? replayHeldKey(connection_) : swallowHeldKey(connection_);
+    verdict == KeyVerdict::pass ? keyboard_.replayHeldKey() : keyboard_.swallowHeldKey();
   }
-  xcb_flush(connection_);
-  grabs_.holdChords();
+  xcb_flush(keyboard_.connection);
+}
+
+// What a modifier, a lock or a group switch does is done before the key is held: typing it again later would
+// do it twice.
+bool KeyFilter::passesUnjudged(const TypedKey& key) const {
+  if (!layout_) return true;
+  const xkb_keysym_t symbol = layout_->symbol(key);
+  return symbol == XKB_KEY_NoSymbol || isModifierSymbol(symbol) || isMediaSymbol(symbol);
 }
 
 void KeyFilter::keep(const TypedKey& key) {
@@ -202,7 +213,8 @@ bool KeyFilter::carryOutPosts() {
 }
 
 void KeyFilter::wait() {
-  pollfd sources[] = {{xcb_get_file_descriptor(connection_), POLLIN, 0}, {control_.wakeFd(), POLLIN, 0}};
+  pollfd sources[] = {{xcb_get_file_descriptor(keyboard_.connection), POLLIN, 0},
+                      {control_.wakeFd(), POLLIN, 0}};
   int timeout = -1;
   if (!kept_.empty()) {
     const auto left = keptSince_ + holdBackTime - Clock::now();
@@ -213,7 +225,7 @@ void KeyFilter::wait() {
 }
 
 void KeyFilter::leave() {
-  if (xcb_connection_has_error(connection_) != 0) {
+  if (xcb_connection_has_error(keyboard_.connection) != 0) {
     log("KeyFilter", "The X server has gone");
     return;
   }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <xcb/xcb.h>
-
 #include <chrono>
 #include <deque>
 #include <memory>
@@ -25,7 +23,7 @@ class KeyFilter {
   /// back. An insertion by pasting takes two seconds in the worst case.
   static constexpr std::chrono::seconds holdBackTime{5};
 
-  KeyFilter(xcb_connection_t* connection, xcb_window_t root, TapControl& control, KeyJudge& judge);
+  KeyFilter(const SessionKeyboard& keyboard, TapControl& control, KeyJudge& judge);
 
   /// Returns when the control says stop or the server has gone.
   void run();
@@ -43,6 +41,7 @@ class KeyFilter {
   bool holdBy(const TapSettings& settings);
   Holding wantedHolding(const TapSettings& settings) const;
   void handle(const TypedKey& key);
+  bool passesUnjudged(const TypedKey& key) const;
   void keep(const TypedKey& key);
   KeyVerdict decide(const TypedKey& key);
   KeyVerdict ask(const KeyEvent& event);
@@ -52,7 +51,7 @@ class KeyFilter {
   void wait();
   void leave();
 
-  xcb_connection_t* connection_;
+  SessionKeyboard keyboard_;
   TapControl& control_;
   KeyJudge& judge_;
   ServerEvents events_;

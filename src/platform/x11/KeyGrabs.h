@@ -1,12 +1,13 @@
 #pragma once
 
-#include <xcb/xcb.h>
-
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "platform/x11/KeyboardLayout.h"
+#include "platform/x11/OwnedCombinations.h"
+#include "platform/x11/SessionKeyboard.h"
 
 namespace tessarin::x11 {
 
@@ -14,44 +15,45 @@ namespace tessarin::x11 {
 /// before an answer that is given after it. One thread.
 class KeyGrabs {
  public:
-  KeyGrabs(xcb_connection_t* connection, xcb_window_t root) : connection_(connection), root_(root) {}
+  explicit KeyGrabs(const SessionKeyboard& keyboard)
+      : keyboard_(keyboard), owned_(keyboard.connection, keyboard.root) {}
 
   /// Lets go of everything and learns the keys anew.
   void setKeys(const KeyboardLayout& layout, const std::string& trigger);
-  /// Forgets which keys other programs own combinations of.
-  void forgetOwners();
+  /// Forgets which combinations other programs own.
+  void forgetOwners() { owned_.forget(); }
 
   void holdNothing();
   /// The trigger's keys, with the modifiers that produce it, and nothing else.
   void holdTrigger();
-  /// Every key that types. Where another program owns a combination, and for the trigger's keys, first the
-  /// combinations that type under these locked modifiers; the chords follow with `holdChords`.
+  /// Every key that types. Of a key that another program owns a combination of, and of the trigger's keys,
+  /// the combinations that matter under these locked modifiers, and none that has an owner.
   void holdEverything(std::uint8_t locks);
-  /// The rest of `holdEverything`, for after the key in hand has been answered.
-  void holdChords();
 
  private:
   enum class Level { nothing, trigger, everything };
+  using Modifiers = std::vector<std::uint32_t>;
 
-  void grab(const KeyCombination& combination);
-  void ungrab(std::uint8_t code, std::uint16_t modifiers);
+  void grab(std::uint8_t code, const Modifiers& modifiers);
+  void ungrab(std::uint8_t code, const Modifiers& modifiers);
+  void waitForGrabs();
   void grabWholeKeys();
-  void grabCombinations(const std::vector<std::uint8_t>& modifiers);
-  std::vector<std::uint8_t> typingModifiers() const;
-  std::vector<std::uint8_t> chordModifiers() const;
+  void grabCombinations();
+  /// Locks left out.
+  std::vector<std::uint8_t> modifiersThatMatter() const;
   void letGoOfEverything();
 
-  xcb_connection_t* connection_;
-  xcb_window_t root_;
+  SessionKeyboard keyboard_;
+  OwnedCombinations owned_;
   std::vector<std::uint8_t> typingKeys_;
   ModifierBits bits_;
-  std::vector<KeyCombination> trigger_;
-  std::set<std::uint8_t> triggerKeys_;
-  std::set<std::uint8_t> sharedKeys_;       ///< another program owns a combination
-  std::set<KeyCombination> besideTrigger_;  ///< of the trigger's keys, held while everything is
+  std::map<std::uint8_t, Modifiers> trigger_;        ///< by key code
+  std::map<std::uint8_t, Modifiers> besideTrigger_;  ///< of the trigger's keys, held while everything is
+  std::set<std::uint8_t> partlyHeld_;                ///< keys held by combinations, the trigger's apart
+  std::set<std::uint8_t> refused_;                   ///< keys that could not be held as a whole
+  std::vector<std::pair<std::uint8_t, unsigned>> asked_;
   Level level_ = Level::nothing;
   std::uint8_t locks_ = 0;
-  bool chordsPending_ = false;
 };
 
 }  // namespace tessarin::x11

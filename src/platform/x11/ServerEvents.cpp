@@ -23,8 +23,8 @@ xcb_atom_t intern(xcb_connection_t* connection, std::string_view name) {
 
 }  // namespace
 
-ServerEvents::ServerEvents(xcb_connection_t* connection, xcb_window_t root)
-    : connection_(connection), root_(root) {
+ServerEvents::ServerEvents(const SessionKeyboard& keyboard) : keyboard_(keyboard) {
+  xcb_connection_t* connection = keyboard.connection;
   announceXkb(connection);
   const Owned<xcb_input_xi_query_version_reply_t> input(
       xcb_input_xi_query_version_reply(connection, xcb_input_xi_query_version(connection, 2, 2), nullptr));
@@ -32,18 +32,8 @@ ServerEvents::ServerEvents(xcb_connection_t* connection, xcb_window_t root)
   if (const auto* data = xcb_get_extension_data(connection, &xcb_xkb_id)) xkbEvent_ = data->first_event;
   if (const auto* data = xcb_get_extension_data(connection, &xcb_input_id)) inputOpcode_ = data->major_opcode;
   const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
-  xcb_change_window_attributes(connection, root, XCB_CW_EVENT_MASK, &mask);
-  useWholeStateWhileHolding();
+  xcb_change_window_attributes(connection, keyboard.root, XCB_CW_EVENT_MASK, &mask);
   selectXkbEvents();
-}
-
-// Without this the group is missing in the events of held keys.
-void ServerEvents::useWholeStateWhileHolding() {
-  constexpr std::uint32_t flags =
-      XCB_XKB_PER_CLIENT_FLAG_GRABS_USE_XKB_STATE | XCB_XKB_PER_CLIENT_FLAG_LOOKUP_STATE_WHEN_GRABBED;
-  const Owned<xcb_xkb_per_client_flags_reply_t> reply(xcb_xkb_per_client_flags_reply(
-      connection_, xcb_xkb_per_client_flags(connection_, XCB_XKB_ID_USE_CORE_KBD, flags, flags, 0, 0, 0),
-      nullptr));
 }
 
 void ServerEvents::selectXkbEvents() {
@@ -54,13 +44,13 @@ void ServerEvents::selectXkbEvents() {
   xcb_xkb_select_events_details_t details{};
   details.affectState = XCB_XKB_STATE_PART_MODIFIER_LOCK;
   details.stateDetails = XCB_XKB_STATE_PART_MODIFIER_LOCK;
-  xcb_xkb_select_events_aux(connection_, XCB_XKB_ID_USE_CORE_KBD, whole | XCB_XKB_EVENT_TYPE_STATE_NOTIFY, 0,
-                            whole, maps, maps, &details);
+  xcb_xkb_select_events_aux(keyboard_.connection, XCB_XKB_ID_USE_CORE_KBD,
+                            whole | XCB_XKB_EVENT_TYPE_STATE_NOTIFY, 0, whole, maps, maps, &details);
 }
 
 void ServerEvents::sync() {
   const Owned<xcb_get_input_focus_reply_t> reply(
-      xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
+      xcb_get_input_focus_reply(keyboard_.connection, xcb_get_input_focus(keyboard_.connection), nullptr));
 }
 
 void ServerEvents::watchReleases(bool watched) {
@@ -69,15 +59,21 @@ void ServerEvents::watchReleases(bool watched) {
     std::uint32_t mask;
   } selection{{XCB_INPUT_DEVICE_ALL, 1},
               watched ? std::uint32_t{XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE} : 0U};
-  xcb_input_xi_select_events(connection_, root_, 1, &selection.header);
+  xcb_input_xi_select_events(keyboard_.connection, keyboard_.root, 1, &selection.header);
+}
+
+std::optional<HeldPress> ServerEvents::heldPress(const xcb_generic_event_t& event) const {
+  if (event.response_type != XCB_GE_GENERIC) return std::nullopt;
+  const auto& press = reinterpret_cast<const xcb_input_key_press_event_t&>(event);
+  if (press.extension != inputOpcode_ || press.event_type != XCB_INPUT_KEY_PRESS) return std::nullopt;
+  return HeldPress{{static_cast<std::uint8_t>(press.detail), static_cast<std::uint8_t>(press.mods.effective),
+                    press.group.effective},
+                   press.full_sequence};
 }
 
 std::optional<HeldPress> ServerEvents::pick(xcb_generic_event_t* (*poll)(xcb_connection_t*)) {
-  while (const Owned<xcb_generic_event_t> event{poll(connection_)}) {
-    if (event->response_type == XCB_KEY_PRESS) {
-      const auto& press = reinterpret_cast<const xcb_key_press_event_t&>(*event);
-      return HeldPress{TypedKey::of(press.detail, press.state), event->full_sequence};
-    }
+  while (const Owned<xcb_generic_event_t> event{poll(keyboard_.connection)}) {
+    if (const auto press = heldPress(*event)) return press;
     note(*event);
   }
   return std::nullopt;
@@ -85,7 +81,10 @@ std::optional<HeldPress> ServerEvents::pick(xcb_generic_event_t* (*poll)(xcb_con
 
 void ServerEvents::note(const xcb_generic_event_t& event) {
   const std::uint8_t type = event.response_type & ~sentBit;
-  if (type == XCB_MAPPING_NOTIFY) {
+  if (event.response_type == XCB_KEY_PRESS) {
+    // Held by a probe for combinations that others own.
+    xcb_allow_events(keyboard_.connection, XCB_ALLOW_REPLAY_KEYBOARD, XCB_CURRENT_TIME);
+  } else if (type == XCB_MAPPING_NOTIFY) {
     layoutChanged_ = true;
   } else if (type == XCB_PROPERTY_NOTIFY) {
     managerChanged_ |= reinterpret_cast<const xcb_property_notify_event_t&>(event).atom == managerAtom_;

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/x11/SessionKeyboard.h"
 #include "platform/x11/TypedKey.h"
 
 namespace tessarin::x11 {
@@ -22,7 +23,7 @@ struct HeldPress {
 class ServerEvents {
  public:
   /// Announces XKB and asks for the events that tell of another mapping, lock or window manager.
-  ServerEvents(xcb_connection_t* connection, xcb_window_t root);
+  explicit ServerEvents(const SessionKeyboard& keyboard);
 
   /// The next held press that has come, without waiting.
   std::optional<HeldPress> next() { return pick(&xcb_poll_for_event); }
@@ -40,14 +41,13 @@ class ServerEvents {
   void watchReleases(bool watched);
 
  private:
+  std::optional<HeldPress> heldPress(const xcb_generic_event_t& event) const;
   std::optional<HeldPress> pick(xcb_generic_event_t* (*poll)(xcb_connection_t*));
   void note(const xcb_generic_event_t& event);
   void noteXkb(const xcb_generic_event_t& event);
-  void useWholeStateWhileHolding();
   void selectXkbEvents();
 
-  xcb_connection_t* connection_;
-  xcb_window_t root_;
+  SessionKeyboard keyboard_;
   xcb_atom_t managerAtom_ = XCB_ATOM_NONE;
   std::uint8_t xkbEvent_ = 0;
   std::uint8_t inputOpcode_ = 0;

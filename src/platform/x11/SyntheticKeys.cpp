@@ -26,19 +26,9 @@ bool isBefore(std::uint32_t a, std::uint32_t b) {
 
 }  // namespace
 
-void replayHeldKey(xcb_connection_t* connection) {
-  xcb_allow_events(connection, XCB_ALLOW_REPLAY_KEYBOARD, XCB_CURRENT_TIME);
-}
-
-// Not AsyncKeyboard: that would hand us, unfrozen, the keys that wait behind this one, because the grab goes
-// on until the key is released.
-void swallowHeldKey(xcb_connection_t* connection) {
-  xcb_ungrab_keyboard(connection, XCB_CURRENT_TIME);
-}
-
-void SyntheticKeys::keep(const HeldPress& press) {
-  keep_(press.key);
-  swallowHeldKey(connection_);
+void SyntheticKeys::keep(const TypedKey& key) {
+  keep_(key);
+  keyboard_.swallowHeldKey();
 }
 
 void SyntheticKeys::takeIn() {
@@ -46,14 +36,14 @@ void SyntheticKeys::takeIn() {
     came = false;
     events_.sync();
     while (const auto press = events_.nextRead()) {
-      keep(*press);
+      keep(press->key);
       came = true;
     }
   }
 }
 
 void SyntheticKeys::type(const KeyboardLayout& layout, const TypedKey& key) {
-  const ServerGrab grab(connection_);
+  const ServerGrab grab(keyboard_.connection);
   takeIn();
   modifiers_.impose(layout, key);
   pressAndLetBy(key);
@@ -61,7 +51,7 @@ void SyntheticKeys::type(const KeyboardLayout& layout, const TypedKey& key) {
 }
 
 void SyntheticKeys::typeChord(const KeyboardLayout& layout, xkb_keysym_t symbol, std::uint8_t modifiers) {
-  const KeyboardState now = keyboardState(connection_).value_or(KeyboardState{});
+  const KeyboardState now = keyboardState(keyboard_.connection).value_or(KeyboardState{});
   const auto code = layout.keyFor(symbol, now.group);
   if (!code) return;
   const auto locks = static_cast<std::uint8_t>(now.locked & layout.bits().locks());
@@ -73,8 +63,8 @@ void SyntheticKeys::typeChord(const KeyboardLayout& layout, xkb_keysym_t symbol,
 // that change places there leave the same text.
 void SyntheticKeys::pressAndLetBy(const TypedKey& key) {
   const auto request =
-      xcb_test_fake_input(connection_, XCB_KEY_PRESS, key.code, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
-  xcb_test_fake_input(connection_, XCB_KEY_RELEASE, key.code, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
+      xcb_test_fake_input(keyboard_.connection, XCB_KEY_PRESS, key.code, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
+  xcb_test_fake_input(keyboard_.connection, XCB_KEY_RELEASE, key.code, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
   bool passed = false;
   for (bool came = true; came;) {
     came = false;
@@ -84,10 +74,10 @@ void SyntheticKeys::pressAndLetBy(const TypedKey& key) {
       const bool isOurs = !passed && !isBefore(press->sequence, request.sequence) &&
                           (press->sequence == request.sequence || press->key == key);
       if (isOurs) {
-        replayHeldKey(connection_);
+        keyboard_.replayHeldKey();
         passed = true;
       } else {
-        keep(*press);
+        keep(modifiers_.withoutImposed(press->key));
       }
     }
   }

@@ -20,8 +20,11 @@ class SyntheticKeys {
   /// `keep` takes over a key of the user's that came in between; it is swallowed afterwards.
   using Keep = std::function<void(const TypedKey&)>;
 
-  SyntheticKeys(xcb_connection_t* connection, ServerEvents& events, Keep keep)
-      : connection_(connection), events_(events), keep_(std::move(keep)), modifiers_(connection, events) {}
+  SyntheticKeys(const SessionKeyboard& keyboard, ServerEvents& events, Keep keep)
+      : keyboard_(keyboard),
+        events_(events),
+        keep_(std::move(keep)),
+        modifiers_(keyboard.connection, events) {}
 
   /// Presses and releases the key. It has passed our own grabs when this returns. No key is held before the
   /// call.
@@ -36,17 +39,12 @@ class SyntheticKeys {
  private:
   void takeIn();
   void pressAndLetBy(const TypedKey& key);
-  void keep(const HeldPress& press);
+  void keep(const TypedKey& key);
 
-  xcb_connection_t* connection_;
+  SessionKeyboard keyboard_;
   ServerEvents& events_;
   Keep keep_;
   ExactModifiers modifiers_;
 };
-
-/// Answers the key that is held: lets the focused window have it.
-void replayHeldKey(xcb_connection_t* connection);
-/// Answers the key that is held: nobody gets it.
-void swallowHeldKey(xcb_connection_t* connection);
 
 }  // namespace tessarin::x11

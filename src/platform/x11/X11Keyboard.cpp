@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "platform/x11/KeyFilter.h"
+#include "platform/x11/SessionKeyboard.h"
 #include "platform/x11/XkbProtocol.h"
 
 namespace tessarin::x11 {
@@ -61,9 +62,9 @@ bool X11Keyboard::start() {
   int screen = 0;
   connection_.reset(xcb_connect(display_.empty() ? nullptr : display_.c_str(), &screen));
   if (!canTapKeys(connection_.get())) return false;
-  thread_ = std::thread([this, connection = connection_.get(), root = rootOf(connection_.get(), screen)] {
-    KeyFilter(connection, root, control_, judge_).run();
-  });
+  const auto keyboard = SessionKeyboard::find(connection_.get(), rootOf(connection_.get(), screen));
+  if (!keyboard) return false;
+  thread_ = std::thread([this, keyboard = *keyboard] { KeyFilter(keyboard, control_, judge_).run(); });
   return true;
 }
 

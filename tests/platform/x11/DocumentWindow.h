@@ -25,6 +25,8 @@ class DocumentWindow {
 
   int presses() const { return presses_; }
   int releases() const { return releases_; }
+  /// How often a grab took the keyboard away from the window.
+  int grabs() const { return grabs_; }
   int pastes() const { return pastes_; }
   std::string clipboard;
 
@@ -42,6 +44,7 @@ class DocumentWindow {
   int presses_ = 0;
   int releases_ = 0;
   int pastes_ = 0;
+  int grabs_ = 0;
 };
 
 }  // namespace tessarin::testing

@@ -23,11 +23,13 @@ void TapFixture::start(const std::vector<std::string>& layout, bool withManager)
   ASSERT_TRUE(tap->create([this](const KeyEvent& event) { return judge(event); }));
   attend(KeyAttention::triggerOnly);
   tap->setEnabled(true);
-  waitUntilHeld();
+  waitUntilWatching();
 }
 
 // A trigger that is seen shows that the thread is at work.
-void TapFixture::waitUntilHeld() {
+void TapFixture::waitUntilWatching() {
+  document->text();
+  document->clear();
   int typed = 0;
   while (seen.empty()) {
     ASSERT_LT(typed, 200);
@@ -46,12 +48,23 @@ void TapFixture::attend(KeyAttention attention) {
   tap->setAttention(attention, trigger);
 }
 
+void TapFixture::holdBack() {
+  holdNext_ = true;
+  typist->type(trigger);
+  ASSERT_TRUE(queue.runUntil([this] { return document->text() == trigger; }));
+  document->clear();
+}
+
 KeyVerdict TapFixture::judge(const KeyEvent& event) {
   if (event.kind == KeyEventKind::disabledByTimeout) {
     ++timeOuts;
     collecting_ = false;
     attend(KeyAttention::triggerOnly);
     tap->setEnabled(true);
+    return KeyVerdict::pass;
+  }
+  if (std::exchange(holdNext_, false)) {
+    attend(KeyAttention::holdBack);
     return KeyVerdict::pass;
   }
   seen.push_back(event);

@@ -31,7 +31,11 @@ class TapFixture : public ::testing::Test {
   /// Waits until the document is as expected and everything typed has been dealt with.
   void expectDocument(const std::string& expected);
   KeyVerdict judge(const KeyEvent& event);
+  /// Types triggers until one is seen, and leaves an empty document.
+  void waitUntilWatching();
   void attend(KeyAttention attention);
+  /// Types a trigger and answers it with holding back, so that every key typed after this is kept.
+  void holdBack();
 
   PrivateDisplay display;
   LiveMainQueue queue;
@@ -51,8 +55,8 @@ class TapFixture : public ::testing::Test {
  private:
   void insert();
   void finishWhenPasted(int pastes);
-  void waitUntilHeld();
 
+  bool holdNext_ = false;
   bool collecting_ = false;
   int typed_ = 0;
 };

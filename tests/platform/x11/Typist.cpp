@@ -57,6 +57,11 @@ void Typist::lock(std::uint8_t group, std::uint8_t modifiers) {
   sync();
 }
 
+void Typist::switchGroup(std::uint8_t group) {
+  if (group != group_) tap(XKB_KEY_ISO_Next_Group);
+  group_ = group;
+}
+
 void Typist::sync() {
   xcb_connection_t* c = connection_.get();
   const x11::Owned<xcb_get_input_focus_reply_t> reply(

@@ -28,6 +28,8 @@ class Typist {
   void sync();
   /// After a change of the mapping.
   void readLayout();
+  /// By the key that goes to the next of two groups, so in order with the other keys.
+  void switchGroup(std::uint8_t group);
   /// Locks a layout group and modifiers, as a layout switcher and the lock keys do.
   void lock(std::uint8_t group, std::uint8_t modifiers = 0);
 

@@ -15,9 +15,11 @@ TEST_F(X11EventTapLayoutTest, FindsTheTriggerInEachGroup) {
   typist->lock(1);
   typist->type(":привет\nя ");
   expectDocument("😀😀я ");
+  typist->type(":при ");
+  expectDocument("😀😀я :при ");
   typist->lock(0);
   typist->type("^:ab\n");
-  expectDocument("😀😀я ^😀");
+  expectDocument("😀😀я :при ^😀");
 }
 
 TEST_F(X11EventTapLayoutTest, FollowsANewMapping) {
@@ -26,8 +28,8 @@ TEST_F(X11EventTapLayoutTest, FollowsANewMapping) {
   expectDocument("😀");
   for (const char* layout : {"fr", "de", "us"}) {
     setLayout({layout});
-    document->clear();
     typist->readLayout();
+    waitUntilWatching();
     for (int i = 0; i < 5; ++i) typist->type("a:qzy\nm ");
     expectDocument("a😀m a😀m a😀m a😀m a😀m ");
   }

@@ -26,6 +26,55 @@ TEST_F(X11EventTapTest, SeesNothingButTheTriggerWhileIdle) {
   EXPECT_EQ(seen[0].flags, keyflag::shift);
 }
 
+TEST_F(X11EventTapTest, HoldsNothingButTheTriggerWhileIdle) {
+  start({"us"}, true);
+  typist->type("a:eE;\n ");
+  expectDocument("a😀 ");
+  const int before = document->grabs();
+  EXPECT_GT(before, 0);
+  typist->type("hello; World 123\n;e");
+  typist->press(XKB_KEY_Control_L);
+  typist->tap(XKB_KEY_e);
+  typist->tap(XKB_KEY_semicolon);
+  typist->release(XKB_KEY_Control_L);
+  expectDocument("a😀 hello; World 123\n;e<Control-e><Control-semicolon>");
+  EXPECT_EQ(document->grabs(), before);
+}
+
+TEST_F(X11EventTapTest, LeavesAWindowManagerItsCombinations) {
+  start();
+  // It reserves a combination with the letter o and then says that it manages the display.
+  const x11::Connection other(xcb_connect(display.name().c_str(), nullptr));
+  const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(other.get())).data->root;
+  xcb_grab_key(other.get(), 0, root, XCB_MOD_MASK_4, 32, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+  const x11::Owned<xcb_intern_atom_reply_t> check(xcb_intern_atom_reply(
+      other.get(), xcb_intern_atom(other.get(), 0, 24, "_NET_SUPPORTING_WM_CHECK"), nullptr));
+  xcb_change_property(other.get(), XCB_PROP_MODE_REPLACE, root, check->atom, XCB_ATOM_WINDOW, 32, 1, &root);
+  xcb_flush(other.get());
+  typist->type("a");
+  expectDocument("a");
+  document->clear();
+  typist->type(":oO");
+  expectDocument(":oO");
+  typist->press(XKB_KEY_Super_L);
+  typist->tap(XKB_KEY_o);
+  typist->release(XKB_KEY_Super_L);
+  typist->sync();
+  int got = 0;
+  EXPECT_TRUE(queue.runUntil([&] {
+    while (const x11::Owned<xcb_generic_event_t> event{xcb_poll_for_event(other.get())}) {
+      got += event->response_type == XCB_KEY_PRESS ? 1 : 0;
+    }
+    return got == 1;
+  }));
+  typist->press(XKB_KEY_Control_L);
+  typist->tap(XKB_KEY_o);
+  typist->release(XKB_KEY_Control_L);
+  expectDocument(":oO<Control-o>");
+  ASSERT_EQ(seen.size(), 4U);
+  EXPECT_EQ(seen[3].flags, keyflag::control);
+}
+
 TEST_F(X11EventTapTest, HoldsEveryKeyBehindTheTriggerAtAnySpeed) {
   start();
   for (int i = 0; i < 200; ++i) typist->type("a:smile\nb ");
@@ -70,6 +119,7 @@ TEST_F(X11EventTapTest, LetsTheWindowManagerComeAndGo) {
   typist->type(":e\ne");
   expectDocument("😀😀e");
   display.stopWindowManager();
+  document->takeFocus();
   typist->type(":e\ne");
   expectDocument("😀😀e😀e");
 }
@@ -128,7 +178,7 @@ TEST_F(X11EventTapTest, SeesAndPassesAutoRepeat) {
 TEST_F(X11EventTapTest, KeepsAutoRepeatBehindAnInsertion) {
   start();
   ASSERT_EQ(display.run({"xset", "r", "rate", "120", "100"}), 0);
-  attend(KeyAttention::holdBack);
+  holdBack();
   typist->press(XKB_KEY_o);
   queue.runUntil([] { return false; }, std::chrono::milliseconds(300));
   typist->release(XKB_KEY_o);
@@ -144,7 +194,7 @@ TEST_F(X11EventTapTest, KeepsAutoRepeatBehindAnInsertion) {
 
 TEST_F(X11EventTapTest, JudgesKeptKeysInOrderAsIfTypedJustThen) {
   start();
-  attend(KeyAttention::holdBack);
+  holdBack();
   typist->type("x:smile\ny:ab\nz");
   queue.runUntil([] { return false; }, std::chrono::milliseconds(50));
   EXPECT_TRUE(seen.empty());
@@ -157,7 +207,7 @@ TEST_F(X11EventTapTest, JudgesKeptKeysInOrderAsIfTypedJustThen) {
 
 TEST_F(X11EventTapTest, PassesKeptKeysOnWhenItIsDestroyed) {
   start();
-  attend(KeyAttention::holdBack);
+  holdBack();
   typist->type("x:smile\nY");
   typist->sync();
   queue.runUntil([] { return false; }, std::chrono::milliseconds(50));
@@ -171,7 +221,7 @@ TEST_F(X11EventTapTest, PassesKeptKeysOnWhenItIsDestroyed) {
 
 TEST_F(X11EventTapTest, PassesKeptKeysOnWhenTheThreadEnds) {
   start();
-  attend(KeyAttention::holdBack);
+  holdBack();
   typist->type("x:Ab");
   typist->sync();
   queue.runUntil([] { return false; }, std::chrono::milliseconds(50));

@@ -63,7 +63,7 @@ TEST_F(X11EventTapTimeOutTest, GivesUpOnAHandlerThatHangs) {
 
 TEST_F(X11EventTapTimeOutTest, PassesKeptKeysOnWhenTheMainThreadHangs) {
   start();
-  attend(KeyAttention::holdBack);
+  holdBack();
   typist->type("x:ab\n");
   queue.runUntil([] { return false; }, 50ms);
   EXPECT_EQ(document->text(), "");
