@@ -1,89 +1,142 @@
 #include "ui/EmojiFont.h"
 
-#include <unicode/uchar.h>
+#include <fontconfig/fontconfig.h>
+#include <ft2build.h>
+#include <sys/mman.h>
+#include FT_FREETYPE_H
 
 #include <QGlyphRun>
 #include <QTextLayout>
 #include <algorithm>
 
-#include "text/Graphemes.h"
-#include "ui/PopupTheme.h"
+#include "ui/EmojiText.h"
 
-namespace tessarin::ui::emoji {
+namespace tessarin::ui {
 namespace {
 
+/// Pixels; of no account for shaping, and for fonts that have outlines instead of pictures.
+constexpr int shapedSize = 16;
+constexpr FT_UInt outlineSize = 128;
 constexpr char16_t emojiSelector = 0xFE0F;
-constexpr char16_t keyCap = 0x20E3;
 
-bool asksForPicture(char32_t codePoint) {
-  return codePoint == emojiSelector || codePoint == keyCap ||
-         u_hasBinaryProperty(static_cast<UChar32>(codePoint), UCHAR_EMOJI_PRESENTATION) ||
-         (codePoint >= 0x1F000 &&
-          u_hasBinaryProperty(static_cast<UChar32>(codePoint), UCHAR_EXTENDED_PICTOGRAPHIC));
-}
-
-bool isPicture(const QString& character) {
-  return std::ranges::any_of(character.toUcs4(), asksForPicture);
-}
-
-template <class Predicate>
-bool allCharacters(const QString& text, Predicate predicate) {
-  std::string rest = text.toStdString();
-  while (!rest.empty()) {
-    const std::string character = text::firstCharacter(rest);
-    if (!predicate(QString::fromStdString(character))) return false;
-    rest.erase(0, character.size());
-  }
-  return true;
-}
-
-struct Shaped {
-  int visible = 0;  ///< glyphs that take room
-  bool hasMissing = false;
+struct DestroyPattern {
+  void operator()(FcPattern* pattern) const { FcPatternDestroy(pattern); }
 };
+using Pattern = std::unique_ptr<FcPattern, DestroyPattern>;
 
-Shaped shape(const QString& text, const QFont& font) {
-  QTextLayout layout(text, font);
-  layout.beginLayout();
-  layout.createLine();
-  layout.endLayout();
-  Shaped shaped;
-  for (const QGlyphRun& run : layout.glyphRuns()) {
-    const auto indexes = run.glyphIndexes();
-    const auto advances = run.rawFont().advancesForGlyphIndexes(indexes);
-    for (qsizetype i = 0; i < indexes.size(); ++i) {
-      shaped.hasMissing |= indexes[i] == 0;
-      shaped.visible += advances[i].x() > 0 ? 1 : 0;
-    }
+/// The file of the font that stands for emoji; empty when that is not in colour.
+QString findFont() {
+  const Pattern wanted(FcPatternCreate());
+  FcPatternAddString(wanted.get(), FC_FAMILY, reinterpret_cast<const FcChar8*>("emoji"));
+  FcPatternAddBool(wanted.get(), FC_COLOR, FcTrue);
+  FcConfigSubstitute(nullptr, wanted.get(), FcMatchPattern);
+  FcDefaultSubstitute(wanted.get());
+  FcResult result = FcResultNoMatch;
+  const Pattern found(FcFontMatch(nullptr, wanted.get(), &result));
+  FcBool isInColour = FcFalse;
+  FcChar8* path = nullptr;
+  if (!found || FcPatternGetBool(found.get(), FC_COLOR, 0, &isInColour) != FcResultMatch || !isInColour ||
+      FcPatternGetString(found.get(), FC_FILE, 0, &path) != FcResultMatch)
+    return {};
+  return QString::fromLocal8Bit(reinterpret_cast<const char*>(path));
+}
+
+/// The font's sequences are written without variation selectors.
+QString withoutSelectors(const QString& text) {
+  return QString(text).remove(emojiSelector);
+}
+
+/// The largest of the sizes that the font has pictures in.
+bool selectSize(FT_Face face) {
+  if (!FT_HAS_FIXED_SIZES(face)) return FT_Set_Pixel_Sizes(face, 0, outlineSize) == 0;
+  FT_Int largest = 0;
+  for (FT_Int i = 1; i < face->num_fixed_sizes; ++i) {
+    if (face->available_sizes[i].height > face->available_sizes[largest].height) largest = i;
   }
-  return shaped;
+  return FT_Select_Size(face, largest) == 0;
 }
 
 }  // namespace
 
-bool isEmoji(const QString& text) {
-  return !text.isEmpty() && allCharacters(text, isPicture);
+void EmojiFont::Destroy::operator()(FT_LibraryRec_* library) const {
+  FT_Done_FreeType(library);
 }
 
-QString pictureText(const QString& text) {
-  QString plain = text;
-  return plain.remove(emojiSelector);
+void EmojiFont::Destroy::operator()(FT_FaceRec_* face) const {
+  FT_Done_Face(face);
 }
 
-QFont font(int size) {
-  QFont font;
-  font.setFamilies({QStringLiteral("Noto Color Emoji"), QStringLiteral("emoji")});
-  font.setPixelSize(size);
-  return font;
+bool EmojiFont::canDraw(const QString& text) {
+  return open() && std::ranges::all_of(charactersOf(text),
+                                       [this](const QString& character) { return glyphOf(character) != 0; });
 }
 
-bool hasGlyphs(const QString& text) {
-  constexpr int anySize = 12;
-  if (!isEmoji(text)) return !shape(text, fonts::system(anySize)).hasMissing;
-  return allCharacters(text, [](const QString& character) {
-    const Shaped shaped = shape(pictureText(character), font(anySize));
-    return !shaped.hasMissing && shaped.visible == 1;
-  });
+QList<QImage> EmojiFont::pictures(const QString& text) {
+  if (!open()) return {};
+  QList<QImage> found;
+  for (const QString& character : charactersOf(text)) {
+    const quint32 glyph = glyphOf(character);
+    const QImage image = glyph != 0 ? picture(glyph) : QImage();
+    if (image.isNull()) return {};
+    found << image;
+  }
+  return found;
 }
 
-}  // namespace tessarin::ui::emoji
+void EmojiFont::rest() {
+  if (bytes_ != nullptr) madvise(bytes_, static_cast<std::size_t>(file_.size()), MADV_DONTNEED);
+}
+
+bool EmojiFont::open() {
+  if (!isTried_) isOpen_ = mapFile() && openShaper() && openFace();
+  isTried_ = true;
+  return isOpen_;
+}
+
+bool EmojiFont::mapFile() {
+  file_.setFileName(findFont());
+  if (file_.fileName().isEmpty() || !file_.open(QIODevice::ReadOnly)) return false;
+  bytes_ = file_.map(0, file_.size());
+  return bytes_ != nullptr;
+}
+
+bool EmojiFont::openShaper() {
+  shaper_.loadFromData(QByteArray::fromRawData(reinterpret_cast<const char*>(bytes_), file_.size()),
+                       shapedSize, QFont::PreferDefaultHinting);
+  return shaper_.isValid();
+}
+
+bool EmojiFont::openFace() {
+  FT_Library library = nullptr;
+  if (FT_Init_FreeType(&library) != 0) return false;
+  library_.reset(library);
+  FT_Face face = nullptr;
+  if (FT_New_Memory_Face(library, bytes_, static_cast<FT_Long>(file_.size()), 0, &face) != 0) return false;
+  face_.reset(face);
+  return selectSize(face);
+}
+
+quint32 EmojiFont::glyphOf(const QString& character) const {
+  const QString plain = withoutSelectors(character);
+  const auto codePoints = plain.toUcs4();
+  if (codePoints.size() == 1) return FT_Get_Char_Index(face_.get(), codePoints.first());
+  QTextLayout layout(plain);
+  layout.setRawFont(shaper_);
+  layout.beginLayout();
+  layout.createLine();
+  layout.endLayout();
+  QList<quint32> glyphs;
+  for (const QGlyphRun& run : layout.glyphRuns()) glyphs << run.glyphIndexes();
+  return glyphs.size() == 1 ? glyphs.first() : 0;
+}
+
+QImage EmojiFont::picture(quint32 glyph) const {
+  if (FT_Load_Glyph(face_.get(), glyph, FT_LOAD_COLOR | FT_LOAD_RENDER) != 0) return {};
+  const FT_Bitmap& bitmap = face_->glyph->bitmap;
+  if (bitmap.pixel_mode != FT_PIXEL_MODE_BGRA || bitmap.pitch <= 0) return {};
+  return QImage(bitmap.buffer, static_cast<int>(bitmap.width), static_cast<int>(bitmap.rows), bitmap.pitch,
+                QImage::Format_ARGB32_Premultiplied)
+      .copy();
+}
+
+}  // namespace tessarin::ui

@@ -1,19 +1,49 @@
 #pragma once
 
-#include <QFont>
+#include <QFile>
+#include <QImage>
+#include <QList>
+#include <QRawFont>
 #include <QString>
+#include <memory>
 
-namespace tessarin::ui::emoji {
+struct FT_FaceRec_;
+struct FT_LibraryRec_;
 
-/// Whether every character of the text asks for a picture: it has a code point that is shown as emoji by
-/// itself, or one that is made so by a variation selector or a key cap.
-bool isEmoji(const QString& text);
-/// The text as the colour font wants it: without variation selectors, which would break up its sequences.
-QString pictureText(const QString& text);
-/// The installed colour font. Sizes are points of the picture.
-QFont font(int size);
-/// Whether each character has a glyph: one of its own in the colour font when the text is emoji (a sequence
-/// that falls apart into several pictures has not), else any in any font.
-bool hasGlyphs(const QString& text);
+namespace tessarin::ui {
 
-}  // namespace tessarin::ui::emoji
+/// The desktop's colour font, read from its file, which is mapped once. Drawing with the toolkit would keep
+/// every picture that was ever drawn.
+class EmojiFont {
+ public:
+  /// Whether there is a colour font and it has one glyph of its own for every character of the text; a
+  /// sequence that falls apart into several pictures has not.
+  bool canDraw(const QString& text);
+  /// One picture for each character, in the size that the font has them in. Empty when one is missing.
+  QList<QImage> pictures(const QString& text);
+  /// Lets go of the pages of the file that have been read; they are read again when they are needed.
+  void rest();
+
+ private:
+  struct Destroy {
+    void operator()(FT_LibraryRec_* library) const;
+    void operator()(FT_FaceRec_* face) const;
+  };
+  bool open();
+  bool mapFile();
+  bool openShaper();
+  bool openFace();
+  /// The one glyph that the font draws for this character; 0 when there is none, or more than one.
+  quint32 glyphOf(const QString& character) const;
+  QImage picture(quint32 glyph) const;
+
+  bool isTried_ = false;
+  bool isOpen_ = false;
+  QFile file_;
+  uchar* bytes_ = nullptr;  ///< the file, mapped
+  QRawFont shaper_;
+  std::unique_ptr<FT_LibraryRec_, Destroy> library_;
+  std::unique_ptr<FT_FaceRec_, Destroy> face_;
+};
+
+}  // namespace tessarin::ui

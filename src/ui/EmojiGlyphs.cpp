@@ -1,12 +1,14 @@
 #include "ui/EmojiGlyphs.h"
 
 #include <QFontMetricsF>
+#include <QGlyphRun>
 #include <QPainter>
 #include <QTextLayout>
+#include <algorithm>
 #include <cmath>
 
 #include "text/Graphemes.h"
-#include "ui/EmojiFont.h"
+#include "ui/EmojiText.h"
 #include "ui/PopupTheme.h"
 
 namespace tessarin::ui {
@@ -62,6 +64,33 @@ void drawText(QPainter& painter, const QRectF& frame, const QString& text, const
   }
 }
 
+/// Side by side in the middle of the frame, `height` high unless that is too wide.
+void drawPictures(QPainter& painter, const QRectF& frame, const QList<QImage>& pictures, double height) {
+  double width = 0;
+  for (const QImage& picture : pictures) width += height * picture.width() / picture.height();
+  const double shrink = std::min(1.0, frame.width() / width);
+  const double ratio = painter.device()->devicePixelRatio();
+  double x = frame.center().x() - width * shrink / 2;
+  for (const QImage& picture : pictures) {
+    const auto pixels = static_cast<int>(std::lround(height * shrink * ratio));
+    QImage small = picture.scaledToHeight(pixels, Qt::SmoothTransformation);
+    small.setDevicePixelRatio(ratio);
+    const QSizeF size = small.deviceIndependentSize();
+    const double y = frame.center().y() - size.height() / 2;
+    painter.drawImage(QPointF(std::round(x * ratio) / ratio, std::round(y * ratio) / ratio), small);
+    x += size.width();
+  }
+}
+
+bool hasGlyphs(const QString& text) {
+  QTextLayout layout(text, fonts::system(12));
+  layout.beginLayout();
+  layout.createLine();
+  layout.endLayout();
+  return std::ranges::none_of(layout.glyphRuns(),
+                              [](const QGlyphRun& run) { return run.glyphIndexes().contains(0U); });
+}
+
 void drawTile(QPainter& painter, const QRectF& frame, const QStringList& lines, const QColor& color) {
   const double side = std::min(frame.width(), frame.height()) * tileSide;
   QRectF tile(0, 0, side, side);
@@ -99,32 +128,31 @@ void EmojiGlyphs::draw(QPainter& painter, const QRectF& frame, const QString& te
                        const QColor& color) {
   const double ratio = painter.device()->devicePixelRatio() * painter.transform().m11();
   const QString key = cacheKey(text, size, color, frame.size(), ratio);
-  QImage* image = cache_.object(key);
-  if (image == nullptr) {
-    image = new QImage(render(text, size, color, frame.size(), ratio));
-    const QImage copy = *image;
-    cache_.insert(key, image, copy.sizeInBytes());
-    painter.drawImage(frame.topLeft(), copy);
+  if (const QImage* kept = cache_.object(key)) {
+    painter.drawImage(frame.topLeft(), *kept);
     return;
   }
-  painter.drawImage(frame.topLeft(), *image);
+  const QImage image = render(text, size, color, frame.size(), ratio);
+  painter.drawImage(frame.topLeft(), image);
+  cache_.insert(key, new QImage(image), image.sizeInBytes());
 }
 
-QImage EmojiGlyphs::render(const QString& text, int size, const QColor& color, QSizeF side,
+QImage EmojiGlyphs::render(const QString& text, int size, const QColor& color, QSizeF frameSize,
                            double pixelRatio) {
-  QImage image(std::lround(side.width() * pixelRatio), std::lround(side.height() * pixelRatio),
+  QImage image(static_cast<int>(std::lround(frameSize.width() * pixelRatio)),
+               static_cast<int>(std::lround(frameSize.height() * pixelRatio)),
                QImage::Format_ARGB32_Premultiplied);
   image.setDevicePixelRatio(pixelRatio);
   image.fill(Qt::transparent);
   QPainter painter(&image);
-  painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
-                         QPainter::SmoothPixmapTransform);
-  const QRectF frame(QPointF(0, 0), side);
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
   painter.setPen(color);
-  if (needsTile(text)) {
+  const QRectF frame(QPointF(0, 0), frameSize);
+  const QList<QImage> pictures = isEmoji(text) ? font_.pictures(text) : QList<QImage>();
+  if (!pictures.isEmpty()) {
+    drawPictures(painter, frame, pictures, size);
+  } else if (needsTile(text)) {
     drawTile(painter, frame, tileLines(text), color);
-  } else if (emoji::isEmoji(text)) {
-    drawLine(painter, frame, emoji::pictureText(text), emoji::font(size));
   } else if (isShort(text)) {
     drawLine(painter, frame, text, fonts::system(size));
   } else {
@@ -134,7 +162,8 @@ QImage EmojiGlyphs::render(const QString& text, int size, const QColor& color, Q
 }
 
 bool EmojiGlyphs::needsTile(const QString& text) {
-  return (isShort(text) || emoji::isEmoji(text)) && !emoji::hasGlyphs(text);
+  if (isEmoji(text)) return !font_.canDraw(text);
+  return isShort(text) && !hasGlyphs(text);
 }
 
 QStringList EmojiGlyphs::tileLines(const QString& text) {

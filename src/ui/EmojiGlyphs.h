@@ -5,6 +5,8 @@
 #include <QImage>
 #include <QString>
 
+#include "ui/EmojiFont.h"
+
 class QPainter;
 class QRectF;
 
@@ -21,15 +23,17 @@ class EmojiGlyphs {
 
   /// Whether a tile stands for this text: for an emoji, or any text of up to two characters, that the fonts
   /// have no glyph for. Longer texts are recognised without the letter that a font lacks.
-  static bool needsTile(const QString& text);
+  bool needsTile(const QString& text);
   /// The tile's lines: the hexadecimal code point in two halves, e.g. "1F9", "C9".
   static QStringList tileLines(const QString& text);
+  /// Gives back what the font takes up beyond the pictures kept.
+  void rest() { font_.rest(); }
   qsizetype cachedBytes() const { return cache_.totalCost(); }
 
  private:
-  /// The text painted in the middle of an image of `side` points.
-  static QImage render(const QString& text, int size, const QColor& color, QSizeF side, double pixelRatio);
+  QImage render(const QString& text, int size, const QColor& color, QSizeF frame, double pixelRatio);
 
+  EmojiFont font_;
   QCache<QString, QImage> cache_;
 };
 

@@ -25,6 +25,8 @@ class PopupPainter {
  public:
   explicit PopupPainter(const QPalette& palette) : theme_(palette) {}
   void setPalette(const QPalette& palette) { theme_ = PopupTheme(palette); }
+  /// Gives back memory while nothing is shown.
+  void rest() { glyphs_.rest(); }
 
   void paint(QPainter& painter, const PopupContent& content, const PopupLayout& layout,
              const PopupView& view);

@@ -1,9 +1,10 @@
 #include "ui/PopupWindow.h"
 
 #include <QEasingCurve>
-#include <QGuiApplication>
+#include <QImage>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTimer>
 #include <QWheelEvent>
 #include <cmath>
 #include <utility>
@@ -34,6 +35,18 @@ PopupWindow::PopupWindow(Space space)
           [this](const QVariant& value) { setScroll(value.toDouble()); });
   winId();
   NativePopupWindow(*this).setClass();
+  QTimer::singleShot(0, this, [this] { warmUp(); });
+}
+
+void PopupWindow::warmUp() {
+  if (isVisible()) return;
+  const PopupContent content{
+      ":", "a", {{"", "😀", "a", "a", true}, {"", "👍🏽", "a", "a", true}}, 0, false, {}, 0, {{"↵", "a"}}};
+  QImage image(PopupLayout::sizeFor(2).toSize(), QImage::Format_ARGB32_Premultiplied);
+  image.setDevicePixelRatio(devicePixelRatioF());
+  QPainter painter(&image);
+  painter_.paint(painter, content, PopupLayout(content, PopupLayout::sizeFor(2)), {});
+  painter_.rest();
 }
 
 void PopupWindow::show(const PopupContent& content, const Rect& frame) {
@@ -50,6 +63,7 @@ void PopupWindow::hide() {
   hoveredRow_.reset();
   pressed_ = {};
   content_ = {};
+  painter_.rest();
 }
 
 void PopupWindow::setContent(const PopupContent& content, QSizeF size) {

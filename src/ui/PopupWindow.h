@@ -48,6 +48,8 @@ class PopupWindow final : public QWidget, public PopupSurface {
     bool operator==(const Target&) const = default;
   };
   Target targetAt(QPointF point) const;
+  /// Opens the fonts once, so that the first popup is as quick as the others.
+  void warmUp();
   void setContent(const PopupContent& content, QSizeF size);
   void showAt(const Rect& frame);
   void setScroll(double scroll);
