@@ -60,8 +60,8 @@ class FocusWatcher {
   std::atomic<bool> isConnectionWanted_ = true;
 
   mutable std::mutex mutex_;
-  FocusModel::Focus focus_;  // guarded by mutex_
-  FocusModel::Focus lost_;
+  FocusModel::Focus focus_;        // guarded by mutex_
+  FocusModel::Focus lost_;         // guarded by mutex_
   ConnectionPtr callConnection_;   // guarded by mutex_
   Clock::time_point lastRequest_;  // main thread
 
