@@ -45,6 +45,7 @@ class FocusWatcher {
   void connectToSession();
   void connectToAccessibility();
   void dropWhatIsGone();
+  bool hasSomethingGone() const;
   void takeIn();
   void publish();
   void planSearch();
