@@ -199,6 +199,33 @@ TEST_F(AccessibilityHelperTest, staysWithinItsBudgetWhileWaiting) {
   EXPECT_LE(accessibility.elapsed(), milliseconds(120));
 }
 
+TEST_F(AccessibilityHelperTest, tellsWhetherATextStandsBeforeTheCaret) {
+  EXPECT_EQ(helper.hasArrived(":smile"), true);
+  EXPECT_EQ(helper.hasArrived(":smil"), false);
+  EXPECT_EQ(helper.hasArrived("much more than there is"), false);
+  field->type(" cafe\u0301");
+  EXPECT_EQ(helper.hasArrived("caf\u00E9"), true);
+  field->setCaret(2);
+  EXPECT_EQ(helper.hasArrived("caf\u00E9"), false);
+  EXPECT_EQ(helper.hasArrived("hi"), true);
+}
+
+TEST_F(AccessibilityHelperTest, cannotTellWhereTheTextIsNotReadable) {
+  for (const auto name : {attribute::value, attribute::selectedTextRange, attribute::stringForRange}) {
+    field->failing = {std::string(name)};
+    EXPECT_EQ(helper.hasArrived(":smile"), std::nullopt) << name;
+  }
+  field->failing.clear();
+  accessibility.callDuration = milliseconds(30);
+  EXPECT_EQ(helper.hasArrived(":smile"), std::nullopt) << "too slow";
+}
+
+TEST_F(AccessibilityHelperTest, looksForATextInEveryApplication) {
+  workspace.frontmost->bundleIdentifier = "org.mozilla.firefox";
+  setRole(*field, role::webArea);
+  EXPECT_EQ(helper.hasArrived(":smile"), true);
+}
+
 TEST_F(AccessibilityHelperTest, knowsATerminalByApplicationOrRole) {
   EXPECT_FALSE(helper.isTerminal());
   setRole(*field, role::terminal);

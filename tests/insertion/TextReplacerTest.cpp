@@ -42,6 +42,13 @@ class TextReplacerTest : public ::testing::Test {
     replacer->replace({6, text, false, ":smile"}, std::move(done));
   }
   void replace(const std::string& text) { replace(text, keep()); }
+  /// The application takes the paste, and the text stands in its document. What it got.
+  std::optional<std::string> paste() {
+    const auto text = general.readByApplication();
+    if (text) field->type(*text);
+    queue.advance(milliseconds(5));
+    return text;
+  }
   std::size_t countOf(std::int64_t keyCode) const {
     return static_cast<std::size_t>(std::ranges::count_if(
         keys.posted, [keyCode](const auto& posted) { return posted.press.keyCode == keyCode; }));
@@ -59,8 +66,7 @@ class TextReplacerTest : public ::testing::Test {
   AccessibilityHelper accessibilityHelper{accessibility, workspace, defaults};
   PasteHelper pasteHelper{general, primary, keys, queue};
   SystemWallClock clock;
-  std::optional<TextReplacer> replacer{std::in_place, accessibilityHelper, pasteHelper, queue,
-                                       clock};
+  std::optional<TextReplacer> replacer{std::in_place, accessibilityHelper, pasteHelper, queue, clock};
   std::vector<InsertionOutcome> outcomes;
 };
 
@@ -91,7 +97,7 @@ TEST_F(TextReplacerTest, fallsBackToPasting) {
   EXPECT_THAT(outcomes, IsEmpty());
   EXPECT_EQ(countOf(keycode::deleteBackward), 6U);
   queue.advance(milliseconds(220));
-  EXPECT_EQ(general.readByApplication(), "😀");
+  EXPECT_EQ(paste(), "😀");
   EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
 }
 
@@ -102,6 +108,76 @@ TEST_F(TextReplacerTest, pastesByShiftInsertInATerminal) {
   queue.advance(milliseconds(220));
   EXPECT_EQ(keys.posted.back().press, (KeyPress{keycode::insert, keyflag::shift}));
   EXPECT_EQ(primary.readByApplication(), "😀");
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted)) << "at once: its text cannot be read";
+}
+
+/// How the target of a paste shows the text that it has read.
+struct Arrival {
+  const char* name;
+  void (*arrange)(testing::FakeAccessibility&, testing::FakeTextField&);
+  milliseconds standsAfter;  ///< counted from the reading
+  milliseconds answeredAfter;
+};
+
+class TextReplacerArrival : public TextReplacerTest, public ::testing::WithParamInterface<Arrival> {};
+
+TEST_P(TextReplacerArrival, isWaitedForAsFarAsItCanBeTold) {
+  GetParam().arrange(accessibility, *field);
+  refuseDirectInsertion();
+  testing::ManualMainQueue::Clock::time_point answered;
+  replace("😀", [&](InsertionOutcome outcome) {
+    answered = queue.now();
+    outcomes.push_back(outcome);
+  });
+  queue.advance(milliseconds(220));
+  const auto read = queue.now();
+  queue.after(GetParam().standsAfter, [this] { field->type("😀"); });
+  general.readByApplication();
+  queue.advance(milliseconds(3000));
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
+  EXPECT_EQ(answered - read, GetParam().answeredAfter);
+}
+
+constexpr milliseconds never{9999};
+INSTANTIATE_TEST_SUITE_P(
+    Targets, TextReplacerArrival,
+    ::testing::Values(
+        Arrival{"soon", [](auto&, auto&) {}, milliseconds(3), milliseconds(5)},
+        Arrival{"late", [](auto&, auto&) {}, milliseconds(111), milliseconds(115)},
+        Arrival{"asSomethingElse", [](auto&, auto&) {}, never, milliseconds(200)},
+        Arrival{"nothingFocused",
+                [](auto& accessibility, auto&) {
+                  accessibility.application->failing.insert(std::string(attribute::focusedElement));
+                },
+                never, milliseconds(0)},
+        Arrival{"textNotReadable",
+                [](auto&, auto& field) { field.failing.insert(std::string(attribute::stringForRange)); },
+                never, milliseconds(0)},
+        Arrival{"notTrusted", [](auto& accessibility, auto&) { accessibility.trusted = false; }, never,
+                milliseconds(0)}),
+    [](const auto& arrival) { return arrival.param.name; });
+
+TEST_F(TextReplacerTest, theNextOneWaitsUntilTheTextStands) {
+  refuseDirectInsertion();
+  replace("first");
+  replace("second");
+  queue.advance(milliseconds(220));
+  general.readByApplication();
+  queue.advance(milliseconds(100));
+  EXPECT_EQ(countOf(keycode::deleteBackward), 6U);
+  field->type("first");
+  queue.advance(milliseconds(5));
+  EXPECT_EQ(countOf(keycode::deleteBackward), 12U);
+}
+
+TEST_F(TextReplacerTest, mayGoAwayWhileItLooksForTheText) {
+  refuseDirectInsertion();
+  replace("first");
+  queue.advance(milliseconds(220));
+  general.readByApplication();
+  replacer.reset();
+  queue.advance(milliseconds(3000));
+  EXPECT_THAT(outcomes, IsEmpty());
 }
 
 TEST_F(TextReplacerTest, doesNotEraseTwice) {
@@ -112,7 +188,7 @@ TEST_F(TextReplacerTest, doesNotEraseTwice) {
   EXPECT_THAT(log.lines, ElementsAre(fallback));
   queue.advance(milliseconds(100));
   EXPECT_EQ(countOf(keycode::deleteBackward), 0U);
-  EXPECT_EQ(general.readByApplication(), "😀");
+  EXPECT_EQ(paste(), "😀");
   EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
 }
 
@@ -133,18 +209,18 @@ TEST_F(TextReplacerTest, fillsInTemplateVariablesOnceForBothMethods) {
   replace("<{{clipboard}}>");
   EXPECT_EQ(general.stringReads, 2) << "once a replacement";
   queue.advance(milliseconds(220));
-  EXPECT_EQ(general.readByApplication(), "<user's>");
+  EXPECT_EQ(paste(), "<user's>");
 }
 
 TEST_F(TextReplacerTest, theClipboardVariableIsTheUsersWhileOurTextIsOnThePasteboard) {
   refuseDirectInsertion();
   replace("first");
   queue.advance(milliseconds(220));
-  general.readByApplication();
+  paste();
   EXPECT_TRUE(general.isOurText());
   replace("<{{clipboard}}>");
   queue.advance(milliseconds(220));
-  EXPECT_EQ(general.readByApplication(), "<user's>");
+  EXPECT_EQ(paste(), "<user's>");
 }
 
 TEST_F(TextReplacerTest, replacementsWaitForTheirTurn) {
@@ -155,7 +231,7 @@ TEST_F(TextReplacerTest, replacementsWaitForTheirTurn) {
   for (const char* text : {"first", "second", "third"}) {
     EXPECT_THAT(log.lines, SizeIs(outcomes.size() + 1)) << "one at a time";
     queue.advance(milliseconds(220));
-    EXPECT_EQ(general.readByApplication(), text);
+    EXPECT_EQ(paste(), text);
   }
   EXPECT_THAT(outcomes, SizeIs(3));
   EXPECT_EQ(countOf(keycode::deleteBackward), 18U);
@@ -169,7 +245,7 @@ TEST_F(TextReplacerTest, oneAskedForByADoneCallbackWaitsForThoseBeforeIt) {
   replace("second");
   for (const char* text : {"first", "second", "third"}) {
     queue.advance(milliseconds(220));
-    EXPECT_EQ(general.readByApplication(), text);
+    EXPECT_EQ(paste(), text);
   }
 }
 
@@ -204,7 +280,7 @@ TEST_F(TextReplacerTest, goesOnAfterAnApplicationThatIgnoresThePaste) {
   queue.advance(milliseconds(2220));
   EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::erasedOnly));
   queue.advance(milliseconds(220));
-  EXPECT_EQ(general.readByApplication(), "second");
+  EXPECT_EQ(paste(), "second");
 }
 
 TEST_F(TextReplacerTest, logsNothingOfTheText) {

@@ -10,7 +10,8 @@ namespace tessarin::atspi {
 namespace {
 
 constexpr int farthestWindow = 32;
-constexpr std::size_t mostToolkits = 64;
+/// Names on a bus are never given out twice, so what is remembered of applications only piles up.
+constexpr std::size_t mostApplications = 64;
 
 const AtspiElement* known(const ElementRef& element) {
   return dynamic_cast<const AtspiElement*>(element.get());
@@ -64,6 +65,7 @@ Subscription AtspiAccessibility::onFocusMoved(std::function<void()> callback) {
 void AtspiAccessibility::prepare() {
   if (ConnectionPtr connection = watcher_.takeCallConnection()) {
     toolkits_.clear();
+    processes_.clear();
     channel_.use(std::move(connection));
   }
   if (!channel_.isConnected()) watcher_.requestConnection();
@@ -88,21 +90,18 @@ FocusModel::Focus AtspiAccessibility::focus() {
 }
 
 std::optional<std::uint32_t> AtspiAccessibility::processOf(const std::string& bus) {
-  MessagePtr request =
-      methodCall({DBUS_SERVICE_DBUS, DBUS_PATH_DBUS}, DBUS_INTERFACE_DBUS, "GetConnectionUnixProcessID");
-  const char* name = bus.c_str();
-  dbus_message_append_args(request.get(), DBUS_TYPE_STRING, &name, DBUS_TYPE_INVALID);
-  const Answer answer = channel_.call(std::move(request));
-  return answer.reply ? MessageReader(answer.reply.get()).uint32() : std::nullopt;
+  if (const auto known = processes_.find(bus); known != processes_.end()) return known->second;
+  const Answer answer = channel_.call(processQuery(bus));
+  const auto process = answer.reply ? MessageReader(answer.reply.get()).uint32() : std::nullopt;
+  if (!process) return std::nullopt;
+  if (processes_.size() >= mostApplications) processes_.clear();
+  return processes_[bus] = *process;
 }
 
 bool AtspiAccessibility::isFrontmost(const std::string& bus) {
   if (!options_.activeProcess) return false;
-  const auto known = processes_.find(bus);
-  const auto process = known != processes_.end() ? std::optional(known->second) : processOf(bus);
-  if (!process) return false;
-  processes_[bus] = *process;
-  return options_.activeProcess() == process;
+  const auto process = processOf(bus);
+  return process && options_.activeProcess() == process;
 }
 
 AtspiAccessibility::Value AtspiAccessibility::focusedApplication() {
@@ -182,8 +181,7 @@ std::optional<Toolkit> AtspiAccessibility::toolkit(const std::string& bus) {
   const auto name = application.stringProperty(interface, "ToolkitName");
   const auto version = application.stringProperty(interface, "Version");
   if (!name || !version) return std::nullopt;
-  // Names on the bus are never given out twice, so entries only pile up.
-  if (toolkits_.size() >= mostToolkits) toolkits_.clear();
+  if (toolkits_.size() >= mostApplications) toolkits_.clear();
   return toolkits_[bus] = Toolkit::named(*name, *version);
 }
 

@@ -145,11 +145,7 @@ void FocusEvents::onNameOwnerChanged(DBusMessage* message) {
 bool FocusEvents::isOurs(const std::string& bus) {
   const auto known = ours_.find(bus);
   if (known != ours_.end()) return known->second;
-  const MessagePtr request =
-      methodCall({DBUS_SERVICE_DBUS, DBUS_PATH_DBUS}, DBUS_INTERFACE_DBUS, "GetConnectionUnixProcessID");
-  const char* name = bus.c_str();
-  dbus_message_append_args(request.get(), DBUS_TYPE_STRING, &name, DBUS_TYPE_INVALID);
-  const MessagePtr reply = callAndWait(connection_.get(), request.get(), longestCall);
+  const MessagePtr reply = callAndWait(connection_.get(), processQuery(bus).get(), longestCall);
   const auto process = MessageReader(reply.get()).uint32();
   return ours_[bus] = process == ownProcess_;
 }

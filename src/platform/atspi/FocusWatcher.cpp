@@ -97,6 +97,11 @@ void FocusWatcher::dropWhatIsGone() {
   if (session_ && !dbus_connection_get_is_connected(session_.get())) session_.reset();
 }
 
+bool FocusWatcher::hasSomethingGone() const {
+  return (events_ && !events_->isConnected()) ||
+         (session_ && !dbus_connection_get_is_connected(session_.get()));
+}
+
 void FocusWatcher::connect() {
   if (!session_) connectToSession();
   if (session_ && !events_) connectToAccessibility();
@@ -173,6 +178,8 @@ void FocusWatcher::publish() {
 void FocusWatcher::sleep() {
   if (isConnectionWanted_ || isStopping_ || hasUnread(session_.get())) return;
   if (events_ && events_->hasUnread()) return;
+  // A connection found closed meanwhile has no descriptor any more that would wake us.
+  if (hasSomethingGone()) return;
   pollfd waiting[] = {
       {wake_.fd(), POLLIN, 0}, {fdOf(session_.get()), POLLIN, 0}, {events_ ? events_->fd() : -1, POLLIN, 0}};
   int milliseconds = -1;

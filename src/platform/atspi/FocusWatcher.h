@@ -45,6 +45,7 @@ class FocusWatcher {
   void connectToSession();
   void connectToAccessibility();
   void dropWhatIsGone();
+  bool hasSomethingGone() const;
   void takeIn();
   void publish();
   void planSearch();
@@ -60,8 +61,8 @@ class FocusWatcher {
   std::atomic<bool> isConnectionWanted_ = true;
 
   mutable std::mutex mutex_;
-  FocusModel::Focus focus_;  // guarded by mutex_
-  FocusModel::Focus lost_;
+  FocusModel::Focus focus_;        // guarded by mutex_
+  FocusModel::Focus lost_;         // guarded by mutex_
   ConnectionPtr callConnection_;   // guarded by mutex_
   Clock::time_point lastRequest_;  // main thread
 

@@ -87,6 +87,14 @@ MessagePtr methodCall(const ObjectReference& object, const char* interface, cons
   return MessagePtr(dbus_message_new_method_call(object.bus.c_str(), object.path.c_str(), interface, method));
 }
 
+MessagePtr processQuery(const std::string& bus) {
+  MessagePtr query =
+      methodCall({DBUS_SERVICE_DBUS, DBUS_PATH_DBUS}, DBUS_INTERFACE_DBUS, "GetConnectionUnixProcessID");
+  const char* name = bus.c_str();
+  dbus_message_append_args(query.get(), DBUS_TYPE_STRING, &name, DBUS_TYPE_INVALID);
+  return query;
+}
+
 MessagePtr propertyRead(const ObjectReference& object, const char* interface, const char* property) {
   MessagePtr message = methodCall(object, DBUS_INTERFACE_PROPERTIES, "Get");
   dbus_message_append_args(message.get(), DBUS_TYPE_STRING, &interface, DBUS_TYPE_STRING, &property,

@@ -44,6 +44,8 @@ class MessageReader {
 
 /// A call without arguments; they are appended to it.
 MessagePtr methodCall(const ObjectReference& object, const char* interface, const char* method);
+/// Asks the bus for the process, an unsigned number, that a name on it belongs to.
+MessagePtr processQuery(const std::string& bus);
 MessagePtr propertyRead(const ObjectReference& object, const char* interface, const char* property);
 
 /// The two words of an object's state set.

@@ -39,6 +39,7 @@ class AtspiAccessibilityTest : public ::testing::Test {
     AtspiAccessibility::Options options;
     options.isTrusted = [this] { return isTrusted; };
     options.prompt = [this] { ++prompts; };
+    options.activeProcess = [this] { return activeProcess; };
     options.coordinateSpace = [] { return CoordinateSpace(2, 500); };
     options.sessionBusAddress = session->busAddress();
     options.ownProcess = ownProcess;
@@ -87,6 +88,7 @@ class AtspiAccessibilityTest : public ::testing::Test {
   ManualMainQueue queue;
   bool isTrusted = true;
   int prompts = 0;
+  std::optional<std::uint32_t> activeProcess;
   std::unique_ptr<AtspiAccessibility> accessibility;
   std::unique_ptr<FakeApplication> application;
   ElementRef field;
@@ -372,6 +374,37 @@ TEST_F(AtspiAccessibilityTest, tellsOnceThatTheFocusIsElsewhere) {
   focus(FakeApplication::fieldPath);
   queue.runReady();
   EXPECT_EQ(moves, 1);
+}
+
+TEST_F(AtspiAccessibilityTest, aFocusLetGoByTheActiveProcessIsStillThere) {
+  openApplication();
+  application->announceWindow("deactivate");
+  ASSERT_TRUE(eventually([this] { return focusedPath().empty(); })) << "the active process is not known";
+  const auto ours = static_cast<std::uint32_t>(getpid());
+  activeProcess = ours;
+  EXPECT_EQ(focusedPath(), FakeApplication::fieldPath);
+  EXPECT_EQ(read(attribute::role), AttributeValue(std::string(role::textField)));
+  activeProcess = ours + 1;
+  EXPECT_EQ(focusedPath(), "") << "the user went to another process";
+  activeProcess = ours;
+  EXPECT_EQ(focusedPath(), FakeApplication::fieldPath);
+  application.reset();
+  EXPECT_TRUE(eventually([this] { return focusedPath().empty(); }));
+}
+
+TEST_F(AtspiAccessibilityTest, anApplicationsFocusInsteadOfOneLetGoIsNoMove) {
+  openApplication();
+  activeProcess = static_cast<std::uint32_t>(getpid());
+  queue.runReady();
+  int moves = 0;
+  const Subscription subscription = accessibility->onFocusMoved([&moves] { ++moves; });
+  FakeApplication other(session->accessibilityBusAddress());
+  application->announceWindow("deactivate");
+  other.announceWindow("activate");
+  other.announceFocus(FakeApplication::otherFieldPath, true);
+  EXPECT_TRUE(eventually([this] { return focusedPath() == FakeApplication::otherFieldPath; }));
+  queue.runReady();
+  EXPECT_EQ(moves, 0) << "the active window tells of that";
 }
 
 TEST_F(AtspiAccessibilityTest, leavesOutOurOwnWindows) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,7 @@ struct Case {
   std::vector<Event> events;
   FocusModel::Focus focus;
   int moves;
+  FocusModel::Focus lost = {};
 };
 
 int judge(FocusModel& model, const Event& event) {
@@ -45,53 +47,96 @@ int judge(FocusModel& model, const Event& event) {
   }
 }
 
-TEST(FocusModelTest, followsTheEventsOfAllToolkits) {
-  const Case cases[] = {
-      {"window, then element", {{'+', window1}, {'f', field1}}, {field1, window1}, 1},
-      {"element, then window", {{'f', field1}, {'+', window1}}, {field1, window1}, 1},
-      {"element to element",
-       {{'+', window1}, {'f', field1}, {'u', field1}, {'f', field2}},
-       {field2, window1},
-       2},
-      {"late letting go",
-       {{'+', window1}, {'f', field1}, {'f', field2}, {'u', field1}},
-       {field2, window1},
-       2},
-      {"let go without the element", {{'+', window1}, {'f', field1}, {'-', window1}}, {{}, {}}, 1},
-      {"let go while unknown", {{'f', field1}, {'-', window1}}, {{}, {}}, 1},
-      {"away and back",
-       {{'+', window1}, {'f', field1}, {'-', window1}, {'+', window1}, {'f', field1}},
-       {field1, window1},
-       1},
-      {"told twice", {{'+', window1}, {'f', field1}, {'f', field1}}, {field1, window1}, 1},
-      {"next application before the last lets go",
-       {{'+', window1}, {'f', field1}, {'+', other}, {'f', otherField}, {'-', window1}, {'u', field1}},
-       {otherField, other},
-       2},
-      {"next window before the last lets go",
-       {{'+', window1}, {'f', field1}, {'+', window2}, {'-', window1}},
-       {{}, window2},
-       1},
-      {"other application tells only its window",
-       {{'+', window1}, {'f', field1}, {'+', other}},
-       {{}, other},
-       1},
-      {"gone", {{'+', window1}, {'f', field1}, {'g', window1}}, {{}, {}}, 1},
-      {"another one gone", {{'+', window1}, {'f', field1}, {'g', other}}, {field1, window1}, 1},
-      {"ours and back",
-       {{'+', window1}, {'f', field1}, {'o', {}}, {'+', window1}, {'f', field1}},
-       {field1, window1},
-       1},
-      {"ours", {{'+', window1}, {'f', field1}, {'o', {}}}, {{}, {}}, 1},
-  };
+void judgeAll(std::span<const Case> cases) {
   for (const Case& expected : cases) {
     SCOPED_TRACE(expected.name);
     FocusModel model;
     int moves = 0;
     for (const Event& event : expected.events) moves += judge(model, event);
     EXPECT_EQ(model.focus(), expected.focus);
+    EXPECT_EQ(model.lost(), expected.lost);
     EXPECT_EQ(moves, expected.moves);
   }
+}
+
+TEST(FocusModelTest, followsTheEventsOfAllToolkits) {
+  const Case cases[] = {
+      {"window, then element", {{'+', window1}, {'f', field1}}, {field1, window1}, 0},
+      {"element, then window", {{'f', field1}, {'+', window1}}, {field1, window1}, 0},
+      {"told twice", {{'+', window1}, {'f', field1}, {'f', field1}}, {field1, window1}, 0},
+      {"element to element",
+       {{'+', window1}, {'f', field1}, {'u', field1}, {'f', field2}},
+       {field2, window1},
+       1},
+      {"late letting go",
+       {{'+', window1}, {'f', field1}, {'f', field2}, {'u', field1}},
+       {field2, window1},
+       1},
+      {"to and fro", {{'+', window1}, {'f', field1}, {'f', field2}, {'f', field1}}, {field1, window1}, 2},
+      {"next application before the last lets go",
+       {{'+', window1}, {'f', field1}, {'+', other}, {'f', otherField}, {'-', window1}, {'u', field1}},
+       {otherField, other},
+       0},
+      {"next window before the last lets go",
+       {{'+', window1}, {'f', field1}, {'+', window2}, {'-', window1}},
+       {{}, window2},
+       0},
+      {"into another window of the same application",
+       {{'+', window1}, {'f', field1}, {'-', window1}, {'+', window2}, {'f', field2}},
+       {field2, window2},
+       1},
+      {"other application tells only its window",
+       {{'+', window1}, {'f', field1}, {'+', other}},
+       {{}, other},
+       0},
+      {"through another application to another element",
+       {{'+', window1}, {'f', field1}, {'+', other}, {'f', otherField}, {'+', window1}, {'f', field2}},
+       {field2, window1},
+       0},
+      {"gone", {{'+', window1}, {'f', field1}, {'g', window1}}, {{}, {}}, 0},
+      {"another one gone", {{'+', window1}, {'f', field1}, {'g', other}}, {field1, window1}, 0},
+      {"ours and back",
+       {{'+', window1}, {'f', field1}, {'o', {}}, {'+', window1}, {'f', field1}},
+       {field1, window1},
+       0},
+      {"ours", {{'+', window1}, {'f', field1}, {'o', {}}}, {{}, {}}, 0},
+  };
+  judgeAll(cases);
+}
+
+TEST(FocusModelTest, remembersWhatWasLetGoWithoutASuccessor) {
+  const FocusModel::Focus whole{field1, window1};
+  const Case cases[] = {
+      {"window alone", {{'+', window1}, {'f', field1}, {'-', window1}}, {}, 0, whole},
+      {"element, then window", {{'+', window1}, {'f', field1}, {'u', field1}, {'-', window1}}, {}, 0, whole},
+      {"element alone", {{'+', window1}, {'f', field1}, {'u', field1}}, {{}, window1}, 0, whole},
+      {"while the window is unknown", {{'f', field1}, {'-', window1}}, {}, 0, {field1, {}}},
+      {"window comes back",
+       {{'+', window1}, {'f', field1}, {'-', window1}, {'+', window1}},
+       {{}, window1},
+       0,
+       whole},
+      {"element comes back",
+       {{'+', window1}, {'f', field1}, {'-', window1}, {'+', window1}, {'f', field1}},
+       {field1, window1},
+       0},
+      {"another window follows",
+       {{'+', window1}, {'f', field1}, {'-', window1}, {'+', window2}},
+       {{}, window2},
+       0},
+      {"another application follows",
+       {{'+', window1}, {'f', field1}, {'-', window1}, {'+', other}},
+       {{}, other},
+       0},
+      {"another element follows",
+       {{'+', window1}, {'f', field1}, {'-', window1}, {'f', otherField}},
+       {otherField, {}},
+       0},
+      {"ours follows", {{'+', window1}, {'f', field1}, {'-', window1}, {'o', {}}}, {}, 0},
+      {"gone", {{'+', window1}, {'f', field1}, {'-', window1}, {'g', window1}}, {}, 0},
+      {"another one gone", {{'+', window1}, {'f', field1}, {'-', window1}, {'g', other}}, {}, 0, whole},
+  };
+  judgeAll(cases);
 }
 
 TEST(FocusModelTest, whatASearchFindsIsNoMove) {
@@ -102,6 +147,17 @@ TEST(FocusModelTest, whatASearchFindsIsNoMove) {
   EXPECT_FALSE(model.windowToSearch());
   EXPECT_FALSE(model.elementFocused(field1));
   EXPECT_TRUE(model.elementFocused(field2));
+}
+
+TEST(FocusModelTest, whatASearchFindsTakesThePlaceOfWhatWasLost) {
+  FocusModel model;
+  model.windowActivated(window1);
+  model.elementFocused(field1);
+  model.windowDeactivated(window1);
+  model.found({std::nullopt, window1});
+  EXPECT_EQ(model.lost(), (FocusModel::Focus{field1, window1})) << "it found no element";
+  model.found({field2, window1});
+  EXPECT_EQ(model.lost(), FocusModel::Focus{});
 }
 
 }  // namespace
