@@ -54,6 +54,7 @@ void KeyFilter::run() {
     const bool news = takeNews();
     const bool settled = settle();
     const bool posted = carryOutPosts();
+    grabs_.holdChords();
     xcb_flush(keyboard_.connection);
     if (!news && !settled && !posted) wait();
   }
@@ -136,6 +137,7 @@ void KeyFilter::handle(const TypedKey& key) {
     verdict == KeyVerdict::pass ? keyboard_.replayHeldKey() : keyboard_.swallowHeldKey();
   }
   xcb_flush(keyboard_.connection);
+  grabs_.holdChords();
 }
 
 // What a modifier, a lock or a group switch does is done before the key is held: typing it again later would

@@ -34,15 +34,14 @@ void KeyGrabs::setKeys(const KeyboardLayout& layout, const std::string& trigger)
   forgetOwners();
 }
 
-void KeyGrabs::grab(std::uint8_t code, const Modifiers& modifiers) {
-  if (modifiers.empty()) return;
+unsigned KeyGrabs::grab(std::uint8_t code, const Modifiers& modifiers) {
   const std::uint32_t mask = XCB_INPUT_XI_EVENT_MASK_KEY_PRESS;
   const auto cookie = xcb_input_xi_passive_grab_device(
       keyboard_.connection, XCB_CURRENT_TIME, keyboard_.root, XCB_NONE, code, keyboard_.device,
       static_cast<std::uint16_t>(modifiers.size()), 1, XCB_INPUT_GRAB_TYPE_KEYCODE,
       XCB_INPUT_GRAB_MODE_22_SYNC, XCB_INPUT_GRAB_MODE_22_ASYNC, XCB_INPUT_GRAB_OWNER_NO_OWNER, &mask,
       modifiers.data());
-  asked_.emplace_back(code, cookie.sequence);
+  return cookie.sequence;
 }
 
 void KeyGrabs::ungrab(std::uint8_t code, const Modifiers& modifiers) {
@@ -52,13 +51,9 @@ void KeyGrabs::ungrab(std::uint8_t code, const Modifiers& modifiers) {
                                      XCB_INPUT_GRAB_TYPE_KEYCODE, modifiers.data());
 }
 
-// A combination that somebody else holds in the same way is refused; of a whole key that is worth knowing.
-void KeyGrabs::waitForGrabs() {
-  for (const auto& [code, sequence] : std::exchange(asked_, {})) {
-    const Owned<xcb_input_xi_passive_grab_device_reply_t> reply(
-        xcb_input_xi_passive_grab_device_reply(keyboard_.connection, {sequence}, nullptr));
-    if (!reply || reply->num_modifiers != 0) refused_.insert(code);
-  }
+// A combination that somebody else holds in the same way is refused, and stays with them.
+void KeyGrabs::grabPart(std::uint8_t code, const Modifiers& modifiers) {
+  if (!modifiers.empty()) xcb_discard_reply(keyboard_.connection, grab(code, modifiers));
 }
 
 void KeyGrabs::holdNothing() {
@@ -72,8 +67,7 @@ void KeyGrabs::holdNothing() {
 void KeyGrabs::holdTrigger() {
   if (level_ == Level::everything) letGoOfEverything();
   if (level_ == Level::nothing) {
-    for (const auto& [code, modifiers] : trigger_) grab(code, modifiers);
-    waitForGrabs();
+    for (const auto& [code, modifiers] : trigger_) grabPart(code, modifiers);
   }
   level_ = Level::trigger;
 }
@@ -86,27 +80,34 @@ void KeyGrabs::holdEverything(std::uint8_t locks) {
     owned_.refresh(typingKeys_, modifiersThatMatter(), locks);
     grabWholeKeys();
   }
-  grabCombinations();
+  grabCombinations(typingModifiers());
   level_ = Level::everything;
+  chordsPending_ = true;
+}
+
+void KeyGrabs::holdChords() {
+  if (std::exchange(chordsPending_, false)) grabCombinations(chordModifiers());
 }
 
 void KeyGrabs::grabWholeKeys() {
   partlyHeld_.clear();
-  refused_.clear();
+  std::vector<std::pair<std::uint8_t, unsigned>> asked;
   for (const std::uint8_t code : typingKeys_) {
     if (trigger_.contains(code)) continue;
     if (owned_.shares(code)) {
       partlyHeld_.insert(code);
     } else {
-      grab(code, {anyModifier});
+      asked.emplace_back(code, grab(code, {anyModifier}));
     }
   }
-  waitForGrabs();
-  partlyHeld_.merge(refused_);
+  for (const auto& [code, sequence] : asked) {
+    const Owned<xcb_input_xi_passive_grab_device_reply_t> reply(
+        xcb_input_xi_passive_grab_device_reply(keyboard_.connection, {sequence}, nullptr));
+    if (!reply || reply->num_modifiers != 0) partlyHeld_.insert(code);
+  }
 }
 
-void KeyGrabs::grabCombinations() {
-  const auto modifiers = modifiersThatMatter();
+void KeyGrabs::grabCombinations(const std::vector<std::uint8_t>& modifiers) {
   const auto free = [&](std::uint8_t code, const Modifiers& except) {
     Modifiers result;
     for (const std::uint8_t bits : modifiers) {
@@ -116,23 +117,13 @@ void KeyGrabs::grabCombinations() {
     }
     return result;
   };
-  for (const std::uint8_t code : partlyHeld_) grab(code, free(code, {}));
+  for (const std::uint8_t code : partlyHeld_) grabPart(code, free(code, {}));
   for (const auto& [code, held] : trigger_) {
     const Modifiers rest = free(code, held);
-    grab(code, rest);
+    grabPart(code, rest);
     Modifiers& beside = besideTrigger_[code];
     beside.insert(beside.end(), rest.begin(), rest.end());
   }
-  waitForGrabs();
-}
-
-// What types, and the chords. Chords with a level shift mean nothing to anybody.
-std::vector<std::uint8_t> KeyGrabs::modifiersThatMatter() const {
-  std::vector<std::uint8_t> result = subsets(ModifierBits::shift | bits_.levels);
-  for (const std::uint8_t bits : subsets(bits_.chord() | ModifierBits::shift)) {
-    if ((bits & bits_.chord()) != 0) result.push_back(bits);
-  }
-  return result;
 }
 
 void KeyGrabs::letGoOfEverything() {
@@ -140,6 +131,25 @@ void KeyGrabs::letGoOfEverything() {
     if (!trigger_.contains(code)) ungrab(code, {anyModifier});
   }
   for (const auto& [code, modifiers] : std::exchange(besideTrigger_, {})) ungrab(code, modifiers);
+  chordsPending_ = false;
+}
+
+std::vector<std::uint8_t> KeyGrabs::typingModifiers() const {
+  return subsets(ModifierBits::shift | bits_.levels);
+}
+
+// Chords with a level shift mean nothing to anybody.
+std::vector<std::uint8_t> KeyGrabs::chordModifiers() const {
+  std::vector<std::uint8_t> result = subsets(bits_.chord() | ModifierBits::shift);
+  std::erase_if(result, [this](std::uint8_t bits) { return (bits & bits_.chord()) == 0; });
+  return result;
+}
+
+std::vector<std::uint8_t> KeyGrabs::modifiersThatMatter() const {
+  std::vector<std::uint8_t> result = typingModifiers();
+  const std::vector<std::uint8_t> chords = chordModifiers();
+  result.insert(result.end(), chords.begin(), chords.end());
+  return result;
 }
 
 }  // namespace tessarin::x11

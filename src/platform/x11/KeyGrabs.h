@@ -27,21 +27,27 @@ class KeyGrabs {
   /// The trigger's keys, with the modifiers that produce it, and nothing else.
   void holdTrigger();
   /// Every key that types. Of a key that another program owns a combination of, and of the trigger's keys,
-  /// the combinations that matter under these locked modifiers, and none that has an owner.
+  /// the combinations that type under these locked modifiers; the chords follow with `holdChords`. Nothing
+  /// that has an owner.
   void holdEverything(std::uint8_t locks);
+  /// The rest of `holdEverything`, for after the key in hand has been answered: nobody is that quick with a
+  /// chord.
+  void holdChords();
 
  private:
   enum class Level { nothing, trigger, everything };
   using Modifiers = std::vector<std::uint32_t>;
 
-  void grab(std::uint8_t code, const Modifiers& modifiers);
+  unsigned grab(std::uint8_t code, const Modifiers& modifiers);
+  void grabPart(std::uint8_t code, const Modifiers& modifiers);
   void ungrab(std::uint8_t code, const Modifiers& modifiers);
-  void waitForGrabs();
   void grabWholeKeys();
-  void grabCombinations();
-  /// Locks left out.
-  std::vector<std::uint8_t> modifiersThatMatter() const;
+  void grabCombinations(const std::vector<std::uint8_t>& modifiers);
   void letGoOfEverything();
+  // Locks left out.
+  std::vector<std::uint8_t> typingModifiers() const;
+  std::vector<std::uint8_t> chordModifiers() const;
+  std::vector<std::uint8_t> modifiersThatMatter() const;
 
   SessionKeyboard keyboard_;
   OwnedCombinations owned_;
@@ -50,10 +56,9 @@ class KeyGrabs {
   std::map<std::uint8_t, Modifiers> trigger_;        ///< by key code
   std::map<std::uint8_t, Modifiers> besideTrigger_;  ///< of the trigger's keys, held while everything is
   std::set<std::uint8_t> partlyHeld_;                ///< keys held by combinations, the trigger's apart
-  std::set<std::uint8_t> refused_;                   ///< keys that could not be held as a whole
-  std::vector<std::pair<std::uint8_t, unsigned>> asked_;
   Level level_ = Level::nothing;
   std::uint8_t locks_ = 0;
+  bool chordsPending_ = false;
 };
 
 }  // namespace tessarin::x11

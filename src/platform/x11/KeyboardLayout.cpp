@@ -168,8 +168,8 @@ std::optional<std::uint8_t> KeyboardLayout::keyFor(xkb_keysym_t wanted, std::uin
     return std::nullopt;
   };
   if (const auto code = keyIn(group)) return code;
-  for (std::uint8_t other = 0; other < xkb_keymap_num_layouts(keymap_.get()); ++other) {
-    if (const auto code = keyIn(other)) return code;
+  for (xkb_layout_index_t other = 0; other < xkb_keymap_num_layouts(keymap_.get()); ++other) {
+    if (const auto code = keyIn(static_cast<std::uint8_t>(other))) return code;
   }
   return std::nullopt;
 }

@@ -31,6 +31,7 @@ void OwnedCombinations::refresh(const std::vector<std::uint8_t>& keys,
   sharedKeys_.clear();
   owned_.clear();
   std::vector<Probe> probes;
+  probes.reserve(keys.size());
   for (const std::uint8_t code : keys) probes.push_back(probe(code, XCB_MOD_MASK_ANY));
   for (const Probe& shared : refused(std::move(probes))) sharedKeys_.insert(shared.code);
   probes.clear();

@@ -12,7 +12,7 @@ struct TypedKey {
   std::uint8_t code = 0;       ///< X key code
   std::uint8_t modifiers = 0;  ///< the eight real modifiers in effect, locked ones included
   std::uint8_t group = 0;      ///< the layout group in effect
-  auto operator<=>(const TypedKey&) const = default;
+  bool operator==(const TypedKey&) const = default;
 
   /// `state` as in a key event, for a client that has announced that it knows XKB.
   static TypedKey of(xcb_keycode_t code, std::uint16_t state) {
@@ -24,6 +24,7 @@ struct TypedKey {
 struct KeyCombination {
   std::uint8_t code = 0;
   std::uint8_t modifiers = 0;
+  // NOLINTNEXTLINE(modernize-use-nullptr): the check misreads a defaulted comparison
   auto operator<=>(const KeyCombination&) const = default;
 };
 

@@ -72,6 +72,15 @@ TEST_F(X11EventTapTimeOutTest, PassesKeptKeysOnWhenTheMainThreadHangs) {
   EXPECT_TRUE(seen.empty());
 }
 
+TEST_F(X11EventTapTimeOutTest, GivesTheKeyboardBackWhenAnInsertionNeverEnds) {
+  start();
+  holdBack();
+  typist->type("x:ab\nC");
+  queue.runUntil([this] { return timeOuts == 1; });
+  EXPECT_EQ(timeOuts, 1);
+  ASSERT_TRUE(queue.runUntil([this] { return document->text().ends_with('C'); }));
+}
+
 TEST(KeyQuestion, IsDecidedByWhoeverComesFirst) {
   x11::KeyQuestion givenUp;
   givenUp.cancel();

@@ -22,6 +22,7 @@ bool replaces(const std::vector<std::string>& entries, std::string_view ours) {
 
 std::vector<char*> pointers(const std::vector<std::string>& strings) {
   std::vector<char*> result;
+  result.reserve(strings.size() + 1);
   for (const std::string& string : strings) result.push_back(const_cast<char*>(string.c_str()));
   return result;
 }
