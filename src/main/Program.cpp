@@ -20,7 +20,7 @@ AppDelegate::Services services(Desktop& desktop, QApplication& application,
 
 Program::Program(QApplication& application, UnixSignals& signals, const std::filesystem::path& resources,
                  const std::filesystem::path& storage)
-    : application_(application), controller_(services(desktop_, application, resources, storage)) {
+    : controller_(services(desktop_, application, resources, storage)) {
   signals.onTermination([&application] { application.quit(); });
   listenForRequests(storage);
 }

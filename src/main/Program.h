@@ -32,7 +32,6 @@ class Program {
   void listenForRequests(const std::filesystem::path& storage);
   std::string answer(const std::string& request);
 
-  QApplication& application_;
   Desktop desktop_;
   AppDelegate controller_;
   std::optional<freedesktop::InstanceSocket> requests_;

@@ -65,6 +65,7 @@ void drawKeyHints(QPainter& painter, const QRectF& band, const std::vector<Popup
                   const PopupTheme& theme) {
   const Fonts hintFonts{fonts::system(9, QFont::DemiBold), fonts::system(9)};
   std::vector<Hint> measured;
+  measured.reserve(hints.size());
   for (const PopupKeyHint& hint : hints) measured.push_back(measure(hint, hintFonts));
   const double room = band.width() - 2 * bandPadding;
   const double gaps = std::max<double>(1, static_cast<double>(measured.size()) - 1);

@@ -10,8 +10,8 @@
 #include "base/AtomicFile.h"
 #include "base/DataError.h"
 #include "base/Files.h"
-#include "platform/freedesktop/Json.h"
 #include "base/Log.h"
+#include "platform/freedesktop/Json.h"
 
 namespace tessarin::freedesktop {
 namespace {

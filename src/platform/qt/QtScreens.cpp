@@ -53,6 +53,7 @@ std::vector<Screen> QtScreens::screens() {
   const auto workArea = monitors::workArea(*x);
   const CoordinateSpace points = spaceFor(frames);
   std::vector<Screen> found;
+  found.reserve(frames.size());
   for (const Rect& frame : frames) {
     found.push_back({points.flipped(points.toPoints(frame)),
                      points.flipped(points.toPoints(visiblePart(frame, workArea)))});

@@ -98,6 +98,7 @@ void SelectionChannel::write(const std::vector<PasteboardItem>& items) {
     return;
   }
   std::vector<std::string> names;
+  names.reserve(items.size());
   for (const auto& item : items) names.push_back(item.type);
   const auto targets = atoms_.atoms(names);
   std::vector<Representation> contents;
