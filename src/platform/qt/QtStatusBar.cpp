@@ -2,7 +2,7 @@
 
 #include <QAction>
 
-#include "ui/TextCursorIcon.h"
+#include "platform/qt/TextCursorIcon.h"
 
 namespace tessarin::ui {
 

@@ -1,4 +1,4 @@
-#include "ui/TextCursorIcon.h"
+#include "platform/qt/TextCursorIcon.h"
 
 #include <QGuiApplication>
 #include <QPainter>
