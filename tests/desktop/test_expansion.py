@@ -126,8 +126,10 @@ class WithThePointer(DesktopTest):
     def test_click_elsewhere_ends_it(self):
         with Mousepad(self.session, self.typist) as editor:
             self.play(["a:smile"])
-            x, y, width, height = self.wait_for_popup()
-            self.typist.click(x + width + 60, y + height + 20)
+            left, top, width, height = self.wait_for_popup()
+            x, y, editor_width, editor_height = self.typist.active_frame()
+            places = [(x + editor_width * across, y + editor_height - 60) for across in (0.1, 0.9)]
+            self.typist.click(*next(place for place in places if not left <= place[0] < left + width))
             wait_for(lambda: self.typist.popup() is None, what="the popup to go")
             self.play([key("End", "Control_L"), "b"])
             self.assertEqual(editor.wait_for_document("a:smileb"), "a:smileb")

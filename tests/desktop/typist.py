@@ -86,6 +86,13 @@ class Typist:
     def active_window(self):
         return (self._root_property("_NET_ACTIVE_WINDOW") or [0])[0]
 
+    def active_frame(self):
+        """Frame of the active window on screen (x, y, width, height)."""
+        window = self.display.create_resource_object("window", self.active_window())
+        geometry = window.get_geometry()
+        origin = self.display.screen().root.translate_coords(window, 0, 0)
+        return origin.x, origin.y, geometry.width, geometry.height
+
     def client_windows(self):
         return set(self._root_property("_NET_CLIENT_LIST"))
 
