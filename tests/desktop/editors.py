@@ -4,6 +4,7 @@ import os
 import pathlib
 import signal
 import subprocess
+import time
 
 from session import wait_for
 
@@ -26,6 +27,7 @@ class Editor:
         self._child = self.session.start(*self.command, self.path)
         self._window = wait_for(lambda: self._new_active_window(before), 30, f"the window of {self.command[0]}")
         self._wait_until_it_takes_keys()
+        wait_for(self._has_come_to_rest, 30, f"{self.command[0]} to come to rest")
         return self
 
     def __exit__(self, *_):
@@ -40,6 +42,16 @@ class Editor:
         self.typist.type("q")
         wait_for(self._probe_arrived, 30, f"{self.command[0]} to take keys")
         self.typist.press("End", "Control_L")  # a first save can move the caret
+
+    def _has_come_to_rest(self, seconds=0.2):
+        """Whether starting up is over: a program that still works moves its focus about."""
+        before = self._clock_ticks()
+        time.sleep(seconds)
+        return self._clock_ticks() - before <= 2
+
+    def _clock_ticks(self):
+        fields = pathlib.Path(f"/proc/{self.pid}/stat").read_text().rpartition(")")[2].split()
+        return int(fields[11]) + int(fields[12])
 
     def _probe_arrived(self):
         self.save()
