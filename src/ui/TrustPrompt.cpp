@@ -23,14 +23,12 @@ void TrustPrompt::ask() {
   }
   dialog_ = new QMessageBox(QMessageBox::Question, "Tessarin", tr("Allow Tessarin to expand shortcodes?"));
   dialog_->setAttribute(Qt::WA_DeleteOnClose);
-  dialog_->setInformativeText(
-      tr("After you type the trigger character, Tessarin judges the keys that follow, shows matches beside "
-         "the caret and "
-         "replaces the shortcode in the application you are typing in. While idle it sees no key but the "
-         "trigger. Nothing "
-         "that you type is recorded.\n\nSaying yes also switches the session's accessibility on; "
-         "applications that are "
-         "open now may have to be started again before text can be replaced directly in them."));
+  dialog_->setInformativeText(tr(
+      "After you type the trigger character, Tessarin judges the keys that follow, shows matches beside the "
+      "caret and replaces the shortcode in the application you are typing in. While idle it sees no key but "
+      "the trigger. Of what you type, nothing is kept but how often each entry was used.\n\n"
+      "Saying yes also switches the session's accessibility on; applications that are open now may have to "
+      "be started again before text can be replaced directly in them."));
   QPushButton* yes = dialog_->addButton(tr("Allow"), QMessageBox::AcceptRole);
   dialog_->addButton(tr("Not Now"), QMessageBox::RejectRole);
   dialog_->setDefaultButton(yes);
@@ -38,10 +36,6 @@ void TrustPrompt::ask() {
     if (button == yes) allowed_();
   });
   dialog_->open();
-}
-
-void TrustPrompt::dismiss() {
-  if (dialog_) dialog_->close();
 }
 
 }  // namespace tessarin::ui

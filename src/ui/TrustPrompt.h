@@ -17,8 +17,6 @@ class TrustPrompt {
   TrustPrompt& operator=(const TrustPrompt&) = delete;
 
   void ask();
-  /// Takes the question away, after it was answered elsewhere.
-  void dismiss();
 
  private:
   std::function<void()> allowed_;

@@ -108,6 +108,9 @@ void FocusEvents::onStateChanged(DBusMessage* message) {
 
 void FocusEvents::onFocused(const ObjectReference& element) {
   const auto& known = model_.focus().window;
+  // Taken back what was let go: its window, or the process of the active one, tells whether that is so.
+  // Asking around would keep the application busy at every key that is held for its verdict.
+  if (!known && model_.lost().element == element && model_.lost().window) return;
   if (!known || known->bus != element.bus) {
     // Windows in the background move their focus about, too. Believing them would write into the wrong one.
     FocusSearch search(connection_.get(), [this] { return isStopping_.load(); });

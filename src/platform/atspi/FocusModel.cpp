@@ -24,7 +24,8 @@ void FocusModel::letGo() {
 void FocusModel::windowActivated(const ObjectReference& window) {
   const bool fromOtherWindow = focus_.window && focus_.window != window;
   if (focus_.element && (fromOtherWindow || focus_.element->bus != window.bus)) focus_.element.reset();
-  if (lost_.window != window) lost_ = {};
+  if (lost_.window == window && !focus_.element) focus_.element = lost_.element;
+  lost_ = {};
   focus_.window = window;
   ++activations_;
 }

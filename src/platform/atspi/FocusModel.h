@@ -22,6 +22,7 @@ class FocusModel {
   /// it back; nor is another application's word, which may come late: the active window tells of that.
   bool elementFocused(const ObjectReference& element);
   void elementUnfocused(const ObjectReference& element);
+  /// A window that comes back has its focus where it was, until it says otherwise.
   void windowActivated(const ObjectReference& window);
   void windowDeactivated(const ObjectReference& window);
   /// Something of our own has the focus: nothing that may be read or written.

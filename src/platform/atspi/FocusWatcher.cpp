@@ -160,6 +160,9 @@ void FocusWatcher::planSearch() {
 void FocusWatcher::searchWhenDue() {
   if (!events_ || !searchAt_ || Clock::now() < *searchAt_) return;
   searchAt_.reset();
+  // Walking a tree keeps its application from its work. Who let go for a moment only will say so when it is
+  // back.
+  if (events_->model().focus().element || events_->model().lost().element) return;
   const bool isFinished = events_->search();
   if (isFinished) ++searches_;
   const bool goesOn = !isFinished || events_->model().windowToSearch();
