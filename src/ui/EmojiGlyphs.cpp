@@ -14,7 +14,7 @@
 namespace tessarin::ui {
 namespace {
 
-constexpr qsizetype cacheBytes = 512 * 1024;
+constexpr qsizetype cacheBytes = qsizetype{512} * 1024;
 constexpr double tileSide = 22.0 / 28.0;
 
 bool isShort(const QString& text) {

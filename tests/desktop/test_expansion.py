@@ -74,7 +74,7 @@ class DesktopTest(unittest.TestCase):
     def check(self, editor, steps, expected, seconds=8):
         start = editor.document()
         self.play(steps)
-        self.assertEqual(editor.wait_for_document(start + expected, seconds), start + expected)
+        self.assertEqual(editor.wait_for_document(start + expected, seconds), start + expected, self.tessarin.log[-600:])
 
     def wait_for_popup(self):
         return wait_for(self.typist.popup, what="the popup")
