@@ -11,19 +11,53 @@
 #include <optional>
 #include <string>
 #include <thread>
+#include <type_traits>
 #include <vector>
 
 #include "platform/atspi/DBusHandles.h"
 
 namespace tessarin::testing {
 
+/// Fills in the reply to a call.
+using Answer = std::function<void(DBusMessage* call, DBusMessageIter* reply)>;
+
+void append(DBusMessageIter* into, std::int32_t value);
+void append(DBusMessageIter* into, std::uint32_t value);
+void append(DBusMessageIter* into, bool value);
+void append(DBusMessageIter* into, const char* value);
+inline void append(DBusMessageIter* into, const std::string& value) {
+  append(into, value.c_str());
+}
+/// Opens a container of this type and signature, has it filled and closes it.
+void contain(DBusMessageIter* into, int type, const char* signature,
+             const std::function<void(DBusMessageIter*)>& fill);
+
+/// What calls and reads of properties are answered with.
+template <class T>
+Answer value(const T& what) {
+  return [what](DBusMessage*, DBusMessageIter* reply) { append(reply, what); };
+}
+template <class T>
+Answer property(T what) {
+  return [what](DBusMessage*, DBusMessageIter* reply) {
+    const char* signature = std::is_same_v<T, std::int32_t> ? "i" : "s";
+    contain(reply, DBUS_TYPE_VARIANT, signature, [&](auto* variant) { append(variant, what); });
+  };
+}
+Answer parent(const std::string& bus, const std::string& path);
+Answer states(std::uint64_t states);
+Answer interfaces(const std::vector<const char*>& names);
+/// The object's only attribute.
+Answer onlyAttribute(const std::string& name, const std::string& value);
+using Numbers = std::array<std::int32_t, 4>;
+/// Of every character, or of the one at a position and none elsewhere.
+Answer bounds(const Numbers& bounds, std::optional<std::int32_t> position = {});
+Answer extents(const Numbers& extents);
+
 /// An application on the accessibility bus with a window and one text field, whose answers a test can spoil.
 /// Counts its text in code points. Runs on a thread of its own.
 class FakeApplication {
  public:
-  /// Fills in the reply to a call.
-  using Answer = std::function<void(DBusMessage* call, DBusMessage* reply)>;
-
   static constexpr const char* windowPath = "/test/window";
   static constexpr const char* fieldPath = "/test/field";
   static constexpr const char* otherFieldPath = "/test/other";
@@ -33,20 +67,6 @@ class FakeApplication {
 
   /// From now on the call, e.g. "GetText", or the property, e.g. "CaretOffset", is answered like this.
   void answer(const std::string& member, Answer answer);
-  void answerString(const std::string& member, const std::string& value);
-  void answerInt(const std::string& member, std::int32_t value);
-  void answerUint(const std::string& member, std::uint32_t value);
-  void answerBoolean(const std::string& member, bool value);
-  void answerProperty(const std::string& name, std::int32_t value);
-  void answerProperty(const std::string& name, const std::string& value);
-  void answerParent(const std::string& bus, const std::string& path);
-  void answerStates(std::uint64_t states);
-  void answerInterface(const std::string& name);
-  /// The object's only attribute.
-  void answerAttribute(const std::string& name, const std::string& value);
-  /// Of every character, or of the one at a position and none elsewhere.
-  void answerBounds(const std::array<std::int32_t, 4>& bounds, std::optional<std::int32_t> position = {});
-  void answerExtents(const std::array<std::int32_t, 4>& extents);
   /// The field is the window's child.
   void answerChildren();
   /// As if the application did not know it.
@@ -60,7 +80,6 @@ class FakeApplication {
   /// How many calls of this name, or reads of this property, have come.
   int calls(const std::string& member) const;
 
-  void setActive(bool active);
   void announceWindow(const char* event);
   void announceFocus(const char* path, bool focused);
 
@@ -68,9 +87,8 @@ class FakeApplication {
   void run();
   void judge(atspi::MessagePtr call);
   void reply(DBusMessage* call);
-  bool answerAsTold(const std::string& member, DBusMessage* call, DBusMessage* reply);
-  void answerOfItself(const std::string& member, DBusMessage* call, DBusMessage* reply);
-  void answerText(const std::string& member, DBusMessage* call, DBusMessage* reply);
+  void answerOfItself(const std::string& member, DBusMessage* call, DBusMessageIter* reply);
+  void answerText(const std::string& member, DBusMessage* call, DBusMessageIter* reply);
   void emit(const char* path, const char* interface, const char* member, const char* detail, int value);
 
   atspi::ConnectionPtr connection_;
@@ -82,7 +100,6 @@ class FakeApplication {
   std::vector<atspi::MessagePtr> held_;
   std::u32string text_ = U"é😀 ñ:smile";
   std::int32_t caret_ = 10;
-  bool isActive_ = true;
   std::atomic<bool> isStopping_ = false;
   std::thread thread_;
 };

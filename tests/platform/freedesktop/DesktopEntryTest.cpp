@@ -39,41 +39,27 @@ TEST(DesktopEntry, IsReadFromItsMainGroup) {
   EXPECT_FALSE(entry->isHidden);
 }
 
-struct LocaleCase {
-  const char* locale;
-  const char* name;
-};
-
-class LocalizedEntry : public ::testing::TestWithParam<LocaleCase> {};
-
-TEST_P(LocalizedEntry, HasTheNameOfTheLocale) {
-  EXPECT_EQ(parseDesktopEntry(editor, localeCandidates(GetParam().locale))->name, GetParam().name);
+TEST(DesktopEntry, HasTheNameOfTheLocale) {
+  const std::pair<const char*, const char*> cases[] = {{"de_AT.UTF-8", "Schreiberl"},
+                                                       {"de_DE.UTF-8@euro", "Texteditor"},
+                                                       {"fr_FR", "Text Editor"},
+                                                       {"", "Text Editor"}};
+  for (const auto& [locale, name] : cases)
+    EXPECT_EQ(parseDesktopEntry(editor, localeCandidates(locale))->name, name) << locale;
 }
-
-INSTANTIATE_TEST_SUITE_P(Locales, LocalizedEntry,
-                         ::testing::Values(LocaleCase{"de_AT.UTF-8", "Schreiberl"},
-                                           LocaleCase{"de_DE.UTF-8@euro", "Texteditor"},
-                                           LocaleCase{"de", "Texteditor"}, LocaleCase{"fr_FR", "Text Editor"},
-                                           LocaleCase{"C", "Text Editor"}, LocaleCase{"", "Text Editor"}));
 
 TEST(LocaleCandidates, GoFromTheNarrowToTheWide) {
   EXPECT_THAT(localeCandidates("sr_RS.UTF-8@latin"), ElementsAre("sr_RS@latin", "sr_RS", "sr@latin", "sr"));
   EXPECT_THAT(localeCandidates("C.UTF-8"), IsEmpty());
 }
 
-class NoEntry : public ::testing::TestWithParam<const char*> {};
-
-TEST_P(NoEntry, IsReadFromThis) {
-  EXPECT_FALSE(parseDesktopEntry(GetParam(), {}));
+TEST(DesktopEntry, IsNotReadFromAnythingElse) {
+  for (const char* content :
+       {"", "\n\n", "Type=Application\nName=No group\n", "[Desktop Entry]\nType=Link\nName=Link\n",
+        "[Desktop Entry]\nType=Application\n", "[Desktop Entry\nType=Application\nName=Broken\n",
+        "[Other]\nType=Application\nName=Other\n", "[Desktop Entry]\n=\n["})
+    EXPECT_FALSE(parseDesktopEntry(content, {})) << content;
 }
-
-INSTANTIATE_TEST_SUITE_P(Contents, NoEntry,
-                         ::testing::Values("", "\n\n", "Type=Application\nName=No group\n",
-                                           "[Desktop Entry]\nType=Link\nName=Link\n",
-                                           "[Desktop Entry]\nType=Application\n",
-                                           "[Desktop Entry\nType=Application\nName=Broken\n",
-                                           "[Other]\nType=Application\nName=Other\n",
-                                           "[Desktop Entry]\n=\n["));
 
 TEST(DesktopEntry, EscapesAreUndone) {
   const auto entry = parseDesktopEntry("[Desktop Entry]\r\nType=Application\r\nName=a\\sb\\\\c\\\r\n", {});

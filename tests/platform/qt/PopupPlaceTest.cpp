@@ -1,9 +1,9 @@
 #include <gmock/gmock.h>
 
 #include "platform/CoordinateSpace.h"
-#include "platform/qt/XClient.h"
 #include "support/Eventually.h"
 #include "support/desktop/PrivateDisplay.h"
+#include "support/desktop/XClient.h"
 #include "ui/PopupChild.h"
 
 namespace tessarin::testing {
@@ -62,7 +62,9 @@ TEST(PopupFocus, StaysWithTheApplicationWhenThePopupOpensAndIsClicked) {
   display.startWindowManager();
   XClient client(display.name());
   client.movePointer(600, 600);
-  const auto application = client.openWindow({100, 100, 400, 300}, true);
+  const auto application = client.openWindow({100, 100, 400, 300});
+  ASSERT_TRUE(eventually([&] { return client.activeWindow() == application; },
+                         [&] { client.activate(application); }));
   const auto focused = client.focusedWindow();
   const ChildProcess child = startPopupChild(display.variable(), 3, {700, 500});
   ASSERT_TRUE(eventually([&] { return client.popup().has_value(); }));
