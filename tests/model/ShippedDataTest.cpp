@@ -1,55 +1,25 @@
 #include <gtest/gtest.h>
-#include <jansson.h>
 #include <unicode/uchar.h>
 
 #include <memory>
 #include <set>
-#include <stdexcept>
+#include <sstream>
 #include <string>
-#include <utility>
 #include <vector>
 
+#include "base/Files.h"
 #include "model/SearchIndex.h"
-#include "model/Snippet.h"
+#include "model/SnippetCoding.h"
 #include "text/Graphemes.h"
 
 namespace tessarin {
 namespace {
 
-struct ReleaseJson {
-  void operator()(json_t* value) const { json_decref(value); }
-};
-
-std::string field(json_t* record, const char* key) {
-  json_t* value = json_object_get(record, key);
-  if (!json_is_string(value)) throw std::runtime_error(std::string("no text: ") + key);
-  return json_string_value(value);
-}
-
-Snippet toSnippet(json_t* record) {
-  json_t* list = json_object_get(record, "keywords");
-  if (!json_is_array(list) || json_object_size(record) != 5) throw std::runtime_error("not a record");
-  std::vector<std::string> keywords;
-  for (std::size_t i = 0; i < json_array_size(list); ++i) {
-    keywords.emplace_back(json_string_value(json_array_get(list, i)));
-  }
-  return {"",
-          field(record, "name"),
-          field(record, "trigger"),
-          field(record, "replacement"),
-          keywords,
-          field(record, "category"),
-          true};
-}
-
 std::vector<Snippet> load(const std::string& file) {
-  const std::string path = std::string(TESSARIN_SOURCE_DIR) + "/resources/" + file;
-  const std::unique_ptr<json_t, ReleaseJson> root(
-      json_load_file(path.c_str(), JSON_REJECT_DUPLICATES, nullptr));
-  if (!json_is_array(root.get())) throw std::runtime_error("not an array: " + file);
   std::vector<Snippet> snippets;
-  for (std::size_t i = 0; i < json_array_size(root.get()); ++i) {
-    snippets.push_back(toSnippet(json_array_get(root.get(), i)));
+  for (const EmojiData& data :
+       decodeEmojiData(readFile(std::string(TESSARIN_SOURCE_DIR) + "/resources/" + file))) {
+    snippets.push_back(data.toSnippet(""));
   }
   return snippets;
 }
@@ -59,14 +29,9 @@ const std::vector<Snippet>& emoji() {
   return snippets;
 }
 
-const std::vector<Snippet>& kaomoji() {
-  static const std::vector<Snippet> snippets = load("kaomoji-data.json");
-  return snippets;
-}
-
 std::vector<Snippet> everything() {
   std::vector<Snippet> all = emoji();
-  all.insert(all.end(), kaomoji().begin(), kaomoji().end());
+  for (const Snippet& s : load("kaomoji-data.json")) all.push_back(s);
   return all;
 }
 
@@ -81,30 +46,20 @@ bool isTypable(std::string rest) {
   return true;
 }
 
-TEST(ShippedData, IsComplete) {
+TEST(ShippedData, IsCompleteAndHasNothingTwice) {
   EXPECT_GT(emoji().size(), 1900U);
-  EXPECT_GE(kaomoji().size(), 300U);
-  for (const Snippet& s : everything()) {
-    EXPECT_FALSE(s.name.empty() || s.replacement.empty() || s.category.empty()) << s.trigger;
-  }
-}
-
-TEST(ShippedData, CanBeTyped) {
-  for (const Snippet& s : everything()) {
-    EXPECT_TRUE(isTypable(s.trigger)) << s.trigger;
-    for (const std::string& keyword : s.keywords)
-      EXPECT_TRUE(isTypable(keyword)) << s.trigger << ": " << keyword;
-  }
-}
-
-TEST(ShippedData, HasNothingTwice) {
+  EXPECT_GE(everything().size(), emoji().size() + 300U);
   std::set<std::string> triggers;
   std::set<std::string> replacements;
   for (const Snippet& s : everything()) {
+    EXPECT_FALSE(s.name.empty() || s.replacement.empty() || s.category.empty()) << s.trigger;
+    EXPECT_TRUE(isTypable(s.trigger)) << s.trigger;
     EXPECT_TRUE(triggers.insert(text::lowercased(s.trigger)).second) << s.trigger;
     EXPECT_TRUE(replacements.insert(text::normalized(s.replacement)).second) << s.replacement;
-    EXPECT_EQ(std::set<std::string>(s.keywords.begin(), s.keywords.end()).size(), s.keywords.size())
-        << s.trigger;
+    const std::set<std::string> keywords(s.keywords.begin(), s.keywords.end());
+    EXPECT_EQ(keywords.size(), s.keywords.size()) << s.trigger;
+    for (const std::string& keyword : keywords)
+      EXPECT_TRUE(isTypable(keyword)) << s.trigger << ": " << keyword;
   }
 }
 
@@ -135,15 +90,10 @@ bool isFullyQualified(const std::u16string& text) {
   return true;
 }
 
-TEST(ShippedData, EmojiAreSingleAndFullyQualified) {
+TEST(ShippedData, EmojiAreSingleFullyQualifiedAndWithoutSkinTone) {
   for (const Snippet& s : emoji()) {
     EXPECT_EQ(text::characterCount(s.replacement), 1U) << s.trigger;
     EXPECT_TRUE(isFullyQualified(text::toUtf16(s.replacement))) << s.trigger;
-  }
-}
-
-TEST(ShippedData, LeavesOutSkinTonesAndLoneParts) {
-  for (const Snippet& s : emoji()) {
     for (const char* tone : {"\U0001F3FB", "\U0001F3FC", "\U0001F3FD", "\U0001F3FE", "\U0001F3FF"}) {
       EXPECT_EQ(s.replacement.find(tone), std::string::npos) << s.trigger;
     }
@@ -151,145 +101,32 @@ TEST(ShippedData, LeavesOutSkinTonesAndLoneParts) {
   }
 }
 
-class SearchOverShippedData : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() {
-    index_ = std::make_unique<SearchIndex>();
-    all_ = everything();
-    for (const Snippet& s : all_) index_->append(s);
-  }
-  static void TearDownTestSuite() { index_.reset(); }
-
-  static std::vector<std::string> search(const std::string& query, std::size_t limit = 8) {
-    std::vector<std::string> replacements;
-    for (const std::size_t position : index_->search(query, limit)) {
-      replacements.push_back(all_[position].replacement);
-    }
-    return replacements;
-  }
-
-  static void expectFirst(const std::string& query, const std::string& replacement) {
-    const auto found = search(query, 1);
+TEST(ShippedData, IsFoundByWhatUsersType) {
+  const std::vector<Snippet> all = everything();
+  SearchIndex index;
+  for (const Snippet& s : all) index.append(s);
+  const auto expectFirst = [&](const std::string& query, const std::string& replacement) {
+    const auto found = index.search(query, 1);
     ASSERT_FALSE(found.empty()) << query;
-    EXPECT_EQ(found[0], replacement) << query;
-  }
-
- private:
-  inline static std::unique_ptr<SearchIndex> index_;
-  inline static std::vector<Snippet> all_;
-};
-
-TEST_F(SearchOverShippedData, GivesWhatTheKnownShortcodesMean) {
-  const std::vector<std::pair<std::string, std::string>> known = {{"smile", "😄"},
-                                                                  {"smiley", "😃"},
-                                                                  {"grinning", "😀"},
-                                                                  {"wave", "👋"},
-                                                                  {"tada", "🎉"},
-                                                                  {"+1", "👍"},
-                                                                  {"-1", "👎"},
-                                                                  {"thumbsup", "👍"},
-                                                                  {"thumbsdown", "👎"},
-                                                                  {"rofl", "🤣"},
-                                                                  {"heart", "❤️"},
-                                                                  {"joy", "😂"},
-                                                                  {"fire", "🔥"},
-                                                                  {"eyes", "👀"},
-                                                                  {"rocket", "🚀"},
-                                                                  {"pray", "🙏"},
-                                                                  {"100", "💯"},
-                                                                  {"ok_hand", "👌"},
-                                                                  {"clap", "👏"},
-                                                                  {"muscle", "💪"},
-                                                                  {"sob", "😭"},
-                                                                  {"cry", "😢"},
-                                                                  {"thinking", "🤔"},
-                                                                  {"shrug", "🤷"},
-                                                                  {"facepalm", "🤦"},
-                                                                  {"wink", "😉"},
-                                                                  {"blush", "😊"},
-                                                                  {"sunglasses", "😎"},
-                                                                  {"scream", "😱"},
-                                                                  {"skull", "💀"},
-                                                                  {"poop", "💩"},
-                                                                  {"hankey", "💩"},
-                                                                  {"ghost", "👻"},
-                                                                  {"alien", "👽"},
-                                                                  {"robot", "🤖"},
-                                                                  {"cat", "🐱"},
-                                                                  {"dog", "🐶"},
-                                                                  {"bug", "🐛"},
-                                                                  {"bee", "🐝"},
-                                                                  {"star", "⭐"},
-                                                                  {"sparkles", "✨"},
-                                                                  {"zap", "⚡"},
-                                                                  {"boom", "💥"},
-                                                                  {"coffee", "☕"},
-                                                                  {"beer", "🍺"},
-                                                                  {"pizza", "🍕"},
-                                                                  {"cake", "🍰"},
-                                                                  {"birthday", "🎂"},
-                                                                  {"gift", "🎁"},
-                                                                  {"balloon", "🎈"},
-                                                                  {"bulb", "💡"},
-                                                                  {"memo", "📝"},
-                                                                  {"pencil", "📝"},
-                                                                  {"lock", "🔒"},
-                                                                  {"key", "🔑"},
-                                                                  {"warning", "⚠️"},
-                                                                  {"x", "❌"},
-                                                                  {"white_check_mark", "✅"},
-                                                                  {"question", "❓"},
-                                                                  {"exclamation", "❗"},
-                                                                  {"checkered_flag", "🏁"},
-                                                                  {"rainbow_flag", "🏳️‍🌈"},
-                                                                  {"de", "🇩🇪"},
-                                                                  {"us", "🇺🇸"},
-                                                                  {"gb", "🇬🇧"},
-                                                                  {"uk", "🇬🇧"},
-                                                                  {"satisfied", "😆"},
-                                                                  {"laughing", "😆"},
-                                                                  {"punch", "👊"},
-                                                                  {"facepunch", "👊"},
-                                                                  {"runner", "🏃"},
-                                                                  {"running", "🏃"},
-                                                                  {"orange", "🍊"},
-                                                                  {"tangerine", "🍊"},
-                                                                  {"knife", "🔪"},
-                                                                  {"lantern", "🏮"},
-                                                                  {"shoe", "👞"},
-                                                                  {"email", "📧"},
-                                                                  {"hash", "#️⃣"},
-                                                                  {"one", "1️⃣"},
-                                                                  {"infinity", "♾️"},
-                                                                  {"crossed_fingers", "🤞"}};
-  for (const auto& [query, replacement] : known) expectFirst(query, replacement);
-}
-
-TEST_F(SearchOverShippedData, GuessesFromTheFirstLetters) {
-  const std::vector<std::pair<std::string, std::string>> known = {
-      {"smi", "😄"},  {"SMI", "😄"},      {"hea", "❤️"}, {"thu", "👍"},       {"rof", "🤣"},
-      {"tad", "🎉"},  {"fir", "🔥"},      {"rocke", "🚀"},    {"eye", "👁️"}, {"party", "🥳"},
-      {"laug", "😆"}, {"think", "🤔"}, {"hello", "👋"},    {"happy", "😀"},     {"thanks", "🙏"},
-      {"lol", "🍭"},  {"hug", "🤗"},   {"danc", "💃"}};
-  for (const auto& [query, replacement] : known) expectFirst(query, replacement);
-  EXPECT_EQ(search("roc", 2), (std::vector<std::string>{"🪨", "🚀"}));
-}
-
-TEST_F(SearchOverShippedData, KnowsTheNewestEmoji) {
-  const std::vector<std::pair<std::string, std::string>> known = {
-      {"hairy_creature", "\U0001FAC8"}, {"orca", "\U0001FACD"},
-      {"landslide", "\U0001F6D8"},      {"trombone", "\U0001FA8A"},
-      {"treasure_chest", "\U0001FA8E"}, {"distorted_face", "\U0001FAEA"},
-      {"fight_cloud", "\U0001FAEF"},    {"ballet_dancer", "\U0001F9D1\u200D\U0001FA70"}};
-  for (const auto& [query, replacement] : known) expectFirst(query, replacement);
-}
-
-TEST_F(SearchOverShippedData, FindsTheKaomojiByTheirNames) {
-  const std::vector<std::pair<std::string, std::string>> known = {
-      {"shruggie", "¯\\_(ツ)_/¯"}, {"tableflip", "(╯°□°)╯︵ ┻━┻"}, {"unflip", "┬─┬ノ( º _ ºノ)"},
-      {"lenny", "( ͡° ͜ʖ ͡°)"},       {"disapproval", "ಠ_ಠ"},         {"kao", "(^_−)☆"}};
-  for (std::size_t i = 0; i + 1 < known.size(); ++i) expectFirst(known[i].first, known[i].second);
-  EXPECT_EQ(search("shrug", 2), (std::vector<std::string>{"🤷", "¯\\_(ツ)_/¯"}));
+    EXPECT_EQ(all[found[0]].replacement, replacement) << query;
+  };
+  // Shortcodes, first letters and keywords, the newest emoji.
+  std::istringstream known(R"(
+      smile 😄  grinning 😀  wave 👋  tada 🎉  +1 👍  -1 👎  thumbsup 👍  rofl 🤣  heart ❤️  joy 😂
+      fire 🔥  eyes 👀  rocket 🚀  pray 🙏  100 💯  ok_hand 👌  sob 😭  thinking 🤔  shrug 🤷
+      facepalm 🤦  wink 😉  poop 💩  hankey 💩  cat 🐱  bee 🐝  star ⭐  boom 💥  pencil 📝
+      warning ⚠️  x ❌  white_check_mark ✅  rainbow_flag 🏳️‍🌈  de 🇩🇪  uk 🇬🇧  satisfied 😆
+      punch 👊  runner 🏃  tangerine 🍊  email 📧  hash #️⃣  one 1️⃣  infinity ♾️
+      smi 😄  SMI 😄  hea ❤️  thu 👍  rof 🤣  rocke 🚀  eye 👁️  party 🥳  laug 😆  think 🤔  hello 👋
+      happy 😀  thanks 🙏  lol 🍭
+      hairy_creature 🫈  trombone 🪊  distorted_face 🫪  ballet_dancer 🧑‍🩰)");
+  for (std::string query, replacement; known >> query >> replacement;) expectFirst(query, replacement);
+  expectFirst("shruggie", "¯\\_(ツ)_/¯");
+  expectFirst("tableflip", "(╯°□°)╯︵ ┻━┻");
+  expectFirst("lenny", "( ͡° ͜ʖ ͡°)");
+  expectFirst("disapproval", "ಠ_ಠ");
+  const auto shrugs = index.search("shrug", 2);
+  EXPECT_EQ(all[shrugs.at(1)].replacement, "¯\\_(ツ)_/¯");
 }
 
 }  // namespace
