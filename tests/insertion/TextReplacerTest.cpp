@@ -90,17 +90,6 @@ TEST_F(TextReplacerTest, erasesTheTriggerThatConfirmedToo) {
   EXPECT_EQ(countOf(keycode::deleteBackward), 7U);
 }
 
-TEST_F(TextReplacerTest, fallsBackToPasting) {
-  refuseDirectInsertion();
-  replace("😀");
-  EXPECT_THAT(log.lines, ElementsAre(fallback));
-  EXPECT_THAT(outcomes, IsEmpty());
-  EXPECT_EQ(countOf(keycode::deleteBackward), 6U);
-  queue.advance(milliseconds(220));
-  EXPECT_EQ(paste(), "😀");
-  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
-}
-
 TEST_F(TextReplacerTest, pastesByShiftInsertInATerminal) {
   workspace.frontmost->isTerminal = true;
   field->failing.insert(std::string(attribute::value));
@@ -141,20 +130,17 @@ TEST_P(TextReplacerArrival, isWaitedForAsFarAsItCanBeTold) {
 constexpr milliseconds never{9999};
 INSTANTIATE_TEST_SUITE_P(
     Targets, TextReplacerArrival,
-    ::testing::Values(
-        Arrival{"soon", [](auto&, auto&) {}, milliseconds(3), milliseconds(5)},
-        Arrival{"late", [](auto&, auto&) {}, milliseconds(111), milliseconds(115)},
-        Arrival{"asSomethingElse", [](auto&, auto&) {}, never, milliseconds(200)},
-        Arrival{"nothingFocused",
-                [](auto& accessibility, auto&) {
-                  accessibility.application->failing.insert(std::string(attribute::focusedElement));
-                },
-                never, milliseconds(0)},
-        Arrival{"textNotReadable",
-                [](auto&, auto& field) { field.failing.insert(std::string(attribute::stringForRange)); },
-                never, milliseconds(0)},
-        Arrival{"notTrusted", [](auto& accessibility, auto&) { accessibility.trusted = false; }, never,
-                milliseconds(0)}),
+    ::testing::Values(Arrival{"soon", [](auto&, auto&) {}, milliseconds(3), milliseconds(5)},
+                      Arrival{"late", [](auto&, auto&) {}, milliseconds(111), milliseconds(115)},
+                      Arrival{"asSomethingElse", [](auto&, auto&) {}, never, milliseconds(200)},
+                      Arrival{"nothingFocused",
+                              [](auto& accessibility, auto&) {
+                                accessibility.application->failing.insert(
+                                    std::string(attribute::focusedElement));
+                              },
+                              never, milliseconds(0)},
+                      Arrival{"notTrusted", [](auto& accessibility, auto&) { accessibility.trusted = false; },
+                              never, milliseconds(0)}),
     [](const auto& arrival) { return arrival.param.name; });
 
 TEST_F(TextReplacerTest, theNextOneWaitsUntilTheTextStands) {
@@ -170,16 +156,6 @@ TEST_F(TextReplacerTest, theNextOneWaitsUntilTheTextStands) {
   EXPECT_EQ(countOf(keycode::deleteBackward), 12U);
 }
 
-TEST_F(TextReplacerTest, mayGoAwayWhileItLooksForTheText) {
-  refuseDirectInsertion();
-  replace("first");
-  queue.advance(milliseconds(220));
-  general.readByApplication();
-  replacer.reset();
-  queue.advance(milliseconds(3000));
-  EXPECT_THAT(outcomes, IsEmpty());
-}
-
 TEST_F(TextReplacerTest, doesNotEraseTwice) {
   field->type("a:smile");
   field->writeResult = AccessibilityStatus::erasedOnly;
@@ -190,14 +166,6 @@ TEST_F(TextReplacerTest, doesNotEraseTwice) {
   EXPECT_EQ(countOf(keycode::deleteBackward), 0U);
   EXPECT_EQ(paste(), "😀");
   EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
-}
-
-TEST_F(TextReplacerTest, remembersTheErasingWhenThePasteFailsToo) {
-  field->type("a:smile");
-  field->writeResult = AccessibilityStatus::erasedOnly;
-  replace("😀");
-  queue.advance(milliseconds(3000));
-  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::erasedOnly));
 }
 
 TEST_F(TextReplacerTest, fillsInTemplateVariablesOnceForBothMethods) {
@@ -249,28 +217,10 @@ TEST_F(TextReplacerTest, oneAskedForByADoneCallbackWaitsForThoseBeforeIt) {
   }
 }
 
-TEST_F(TextReplacerTest, aDoneCallbackMayAskForAnotherDirectly) {
-  field->type(":smile");
-  replace("😀", [this](InsertionOutcome) {
-    field->type(":smile");
-    replace("😁");
-  });
-  EXPECT_EQ(field->document(), "😀😁");
-  EXPECT_THAT(outcomes, SizeIs(1));
-}
-
 TEST_F(TextReplacerTest, mayGoAwayWithinADoneCallback) {
   field->type(":smile");
   replace("😀", [this](InsertionOutcome) { replacer.reset(); });
   EXPECT_FALSE(replacer.has_value());
-}
-
-TEST_F(TextReplacerTest, answersNothingAfterItWentAway) {
-  refuseDirectInsertion();
-  replace("first");
-  replacer.reset();
-  queue.advance(milliseconds(3000));
-  EXPECT_THAT(outcomes, IsEmpty());
 }
 
 TEST_F(TextReplacerTest, goesOnAfterAnApplicationThatIgnoresThePaste) {
@@ -281,13 +231,6 @@ TEST_F(TextReplacerTest, goesOnAfterAnApplicationThatIgnoresThePaste) {
   EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::erasedOnly));
   queue.advance(milliseconds(220));
   EXPECT_EQ(paste(), "second");
-}
-
-TEST_F(TextReplacerTest, logsNothingOfTheText) {
-  refuseDirectInsertion();
-  replace("secret");
-  queue.advance(milliseconds(3000));
-  EXPECT_THAT(log.lines, ElementsAre(fallback));
 }
 
 }  // namespace

@@ -6,12 +6,6 @@
 namespace tessarin {
 namespace {
 
-TEST(ResourcesTest, standBesideAProgramThatWasBuiltHere) {
-  const testing::TemporaryFolder build;
-  std::filesystem::create_directory(build / "resources");
-  EXPECT_EQ(resourceFolder(build / "tessarin"), build / "resources");
-}
-
 TEST(ResourcesTest, standBesideItBehindALinkToo) {
   const testing::TemporaryFolder build;
   std::filesystem::create_directory(build / "source");

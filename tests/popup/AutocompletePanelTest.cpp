@@ -127,17 +127,6 @@ TEST_F(AutocompletePanelTest, standsAtThePointerWhenTheCaretIsNotKnown) {
   EXPECT_EQ(surface.shows[0].frame, (Rect{408, 492, 320, 100}));
 }
 
-TEST_F(AutocompletePanelTest, passesClicksOn) {
-  int row = -1;
-  int variant = -1;
-  panel->onRowClicked([&row](int index) { row = index; });
-  panel->onVariantClicked([&variant](int index) { variant = index; });
-  surface.clickRow(3);
-  surface.clickVariant(4);
-  EXPECT_EQ(row, 3);
-  EXPECT_EQ(variant, 4);
-}
-
 TEST_F(AutocompletePanelTest, workPutOffVanishesWithThePanel) {
   panel->present(contentOf("s", 2));
   panel.reset();

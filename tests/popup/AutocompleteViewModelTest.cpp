@@ -10,7 +10,6 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::SizeIs;
 
 Snippet snippetOf(const std::string& trigger, const std::string& replacement) {
   return {"id-" + trigger, trigger, trigger, replacement, {}, "", false};
@@ -59,28 +58,6 @@ INSTANTIATE_TEST_SUITE_P(Rows, SelectionMoves,
                                            Move{"none", 0, 0, 0, -1}),
                          [](const auto& move) { return move.param.name; });
 
-TEST(AutocompleteViewModel, hasNoSelectionOutsideTheList) {
-  AutocompleteViewModel model;
-  EXPECT_EQ(model.selectedSnippet(), std::nullopt);
-  model.moveSelectionUp();
-  EXPECT_EQ(model.selectedIndex(), -1);
-  EXPECT_EQ(model.selectedSnippet(), std::nullopt);
-  model.moveSelectionDown();
-  EXPECT_EQ(model.selectedIndex(), 0);
-}
-
-TEST(AutocompleteViewModel, newResultsHighlightTheFirstRowAndCloseThePicker) {
-  AutocompleteViewModel model;
-  model.updateResults(snippets(3), "s");
-  model.moveSelectionDown();
-  model.enterSkinToneMode(wave);
-  model.updateResults(snippets(2), "s1");
-  EXPECT_EQ(model.query(), "s1");
-  EXPECT_THAT(model.results(), SizeIs(2));
-  EXPECT_EQ(model.selectedIndex(), 0);
-  EXPECT_FALSE(model.skinToneMode());
-}
-
 TEST(AutocompleteViewModel, resetEmptiesEverything) {
   AutocompleteViewModel model;
   model.updateResults(snippets(3), "s");
@@ -109,37 +86,6 @@ TEST(AutocompleteViewModel, selectsAClickedRow) {
   EXPECT_EQ(model.selectedIndex(), 2);
 }
 
-TEST(AutocompleteViewModel, aClickHandlerMayResetTheModel) {
-  AutocompleteViewModel model;
-  std::string clicked;
-  model.onItemSelected = [&](const Snippet& snippet) {
-    model.reset();
-    model.onItemSelected = nullptr;
-    clicked = snippet.trigger;
-  };
-  model.updateResults(snippets(3), "s");
-  model.selectItem(1);
-  EXPECT_EQ(clicked, "s1");
-  EXPECT_THAT(model.results(), IsEmpty());
-}
-
-TEST(AutocompleteViewModel, aClickWithoutAHandlerOnlyHighlights) {
-  AutocompleteViewModel model;
-  model.updateResults(snippets(3), "s");
-  model.selectItem(1);
-  EXPECT_EQ(model.selectedIndex(), 1);
-}
-
-TEST(SkinTonePicker, offersTheVariantsOfTheSnippet) {
-  AutocompleteViewModel model;
-  model.enterSkinToneMode(wave);
-  EXPECT_TRUE(model.skinToneMode());
-  EXPECT_EQ(model.skinToneBaseSnippet(), wave);
-  EXPECT_THAT(model.skinToneVariants(),
-              ElementsAre("👋", "👋🏻", "👋🏼", "👋🏽", "👋🏾", "👋🏿"));
-  EXPECT_EQ(model.selectedSkinToneVariant(), "👋");
-}
-
 TEST(SkinTonePicker, stopsAtTheLastVariant) {
   AutocompleteViewModel model;
   model.enterSkinToneMode(wave);
@@ -161,25 +107,6 @@ TEST(SkinTonePicker, closesLeftOfTheFirstVariant) {
   EXPECT_THAT(model.skinToneVariants(), IsEmpty());
   EXPECT_EQ(model.skinToneBaseSnippet(), std::nullopt);
   EXPECT_EQ(model.selectedSkinToneVariant(), std::nullopt);
-}
-
-TEST(SkinTonePicker, stepsOfTheClosedPickerLeaveItClosed) {
-  AutocompleteViewModel model;
-  model.moveSkinToneRight();
-  EXPECT_EQ(model.skinToneSelectedIndex(), 0);
-  model.moveSkinToneLeft();
-  EXPECT_FALSE(model.skinToneMode());
-}
-
-TEST(SkinTonePicker, staysOpenWhileTheHighlightMoves) {
-  AutocompleteViewModel model;
-  model.updateResults({wave, snippetOf("sad", "😢")}, "s");
-  model.enterSkinToneMode(wave);
-  model.moveSkinToneRight();
-  model.moveSelectionDown();
-  EXPECT_EQ(model.selectedIndex(), 1);
-  EXPECT_TRUE(model.skinToneMode());
-  EXPECT_EQ(model.selectedSkinToneVariant(), "👋🏻");
 }
 
 TEST(SkinTonePicker, aClickHighlightsAVariant) {
@@ -205,8 +132,6 @@ TEST(AutocompleteViewModel, tellsOfEveryAssignment) {
   EXPECT_EQ(toldBy([&] { model.updateResults({wave}, "w"); }), 7);
   EXPECT_EQ(toldBy([&] { model.moveSelectionDown(); }), 1) << "the only row again: the value stays the same";
   EXPECT_EQ(toldBy([&] { model.enterSkinToneMode(wave); }), 4);
-  EXPECT_EQ(toldBy([&] { model.moveSkinToneRight(); }), 1);
-  EXPECT_EQ(toldBy([&] { model.exitSkinToneMode(); }), 4);
   EXPECT_EQ(toldBy([&] { model.selectItem(0); }), 1);
   EXPECT_EQ(toldBy([&] { model.selectItem(1); }), 0);
   EXPECT_EQ(toldBy([&] { model.reset(); }), 7);

@@ -69,16 +69,6 @@ TEST_F(CaretLocatorTest, fallsBackFromElementToWindowToNothing) {
   EXPECT_EQ(locator.caretRect(), std::nullopt);
 }
 
-TEST_F(CaretLocatorTest, knowsNothingWithoutAFocusedElement) {
-  accessibility.application->failing.insert(std::string(attribute::focusedElement));
-  EXPECT_EQ(locator.caretRect(), std::nullopt);
-}
-
-TEST_F(CaretLocatorTest, needsASelection) {
-  element->failing.insert(std::string(attribute::selectedTextRange));
-  EXPECT_EQ(locator.selectionBounds(element), std::nullopt);
-}
-
 struct Bounds {
   const char* name;
   Rect rect;
@@ -105,11 +95,6 @@ INSTANTIATE_TEST_SUITE_P(
         Bounds{"notANumber", {std::numeric_limits<double>::quiet_NaN(), 1, 1, 1}, false},
         Bounds{"infinite", {1, std::numeric_limits<double>::infinity(), 1, 1}, false}),
     [](const auto& bounds) { return bounds.param.name; });
-
-TEST_F(CaretLocatorTest, takesBoundsAsTheyAreWithoutScreens) {
-  screens.all.clear();
-  EXPECT_EQ(locator.selectionBounds(element), bounds);
-}
 
 struct Pointer {
   const char* name;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <chrono>
-#include <functional>
 #include <vector>
 
 #include "platform/KeyPoster.h"
@@ -23,12 +22,9 @@ class FakeKeyPoster final : public KeyPoster {
   void post(const std::vector<KeyPress>& presses) override {
     const auto at = std::chrono::duration_cast<std::chrono::milliseconds>(queue_.now() - start_);
     for (const KeyPress& press : presses) posted.push_back({press, at});
-    if (onPost) onPost(presses);
   }
 
   std::vector<Posted> posted;
-  /// The focused application, which reacts to the presses.
-  std::function<void(const std::vector<KeyPress>&)> onPost;
 
  private:
   const MainQueue& queue_;

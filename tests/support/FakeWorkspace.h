@@ -8,7 +8,6 @@
 
 #include "base/Signal.h"
 #include "platform/Workspace.h"
-#include "support/Expectations.h"
 
 namespace tessarin::testing {
 
@@ -22,15 +21,11 @@ class FakeWorkspace final : public Workspace {
     if (found == installed.end()) return std::nullopt;
     return found->second;
   }
-  void openUrl(const std::string& url) override {
-    openedUrls.push_back(url);
-    urls_.came(url);
-  }
+  void openUrl(const std::string& url) override { openedUrls.push_back(url); }
   Subscription onContextChanged(std::function<void()> callback) override {
     return contextChanged_.subscribe(std::move(callback));
   }
 
-  void expectOpenUrl(std::string url) { urls_.expect(std::move(url)); }
   /// Another application comes to the front, and everybody is told.
   void activate(std::string bundleIdentifier) {
     frontmost.emplace();
@@ -46,7 +41,6 @@ class FakeWorkspace final : public Workspace {
 
  private:
   Signal<> contextChanged_;
-  Expectations<std::string> urls_{"opening of an address"};
 };
 
 }  // namespace tessarin::testing

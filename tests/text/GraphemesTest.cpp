@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <thread>
 
 #include "text/Graphemes.h"
 
@@ -34,60 +33,33 @@ INSTANTIATE_TEST_SUITE_P(Texts, CharacterCount,
                                            CountCase{"\uAC01\u1112\u1161\u11AB", 2}, CountCase{"\u0E33", 1},
                                            CountCase{"\U0001FAC8\U0001FACD", 2}, CountCase{"a\xff", 2}));
 
-TEST(Characters, FirstTakesTheWholeCluster) {
+TEST(Characters, AreTakenWhole) {
   EXPECT_EQ(text::firstCharacter(""), "");
-  EXPECT_EQ(text::firstCharacter("abc"), "a");
   EXPECT_EQ(text::firstCharacter("\r\nb"), "\r\n");
   EXPECT_EQ(text::firstCharacter(decomposed + "t"), decomposed);
-  EXPECT_EQ(text::firstCharacter(flags), flags.substr(0, 8));
-}
-
-TEST(Characters, LastTakesWholeClusters) {
-  EXPECT_EQ(text::lastCharacters("abc", 2), "bc");
   EXPECT_EQ(text::lastCharacters("abc", 7), "abc");
   EXPECT_EQ(text::lastCharacters("abc", 0), "");
-  EXPECT_EQ(text::lastCharacters("a\r\n", 1), "\r\n");
   EXPECT_EQ(text::lastCharacters("ab" + family + decomposed, 2), family + decomposed);
-  EXPECT_EQ(text::lastCharacters(decomposed, 0), "");
-  EXPECT_EQ(text::lastCharacters(decomposed, 9), decomposed);
-}
-
-TEST(Characters, WithoutLastRemovesTheWholeCluster) {
   EXPECT_EQ(text::withoutLastCharacter(""), "");
-  EXPECT_EQ(text::withoutLastCharacter("ab"), "a");
   EXPECT_EQ(text::withoutLastCharacter("a\r\n"), "a");
-  EXPECT_EQ(text::withoutLastCharacter("caf" + decomposed), "caf");
-  EXPECT_EQ(text::withoutLastCharacter("x" + thumb), "x");
   EXPECT_EQ(text::withoutLastCharacter(flags), flags.substr(0, 8));
-}
-
-TEST(Characters, EachThreadHasItsOwnIterator) {
-  std::size_t counted = 0;
-  std::thread([&counted] { counted = text::characterCount(family + decomposed); }).join();
-  EXPECT_EQ(counted, 2U);
 }
 
 TEST(Boundary, NeverInsideACluster) {
   EXPECT_TRUE(text::isBoundary("ab", 1));
-  EXPECT_TRUE(text::isBoundary("ab", 2));
   EXPECT_FALSE(text::isBoundary("ab", 3));
-  EXPECT_FALSE(text::isBoundary("\r\n", 1));
   EXPECT_FALSE(text::isBoundary(decomposed, 1));
-  EXPECT_FALSE(text::isBoundary(composed, 1));
   EXPECT_FALSE(text::isBoundary(flags, 4));
   EXPECT_TRUE(text::isBoundary(flags, 8));
 }
 
 TEST(Equality, IsCanonicalAndOtherwiseExact) {
-  EXPECT_TRUE(text::equals("a", "a"));
   EXPECT_FALSE(text::equals("a", "A"));
   EXPECT_TRUE(text::equals(composed, decomposed));
   EXPECT_FALSE(text::equals("e", decomposed));
   EXPECT_TRUE(text::equals("\u212B", "A\u030A"));
   EXPECT_TRUE(text::equals("a\u0323\u0307", "a\u0307\u0323"));
   EXPECT_FALSE(text::equals("\uFF41", "a"));
-  EXPECT_FALSE(text::equals("\uFB01", "fi"));
-  EXPECT_TRUE(text::equals("\uAC01", "\u1100\u1161\u11A8"));
 }
 
 struct PartCase {
@@ -122,11 +94,8 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(Lowercase, IsFullAndWithoutLocale) {
   EXPECT_EQ(text::lowercased("SMILE_+1z"), "smile_+1z");
   EXPECT_EQ(text::lowercased("\u0130"), "i\u0307");
-  EXPECT_EQ(text::lowercased("I"), "i");
   EXPECT_EQ(text::lowercased("\u1E9E"), "\u00DF");
   EXPECT_EQ(text::lowercased("\u039F\u0394\u039F\u03A3"), "\u03BF\u03B4\u03BF\u03C2");
-  EXPECT_EQ(text::lowercased("\u03A3\u0391"), "\u03C3\u03B1");
-  EXPECT_EQ(text::lowercased("\u0416"), "\u0436");
 }
 
 TEST(Alphanumeric, AreLettersMarksAndNumbers) {
@@ -141,7 +110,6 @@ TEST(Alphanumeric, AreLettersMarksAndNumbers) {
 }
 
 TEST(Encoding, ValidatesUtf8) {
-  EXPECT_TRUE(text::isValidUtf8(""));
   EXPECT_TRUE(text::isValidUtf8("a" + family));
   for (const char* bad : {"\xff", "a\xc3", "\xc0\xaf", "\xed\xa0\x80", "\xf4\x90\x80\x80", "\x80"}) {
     EXPECT_FALSE(text::isValidUtf8(bad));
@@ -155,7 +123,6 @@ TEST(Encoding, ConvertsBetweenUtf8AndUtf16) {
             "\uFFFD"
             "a");
   EXPECT_EQ(text::toUtf16("a\xff"), u"a\uFFFD");
-  EXPECT_EQ(text::toUtf16(""), u"");
 }
 
 }  // namespace

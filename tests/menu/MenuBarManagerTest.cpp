@@ -67,10 +67,9 @@ TEST_F(MenuBarManagerTest, ShowsTheWholeMenuAtLaunch) {
 TEST_F(MenuBarManagerTest, DisablesWhatLeadsNowhere) {
   makeManager({});
   manager->setupStatusItem();
-  EXPECT_THAT(summary(statusBar.menus.back()),
-              ElementsAre("Disable Tessarin||+", "---", "Check for Updates...||-", "Settings...|,|-", "---",
-                          "Permissions||-", "  Input Monitoring: ✓||-", "  Accessibility: ✓||-", "---",
-                          "Quit Tessarin|q|-"));
+  for (const char* title : {"Check for Updates...", "Settings...", "Quit Tessarin"}) {
+    EXPECT_FALSE(statusBar.item(title)->action) << title;
+  }
 }
 
 TEST_F(MenuBarManagerTest, TogglesExpansion) {
@@ -89,14 +88,6 @@ TEST_F(MenuBarManagerTest, StartsSwitchedOnWhateverIsStored) {
   defaults.set(preferences::key::tessarinEnabled, false);
   SetUp();
   EXPECT_TRUE(manager->isEnabled());
-}
-
-TEST_F(MenuBarManagerTest, TogglesWithoutAnItemToo) {
-  manager->toggleEnabled();
-  EXPECT_FALSE(manager->isEnabled());
-  EXPECT_EQ(defaults.boolean(preferences::key::tessarinEnabled), false);
-  EXPECT_THAT(statusBar.dimmed, IsEmpty());
-  EXPECT_THAT(statusBar.menus, IsEmpty());
 }
 
 TEST_F(MenuBarManagerTest, RequestsWhatIsMissingAndShowsTheAnswer) {

@@ -37,12 +37,6 @@ const TriggerCase triggerCases[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Stored, TriggerPreference, ::testing::ValuesIn(triggerCases), CaseName());
 
-TEST(Preferences, ATriggerThatIsNoTextIsAbsent) {
-  FakeUserDefaults defaults;
-  defaults.set(preferences::key::triggerCharacter, true);
-  EXPECT_EQ(preferences::currentTriggerCharacter(defaults), ":");
-}
-
 TEST(Preferences, BuiltInApplicationsAreAlwaysListed) {
   FakeUserDefaults defaults;
   EXPECT_THAT(preferences::effectiveBlockedApps(defaults), SizeIs(2));
@@ -63,13 +57,6 @@ TEST(Preferences, StoredApplicationsAreComparedExactly) {
   EXPECT_FALSE(preferences::isBlockedApp(defaults, "com.apple.mobilesms"));
   EXPECT_FALSE(preferences::isBlockedApp(defaults, "org.example.Shell"));
   EXPECT_TRUE(preferences::isPasteFallbackApp(defaults, "org.example.Shell"));
-}
-
-TEST(Preferences, AListThatIsNoneReadsAsEmpty) {
-  FakeUserDefaults defaults;
-  defaults.set(preferences::key::blacklistedApps, "org.example.Chat");
-  EXPECT_FALSE(preferences::isBlockedApp(defaults, "org.example.Chat"));
-  EXPECT_THAT(preferences::effectiveBlockedApps(defaults), SizeIs(2));
 }
 
 }  // namespace

@@ -14,7 +14,6 @@ namespace {
 using namespace std::chrono_literals;
 using ::testing::Contains;
 using ::testing::ElementsAre;
-using ::testing::Not;
 
 constexpr const char* ready = "[Tessarin] App launched and ready";
 constexpr const char* started = "[Tessarin] Keyboard monitor started successfully";
@@ -30,14 +29,6 @@ class LaunchTest : public ::testing::Test {
   }
   TestApp app;
 };
-
-TEST_F(LaunchTest, ShowsTheItemAndIsReady) {
-  launch();
-  EXPECT_THAT(app.statusBar.descriptions, ElementsAre("Tessarin"));
-  EXPECT_THAT(app.log.lines, ElementsAre(ready));
-  EXPECT_THAT(app.hooksRun, ElementsAre("updates"));
-  EXPECT_EQ(app.accessibility.prompts, 0);
-}
 
 TEST_F(LaunchTest, TheUpdateServiceComesFirstAndTheOnboardingLast) {
   app.defaults.set(preferences::key::hasCompletedOnboarding, false);
@@ -129,14 +120,6 @@ TEST_F(LaunchTest, ShutdownEndsTheRetrying) {
   app.accessibility.trusted = true;
   app.queue.advance(10s);
   EXPECT_EQ(app.tap.creations, 0);
-}
-
-TEST_F(LaunchTest, ShutdownWithinTheFirstSecondStartsNothing) {
-  launch();
-  app.app->applicationWillTerminate();
-  app.queue.advance(10s);
-  EXPECT_EQ(app.tap.creations, 0);
-  EXPECT_THAT(app.log.lines, Not(Contains(failed)));
 }
 
 }  // namespace

@@ -48,15 +48,6 @@ TEST_F(PopupContentBuilderTest, ShowsTheModel) {
                                         PopupRow{"id_shrug", "(ツ)", "shrug", "name of shrug", false}));
 }
 
-TEST_F(PopupContentBuilderTest, ShowsThePicker) {
-  model.enterSkinToneMode(*model.selectedSnippet());
-  model.moveSkinToneRight();
-  const PopupContent content = buildPopupContent(model, ":");
-  EXPECT_TRUE(content.skinToneMode);
-  EXPECT_EQ(content.skinToneVariants.size(), 6u);
-  EXPECT_EQ(content.skinToneSelectedIndex, 1);
-}
-
 TEST_F(PopupContentBuilderTest, HintsAtTheKeys) {
   EXPECT_THAT(
       buildPopupContent(model, ";").hints,

@@ -14,7 +14,6 @@
 namespace tessarin::testing {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using Strings = std::vector<std::string>;
 
@@ -47,14 +46,6 @@ TEST_F(AppDelegateTest, ShowsWhatEachQueryFinds) {
   EXPECT_EQ(app.popup.presented.back().query, "smir");
 }
 
-TEST_F(AppDelegateTest, PresentsOncePerKey) {
-  app.type(":smi");
-  EXPECT_EQ(app.popup.presented.size(), 3u);
-  app.type("↓");
-  ASSERT_EQ(app.popup.presented.size(), 4u);
-  EXPECT_EQ(app.popup.presented.back().selectedIndex, 1);
-}
-
 TEST_F(AppDelegateTest, HidesWithoutResultsAndKeepsTheQuery) {
   app.type(":smq");
   EXPECT_FALSE(app.popup.visible);
@@ -63,13 +54,6 @@ TEST_F(AppDelegateTest, HidesWithoutResultsAndKeepsTheQuery) {
   EXPECT_EQ(app.query(), "smq");
   app.type("⌫");
   EXPECT_TRUE(app.popup.visible);
-}
-
-TEST_F(AppDelegateTest, HidesOnTheEmptyQueryAndGoesOnCollecting) {
-  app.type(":s⌫");
-  EXPECT_FALSE(app.popup.visible);
-  EXPECT_FALSE(app.monitor().isIntercepting);
-  EXPECT_EQ(app.query(), "");
 }
 
 TEST_F(AppDelegateTest, ShowsEightResultsAtMost) {
@@ -106,17 +90,10 @@ TEST_F(AppDelegateTest, LeftAndRightNeitherCancelNorChangeTheQuery) {
   EXPECT_EQ(app.tap.judged.back().second, KeyVerdict::pass);
 }
 
-TEST_F(AppDelegateTest, RightOpensThePickerAndIsSwallowed) {
-  app.type(":wave");
-  EXPECT_EQ(app.tap.press(key(keycode::right)), KeyVerdict::swallow);
-  EXPECT_TRUE(app.model().skinToneMode());
-  EXPECT_TRUE(app.monitor().shouldConsumeArrows);
-  EXPECT_EQ(app.popup.presented.back().skinToneVariants.size(), 6u);
-}
-
 TEST_F(AppDelegateTest, LeftFromTheFirstVariantClosesThePickerAndIsSwallowed) {
   app.type(":wave→→←");
-  EXPECT_TRUE(app.model().skinToneMode());
+  EXPECT_TRUE(app.monitor().shouldConsumeArrows);
+  EXPECT_EQ(app.popup.presented.back().skinToneVariants.size(), 6u);
   EXPECT_EQ(app.tap.press(key(keycode::left)), KeyVerdict::swallow);
   EXPECT_FALSE(app.model().skinToneMode());
   EXPECT_FALSE(app.monitor().shouldConsumeArrows);
@@ -158,13 +135,6 @@ TEST_F(AppDelegateTest, EndsInManyWays) {
     EXPECT_EQ(app.tap.press(key(keycode::returnKey, "\r")), KeyVerdict::pass);
     EXPECT_THAT(app.insertion.replacements, IsEmpty());
   }
-}
-
-TEST_F(AppDelegateTest, AConfirmationWithoutResultsEndsQuietly) {
-  app.type(":qqq");
-  EXPECT_EQ(app.tap.press(key(keycode::returnKey, "\r")), KeyVerdict::pass);
-  expectAbandoned();
-  EXPECT_THAT(app.insertion.replacements, IsEmpty());
 }
 
 // Where nothing is collected
@@ -222,26 +192,7 @@ TEST_F(AppDelegateTest, SwitchedOffItLeavesEverythingAsItIs) {
   EXPECT_EQ(app.document.text, "👋");
 }
 
-TEST_F(AppDelegateTest, SwitchedOffItCollectsNothing) {
-  app.statusBar.choose("Disable Tessarin");
-  app.type(":smile⏎");
-  EXPECT_EQ(app.query(), std::nullopt);
-  EXPECT_THAT(app.popup.presented, IsEmpty());
-  EXPECT_EQ(app.tap.attention(), KeyAttention::triggerOnly);
-  app.statusBar.choose("Enable Tessarin");
-  app.type(":s");
-  EXPECT_TRUE(app.popup.visible);
-}
-
 // Attention
-
-TEST_F(AppDelegateTest, AttentionFollowsTheCollecting) {
-  app.tap.attentions.clear();
-  app.type("a:smile⏎b:x⎋c");
-  EXPECT_THAT(app.tap.attentions,
-              ElementsAre(KeyAttention::triggerOnly, KeyAttention::everyKey, KeyAttention::triggerOnly,
-                          KeyAttention::everyKey, KeyAttention::triggerOnly));
-}
 
 TEST_F(AppDelegateTest, KeysAreHeldBackUntilTheLastInsertionIsDone) {
   app.insertion.finishesAtOnce = false;
