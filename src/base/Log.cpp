@@ -14,7 +14,8 @@ std::function<void(const std::string&)>& currentSink() {
 }
 
 std::string oneLine(std::string_view component, std::string_view message) {
-  std::string line = "[" + std::string(component) + "] " + std::string(message);
+  std::string line = "[";
+  line.append(component).append("] ").append(message);
   for (char& c : line) {
     if (c == '\n' || c == '\r') c = ' ';
   }
