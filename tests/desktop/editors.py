@@ -13,7 +13,6 @@ class Editor:
     """A text editor on a file; the document is read by saving it."""
 
     command = ()
-    window_class = ""
 
     def __init__(self, session, typist):
         self.session = session
