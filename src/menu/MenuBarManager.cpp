@@ -2,14 +2,13 @@
 
 #include <utility>
 
+#include "base/Translate.h"
 #include "input/Preferences.h"
 #include "platform/MainQueue.h"
 #include "platform/UserDefaults.h"
 
 namespace tessarin {
 namespace {
-
-constexpr const char* granted = "✓";
 
 MenuItem separator() {
   return {};
@@ -45,14 +44,16 @@ std::vector<MenuItem> MenuBarManager::menu() {
   return {
       enabledItem(),
       separator(),
-      item("Check for Updates...", hooks_.checkForUpdates ? &MenuBarManager::checkForUpdates : nullptr),
-      item("Settings...", hooks_.openSettings ? &MenuBarManager::openSettings : nullptr, ","),
+      item(translate("Menu", "Check for Updates..."),
+           hooks_.checkForUpdates ? &MenuBarManager::checkForUpdates : nullptr),
+      item(translate("Menu", "Settings..."), hooks_.openSettings ? &MenuBarManager::openSettings : nullptr,
+           ","),
       separator(),
-      heading("Permissions"),
+      heading(translate("Menu", "Permissions")),
       inputMonitoringItem(),
       accessibilityItem(),
       separator(),
-      item("Quit Tessarin", hooks_.quit ? &MenuBarManager::quitApp : nullptr, "q"),
+      item(translate("Menu", "Quit Tessarin"), hooks_.quit ? &MenuBarManager::quitApp : nullptr, "q"),
   };
 }
 
@@ -66,19 +67,18 @@ MenuItem MenuBarManager::item(std::string title, Action action, std::string keyE
 }
 
 MenuItem MenuBarManager::enabledItem() {
-  return item(isEnabled_ ? "Disable Tessarin" : "Enable Tessarin", &MenuBarManager::toggleEnabled);
+  return item(isEnabled_ ? translate("Menu", "Disable Tessarin") : translate("Menu", "Enable Tessarin"),
+              &MenuBarManager::toggleEnabled);
 }
 
 MenuItem MenuBarManager::inputMonitoringItem() {
-  const std::string title = "  Input Monitoring: ";
-  if (permissions_.isInputMonitoringGranted()) return heading(title + granted);
-  return item(title + "✗", &MenuBarManager::requestInputMonitoring);
+  if (permissions_.isInputMonitoringGranted()) return heading(translate("Menu", "  Input Monitoring: ✓"));
+  return item(translate("Menu", "  Input Monitoring: ✗"), &MenuBarManager::requestInputMonitoring);
 }
 
 MenuItem MenuBarManager::accessibilityItem() {
-  const std::string title = "  Accessibility: ";
-  if (permissions_.isAccessibilityGranted()) return heading(title + granted);
-  return item(title + "✗ (optional)", &MenuBarManager::requestAccessibility);
+  if (permissions_.isAccessibilityGranted()) return heading(translate("Menu", "  Accessibility: ✓"));
+  return item(translate("Menu", "  Accessibility: ✗ (optional)"), &MenuBarManager::requestAccessibility);
 }
 
 void MenuBarManager::toggleEnabled() {

@@ -1,5 +1,6 @@
 #include "popup/PopupContentBuilder.h"
 
+#include "base/Translate.h"
 #include "model/SkinToneVariants.h"
 #include "popup/AutocompleteViewModel.h"
 
@@ -21,9 +22,11 @@ bool offersSkinTones(const AutocompleteViewModel& model) {
 
 std::vector<PopupKeyHint> makeHints(const AutocompleteViewModel& model, const std::string& triggerCharacter) {
   if (model.results().empty()) return {};
-  std::vector<PopupKeyHint> hints = {
-      {"↑↓", "navigate"}, {"↵", "select"}, {triggerCharacter, "confirm"}, {"esc", "cancel"}};
-  if (offersSkinTones(model)) hints.push_back({"→", "skin tone"});
+  std::vector<PopupKeyHint> hints = {{"↑↓", translate("Popup", "navigate")},
+                                     {"↵", translate("Popup", "select")},
+                                     {triggerCharacter, translate("Popup", "confirm")},
+                                     {"esc", translate("Popup", "cancel")}};
+  if (offersSkinTones(model)) hints.push_back({"→", translate("Popup", "skin tone")});
   return hints;
 }
 

@@ -1,5 +1,6 @@
 #include "ui/PopupPainter.h"
 
+#include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
@@ -41,7 +42,8 @@ double drawRight(QPainter& painter, const QRectF& band, double right, const QStr
 }
 
 QString matchCount(std::size_t count) {
-  return QStringLiteral("%1 match%2").arg(count).arg(count == 1 ? QString() : QStringLiteral("es"));
+  if (count == 1) return QCoreApplication::translate("Popup", "1 match");
+  return QCoreApplication::translate("Popup", "%n matches", nullptr, static_cast<int>(count));
 }
 
 QColor whiteAt(double opacity) {
@@ -120,7 +122,7 @@ void PopupPainter::paintList(QPainter& painter, const PopupContent& content, con
   if (content.rows.empty()) {
     painter.setFont(fonts::system(12));
     painter.setPen(theme_.secondary);
-    painter.drawText(list, Qt::AlignCenter, QStringLiteral("No matches"));
+    painter.drawText(list, Qt::AlignCenter, QCoreApplication::translate("Popup", "No matches"));
     return;
   }
   painter.save();

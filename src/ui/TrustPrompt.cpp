@@ -1,16 +1,8 @@
 #include "ui/TrustPrompt.h"
 
-#include <QCoreApplication>
 #include <QPushButton>
 
 namespace tessarin::ui {
-namespace {
-
-QString tr(const char* text) {
-  return QCoreApplication::translate("TrustPrompt", text);
-}
-
-}  // namespace
 
 TrustPrompt::~TrustPrompt() {
   delete dialog_;

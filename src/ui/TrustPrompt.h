@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QMessageBox>
 #include <QPointer>
 #include <functional>
@@ -9,6 +10,8 @@ namespace tessarin::ui {
 /// Asks the user, in one plain dialog, whether the program may judge keys and write into other applications.
 /// The dialog stands beside everything else; asking again while it stands changes nothing.
 class TrustPrompt {
+  Q_DECLARE_TR_FUNCTIONS(tessarin::ui::TrustPrompt)
+
  public:
   /// `allowed` runs when the user says yes. A no is not recorded: the question may be asked again later.
   explicit TrustPrompt(std::function<void()> allowed) : allowed_(std::move(allowed)) {}
