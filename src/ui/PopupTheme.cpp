@@ -3,28 +3,18 @@
 #include <QFontDatabase>
 #include <QPalette>
 
+#include "ui/style/Colors.h"
+
 namespace tessarin::ui {
 namespace {
 
 constexpr double secondaryOpacity = 0.55;
-
-QColor withOpacity(QColor color, double opacity) {
-  color.setAlphaF(static_cast<float>(opacity));
-  return color;
-}
 
 /// A popup lies above the windows: of the palette's two grounds, the lighter one.
 QColor groundOf(const QPalette& palette) {
   const QColor base = palette.color(QPalette::Active, QPalette::Base);
   const QColor window = palette.color(QPalette::Active, QPalette::Window);
   return base.lightnessF() > window.lightnessF() ? base : window;
-}
-
-/// White text has to be legible on the accent, whatever the desktop's highlight is.
-QColor accentOf(const QPalette& palette) {
-  QColor accent = palette.color(QPalette::Active, QPalette::Highlight);
-  while (qGray(accent.rgb()) > 150) accent = accent.darker(112);
-  return accent;
 }
 
 QFont fontOf(QFontDatabase::SystemFont which, int size, QFont::Weight weight) {
@@ -39,7 +29,7 @@ QFont fontOf(QFontDatabase::SystemFont which, int size, QFont::Weight weight) {
 PopupTheme::PopupTheme(const QPalette& palette)
     : primary(palette.color(QPalette::Active, QPalette::WindowText)),
       secondary(withOpacity(primary, secondaryOpacity)),
-      accent(accentOf(palette)),
+      accent(colorOf(ColorRole::accent, palette)),
       card(groundOf(palette)) {}
 
 QColor PopupTheme::primaryAt(double opacity) const {
