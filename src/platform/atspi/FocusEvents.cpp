@@ -118,6 +118,20 @@ void FocusEvents::onFocused(const ObjectReference& element) {
     if (window && !search.isActive(*window)) return;
     if (window) model_.windowActivated(*window);
   }
+  moveTo(element);
+}
+
+/// A browser says of the pane around the page that it has the focus whenever its window gets it back, also
+/// after every key that was held for its verdict, and the text field in the page never lost it.
+void FocusEvents::moveTo(const ObjectReference& element) {
+  const auto last = model_.lastElement();
+  if (last && last->bus == element.bus && *last != element) {
+    FocusSearch search(connection_.get(), [this] { return isStopping_.load(); });
+    if (search.isFocused(*last)) {
+      model_.elementFocused(search.isEditable(*last) ? *last : element);
+      return;
+    }
+  }
   if (model_.elementFocused(element)) moved_ = true;
 }
 

@@ -44,6 +44,7 @@ class FocusEvents {
   void registerEvents();
   void onStateChanged(DBusMessage* message);
   void onFocused(const ObjectReference& element);
+  void moveTo(const ObjectReference& element);
   void onWindow(DBusMessage* message);
   void onNameOwnerChanged(DBusMessage* message);
   bool isOurs(const std::string& bus);

@@ -36,6 +36,8 @@ class FocusModel {
   /// that is held for its verdict, though the user has gone nowhere; whether that is so, the active window
   /// tells.
   const Focus& lost() const { return lost_; }
+  /// What had the focus last, whether it has been let go or not.
+  const std::optional<ObjectReference>& lastElement() const { return lastElement_; }
   /// The active window whose focused element is not known.
   std::optional<ObjectReference> windowToSearch() const;
   /// How many times a window has been activated.

@@ -81,6 +81,15 @@ bool FocusSearch::isActive(const ObjectReference& window) {
   return (states(window).value_or(0) & busState::active) != 0;
 }
 
+bool FocusSearch::isFocused(const ObjectReference& element) {
+  constexpr std::uint64_t wanted = busState::focused | busState::showing;
+  return (states(element).value_or(0) & wanted) == wanted;
+}
+
+bool FocusSearch::isEditable(const ObjectReference& element) {
+  return (states(element).value_or(0) & busState::editable) != 0;
+}
+
 void FocusSearch::visit(const ObjectReference& object) {
   if (!mayGoOn()) return;
   --objectsLeft_;

@@ -25,6 +25,9 @@ class FocusSearch {
   /// The window that holds the element.
   std::optional<ObjectReference> windowOf(ObjectReference element);
   bool isActive(const ObjectReference& window);
+  /// Whether it is shown and says that it has the focus.
+  bool isFocused(const ObjectReference& element);
+  bool isEditable(const ObjectReference& element);
 
  private:
   bool mayGoOn();

@@ -19,7 +19,7 @@ constexpr std::uint64_t bit(int number) {
   return std::uint64_t{1} << number;
 }
 inline constexpr std::uint64_t active = bit(1), editable = bit(7), focused = bit(12), multiLine = bit(17),
-                               visible = bit(30), managesDescendants = bit(31);
+                               showing = bit(25), visible = bit(30), managesDescendants = bit(31);
 }  // namespace busState
 
 /// Whether an object with this role may be a single-line or a multi-line text, so that its states must tell.

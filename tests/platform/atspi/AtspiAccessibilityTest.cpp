@@ -376,6 +376,25 @@ TEST_F(AtspiAccessibilityTest, anApplicationsFocusInsteadOfOneLetGoIsNoMove) {
   EXPECT_EQ(moves, 0) << "the active window tells of that";
 }
 
+TEST_F(AtspiAccessibilityTest, believesNoPaneThatTakesTheFocusOfItsField) {
+  openApplication();
+  queue.runReady();
+  int moves = 0;
+  const Subscription subscription = accessibility->onFocusMoved([&moves] { ++moves; });
+  application->answer("GetState", [](DBusMessage* call, DBusMessageIter* reply) {
+    const bool isField = std::string_view(dbus_message_get_path(call)) == FakeApplication::fieldPath;
+    const auto shown = busState::visible | busState::showing | busState::focused | busState::active;
+    states(shown | (isField ? busState::editable : 0))(call, reply);
+  });
+  application->announceWindow("deactivate");
+  application->announceWindow("activate");
+  application->announceFocus(FakeApplication::otherFieldPath, true);
+  application->announceFocus(FakeApplication::fieldPath, false);
+  ASSERT_TRUE(eventually([this] { return focusedPath().empty(); })) << "all events have been judged";
+  queue.runReady();
+  EXPECT_EQ(moves, 0);
+}
+
 TEST_F(AtspiAccessibilityTest, leavesOutOurOwnWindows) {
   openApplication();
   openAccessibility(static_cast<std::uint32_t>(getpid()));
