@@ -9,7 +9,7 @@
 
 #include "ui/PopupPainter.h"
 
-/// Paints the popup in each of its states, light and dark, at several scales, into a folder: popup_pictures
+/// Paints the popup in each of its states, light and dark, at several scales, into a folder: pictures
 /// DIR
 
 using namespace tessarin;
@@ -125,7 +125,7 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   if (argc != 2 || !QDir().mkpath(argv[1])) {
-    std::fprintf(stderr, "usage: popup_pictures FOLDER\n");
+    std::fprintf(stderr, "usage: pictures FOLDER\n");
     return 2;
   }
   for (const bool isDark : {false, true}) {
