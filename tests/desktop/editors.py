@@ -1,9 +1,11 @@
 """Real programs to type into; each one gives back what stands in its document."""
 
+import http.server
 import os
 import pathlib
 import signal
 import subprocess
+import threading
 import time
 
 from session import wait_for
@@ -118,6 +120,83 @@ class Xterm(Editor):
     def wait_for_document(self, expected, seconds=20.0):
         self.save()
         return super().wait_for_document(expected, seconds)
+
+
+class Page(http.server.ThreadingHTTPServer):
+    """A web page with a text area between many other elements, which tells of every change."""
+
+    HTML = """<!DOCTYPE html><meta charset="utf-8"><textarea id="field" rows="12" cols="80"></textarea>
+        <script>let count = 0;
+        field.oninput = () => fetch("/" + ++count, {method: "POST", body: field.value}); field.focus()</script>""" + (
+        "<p>some <b>text</b> and <a href='#'>a link</a></p>" * 2000)
+
+    class Handler(http.server.BaseHTTPRequestHandler):
+        def do_GET(self):
+            self.answer(Page.HTML.encode())
+
+        def do_POST(self):
+            text = self.rfile.read(int(self.headers["Content-Length"])).decode()
+            self.server.reports[int(self.path[1:])] = text  # they may overtake one another
+            self.answer(b"")
+
+        def answer(self, body):
+            self.send_response(200)
+            self.send_header("Content-Type", "text/html")
+            self.send_header("Content-Length", str(len(body)))
+            self.end_headers()
+            self.wfile.write(body)
+
+        def log_message(self, *_):
+            pass
+
+    def __init__(self):
+        super().__init__(("127.0.0.1", 0), Page.Handler)
+        self.reports = {0: ""}
+        threading.Thread(target=self.serve_forever, daemon=True).start()
+
+    @property
+    def text(self):
+        return self.reports[max(self.reports)]
+
+    def close(self):
+        self.shutdown()
+        self.server_close()
+
+
+class Firefox(Editor):
+    """A text area in a web page, which the browser draws and another process of it holds."""
+
+    PREFERENCES = {"browser.shell.checkDefaultBrowser": False, "browser.aboutwelcome.enabled": False,
+                   "datareporting.policy.dataSubmissionEnabled": False}
+
+    def __enter__(self):
+        profile = self.session.folder / f"profile-{os.urandom(3).hex()}"
+        profile.mkdir()
+        (profile / "user.js").write_text("".join(
+            f'user_pref("{name}", {str(value).lower()});\n' for name, value in self.PREFERENCES.items()))
+        self._page = Page()
+        self.path = f"http://127.0.0.1:{self._page.server_port}/"
+        self.command = ("firefox-esr", "--no-remote", "--profile", profile)
+        return super().__enter__()
+
+    def __exit__(self, *details):
+        super().__exit__(*details)
+        self._page.close()
+
+    def _wait_until_it_takes_keys(self):
+        def taken():
+            self.typist.type("q")
+            return self._page.text
+        wait_for(taken, 60, "the page to take keys")
+        self.typist.press("a", "Control_L")
+        self.typist.press("BackSpace")
+        wait_for(lambda: not self._page.text, what="an empty page")
+
+    def save(self):
+        pass
+
+    def document(self):
+        return self._page.text
 
 
 ALL = (Mousepad, GnomeTextEditor, Featherpad, Xterm)

@@ -7,7 +7,7 @@ import re
 import time
 import unittest
 
-from editors import ALL, Featherpad, GnomeTextEditor, Mousepad, Xterm, clipboard, set_clipboard
+from editors import ALL, Featherpad, Firefox, GnomeTextEditor, Mousepad, Xterm, clipboard, set_clipboard
 from session import Session, Tessarin, wait_for
 from typist import Typist
 
@@ -87,6 +87,13 @@ class InEveryProgram(DesktopTest):
                 for name, steps, expected in ROWS:
                     with self.subTest(program=program.__name__, row=name):
                         self.check(editor, steps, expected)
+
+    def test_browser(self):
+        with Firefox(self.session, self.typist) as page:
+            for name, steps, expected in ROWS:
+                with self.subTest(row=name):
+                    self.check(page, steps, expected)
+            self.check(page, ["a:smile\nb " * 20], "a😄b " * 20, seconds=30)
 
     def test_two_hundred_without_a_pause(self):
         for program in ALL:
