@@ -1,0 +1,159 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "support/FakeUserDefaults.h"
+#include "support/FakeWorkspace.h"
+#include "support/ManualMainQueue.h"
+#include "support/ManualWallClock.h"
+#include "update/FakeUpdates.h"
+#include "update/SparkleUpdaterService.h"
+
+namespace tessarin {
+namespace {
+
+using ::testing::ElementsAre;
+using testing::feedOf;
+using ::testing::IsEmpty;
+using Property = SparkleUpdaterService::Property;
+
+AppcastItem release(const std::string& version) {
+  AppcastItem item;
+  item.version = version;
+  return item;
+}
+
+class Service : public ::testing::Test {
+ protected:
+  SparkleUpdaterService& start(BuildSettings settings = {"1.2", "", "https://example.org/feed"}) {
+    service.emplace(UpdaterSeams{defaults, queue, clock, workspace, source, user}, std::move(settings));
+    observation = service->onChange([this](Property property) { changes.push_back(describe(property)); });
+    return *service;
+  }
+  std::string describe(Property property) const {
+    switch (property) {
+      case Property::isCheckingForUpdates:
+        return service->isCheckingForUpdates() ? "checking" : "not checking";
+      case Property::updateAvailable:
+        return service->updateAvailable() ? "available" : "not available";
+      case Property::updateInfo:
+        break;
+    }
+    return service->updateInfo() ? "info " + service->updateInfo()->version : "no info";
+  }
+
+  testing::FakeUserDefaults defaults;
+  testing::ManualMainQueue queue;
+  testing::ManualWallClock clock;
+  testing::FakeWorkspace workspace;
+  testing::FakeAppcastSource source;
+  testing::FakeUpdateUserDriver user;
+  std::vector<std::string> changes;
+  std::optional<SparkleUpdaterService> service;
+  Subscription observation;
+};
+
+TEST_F(Service, KnowsNothingAtFirst) {
+  start();
+  EXPECT_FALSE(service->isCheckingForUpdates());
+  EXPECT_FALSE(service->updateAvailable());
+  EXPECT_EQ(service->updateInfo(), std::nullopt);
+  EXPECT_EQ(service->feedUrl(), "https://example.org/feed");
+}
+
+TEST_F(Service, ChecksUnaskedOnlyIfThePreferenceSaysSo) {
+  EXPECT_FALSE(start().updaterController()->automaticallyChecksForUpdates());
+  defaults.set("automaticallyChecksForUpdates", "true");
+  EXPECT_FALSE(start().updaterController()->automaticallyChecksForUpdates()) << "no Boolean";
+  defaults.set("automaticallyChecksForUpdates", true);
+  EXPECT_TRUE(start().updaterController()->automaticallyChecksForUpdates());
+  EXPECT_EQ(service->updaterController()->updateCheckInterval(), std::chrono::hours(24));
+  defaults.set("automaticallyChecksForUpdates", false);
+  EXPECT_TRUE(service->updaterController()->automaticallyChecksForUpdates()) << "read once";
+}
+
+TEST_F(Service, AsksNoStoredAddress) {
+  defaults.set("feedUrl", "https://elsewhere.example/");
+  start().checkForUpdates();
+  EXPECT_EQ(defaults.string("feedUrl"), "");
+  EXPECT_THAT(source.addresses, ElementsAre("https://example.org/feed"));
+}
+
+TEST_F(Service, TellsOfAnUpdateBeforeTheCheckEnds) {
+  start().checkForUpdates();
+  EXPECT_TRUE(service->isCheckingForUpdates());
+  source.answer(feedOf({"1.3"}));
+  EXPECT_THAT(changes, ElementsAre("checking")) << "the rest comes later";
+  queue.runReady();
+  EXPECT_THAT(changes, ElementsAre("checking", "available", "info 1.3", "not checking", "not checking"));
+}
+
+TEST_F(Service, ForgetsAnUpdateThatIsNoLongerThere) {
+  start().checkForUpdates();
+  source.answer(feedOf({"1.3"}));
+  queue.runReady();
+  changes.clear();
+  service->checkForUpdates();
+  source.answer(UpdateFailure::noConnection);
+  queue.runReady();
+  EXPECT_THAT(changes, ElementsAre("checking", "not available", "no info", "not checking"));
+}
+
+TEST_F(Service, IsNotCheckingAfterACancelledCheck) {
+  start().checkForUpdates();
+  service->checkForUpdates();
+  user.cancel();
+  queue.runReady();
+  EXPECT_FALSE(service->isCheckingForUpdates());
+}
+
+TEST_F(Service, MirrorsChecksThatNobodyAskedFor) {
+  start().didFindValidUpdate(release("1.4"));
+  service->didFinishLoadingAppcast({});
+  service->didNotFindUpdate(std::nullopt);
+  EXPECT_THAT(changes, IsEmpty());
+  queue.runReady();
+  EXPECT_THAT(changes, ElementsAre("available", "info 1.4", "not checking", "not checking", "not available",
+                                   "no info", "not checking"));
+}
+
+TEST_F(Service, MayBeToldFromAnyThread) {
+  start();
+  std::thread([this] { service->didFindValidUpdate(release("1.4")); }).join();
+  queue.runReady();
+  EXPECT_TRUE(service->updateAvailable());
+}
+
+TEST_F(Service, LeavesNothingBehind) {
+  start().checkForUpdates();
+  source.answer(feedOf({"1.3"}));
+  service.reset();
+  queue.advance(std::chrono::hours(48));
+  EXPECT_THAT(changes, ElementsAre("checking"));
+}
+
+TEST_F(Service, DoesNothingWithoutAFeed) {
+  defaults.set("automaticallyChecksForUpdates", true);
+  start({"1.2", "", ""}).checkForUpdates();
+  EXPECT_EQ(service->updaterController(), nullptr);
+  EXPECT_EQ(queue.pending(), 0u);
+  EXPECT_THAT(changes, IsEmpty());
+  EXPECT_THAT(user.shown, IsEmpty());
+}
+
+TEST_F(Service, KnowsItsVersionAsFarAsTheBuildSaidIt) {
+  EXPECT_EQ(start({"1.2", "45", ""}).currentVersion(), "1.2");
+  EXPECT_EQ(service->currentBuild(), "45");
+  EXPECT_EQ(start({}).currentVersion(), "Unknown");
+  EXPECT_EQ(service->currentBuild(), "Unknown");
+}
+
+TEST(BuildSettings, NameTheVersionAndASecureFeed) {
+  EXPECT_FALSE(buildSettings().version.empty());
+  const std::string feed = buildSettings().feedUrl;
+  EXPECT_TRUE(feed.empty() || feed.starts_with("https://")) << feed;
+}
+
+}  // namespace
+}  // namespace tessarin

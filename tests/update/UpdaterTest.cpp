@@ -1,0 +1,272 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "support/FakeUserDefaults.h"
+#include "support/FakeWorkspace.h"
+#include "support/LogRecorder.h"
+#include "support/ManualMainQueue.h"
+#include "support/ManualWallClock.h"
+#include "update/FakeUpdates.h"
+#include "update/Updater.h"
+
+namespace tessarin {
+namespace {
+
+using std::chrono::hours;
+using std::chrono::minutes;
+using ::testing::ElementsAre;
+using testing::FakeAppcastSource;
+using testing::FakeUpdateUserDriver;
+using testing::FakeUserDefaults;
+using testing::FakeWorkspace;
+using testing::feedOf;
+using ::testing::IsEmpty;
+using testing::LogRecorder;
+using testing::ManualMainQueue;
+using testing::ManualWallClock;
+
+class RecordingDelegate final : public UpdaterDelegate {
+ public:
+  std::string feedUrl() const override { return "https://example.org/feed"; }
+  void didFindValidUpdate(const AppcastItem& item) override { told.push_back("found " + item.version); }
+  void didNotFindUpdate(std::optional<UpdateFailure> failure) override {
+    told.push_back(failure ? "failed " + std::to_string(static_cast<int>(*failure)) : "none");
+  }
+  void didFinishLoadingAppcast(const Appcast& appcast) override {
+    told.push_back("loaded " + std::to_string(appcast.items.size()));
+  }
+  std::vector<std::string> told;
+};
+
+class Updating : public ::testing::Test {
+ protected:
+  void answer(const std::vector<std::string>& versions) { source.answer(feedOf(versions)); }
+  /// Time passes for the clocks alike, in steps of a minute.
+  void pass(minutes time) {
+    for (; time > minutes(0); time -= minutes(1)) {
+      clock.time += minutes(1);
+      queue.advance(minutes(1));
+    }
+  }
+  void startAutomatic() {
+    updater.emplace(UpdaterSeams{defaults, queue, clock, workspace, source, user}, delegate,
+                    Installation{"1.2", "", "6.1"});
+    updater->setAutomaticallyChecksForUpdates(true);
+  }
+  /// A check that was due runs and finds the versions.
+  void runAutomatic(const std::vector<std::string>& versions) {
+    pass(minutes(60));
+    ASSERT_TRUE(source.isRunning());
+    answer(versions);
+  }
+
+  FakeUserDefaults defaults;
+  ManualMainQueue queue;
+  ManualWallClock clock;
+  FakeWorkspace workspace;
+  FakeAppcastSource source;
+  FakeUpdateUserDriver user;
+  RecordingDelegate delegate;
+  std::optional<Updater> updater{std::in_place, UpdaterSeams{defaults, queue, clock, workspace, source, user},
+                                 delegate, Installation{"1.2", "", "6.1"}};
+};
+
+TEST_F(Updating, OffersANewerVersionAndLeadsToIt) {
+  updater->checkForUpdates();
+  EXPECT_THAT(source.addresses, ElementsAre("https://example.org/feed"));
+  answer({"1.2", "1.3"});
+  EXPECT_THAT(user.shown, ElementsAre("checking", "update 1.3 for 1.2"));
+  EXPECT_THAT(delegate.told, ElementsAre("found 1.3", "loaded 2"));
+  user.choose(UpdateChoice::download);
+  EXPECT_THAT(workspace.openedUrls, ElementsAre("https://example.org/1.3.tar"));
+}
+
+TEST_F(Updating, SaysSoWhenThereIsNothingNewer) {
+  updater->checkForUpdates();
+  answer({"1.2", "1.1"});
+  EXPECT_THAT(user.shown, ElementsAre("checking", "up to date at 1.2"));
+  EXPECT_THAT(delegate.told, ElementsAre("none", "loaded 2"));
+}
+
+TEST_F(Updating, SaysWhyItFailed) {
+  updater->checkForUpdates();
+  source.answer(UpdateFailure::timedOut);
+  EXPECT_THAT(user.shown, ElementsAre("checking", "failure 2"));
+  EXPECT_THAT(delegate.told, ElementsAre("failed 2"));
+}
+
+TEST_F(Updating, TakesADamagedFeedForAFailure) {
+  LogRecorder log;
+  updater->checkForUpdates();
+  source.answer("<html/>");
+  EXPECT_THAT(user.shown, ElementsAre("checking", "failure 8"));
+  EXPECT_THAT(delegate.told, ElementsAre("failed 8"));
+  EXPECT_THAT(log.lines, ElementsAre("[Updater] The list of updates is damaged: line 1: this is no feed"));
+}
+
+TEST_F(Updating, EndsWhenTheUserCancels) {
+  updater->checkForUpdates();
+  user.cancel();
+  EXPECT_FALSE(source.isRunning());
+  EXPECT_THAT(user.shown, ElementsAre("checking", "nothing"));
+  EXPECT_THAT(delegate.told, ElementsAre("failed 0"));
+  updater->checkForUpdates();
+  EXPECT_TRUE(source.isRunning());
+}
+
+TEST_F(Updating, ShowsTheRunningCheckWhenAskedAgain) {
+  updater->checkForUpdates();
+  updater->checkForUpdates();
+  EXPECT_THAT(user.shown, ElementsAre("checking", "focus"));
+  EXPECT_EQ(source.addresses.size(), 1u);
+}
+
+TEST_F(Updating, ChecksAnewWhileAnOfferStands) {
+  updater->checkForUpdates();
+  answer({"1.3"});
+  updater->checkForUpdates();
+  answer({"1.4"});
+  EXPECT_THAT(user.shown, ElementsAre("checking", "update 1.3 for 1.2", "checking", "update 1.4 for 1.2"));
+}
+
+TEST_F(Updating, EndsInSilenceWithTheProgram) {
+  updater->checkForUpdates();
+  updater.reset();
+  EXPECT_FALSE(source.isRunning());
+  EXPECT_THAT(user.shown, ElementsAre("checking", "nothing"));
+  EXPECT_THAT(delegate.told, IsEmpty());
+}
+
+TEST_F(Updating, NeverChecksUnaskedUnlessToldTo) {
+  pass(hours(48));
+  EXPECT_THAT(source.addresses, IsEmpty());
+  EXPECT_EQ(queue.pending(), 0u);
+}
+
+TEST_F(Updating, ChecksOnceADayUnaskedWithOneTimer) {
+  startAutomatic();
+  queue.runReady();
+  EXPECT_THAT(source.addresses, IsEmpty()) << "the program is starting";
+  for (std::size_t day = 1; day <= 3; ++day) {
+    pass(minutes(60));
+    EXPECT_EQ(source.addresses.size(), day);
+    answer({"1.2"});
+    pass(hours(22));
+    EXPECT_EQ(source.addresses.size(), day);
+    EXPECT_LE(queue.pending(), 2u) << "the timer, and one that was replaced";
+    pass(hours(1));
+  }
+  EXPECT_THAT(user.shown, IsEmpty());
+}
+
+TEST_F(Updating, CountsTheDayOverRestarts) {
+  updater->checkForUpdates();
+  answer({"1.2"});
+  EXPECT_EQ(defaults.string("lastUpdateCheck"), "2026-03-14T09:30:00Z");
+  pass(hours(10));
+  startAutomatic();
+  pass(hours(13));
+  EXPECT_EQ(source.addresses.size(), 1u);
+  pass(hours(2));
+  EXPECT_EQ(source.addresses.size(), 2u);
+}
+
+TEST_F(Updating, ChecksWhenTheDateOnFileCannotBe) {
+  for (const char* date :
+       {"2036-03-14T09:30:00Z", "9999-12-31T23:59:59Z", "0001-01-01T00:00:00Z", "yesterday", ""}) {
+    defaults.set("lastUpdateCheck", date);
+    startAutomatic();
+    const std::size_t before = source.addresses.size();
+    pass(minutes(60));
+    EXPECT_EQ(source.addresses.size(), before + 1) << date;
+  }
+}
+
+TEST_F(Updating, GoesOnAfterTheClockJumpsBack) {
+  startAutomatic();
+  runAutomatic({"1.2"});
+  clock.time -= hours(24 * 365);
+  pass(hours(2));
+  EXPECT_EQ(source.addresses.size(), 2u);
+}
+
+TEST_F(Updating, NoticesADayThatWasSleptThrough) {
+  startAutomatic();
+  runAutomatic({"1.2"});
+  clock.time += hours(30);
+  pass(hours(1));
+  EXPECT_EQ(source.addresses.size(), 2u);
+}
+
+TEST_F(Updating, StopsWhenAutomaticChecksAreSwitchedOff) {
+  startAutomatic();
+  updater->setAutomaticallyChecksForUpdates(false);
+  pass(hours(48));
+  EXPECT_THAT(source.addresses, IsEmpty());
+}
+
+TEST_F(Updating, ShowsNothingUnaskedButAnUpdate) {
+  startAutomatic();
+  pass(minutes(60));
+  source.answer(UpdateFailure::noConnection);
+  pass(hours(24));
+  answer({"1.3"});
+  EXPECT_THAT(user.shown, ElementsAre("update 1.3 for 1.2 unobtrusively"));
+  EXPECT_THAT(delegate.told, ElementsAre("failed 1", "found 1.3", "loaded 1"));
+}
+
+TEST_F(Updating, LeavesAnOfferAloneUntilTheUserHasChosen) {
+  startAutomatic();
+  runAutomatic({"1.3"});
+  pass(hours(72));
+  EXPECT_EQ(source.addresses.size(), 1u);
+  user.choose(UpdateChoice::later);
+  pass(hours(1));
+  EXPECT_EQ(source.addresses.size(), 2u);
+  answer({"1.3"});
+  EXPECT_EQ(user.shown.size(), 2u) << "put off, not skipped";
+}
+
+TEST_F(Updating, PassesOverASkippedVersionUntilAsked) {
+  updater->checkForUpdates();
+  answer({"1.3"});
+  user.choose(UpdateChoice::skip);
+  EXPECT_THAT(workspace.openedUrls, IsEmpty());
+  user.shown.clear();
+  delegate.told.clear();
+  startAutomatic();
+  pass(hours(24));
+  runAutomatic({"1.3"});
+  EXPECT_THAT(user.shown, ElementsAre());
+  EXPECT_THAT(delegate.told, ElementsAre("none", "loaded 1"));
+  updater->checkForUpdates();
+  answer({"1.3"});
+  EXPECT_THAT(user.shown, ElementsAre("checking", "update 1.3 for 1.2"));
+}
+
+TEST_F(Updating, OffersWhatIsNewerThanTheSkippedVersion) {
+  defaults.set("skippedVersion", "1.3");
+  startAutomatic();
+  runAutomatic({"1.3", "1.4"});
+  EXPECT_THAT(user.shown, ElementsAre("update 1.4 for 1.2 unobtrusively"));
+}
+
+TEST_F(Updating, TurnsAnUnaskedCheckIntoOneThatTheUserSees) {
+  startAutomatic();
+  pass(minutes(60));
+  updater->checkForUpdates();
+  answer({"1.2"});
+  EXPECT_THAT(user.shown, ElementsAre("checking", "up to date at 1.2"));
+  EXPECT_EQ(source.addresses.size(), 1u);
+}
+
+TEST_F(Updating, DiscardsAStoredAddress) {
+  EXPECT_EQ(updater->clearFeedUrlFromUserDefaults(), std::nullopt);
+  EXPECT_THAT(defaults.writes, IsEmpty());
+  defaults.set("feedUrl", "https://elsewhere.example/");
+  EXPECT_EQ(updater->clearFeedUrlFromUserDefaults(), "https://elsewhere.example/");
+  EXPECT_EQ(updater->clearFeedUrlFromUserDefaults(), std::nullopt);
+}
+
+}  // namespace
+}  // namespace tessarin
