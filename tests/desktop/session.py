@@ -190,8 +190,8 @@ class Tessarin:
             return self.log.count(text) >= count
         wait_for(seen, seconds, f"the log line “{text}”")
 
-    def command(self, *options, check=True):
-        return self.session.run(self.program, *options, check=check)
+    def command(self, *options, **how):
+        return self.session.run(self.program, *options, **how)
 
     def resident_kilobytes(self):
         status = pathlib.Path(f"/proc/{self.pid}/status").read_text()

@@ -1,143 +1,33 @@
 #include <QApplication>
 #include <QDir>
-#include <QImage>
-#include <QPainter>
-#include <QPalette>
-#include <cmath>
 #include <cstdio>
-#include <vector>
+#include <filesystem>
 
-#include "ui/PopupPainter.h"
+#include "Palettes.h"
+#include "PopupPictures.h"
+#include "WindowPictures.h"
 
-/// Paints the popup in each of its states, light and dark, at several scales, into a folder: pictures
-/// DIR
-
-using namespace tessarin;
-using namespace tessarin::ui;
-
-namespace {
-
-struct State {
-  QString name;
-  PopupContent content;
-  std::optional<int> hovered;
-};
-
-PopupRow row(const char* replacement, const char* trigger, const char* name, bool supportsSkinTones = false) {
-  return {trigger, replacement, trigger, name, supportsSkinTones};
-}
-
-std::vector<PopupRow> handRows() {
-  return {row("👍", "thumbsup", "thumbs up", true),
-          row("👋", "wave", "waving hand", true),
-          row("😀", "grinning", "grinning face"),
-          row("❤️", "heart", "red heart"),
-          row("👨‍👩‍👧", "family", "family: man, woman, girl"),
-          row("🇪🇺", "eu", "flag: European Union"),
-          row("☺️", "relaxed", "smiling face"),
-          row("🧑‍🚀", "astronaut", "astronaut")};
-}
-
-PopupContent contentOf(std::vector<PopupRow> rows, int selected = 0) {
-  PopupContent content;
-  content.triggerCharacter = ":";
-  content.query = "smile";
-  content.rows = std::move(rows);
-  content.selectedIndex = selected;
-  if (content.rows.empty()) return content;
-  content.hints = {{"↑↓", "navigate"}, {"↵", "select"}, {":", "confirm"}, {"esc", "cancel"}};
-  if (content.rows[static_cast<std::size_t>(selected)].supportsSkinTones)
-    content.hints.push_back({"→", "skin tone"});
-  return content;
-}
-
-PopupContent withPicker(PopupContent content) {
-  content.skinToneMode = true;
-  content.skinToneVariants = {"👍", "👍🏻", "👍🏼", "👍🏽", "👍🏾", "👍🏿"};
-  content.skinToneSelectedIndex = 2;
-  content.hints.resize(4);
-  return content;
-}
-
-std::vector<State> states() {
-  auto one = handRows();
-  one.resize(1);
-  return {
-      {"eight-rows", contentOf(handRows()), {}},
-      {"one-row", contentOf(one), {}},
-      {"no-matches", contentOf({}), {}},
-      {"skin-tones", withPicker(contentOf(handRows(), 0)), {}},
-      {"skin-tones-one-row", withPicker(contentOf(one)), {}},
-      {"selected-in-the-middle", contentOf(handRows(), 4), 5},
-      {"kaomoji-and-long-names",
-       contentOf({row("¯\\_(ツ)_/¯", "shrug", "shrug kaomoji"),
-                  row("(╯°□°)╯︵ ┻━┻", "tableflip", "a table, flipped over in anger and never put back"),
-                  row("→", "rightarrow", "rightwards arrow with quite a long name"),
-                  row("👩🏽‍❤️‍💋‍👨🏿", "kiss_woman_man_medium_dark", "kiss"),
-                  row("Dear {{name}},\nthank you", "thanks", "Thank-you letter"),
-                  row("©", "copyright", "copyright"), row("1️⃣", "one", "keycap: 1")},
-                 1),
-       {}},
-      {"unknown-emoji",
-       contentOf({row("\U0001FAE9", "bags", "face with bags under eyes"),
-                  row("\U0001F9D1\u200D\U0001FAEF\u200D\U0001F9D1", "apart", "sequence that falls apart"),
-                  row("\U0001FA8A", "trombone", "trombone"), row("🎺", "trumpet", "trumpet")},
-                 2),
-       {}},
-  };
-}
-
-QPalette darkPalette() {
-  QPalette palette(QColor(0x2b, 0x2b, 0x2e), QColor(0x2b, 0x2b, 0x2e));
-  palette.setColor(QPalette::Base, QColor(0x1e, 0x1e, 0x20));
-  palette.setColor(QPalette::WindowText, QColor(0xf2, 0xf2, 0xf2));
-  palette.setColor(QPalette::Highlight, QColor(0x35, 0x84, 0xe4));
-  return palette;
-}
-
-QPalette lightPalette() {
-  QPalette palette(QColor(0xf0, 0xf0, 0xf0), QColor(0xf6, 0xf5, 0xf4));
-  palette.setColor(QPalette::Base, Qt::white);
-  palette.setColor(QPalette::WindowText, QColor(0x1d, 0x1d, 0x1f));
-  palette.setColor(QPalette::Highlight, QColor(0x35, 0x84, 0xe4));
-  return palette;
-}
-
-QImage picture(const State& state, PopupPainter& painter, double scale, const QColor& behind) {
-  constexpr double margin = 12;
-  const QSizeF size = PopupLayout::sizeFor(static_cast<int>(state.content.rows.size()));
-  QImage image(static_cast<int>(std::lround((size.width() + 2 * margin) * scale)),
-               static_cast<int>(std::lround((size.height() + 2 * margin) * scale)),
-               QImage::Format_ARGB32_Premultiplied);
-  image.setDevicePixelRatio(scale);
-  image.fill(behind);
-  const PopupLayout layout(state.content, size);
-  QPainter device(&image);
-  device.translate(margin, margin);
-  painter.paint(device, state.content, layout,
-                {layout.scrollCentring(state.content.selectedIndex), state.hovered, true});
-  return image;
-}
-
-}  // namespace
-
+/// Paints every window and every state of the popup, light and dark, into a folder: pictures FOLDER. The scale is
+/// that of QT_SCALE_FACTOR.
 int main(int argc, char** argv) {
+  using namespace tessarin::pictures;
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
+  QApplication::setStyle("Fusion");
+  QApplication::setQuitOnLastWindowClosed(false);
   if (argc != 2 || !QDir().mkpath(argv[1])) {
     std::fprintf(stderr, "usage: pictures FOLDER\n");
     return 2;
   }
+  const double scale = application.devicePixelRatio();
   for (const bool isDark : {false, true}) {
-    PopupPainter painter(isDark ? darkPalette() : lightPalette());
-    const QColor behind = isDark ? QColor(0x10, 0x18, 0x20) : QColor(0xc8, 0xd0, 0xd8);
-    for (const double scale : {1.0, 1.5, 2.0}) {
-      for (const State& state : states()) {
-        const QString name = QStringLiteral("%1/%2-%3-%4.png")
-                                 .arg(QString::fromLocal8Bit(argv[1]), state.name, isDark ? "dark" : "light")
-                                 .arg(scale);
-        if (!picture(state, painter, scale, behind).save(name)) return 1;
-      }
+    const QPalette palette = isDark ? darkPalette() : lightPalette();
+    QApplication::setPalette(palette);
+    const QString prefix =
+        QStringLiteral("%1/%2-%3x-").arg(QString::fromLocal8Bit(argv[1]), isDark ? "dark" : "light").arg(scale);
+    if (!savePopups(prefix, palette, scale) || !saveWindows(prefix)) {
+      std::fprintf(stderr, "pictures: cannot write into %s\n", argv[1]);
+      return 1;
     }
   }
   return 0;

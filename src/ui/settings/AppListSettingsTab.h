@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QWidget>
+#include <string>
+#include <vector>
+
+#include "input/AppList.h"
+#include "ui/settings/RunningAppInfo.h"
+#include "ui/settings/SettingsServices.h"
+
+class QLineEdit;
+class QListWidget;
+
+namespace tessarin::ui {
+
+class FlowGrid;
+
+/// A tab that edits one of the lists of applications: its entries, buttons for the applications that run and
+/// a field for an identifier.
+class AppListSettingsTab : public QWidget {
+  Q_OBJECT
+
+ public:
+  struct Texts {
+    QString title;
+    QString description;
+    QString placeholder;  ///< of the field
+  };
+
+  AppListSettingsTab(const SettingsServices& services, AppList list, const Texts& texts,
+                     QWidget* parent = nullptr);
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  QWidget* makeRunningApps();
+  QWidget* makeManualEntry(const QString& placeholder);
+  QWidget* makeRow(const std::string& bundleID);
+  QWidget* makeAppButton(const RunningAppInfo& app);
+
+  void add(const std::string& bundleID);
+  void addManualEntry();
+  void remove(const std::string& bundleID);
+  void showEntries();
+  void showRunningApps();
+
+  SettingsServices services_;
+  AppList list_;
+  std::vector<RunningAppInfo> runningApps_;
+  QListWidget* entries_;
+  QWidget* appButtons_;
+  FlowGrid* grid_;
+  QLineEdit* manualBundleID_;
+};
+
+}  // namespace tessarin::ui

@@ -1,0 +1,32 @@
+#include "ui/settings/SettingsView.h"
+
+#include "model/SnippetStore.h"
+#include "ui/settings/BlockedAppsSettingsTab.h"
+#include "ui/settings/GeneralSettingsTab.h"
+#include "ui/settings/PasteFallbackAppsSettingsTab.h"
+#include "ui/settings/PermissionsSettingsTab.h"
+#include "ui/settings/SnippetsSettingsTab.h"
+#include "ui/settings/StatsSettingsTab.h"
+#include "ui/style/Symbol.h"
+
+namespace tessarin::ui {
+namespace {
+
+constexpr QSize smallest(580, 400);
+
+}  // namespace
+
+SettingsView::SettingsView(const SettingsServices& services, QWidget* parent) : QTabWidget(parent) {
+  setMinimumSize(smallest);
+  setUsesScrollButtons(true);
+  addTab(new GeneralSettingsTab(services), symbolIcon("gear"), tr("General"));
+  addTab(new SnippetsSettingsTab(services), symbolIcon("text-badge-plus"), tr("Snippets"));
+  addTab(
+      new StatsSettingsTab(services.snippetStore.usageTracker(), services.userDefaults, services.mainQueue),
+      symbolIcon("chart-bar"), tr("Stats"));
+  addTab(new BlockedAppsSettingsTab(services), symbolIcon("hand-raised"), tr("Blocked Apps"));
+  addTab(new PasteFallbackAppsSettingsTab(services), symbolIcon("doc-on-clipboard"), tr("Paste Mode Apps"));
+  addTab(new PermissionsSettingsTab(services), symbolIcon("lock-shield"), tr("Permissions"));
+}
+
+}  // namespace tessarin::ui

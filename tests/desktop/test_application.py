@@ -1,0 +1,129 @@
+#!/usr/bin/python3
+"""The whole application, as a person meets it: launch, welcome, expansion, statistics, quit."""
+
+import json
+import pathlib
+import unittest
+
+import Xlib.X
+
+from editors import Mousepad
+from session import ROOT, Session, Tessarin, wait_for
+from typist import Typist
+
+
+class ApplicationTest(unittest.TestCase):
+    preferences = {}
+
+    def setUp(self):
+        self.session = self.enterContext(Session())
+        self.preferences_path = pathlib.Path(self.session.env["XDG_CONFIG_HOME"]) / "tessarin/preferences.json"
+        self.preferences_path.parent.mkdir(parents=True)
+        self.preferences_path.write_text(json.dumps(self.preferences))
+        self.typist = Typist(self.session)
+        self.addCleanup(self.typist.close)
+        self.tessarin = self.enterContext(Tessarin(self.session))
+
+    def stored(self, key):
+        return json.loads(self.preferences_path.read_text()).get(key)
+
+    def window(self, title):
+        """The frame of the window of this title, once it is there."""
+        return wait_for(lambda: self.find_window(title), what=f"the window “{title}”")
+
+    def find_window(self, title):
+        name = self.typist.display.intern_atom("_NET_WM_NAME")
+        for number in self.typist.client_windows():
+            try:
+                window = self.typist.display.create_resource_object("window", number)
+                shown = window.get_full_property(name, Xlib.X.AnyPropertyType)
+                if shown and shown.value.decode() == title:
+                    return window.get_geometry()
+            except Exception:  # it went between the two questions
+                continue
+        return None
+
+    def heard(self):
+        """What a screen reader is told, line by line."""
+        return self.session.run(ROOT / "tests/desktop/screen_reader.py", "tessarin").stdout.decode().splitlines()
+
+    def wait_until_heard(self, *texts):
+        return wait_for(lambda: all(any(text in line for line in self.heard()) for text in texts), 20,
+                        f"a screen reader to hear {texts}")
+
+
+class FirstRun(ApplicationTest):
+    def test_from_launch_to_quit(self):
+        frame = self.window("Welcome to Tessarin")
+        self.assertEqual((frame.width, frame.height), (520, 480))
+        self.wait_until_heard("System-wide :shortcode: autocomplete for macOS")
+        self.typist.press("Return")
+        self.wait_until_heard("Tessarin needs two permissions to work:")
+        self.typist.press("Return")
+        self.wait_until_heard("Type :smile: in any text field")
+        self.try_the_exercise()
+        self.typist.press("Return")
+        self.wait_until_heard("You're All Set!")
+        self.assertIsNone(self.stored("hasCompletedOnboarding"))
+        self.typist.press("Return")
+        wait_for(lambda: self.stored("hasCompletedOnboarding"), what="the welcome to be over")
+        wait_for(lambda: not self.find_window("Welcome to Tessarin"), what="its window to go")
+
+        with Mousepad(self.session, self.typist) as editor:
+            self.typist.type("a:tada\nb")
+            self.assertEqual(editor.wait_for_document("a🎉b"), "a🎉b")
+        self.look_at_the_statistics()
+        self.assertEqual(self.tessarin.command("--quit").returncode, 0)
+        wait_for(lambda: "Event tap stopped" in self.tessarin.log, what="an orderly end")
+
+    def try_the_exercise(self):
+        self.typist.type(":smile:")
+        self.wait_until_heard("😄")
+
+    def look_at_the_statistics(self):
+        self.tessarin.command("--settings")
+        frame = self.window("Tessarin Settings")
+        self.assertEqual((frame.width, frame.height), (640, 480))
+        wait_for(lambda: self.typist.active_frame()[2:] == (640, 480), what="the settings to be in front")
+        for _ in range(2):
+            self.typist.press("Tab", "Control_L")
+        self.wait_until_heard("Usage Statistics", ":tada:", ":smile:")
+
+
+class SecondStart(ApplicationTest):
+    preferences = {"hasCompletedOnboarding": True}
+
+    def test_it_brings_up_the_settings_of_the_first(self):
+        self.assertEqual(self.tessarin.command().returncode, 0)
+        self.window("Tessarin Settings")
+        self.assertIsNone(self.find_window("Welcome to Tessarin"))
+
+    def test_import_and_export_through_the_running_program(self):
+        folder = self.session.folder
+        (folder / "mine.json").write_text(json.dumps([
+            {"id": "A", "name": "Mine", "trigger": "zqmine", "replacement": "it is mine", "keywords": [],
+             "category": "Custom", "isBuiltIn": False}]))
+        answer = self.tessarin.command("--import", "mine.json", cwd=folder)
+        self.assertEqual(answer.stdout.decode().strip(), "Imported 1 snippet")
+        with Mousepad(self.session, self.typist) as editor:
+            self.typist.type(":zqmine\n")
+            self.assertEqual(editor.wait_for_document("it is mine"), "it is mine")
+        self.tessarin.command("--export", "all.json", cwd=folder)
+        self.assertEqual([entry["trigger"] for entry in json.loads((folder / "all.json").read_text())], ["zqmine"])
+        (folder / "broken.json").write_text("[{")
+        answer = self.tessarin.command("--import", "broken.json", cwd=folder, check=False)
+        self.assertEqual(answer.returncode, 1)
+        self.assertIn("Import failed: ", answer.stderr.decode())
+
+    def test_toggle_ends_a_collecting(self):
+        with Mousepad(self.session, self.typist) as editor:
+            self.typist.type("a:smile")
+            wait_for(self.typist.popup, what="the popup")
+            self.tessarin.command("--toggle")
+            wait_for(lambda: self.typist.popup() is None, what="the popup to go")
+            self.typist.type("\nb")
+            self.assertEqual(editor.wait_for_document("a:smile\nb"), "a:smile\nb")
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QPalette>
+
+namespace tessarin::pictures {
+
+QPalette lightPalette();
+QPalette darkPalette();
+
+}  // namespace tessarin::pictures
