@@ -48,15 +48,15 @@ TYPED_TEST_P(LoginItemSuite, SeesWhatWasChangedOutside) {
 
 TYPED_TEST_P(LoginItemSuite, AFailureSaysWhyAndChangesNothing) {
   for (const bool wasOn : {false, true}) {
-    TypeParam world;
+    TypeParam own;
     if (wasOn) {
-      ASSERT_EQ(world.item().registerItem(), std::nullopt);
+      ASSERT_EQ(own.item().registerItem(), std::nullopt);
     }
-    world.breakDown();
-    const auto failure = wasOn ? world.item().unregisterItem() : world.item().registerItem();
+    own.breakDown();
+    const auto failure = wasOn ? own.item().unregisterItem() : own.item().registerItem();
     ASSERT_TRUE(failure);
     EXPECT_FALSE(failure->empty());
-    EXPECT_EQ(world.item().isEnabled(), wasOn);
+    EXPECT_EQ(own.item().isEnabled(), wasOn);
   }
 }
 
