@@ -1,19 +1,44 @@
 #include "platform/qt/QtStatusBar.h"
 
 #include <QAction>
+#include <QDBusConnection>
 
 #include "platform/qt/TextCursorIcon.h"
 
 namespace tessarin::ui {
+namespace {
+
+/// Whoever takes in StatusNotifierItems owns this name.
+constexpr const char* trayService = "org.kde.StatusNotifierWatcher";
+
+}  // namespace
+
+QtStatusBar::QtStatusBar()
+    : trayWatcher_(trayService, QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForRegistration) {
+  // Qt chooses between the two kinds of tray when an item is made, so one that came too early is made anew.
+  QObject::connect(&trayWatcher_, &QDBusServiceWatcher::serviceRegistered, &trayWatcher_, [this] {
+    if (isCreated_) makeItem();
+  });
+}
 
 void QtStatusBar::createItem(const std::string& description) {
+  description_ = QString::fromStdString(description);
+  isCreated_ = true;
+  makeItem();
+}
+
+void QtStatusBar::makeItem() {
   item_ = std::make_unique<QSystemTrayIcon>();
-  item_->setToolTip(QString::fromStdString(description));
-  showIcon();
+  item_->setToolTip(description_);
+  if (menu_) item_->setContextMenu(menu_.get());
+  showItem();
 }
 
 void QtStatusBar::setMenu(const std::vector<MenuItem>& items) {
   auto menu = std::make_unique<QMenu>();
+  QObject::connect(menu.get(), &QMenu::aboutToShow, menu.get(), [this] {
+    if (menuOpening_) menuOpening_();
+  });
   for (const MenuItem& item : items) {
     if (item.isSeparator()) {
       menu->addSeparator();
@@ -34,13 +59,17 @@ void QtStatusBar::setMenu(const std::vector<MenuItem>& items) {
 
 void QtStatusBar::setDimmed(bool dimmed) {
   isDimmed_ = dimmed;
-  showIcon();
+  showItem();
 }
 
-void QtStatusBar::showIcon() {
+void QtStatusBar::setVisible(bool visible) {
+  if (std::exchange(isVisible_, visible) != visible) showItem();
+}
+
+void QtStatusBar::showItem() {
   if (!item_) return;
   item_->setIcon(textCursorIcon(isDimmed_));
-  item_->show();
+  item_->setVisible(isVisible_);
 }
 
 }  // namespace tessarin::ui
