@@ -1,30 +1,14 @@
 #include "platform/qt/QtStatusBar.h"
 
 #include <QAction>
-#include <QDBusConnection>
+#include <utility>
 
 #include "platform/qt/TextCursorIcon.h"
 
 namespace tessarin::ui {
-namespace {
-
-/// Whoever takes in StatusNotifierItems owns this name.
-constexpr const char* trayService = "org.kde.StatusNotifierWatcher";
-
-}  // namespace
-
-QtStatusBar::QtStatusBar()
-    : trayWatcher_(trayService, QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForRegistration) {
-  // Qt chooses between the two kinds of tray when an item is made, so one that came too early is made anew.
-  QObject::connect(&trayWatcher_, &QDBusServiceWatcher::serviceRegistered, &trayWatcher_, [this] {
-    if (isCreated_) makeItem();
-  });
-}
-
 void QtStatusBar::createItem(const std::string& description) {
   description_ = QString::fromStdString(description);
-  isCreated_ = true;
-  makeItem();
+  presence_.waitForTray([this] { makeItem(); });
 }
 
 void QtStatusBar::makeItem() {

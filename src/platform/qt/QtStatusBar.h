@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QDBusServiceWatcher>
 #include <QMenu>
 #include <QSystemTrayIcon>
 #include <memory>
 
 #include "platform/StatusBar.h"
+#include "platform/qt/TrayPresence.h"
 
 namespace tessarin::ui {
 
@@ -13,8 +13,7 @@ namespace tessarin::ui {
 /// nothing is shown until one appears.
 class QtStatusBar final : public StatusBar {
  public:
-  QtStatusBar();
-
+  /// The item appears as soon as there is a tray.
   void createItem(const std::string& description) override;
   void setMenu(const std::vector<MenuItem>& menu) override;
   void setDimmed(bool dimmed) override;
@@ -27,10 +26,9 @@ class QtStatusBar final : public StatusBar {
 
   std::unique_ptr<QMenu> menu_;  ///< before the item, which refers to it
   std::unique_ptr<QSystemTrayIcon> item_;
-  QDBusServiceWatcher trayWatcher_;
+  TrayPresence presence_;
   std::function<void()> menuOpening_;
   QString description_;
-  bool isCreated_ = false;
   bool isDimmed_ = false;
   bool isVisible_ = true;
 };
