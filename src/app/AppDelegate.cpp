@@ -44,6 +44,7 @@ AppDelegate::AppDelegate(Services services)
 void AppDelegate::applicationDidFinishLaunching() {
   if (services_.startUpdateService) services_.startUpdateService();
   menuBarManager_.setSnippetStore(snippetStore_);
+  showMenuBarIconIfWanted();
   menuBarManager_.setupStatusItem();
   installPanelHandlers();
   installHandlers();
@@ -73,6 +74,12 @@ void AppDelegate::observeDesktop() {
   appSwitchObserver_ = services_.workspace.onContextChanged(handler(&AppDelegate::handleAppSwitch));
   focusObserver_ = services_.accessibility.onFocusMoved(handler(&AppDelegate::handleAppSwitch));
   defaultsObserver_ = services_.userDefaults.onChange(handler(&AppDelegate::handleDefaultsChange));
+  services_.statusBar.onMenuOpening(handler(&AppDelegate::handleAppSwitch));
+}
+
+void AppDelegate::showMenuBarIconIfWanted() {
+  services_.statusBar.setVisible(services_.userDefaults.boolean(preferences::key::showMenuBarIcon)
+                                     .value_or(preferences::showMenuBarIconWhenAbsent));
 }
 
 void AppDelegate::showOnboardingIfNeeded() {
@@ -109,6 +116,17 @@ void AppDelegate::applicationWillTerminate() {
   appSwitchObserver_.reset();
   focusObserver_.reset();
   defaultsObserver_.reset();
+  services_.statusBar.onMenuOpening({});
+}
+
+void AppDelegate::endCollecting() {
+  handler(&AppDelegate::handleAppSwitch)();
+}
+
+bool AppDelegate::toggleEnabled() {
+  endCollecting();
+  menuBarManager_.toggleEnabled();
+  return menuBarManager_.isEnabled();
 }
 
 // Keys
@@ -212,6 +230,7 @@ void AppDelegate::handleVariantClick(int index) {
 }
 
 void AppDelegate::handleDefaultsChange() {
+  showMenuBarIconIfWanted();
   popup_.invalidate();
 }
 

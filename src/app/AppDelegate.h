@@ -62,6 +62,12 @@ class AppDelegate {
   /// Shutdown, once: no key and no timer reaches the controller afterwards.
   void applicationWillTerminate();
 
+  /// Forgets what has been typed after the trigger and closes the popup, as a switch of application does: for
+  /// whatever is about to need the keys itself.
+  void endCollecting();
+  /// Switches expansion off or on from outside of the menu, and answers whether it is on now.
+  bool toggleEnabled();
+
   /// Whether the frontmost application is on the effective blocked list; an unknown one is not.
   bool isBlockedAppActive();
 
@@ -75,6 +81,7 @@ class AppDelegate {
   void installHandlers();
   void installPanelHandlers();
   void observeDesktop();
+  void showMenuBarIconIfWanted();
   void showOnboardingIfNeeded();
   void startKeyboardMonitor();
   void startPermissionRetryTimer();

@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <string>
 #include <system_error>
+#include <vector>
 
 #include "base/FileDescriptor.h"
 
@@ -15,6 +16,10 @@ namespace tessarin {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// The name of a new file beside its target; the last six characters are made up.
+constexpr std::string_view replacementName = ".tessarin-XXXXXX";
+constexpr std::string_view replacementPrefix = replacementName.substr(0, replacementName.size() - 6);
 
 [[noreturn]] void fail(int error, const fs::path& path) {
   throw std::system_error(error, std::generic_category(), "cannot write " + path.string());
@@ -48,7 +53,7 @@ mode_t modeOf(const fs::path& file) {
 class Replacement {
  public:
   explicit Replacement(const fs::path& target) : target_(target) {
-    name_ = (target.parent_path() / ".tessarin-XXXXXX").string();
+    name_ = (target.parent_path() / replacementName).string();
     file_ = FileDescriptor(::mkostemp(name_.data(), O_CLOEXEC));
     if (!file_) fail(errno, target_);
   }
@@ -91,6 +96,16 @@ void flushFolder(const fs::path& folder) {
   if (opened) ::fsync(opened.get());
 }
 
+bool isAbandoned(const fs::path& file, fs::file_time_type before) {
+  const std::string name = file.filename();
+  if (name.size() != replacementName.size() || !name.starts_with(replacementPrefix)) return false;
+  struct stat status {};
+  if (::lstat(file.c_str(), &status) != 0) return false;
+  std::error_code error;
+  return S_ISREG(status.st_mode) && status.st_uid == ::getuid() &&
+         fs::last_write_time(file, error) < before && !error;
+}
+
 }  // namespace
 
 void replaceFile(const fs::path& path, std::string_view content, Durability durability) {
@@ -102,6 +117,16 @@ void replaceFile(const fs::path& path, std::string_view content, Durability dura
   if (durability == Durability::powerCut) replacement.flush();
   replacement.takePlace();
   if (durability == Durability::powerCut) flushFolder(target.parent_path());
+}
+
+void removeAbandonedReplacements(const fs::path& folder, fs::file_time_type before) {
+  std::error_code error;
+  std::vector<fs::path> abandoned;
+  for (fs::directory_iterator file(folder, error); !error && file != fs::directory_iterator();
+       file.increment(error)) {
+    if (isAbandoned(file->path(), before)) abandoned.push_back(file->path());
+  }
+  for (const fs::path& file : abandoned) fs::remove(file, error);
 }
 
 }  // namespace tessarin

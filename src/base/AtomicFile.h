@@ -17,4 +17,8 @@ enum class Durability {
 /// Throws std::system_error; the old content is then untouched and nothing is left beside it.
 void replaceFile(const std::filesystem::path& path, std::string_view content, Durability durability);
 
+/// Removes what replacements left in the folder when their process was killed: the user's own files under the
+/// names of such, last written before the time. Others may be replacing files there only from then on.
+void removeAbandonedReplacements(const std::filesystem::path& folder, std::filesystem::file_time_type before);
+
 }  // namespace tessarin

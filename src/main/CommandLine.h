@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -7,11 +8,31 @@ namespace tessarin {
 
 /// What the program was started for.
 struct CommandLine {
-  enum class Action { run, help, version, allow, disallow, toggle, quit, unknown };
+  enum class Action {
+    run,  ///< also brings up the settings of an instance that runs already
+    settings,
+    help,
+    version,
+    allow,
+    disallow,
+    toggle,
+    quit,
+    importFile,
+    exportFile,
+    search,
+    wrongUsage,
+  };
+  static constexpr std::size_t defaultLimit = 8;
 
   Action action = Action::run;
-  std::string unknownOption;  ///< the first one that is not understood
+  std::string argument;  ///< the file or the query, byte for byte; what is wrong where the usage is
+  bool json = false;
+  std::size_t limit = defaultLimit;
 
+  bool operator==(const CommandLine&) const = default;
+
+  /// An option's argument follows behind "=" or as the next argument; one that begins with "--" only behind
+  /// "=" or behind "--".
   static CommandLine parse(const std::vector<std::string>& arguments);
 };
 

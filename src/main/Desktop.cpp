@@ -14,17 +14,15 @@ namespace tessarin {
 namespace {
 
 /// One sentence, where the session lacks what the program lives on.
-void sayWhatIsMissing(x11::X11InputMonitoring& inputMonitoring) {
-  if (isWaylandSession()) {
+void sayWhatIsMissing(KeyTapState state) {
+  if (state == KeyTapState::waylandSession) {
     log("Tessarin",
         "This is a Wayland session, in which keys typed in other applications cannot be judged yet: no "
-        "shortcode "
-        "expands, while the tray menu and the command line work.");
-  } else if (!inputMonitoring.isGranted()) {
+        "shortcode expands, while the tray menu and the command line work.");
+  } else if (state != KeyTapState::usable) {
     log("Tessarin",
         "The X server lacks XInput 2.2, XTest or XKB, so keys cannot be judged: no shortcode expands, while "
-        "the tray "
-        "menu and the command line work.");
+        "the tray menu and the command line work.");
   }
 }
 
@@ -42,7 +40,12 @@ Desktop::Desktop()
       trustPrompt_([this] { allow(); }),
       popupWindow_([this] { return screens_.space(); }),
       selections_(x11::X11Selections::connect(queue_)),
-      workspace_(x11::X11Workspace::connect(queue_, applicationMatcher())),
+      x11Workspace_(x11::X11Workspace::connect(queue_, applicationMatcher())),
+      workspace_(sessionWorkspace(),
+                 {{Permissions::accessibilitySettingsUrl, [this] { askForTrust(); }},
+                  {Permissions::inputMonitoringSettingsUrl, [this] { inputMonitoring_.showExplanation(); }}}),
+      inputMonitoring_([this] { return keyTapState(); },
+                       [this](const Explanation& why) { inputMonitoringHelp_.show(why.headline, why.text); }),
       keyboard_(std::make_shared<x11::X11Keyboard>(queue_)),
       x11EventTap_(keyboard_),
       screenLock_(freedesktop::ScreenLock::connect()),
@@ -50,20 +53,20 @@ Desktop::Desktop()
       keyPoster_(keyboard_),
       otherApplications_(queue_, accessibilityOptions()),
       accessibility_(otherApplications_),
-      accessibilityHelper_(accessibility_, workspace(), defaults_),
+      accessibilityHelper_(accessibility_, workspace_, defaults_),
       pasteHelper_(general(), primary(), keyPoster_, queue_),
       textReplacer_(accessibilityHelper_, pasteHelper_, queue_, clock_),
       autocompletePanel_(popupWindow_, screens_, accessibility_, queue_) {
   defaults_.watch(queue_);
-  if (workspace_) workspace_->setOwnPopup(popupWindow_.nativeWindow());
-  sayWhatIsMissing(inputMonitoring_);
+  if (x11Workspace_) x11Workspace_->setOwnPopup(popupWindow_.nativeWindow());
+  sayWhatIsMissing(keyTapState());
 }
 
 AppDelegate::Services Desktop::services(SnippetStore::Folders folders) {
   return {eventTap_,
           accessibility_,
           inputMonitoring_,
-          workspace(),
+          workspace_,
           defaults_,
           queue_,
           autocompletePanel_,
@@ -84,9 +87,7 @@ void Desktop::shutdown() {
 atspi::AtspiAccessibility::Options Desktop::accessibilityOptions() {
   atspi::AtspiAccessibility::Options options;
   options.isTrusted = [this] { return trust_.isTrusted(); };
-  options.prompt = [this] {
-    if (!trust_.isTrusted()) trustPrompt_.ask();
-  };
+  options.prompt = [this] { askForTrust(); };
   options.coordinateSpace = [this] { return screens_.space(); };
   options.activeProcess = [this] { return activeWindow_.process(); };
   options.activeWindowOrigin = [this] { return activeWindow_.origin(); };
@@ -101,8 +102,18 @@ Pasteboard& Desktop::primary() {
   return selections_ ? selections_->primary() : static_cast<Pasteboard&>(noPasteboard_);
 }
 
-Workspace& Desktop::workspace() {
-  return workspace_ ? *workspace_ : static_cast<Workspace&>(noWorkspace_);
+Workspace& Desktop::sessionWorkspace() {
+  return x11Workspace_ ? *x11Workspace_ : static_cast<Workspace&>(noWorkspace_);
+}
+
+KeyTapState Desktop::keyTapState() {
+  if (isWaylandSession()) return KeyTapState::waylandSession;
+  if (!x11Workspace_) return KeyTapState::noServer;
+  return x11InputMonitoring_.isGranted() ? KeyTapState::usable : KeyTapState::missingExtensions;
+}
+
+void Desktop::askForTrust() {
+  if (!trust_.isTrusted()) trustPrompt_.ask();
 }
 
 void Desktop::allow() {

@@ -6,7 +6,9 @@
 #include "insertion/AccessibilityHelper.h"
 #include "insertion/PasteHelper.h"
 #include "insertion/TextReplacer.h"
+#include "main/SessionInputMonitoring.h"
 #include "platform/GuardedEventTap.h"
+#include "platform/OwnAddresses.h"
 #include "platform/atspi/AtspiAccessibility.h"
 #include "platform/freedesktop/JsonUserDefaults.h"
 #include "platform/freedesktop/ScreenLock.h"
@@ -25,6 +27,7 @@
 #include "platform/x11/X11Selections.h"
 #include "platform/x11/X11Workspace.h"
 #include "popup/AutocompletePanel.h"
+#include "ui/InputMonitoringHelp.h"
 #include "ui/PopupWindow.h"
 #include "ui/TrustPrompt.h"
 
@@ -46,7 +49,9 @@ class Desktop {
   atspi::AtspiAccessibility::Options accessibilityOptions();
   Pasteboard& general();
   Pasteboard& primary();
-  Workspace& workspace();
+  Workspace& sessionWorkspace();
+  KeyTapState keyTapState();
+  void askForTrust();
   void allow();
 
   ui::QtMainQueue queue_;
@@ -54,6 +59,7 @@ class Desktop {
   freedesktop::JsonUserDefaults defaults_;
   freedesktop::TrustRecord trust_;
   ui::TrustPrompt trustPrompt_;
+  ui::InputMonitoringHelp inputMonitoringHelp_;
   ui::QtStatusBar statusBar_;
   ui::QtScreens screens_;
   ui::PopupWindow popupWindow_;
@@ -61,9 +67,11 @@ class Desktop {
   none::NoPasteboard noPasteboard_;
   none::NoWorkspace noWorkspace_;
   std::unique_ptr<x11::X11Selections> selections_;
-  std::unique_ptr<x11::X11Workspace> workspace_;
+  std::unique_ptr<x11::X11Workspace> x11Workspace_;
   x11::ActiveWindowProbe activeWindow_;
-  x11::X11InputMonitoring inputMonitoring_;
+  OwnAddresses workspace_;
+  x11::X11InputMonitoring x11InputMonitoring_;
+  SessionInputMonitoring inputMonitoring_;
   std::shared_ptr<x11::X11Keyboard> keyboard_;
   x11::X11EventTap x11EventTap_;
   std::unique_ptr<freedesktop::ScreenLock> screenLock_;

@@ -1,13 +1,15 @@
 #include "main/Program.h"
 
 #include <QApplication>
+#include <QSessionManager>
 #include <QTimer>
 
-#include "base/Log.h"
+#include "main/SnippetFiles.h"
 
 namespace tessarin {
 namespace {
 
+/// The windows that the controller and the menu lead to are hung in here.
 AppDelegate::Services services(Desktop& desktop, QApplication& application,
                                const std::filesystem::path& resources, const std::filesystem::path& storage) {
   AppDelegate::Services result = desktop.services({resources, storage});
@@ -21,18 +23,27 @@ AppDelegate::Services services(Desktop& desktop, QApplication& application,
 Program::Program(QApplication& application, UnixSignals& signals, const std::filesystem::path& resources,
                  const std::filesystem::path& storage)
     : controller_(services(desktop_, application, resources, storage)) {
-  signals.onTermination([&application] { application.quit(); });
+  observeSession(application, signals);
   listenForRequests(storage);
 }
 
 Program::~Program() = default;
 
-int Program::run() {
+int Program::run(bool opensSettings) {
   controller_.applicationDidFinishLaunching();
-  const int status = QApplication::exec();
-  controller_.applicationWillTerminate();
-  desktop_.shutdown();
-  return status;
+  if (opensSettings) showSettings();
+  return QApplication::exec();
+}
+
+void Program::observeSession(QApplication& application, UnixSignals& signals) {
+  signals.onTermination([&application] { application.quit(); });
+  // At the end of a session the loop may never return.
+  QObject::connect(&application, &QApplication::aboutToQuit, &application, [this] { shutDown(); });
+  // What starts us at login is the login item alone.
+  QObject::connect(
+      &application, &QApplication::saveStateRequest, &application,
+      [](QSessionManager& session) { session.setRestartHint(QSessionManager::RestartNever); },
+      Qt::DirectConnection);
 }
 
 void Program::listenForRequests(const std::filesystem::path& storage) {
@@ -40,20 +51,40 @@ void Program::listenForRequests(const std::filesystem::path& storage) {
   if (!requests_) return;
   requestNotifier_ = std::make_unique<QSocketNotifier>(requests_->descriptor(), QSocketNotifier::Read);
   QObject::connect(requestNotifier_.get(), &QSocketNotifier::activated, requestNotifier_.get(), [this] {
-    requests_->serve([this](const std::string& request) { return answer(request); });
+    requests_->serve([this](const std::string& line) {
+      const auto request = Request::decode(line);
+      return (request ? perform(*request) : Answer{false, "unknown request"}).encoded();
+    });
   });
 }
 
-std::string Program::answer(const std::string& request) {
-  if (request == "toggle") {
-    controller_.menuBarManager().toggleEnabled();
-    return controller_.menuBarManager().isEnabled() ? "on" : "off";
+Answer Program::perform(const Request& request) {
+  switch (request.kind) {
+    case Request::Kind::settings:
+      return showSettings();
+    case Request::Kind::toggle:
+      return {true, controller_.toggleEnabled() ? "on" : "off"};
+    case Request::Kind::quit:
+      controller_.menuBarManager().quitApp();
+      return {true, "quitting"};
+    case Request::Kind::importFile:
+      return importSnippets(controller_.snippetStore(), request.file);
+    case Request::Kind::exportFile:
+      return exportSnippets(controller_.snippetStore(), request.file);
   }
-  if (request == "quit") {
-    controller_.menuBarManager().quitApp();
-    return "quitting";
-  }
-  return "unknown request";
+  return {false, "unknown request"};
+}
+
+Answer Program::showSettings() {
+  if (!controller_.menuBarManager().canOpenSettings()) return {false, "no settings window"};
+  controller_.endCollecting();
+  controller_.menuBarManager().openSettings();
+  return {true, "settings"};
+}
+
+void Program::shutDown() {
+  controller_.applicationWillTerminate();
+  desktop_.shutdown();
 }
 
 }  // namespace tessarin

@@ -7,8 +7,8 @@
 #include <string>
 
 #include "main/Desktop.h"
+#include "main/Request.h"
 #include "main/UnixSignals.h"
-#include "platform/freedesktop/FolderLock.h"
 #include "platform/freedesktop/InstanceSocket.h"
 
 class QApplication;
@@ -26,11 +26,14 @@ class Program {
   Program& operator=(const Program&) = delete;
 
   /// Until the user quits, the session ends or a signal asks for it. Returns the exit status.
-  int run();
+  int run(bool opensSettings);
 
  private:
+  void observeSession(QApplication& application, UnixSignals& signals);
   void listenForRequests(const std::filesystem::path& storage);
-  std::string answer(const std::string& request);
+  Answer perform(const Request& request);
+  Answer showSettings();
+  void shutDown();
 
   Desktop desktop_;
   AppDelegate controller_;

@@ -3,51 +3,18 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "base/AtomicFile.h"
 #include "main/CommandLine.h"
+#include "main/Commands.h"
 #include "main/Program.h"
 #include "main/Resources.h"
 #include "main/SessionKind.h"
 #include "model/StorageFolder.h"
-#include "platform/atspi/AccessibilityBus.h"
 #include "platform/freedesktop/BaseFolders.h"
-#include "platform/freedesktop/TrustRecord.h"
 #include "platform/x11/Handles.h"
 
 namespace tessarin {
 namespace {
-
-constexpr int success = 0;
-constexpr int failure = 1;
-constexpr int wrongUsage = 2;
-
-freedesktop::TrustRecord trustRecord() {
-  return freedesktop::TrustRecord(freedesktop::configFolder(processEnvironment));
-}
-
-int allow() {
-  if (!trustRecord().allow()) return failure;
-  std::puts("Tessarin may judge keys and write into other applications.");
-  if (!atspi::AccessibilityBus::enable()) {
-    std::puts("The session's accessibility could not be switched on; text will be pasted.");
-  }
-  return success;
-}
-
-int disallow() {
-  if (!trustRecord().disallow()) return failure;
-  std::puts("Tessarin no longer judges keys or writes into other applications.");
-  return success;
-}
-
-int request(const std::string& what) {
-  const auto answer = freedesktop::requestOfRunningInstance(applicationSupportFolder(), what);
-  if (!answer) {
-    std::fputs("tessarin: no running instance answers\n", stderr);
-    return failure;
-  }
-  std::puts(answer->c_str());
-  return success;
-}
 
 /// Qt would abort where no window can open; this says so in a sentence.
 bool canOpenWindows() {
@@ -56,17 +23,24 @@ bool canOpenWindows() {
   return xcb_connection_has_error(connection.get()) == 0;
 }
 
-int run(int argc, char** argv) {
+/// What earlier instances left when they were killed. The lock keeps others out of the data folder; into the
+/// configuration folder `--allow` may be writing just now.
+void tidyUp(const std::filesystem::path& storage) {
+  const auto now = std::filesystem::file_time_type::clock::now();
+  removeAbandonedReplacements(storage, now);
+  removeAbandonedReplacements(freedesktop::configFolder(processEnvironment), now - std::chrono::minutes(1));
+}
+
+int run(int argc, char** argv, bool opensSettings) {
+  // Held to the end.
+  const auto reached = commands::reachInstance({Request::Kind::settings, {}}, commands::answerTime);
+  if (reached.answer) return commands::report(*reached.answer);
+  if (!reached.folder) return commands::reportNoAnswer();
   if (!canOpenWindows()) {
-    std::fputs("tessarin: no display to open a window on; try from a desktop session\n", stderr);
-    return failure;
+    return commands::report({false, "no display to open a window on; try from a desktop session"});
   }
   const std::filesystem::path storage = applicationSupportFolder();
-  const auto lock = freedesktop::FolderLock::acquire(storage);
-  if (!lock) {
-    std::fputs("tessarin: already running\n", stderr);
-    return success;
-  }
+  tidyUp(storage);
   UnixSignals signals;
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication application(argc, argv);
@@ -74,33 +48,40 @@ int run(int argc, char** argv) {
   QApplication::setDesktopFileName("tessarin");
   Program program(application, signals, resourceFolder(std::filesystem::canonical("/proc/self/exe")),
                   storage);
-  return program.run();
+  return program.run(opensSettings);
 }
 
 int start(int argc, char** argv) {
+  using Action = CommandLine::Action;
   const CommandLine line = CommandLine::parse({argv + 1, argv + argc});
   switch (line.action) {
-    case CommandLine::Action::run:
-      return run(argc, argv);
-    case CommandLine::Action::help:
+    case Action::run:
+    case Action::settings:
+      return run(argc, argv, line.action == Action::settings);
+    case Action::help:
       std::fputs(usage().c_str(), stdout);
-      return success;
-    case CommandLine::Action::version:
+      return commands::success;
+    case Action::version:
       std::puts("tessarin " TESSARIN_VERSION);
-      return success;
-    case CommandLine::Action::allow:
-      return allow();
-    case CommandLine::Action::disallow:
-      return disallow();
-    case CommandLine::Action::toggle:
-      return request("toggle");
-    case CommandLine::Action::quit:
-      return request("quit");
-    case CommandLine::Action::unknown:
+      return commands::success;
+    case Action::allow:
+      return commands::allow();
+    case Action::disallow:
+      return commands::disallow();
+    case Action::toggle:
+      return commands::request(Request::Kind::toggle);
+    case Action::quit:
+      return commands::request(Request::Kind::quit);
+    case Action::importFile:
+    case Action::exportFile:
+      return commands::importOrExport(line);
+    case Action::search:
+      return commands::search(line);
+    case Action::wrongUsage:
       break;
   }
-  std::fprintf(stderr, "tessarin: unknown option %s\n%s", line.unknownOption.c_str(), usage().c_str());
-  return wrongUsage;
+  std::fprintf(stderr, "tessarin: %s\n%s", line.argument.c_str(), usage().c_str());
+  return commands::wrongUsage;
 }
 
 }  // namespace

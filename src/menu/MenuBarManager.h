@@ -44,7 +44,9 @@ class MenuBarManager {
   void rebuildMenu();
 
   void toggleEnabled();
+  /// Nothing where there is no settings window to open.
   void openSettings();
+  bool canOpenSettings() const { return static_cast<bool>(hooks_.openSettings); }
   void requestInputMonitoring();
   void requestAccessibility();
   /// The check begins after the menu has closed.

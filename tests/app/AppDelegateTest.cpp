@@ -121,6 +121,7 @@ TEST_F(AppDelegateTest, EndsInManyWays) {
       {"Space", [](TestApp& a) { a.type(" "); }},
       {"chord", [](TestApp& a) { a.tap.press(letter("c", keyflag::control)); }},
       {"another application", [](TestApp& a) { a.workspace.activate("org.example.Other"); }},
+      {"the tray menu opens", [](TestApp& a) { a.statusBar.openMenu(); }},
       {"pointer press", [](TestApp& a) { a.workspace.changeContext(); }},
       {"focus moved", [](TestApp& a) { a.accessibility.focus(std::make_shared<FakeElement>()); }},
       {"tap timed out", [](TestApp& a) { a.tap.disable(KeyEventKind::disabledByTimeout); }},
@@ -192,6 +193,17 @@ TEST_F(AppDelegateTest, SwitchedOffItLeavesEverythingAsItIs) {
   EXPECT_EQ(app.document.text, "👋");
 }
 
+TEST_F(AppDelegateTest, SwitchedFromOutsideItLetsGoOfTheKeysFirst) {
+  for (const bool isOn : {false, true}) {
+    app.type(":wave");
+    EXPECT_EQ(app.app->toggleEnabled(), isOn);
+    EXPECT_EQ(app.app->menuBarManager().isEnabled(), isOn);
+    EXPECT_EQ(app.query(), std::nullopt);
+    EXPECT_FALSE(app.popup.visible);
+    EXPECT_EQ(app.tap.attention(), KeyAttention::triggerOnly);
+  }
+}
+
 // Attention
 
 TEST_F(AppDelegateTest, KeysAreHeldBackUntilTheLastInsertionIsDone) {
@@ -250,6 +262,7 @@ TEST_F(AppDelegateTest, NothingThatItHandedOutOutlivesIt) {
   app.popup.clickRow(0);
   app.popup.clickVariant(0);
   app.workspace.changeContext();
+  app.statusBar.openMenu();
   app.accessibility.focus(std::make_shared<FakeElement>());
   app.defaults.set(preferences::key::triggerCharacter, ";");
   app.queue.advance(std::chrono::seconds(10));

@@ -101,6 +101,22 @@ TEST_F(LaunchTest, RetriesWhileThereIsNoTap) {
   EXPECT_TRUE(app.tap.isOn);
 }
 
+TEST_F(LaunchTest, ShowsTheTrayItemAsThePreferenceSays) {
+  app.defaults.set(preferences::key::showMenuBarIcon, false);
+  launch();
+  EXPECT_FALSE(app.statusBar.visible);
+  EXPECT_EQ(app.statusBar.descriptions.size(), 1u) << "made all the same, for when it is wanted";
+  for (const bool isWanted : {true, false, true}) {
+    app.defaults.set(preferences::key::showMenuBarIcon, isWanted);
+    EXPECT_EQ(app.statusBar.visible, isWanted);
+  }
+}
+
+TEST_F(LaunchTest, ShowsTheTrayItemWithoutAnyPreference) {
+  launch();
+  EXPECT_TRUE(app.statusBar.visible);
+}
+
 TEST_F(LaunchTest, ShutdownEndsKeysAndTimers) {
   app.launch();
   app.type(":s");
@@ -109,6 +125,7 @@ TEST_F(LaunchTest, ShutdownEndsKeysAndTimers) {
   EXPECT_EQ(app.queue.pending(), 0u);
   const int hides = app.popup.hides;
   app.workspace.changeContext();
+  app.statusBar.openMenu();
   app.accessibility.focus(std::make_shared<FakeElement>());
   EXPECT_EQ(app.popup.hides, hides);
 }

@@ -5,11 +5,14 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <chrono>
 #include <system_error>
 
 #include "base/AtomicFile.h"
 #include "base/FileDescriptor.h"
 #include "base/Files.h"
+#include "support/Eventually.h"
 #include "support/TemporaryFolder.h"
 
 namespace tessarin {
@@ -163,6 +166,52 @@ TEST(Files, CreatesMissingFoldersForTheUserAlone) {
   EXPECT_NO_THROW(createFolders(folder / "a/b"));
   folder.write("file", "");
   EXPECT_THROW(createFolders(folder / "file/a"), std::system_error);
+}
+
+TEST(AtomicFile, WhatAKilledProcessLeftCanBeRemoved) {
+  const TemporaryFolder folder;
+  const auto now = fs::file_time_type::clock::now();
+  const auto write = [&](const std::string& name, std::chrono::seconds age) {
+    folder.write(name, "x");
+    fs::last_write_time(folder / name, now - age);
+  };
+  write(".tessarin-aB3xYz", std::chrono::hours(1));
+  write(".tessarin-fresh1", std::chrono::seconds(-1));
+  for (const char* other :
+       {".tessarin-", ".tessarin-toolong", ".tessarin-short", "tessarin-aB3xYz", "data.json"}) {
+    write(other, std::chrono::hours(1));
+  }
+  fs::create_directory(folder / ".tessarin-folder");
+  fs::create_symlink("data.json", folder / ".tessarin-a_link");
+  removeAbandonedReplacements(folder.path(), now);
+  EXPECT_THAT(folder.names(),
+              ElementsAre(".tessarin-", ".tessarin-a_link", ".tessarin-folder", ".tessarin-fresh1",
+                          ".tessarin-short", ".tessarin-toolong", "data.json", "tessarin-aB3xYz"));
+  removeAbandonedReplacements(folder / "missing", now);
+}
+
+TEST(AtomicFile, TheNameOfAReplacementIsKnownAgain) {
+  const TemporaryFolder folder;
+  const pid_t child = ::fork();
+  if (child == 0) {
+    for (;;) replaceFile(folder / "a", std::string(100'000, 'x'), Durability::processEnd);
+  }
+  const auto isLeftBehind = [&] {
+    const auto names = folder.names();
+    return names.size() > static_cast<std::size_t>(std::ranges::count(names, "a"));
+  };
+  EXPECT_TRUE(testing::eventually([&] {
+    ::kill(child, SIGSTOP);
+    ::waitpid(child, nullptr, WUNTRACED);
+    if (isLeftBehind()) return true;
+    ::kill(child, SIGCONT);
+    return false;
+  }));
+  ::kill(child, SIGKILL);
+  ::waitpid(child, nullptr, 0);
+  ASSERT_TRUE(isLeftBehind());
+  removeAbandonedReplacements(folder.path(), fs::file_time_type::clock::now());
+  EXPECT_FALSE(isLeftBehind());
 }
 
 }  // namespace

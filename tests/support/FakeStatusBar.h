@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/StatusBar.h"
@@ -17,6 +19,13 @@ class FakeStatusBar final : public StatusBar {
   void createItem(const std::string& text) override { descriptions.push_back(text); }
   void setMenu(const std::vector<MenuItem>& menu) override { menus.push_back(menu); }
   void setDimmed(bool isDimmed) override { dimmed.push_back(isDimmed); }
+  void setVisible(bool isVisible) override { visible = isVisible; }
+  void onMenuOpening(std::function<void()> callback) override { menuOpening_ = std::move(callback); }
+
+  /// The user opens the menu.
+  void openMenu() {
+    if (menuOpening_) menuOpening_();
+  }
 
   /// The item of the menu last set, by its title; none when there is no such item.
   std::optional<MenuItem> item(const std::string& title) const {
@@ -39,6 +48,10 @@ class FakeStatusBar final : public StatusBar {
   std::vector<std::string> descriptions;
   std::vector<std::vector<MenuItem>> menus;
   std::vector<bool> dimmed;
+  bool visible = true;
+
+ private:
+  std::function<void()> menuOpening_;
 };
 
 }  // namespace tessarin::testing

@@ -1,5 +1,6 @@
 #include "platform/atspi/AccessibilityBus.h"
 
+#include "base/ShellScript.h"
 #include "platform/atspi/BusCalls.h"
 #include "platform/atspi/Messages.h"
 
@@ -12,6 +13,13 @@ ObjectReference launcher() {
   return {"org.a11y.Bus", "/org/a11y/bus"};
 }
 
+/// The setting outlives the session, in which alone the switch on the bus counts. Whether a desktop has such
+/// a setting only its own tool knows; nobody waits for it.
+void keepEnabled() {
+  runShellScript(
+      "gsettings set org.gnome.desktop.interface toolkit-accessibility true </dev/null >/dev/null 2>&1 &");
+}
+
 }  // namespace
 
 std::optional<std::string> AccessibilityBus::address(DBusConnection* session) {
@@ -22,6 +30,7 @@ std::optional<std::string> AccessibilityBus::address(DBusConnection* session) {
 }
 
 bool AccessibilityBus::enable(const std::string& sessionAddress) {
+  if (sessionAddress.empty()) keepEnabled();
   const ConnectionPtr session = connectToSessionBus(sessionAddress);
   if (!session) return false;
   const MessagePtr request = methodCall(launcher(), DBUS_INTERFACE_PROPERTIES, "Set");

@@ -3,16 +3,12 @@
 #include <map>
 #include <utility>
 
+#include "platform/freedesktop/DesktopEntryText.h"
+
 namespace tessarin::freedesktop {
 namespace {
 
 using Keys = std::map<std::string, std::string, std::less<>>;
-
-std::string_view trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(" \t\r");
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
-}
 
 Keys readMainGroup(std::string_view content) {
   Keys keys;
@@ -32,33 +28,6 @@ Keys readMainGroup(std::string_view content) {
     keys.emplace(trimmed(line.substr(0, equals)), trimmed(line.substr(equals + 1)));
   }
   return keys;
-}
-
-std::string unescaped(std::string_view text) {
-  std::string result;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] != '\\' || i + 1 == text.size()) {
-      result += text[i];
-      continue;
-    }
-    switch (const char c = text[++i]) {
-      case 's':
-        result += ' ';
-        break;
-      case 'n':
-        result += '\n';
-        break;
-      case 't':
-        result += '\t';
-        break;
-      case 'r':
-        result += '\r';
-        break;
-      default:
-        result += c;
-    }
-  }
-  return result;
 }
 
 std::string value(const Keys& keys, std::string_view key) {

@@ -16,7 +16,8 @@
 namespace tessarin::freedesktop {
 namespace {
 
-constexpr std::size_t longestLine = 8192;
+/// Room for the longest path that the system knows, with three characters for each of its bytes.
+constexpr std::size_t longestLine = 16384;
 
 /// FNV-1a: the same folder gives the same name in every build.
 std::uint64_t fingerprint(const std::string& text) {
@@ -93,12 +94,12 @@ void InstanceSocket::serve(const Handler& handler) const {
   if (const auto request = receiveLine(client.get())) sendLine(client.get(), handler(*request));
 }
 
-std::optional<std::string> requestOfRunningInstance(const std::string& dataFolder,
-                                                    const std::string& request) {
+std::optional<std::string> requestOfRunningInstance(const std::string& dataFolder, const std::string& request,
+                                                    std::chrono::milliseconds patience) {
   const auto place = address(socketPath(dataFolder));
   const FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
   if (!place || !socket) return std::nullopt;
-  limitWaiting(socket.get(), std::chrono::seconds(2));
+  limitWaiting(socket.get(), patience);
   if (connect(socket.get(), reinterpret_cast<const sockaddr*>(&*place), sizeof *place) != 0)
     return std::nullopt;
   if (!sendLine(socket.get(), request)) return std::nullopt;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <string>
@@ -10,7 +11,7 @@ namespace tessarin::freedesktop {
 
 /// The place where the running instance takes requests of later ones: a socket in the user's runtime folder
 /// (else in the data folder), named after the data folder, so that instances with folders of their own stay
-/// apart. A request is one line ("toggle", "quit", …), its answer is one line.
+/// apart. A request is one line ("toggle", "quit", …) of less than 16 kB, its answer is one line.
 class InstanceSocket {
  public:
   using Handler = std::function<std::string(const std::string& request)>;
@@ -36,9 +37,9 @@ class InstanceSocket {
   std::string path_;
 };
 
-/// Hands a request to the running instance. None when there is none, or when it does not answer within two
-/// seconds.
-std::optional<std::string> requestOfRunningInstance(const std::string& dataFolder,
-                                                    const std::string& request);
+/// Hands a request to the running instance. None when there is none, or when it does not answer in time.
+std::optional<std::string> requestOfRunningInstance(
+    const std::string& dataFolder, const std::string& request,
+    std::chrono::milliseconds patience = std::chrono::seconds(2));
 
 }  // namespace tessarin::freedesktop

@@ -1,25 +1,25 @@
 #pragma once
 
 #include <atomic>
-#include <cstdint>
-#include <map>
 #include <memory>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include "base/FileDescriptor.h"
 
-struct DBusConnection;
-struct DBusMessage;
-
 namespace tessarin::freedesktop {
 
-/// Whether the session's screen saver or locker covers the screen, as those say on the session bus. Where
-/// none of them is there, the screen counts as not locked. A thread of its own listens, asleep otherwise.
+class LockSource;
+
+/// Whether the screen is locked: as screen savers and lockers say on the session bus, and as the session is
+/// marked in the system's list of sessions. Where nobody says anything, the screen counts as not locked. A
+/// thread of its own listens, asleep otherwise.
 class ScreenLock {
  public:
-  /// `address` as in DBUS_SESSION_BUS_ADDRESS; empty takes the session's own. Null when there is no bus.
-  static std::unique_ptr<ScreenLock> connect(const std::string& address = {});
+  /// `session` and `system` as in DBUS_SESSION_BUS_ADDRESS; empty takes the session's own. Null when there is
+  /// neither bus.
+  static std::unique_ptr<ScreenLock> connect(const std::string& session = {}, const std::string& system = {});
   ~ScreenLock();
   ScreenLock(const ScreenLock&) = delete;
   ScreenLock& operator=(const ScreenLock&) = delete;
@@ -28,24 +28,11 @@ class ScreenLock {
   bool isLocked() const { return isLocked_; }
 
  private:
-  struct Close {
-    void operator()(DBusConnection* connection) const;
-  };
-  using Bus = std::unique_ptr<DBusConnection, Close>;
-
-  explicit ScreenLock(Bus bus);
-  void listen();
-  void askForState(const std::string& service);
+  explicit ScreenLock(std::vector<std::unique_ptr<LockSource>> sources);
   void run();
-  void handle(DBusMessage* message);
-  void handleSignal(DBusMessage* message);
-  void handleAnswer(DBusMessage* message);
-  void set(const std::string& service, bool isActive);
 
-  Bus bus_;
+  std::vector<std::unique_ptr<LockSource>> sources_;
   FileDescriptor end_;
-  std::map<std::string, bool> active_;              // by service
-  std::map<std::uint32_t, std::string> questions_;  // services by the serial of our call
   std::atomic<bool> isLocked_ = false;
   std::thread thread_;
 };

@@ -1,19 +1,28 @@
 #include "platform/qt/QtStatusBar.h"
 
 #include <QAction>
+#include <utility>
 
 #include "platform/qt/TextCursorIcon.h"
 
 namespace tessarin::ui {
-
 void QtStatusBar::createItem(const std::string& description) {
+  description_ = QString::fromStdString(description);
+  presence_.waitForTray([this] { makeItem(); });
+}
+
+void QtStatusBar::makeItem() {
   item_ = std::make_unique<QSystemTrayIcon>();
-  item_->setToolTip(QString::fromStdString(description));
-  showIcon();
+  item_->setToolTip(description_);
+  if (menu_) item_->setContextMenu(menu_.get());
+  showItem();
 }
 
 void QtStatusBar::setMenu(const std::vector<MenuItem>& items) {
   auto menu = std::make_unique<QMenu>();
+  QObject::connect(menu.get(), &QMenu::aboutToShow, menu.get(), [this] {
+    if (menuOpening_) menuOpening_();
+  });
   for (const MenuItem& item : items) {
     if (item.isSeparator()) {
       menu->addSeparator();
@@ -34,13 +43,17 @@ void QtStatusBar::setMenu(const std::vector<MenuItem>& items) {
 
 void QtStatusBar::setDimmed(bool dimmed) {
   isDimmed_ = dimmed;
-  showIcon();
+  showItem();
 }
 
-void QtStatusBar::showIcon() {
+void QtStatusBar::setVisible(bool visible) {
+  if (std::exchange(isVisible_, visible) != visible) showItem();
+}
+
+void QtStatusBar::showItem() {
   if (!item_) return;
   item_->setIcon(textCursorIcon(isDimmed_));
-  item_->show();
+  item_->setVisible(isVisible_);
 }
 
 }  // namespace tessarin::ui

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "platform/StatusBar.h"
+#include "platform/qt/TrayPresence.h"
 
 namespace tessarin::ui {
 
@@ -12,16 +13,24 @@ namespace tessarin::ui {
 /// nothing is shown until one appears.
 class QtStatusBar final : public StatusBar {
  public:
+  /// The item appears as soon as there is a tray.
   void createItem(const std::string& description) override;
   void setMenu(const std::vector<MenuItem>& menu) override;
   void setDimmed(bool dimmed) override;
+  void setVisible(bool visible) override;
+  void onMenuOpening(std::function<void()> callback) override { menuOpening_ = std::move(callback); }
 
  private:
-  void showIcon();
+  void makeItem();
+  void showItem();
 
   std::unique_ptr<QMenu> menu_;  ///< before the item, which refers to it
   std::unique_ptr<QSystemTrayIcon> item_;
+  TrayPresence presence_;
+  std::function<void()> menuOpening_;
+  QString description_;
   bool isDimmed_ = false;
+  bool isVisible_ = true;
 };
 
 }  // namespace tessarin::ui

@@ -13,10 +13,10 @@ constexpr qreal dimmedOpacity = 0.4;
 
 QPixmap drawn(int scale, bool dimmed) {
   QPixmap pixmap(points * scale, points * scale);
-  pixmap.setDevicePixelRatio(scale);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
   painter.setRenderHint(QPainter::Antialiasing);
+  painter.scale(scale, scale);
   painter.setOpacity(dimmed ? dimmedOpacity : 1.0);
   painter.setPen(
       QPen(QGuiApplication::palette().color(QPalette::WindowText), 1.6, Qt::SolidLine, Qt::RoundCap));

@@ -16,6 +16,8 @@ namespace {
 
 using freedesktop::ScreenLock;
 
+constexpr const char* noBus = "unix:path=/nonexistent/bus";
+
 /// A session bus of the test's own.
 class PrivateBus {
  public:
@@ -36,58 +38,128 @@ class PrivateBus {
   std::string address_;
 };
 
-/// A locker that says whether it covers the screen.
-class Locker {
+/// A service on a bus with one state that it tells and that can be asked for.
+class Service {
  public:
-  Locker(const std::string& address, const std::string& name, bool isActive)
-      : name_(name), isActive_(isActive), bus_(dbus_connection_open_private(address.c_str(), nullptr)) {
+  Service(const std::string& address, const std::string& name)
+      : bus_(dbus_connection_open_private(address.c_str(), nullptr)) {
     dbus_bus_register(bus_, nullptr);
     dbus_connection_set_exit_on_disconnect(bus_, 0);
     dbus_bus_request_name(bus_, name.c_str(), DBUS_NAME_FLAG_DO_NOT_QUEUE, nullptr);
-    thread_ = std::thread([this] { run(); });
   }
-  ~Locker() {
-    isEnding_ = true;
-    thread_.join();
+  virtual ~Service() {
     dbus_connection_close(bus_);
     dbus_connection_unref(bus_);
   }
-  Locker(const Locker&) = delete;
-  Locker& operator=(const Locker&) = delete;
+  Service(const Service&) = delete;
+  Service& operator=(const Service&) = delete;
 
-  void tell(bool isActive) {
-    isActive_ = isActive;
-    DBusMessage* signal = dbus_message_new_signal("/locker", name_.c_str(), "ActiveChanged");
-    const dbus_bool_t value = isActive ? 1 : 0;
-    dbus_message_append_args(signal, DBUS_TYPE_BOOLEAN, &value, DBUS_TYPE_INVALID);
-    dbus_connection_send(bus_, signal, nullptr);
-    dbus_connection_flush(bus_);
-    dbus_message_unref(signal);
+ protected:
+  void start() {
+    thread_ = std::thread([this] { run(); });
   }
+  void stop() {
+    isEnding_ = true;
+    thread_.join();
+  }
+  void send(DBusMessage* message) {
+    dbus_connection_send(bus_, message, nullptr);
+    dbus_connection_flush(bus_);
+    dbus_message_unref(message);
+  }
+  /// The answer to a question, or nullptr.
+  virtual DBusMessage* answer(DBusMessage* question) = 0;
 
  private:
   void run() {
     while (!isEnding_) {
       dbus_connection_read_write(bus_, 5);
       while (DBusMessage* message = dbus_connection_pop_message(bus_)) {
-        if (dbus_message_has_member(message, "GetActive") != 0) answer(message);
+        if (DBusMessage* reply = answer(message)) send(reply);
         dbus_message_unref(message);
       }
     }
   }
-  void answer(DBusMessage* call) {
-    DBusMessage* reply = dbus_message_new_method_return(call);
+
+  DBusConnection* bus_;
+  std::atomic<bool> isEnding_ = false;
+  std::thread thread_;
+};
+
+/// A locker that says whether it covers the screen.
+class Locker final : public Service {
+ public:
+  Locker(const std::string& address, const std::string& name, bool isActive)
+      : Service(address, name), name_(name), isActive_(isActive) {
+    start();
+  }
+  ~Locker() override { stop(); }
+
+  void tell(bool isActive) {
+    isActive_ = isActive;
+    DBusMessage* signal = dbus_message_new_signal("/locker", name_.c_str(), "ActiveChanged");
+    const dbus_bool_t value = isActive ? 1 : 0;
+    dbus_message_append_args(signal, DBUS_TYPE_BOOLEAN, &value, DBUS_TYPE_INVALID);
+    send(signal);
+  }
+
+ private:
+  DBusMessage* answer(DBusMessage* question) override {
+    if (dbus_message_has_member(question, "GetActive") == 0) return nullptr;
+    DBusMessage* reply = dbus_message_new_method_return(question);
     const dbus_bool_t value = isActive_ ? 1 : 0;
     dbus_message_append_args(reply, DBUS_TYPE_BOOLEAN, &value, DBUS_TYPE_INVALID);
-    dbus_connection_send(bus_, reply, nullptr);
-    dbus_message_unref(reply);
+    return reply;
   }
 
   std::string name_;
   std::atomic<bool> isActive_;
-  DBusConnection* bus_;
-  std::atomic<bool> isEnding_ = false;
-  std::thread thread_;
+};
+
+/// The list of sessions, with one in it.
+class Sessions final : public Service {
+ public:
+  Sessions(const std::string& address, bool isLocked)
+      : Service(address, "org.freedesktop.login1"), isLocked_(isLocked) {
+    start();
+  }
+  ~Sessions() override { stop(); }
+
+  void mark(bool isLocked) {
+    isLocked_ = isLocked;
+    DBusMessage* signal = dbus_message_new_signal(path, DBUS_INTERFACE_PROPERTIES, "PropertiesChanged");
+    const char* interface = "org.freedesktop.login1.Session";
+    dbus_message_append_args(signal, DBUS_TYPE_STRING, &interface, DBUS_TYPE_INVALID);
+    send(signal);
+  }
+  void requestLock() { send(dbus_message_new_signal(path, "org.freedesktop.login1.Session", "Lock")); }
+  int questions() const { return questions_; }
+
+ private:
+  static constexpr const char* path = "/org/freedesktop/login1/session/_31";
+
+  DBusMessage* answer(DBusMessage* question) override {
+    const char* interface = nullptr;
+    const char* property = nullptr;
+    const bool isKnown = dbus_message_has_path(question, "/org/freedesktop/login1/session/auto") != 0 &&
+                         dbus_message_get_args(question, nullptr, DBUS_TYPE_STRING, &interface,
+                                               DBUS_TYPE_STRING, &property, DBUS_TYPE_INVALID) != 0 &&
+                         std::string(property) == "LockedHint";
+    if (!isKnown) return nullptr;
+    ++questions_;
+    DBusMessage* reply = dbus_message_new_method_return(question);
+    DBusMessageIter arguments;
+    DBusMessageIter variant;
+    const dbus_bool_t value = isLocked_ ? 1 : 0;
+    dbus_message_iter_init_append(reply, &arguments);
+    dbus_message_iter_open_container(&arguments, DBUS_TYPE_VARIANT, "b", &variant);
+    dbus_message_iter_append_basic(&variant, DBUS_TYPE_BOOLEAN, &value);
+    dbus_message_iter_close_container(&arguments, &variant);
+    return reply;
+  }
+
+  std::atomic<bool> isLocked_;
+  std::atomic<int> questions_ = 0;
 };
 
 class ScreenLockTest : public ::testing::TestWithParam<const char*> {
@@ -96,7 +168,7 @@ class ScreenLockTest : public ::testing::TestWithParam<const char*> {
     return eventually([&] { return lock->isLocked() == isLocked; });
   }
   PrivateBus bus;
-  std::unique_ptr<ScreenLock> lock = ScreenLock::connect(bus.address());
+  std::unique_ptr<ScreenLock> lock = ScreenLock::connect(bus.address(), noBus);
 };
 
 TEST_P(ScreenLockTest, FollowsTheLocker) {
@@ -111,7 +183,7 @@ TEST_P(ScreenLockTest, FollowsTheLocker) {
 
 TEST_P(ScreenLockTest, KnowsALockerThatIsActiveAlready) {
   const Locker locker(bus.address(), GetParam(), true);
-  const auto later = ScreenLock::connect(bus.address());
+  const auto later = ScreenLock::connect(bus.address(), noBus);
   EXPECT_TRUE(eventually([&] { return later->isLocked(); }));
   EXPECT_TRUE(becomes(true)) << "it came after the one that was there";
 }
@@ -145,8 +217,58 @@ TEST_F(ScreenLockTest, NothingIsLockedWhenTheBusHasGone) {
   EXPECT_TRUE(becomes(false));
 }
 
+class SessionLockTest : public ::testing::Test {
+ protected:
+  bool becomes(bool isLocked) {
+    return eventually([&] { return lock->isLocked() == isLocked; });
+  }
+  PrivateBus system;
+  PrivateBus session;
+  std::unique_ptr<ScreenLock> lock = ScreenLock::connect(session.address(), system.address());
+};
+
+TEST_F(SessionLockTest, FollowsTheMarkOfTheSession) {
+  Sessions sessions(system.address(), true);
+  EXPECT_TRUE(becomes(true)) << "marked already when the list appeared";
+  sessions.mark(false);
+  EXPECT_TRUE(becomes(false));
+  sessions.mark(true);
+  EXPECT_TRUE(becomes(true));
+}
+
+TEST_F(SessionLockTest, ARequestToLockOnlyMakesItLook) {
+  Sessions sessions(system.address(), false);
+  ASSERT_TRUE(eventually([&] { return sessions.questions() > 0; }));
+  const int before = sessions.questions();
+  sessions.requestLock();
+  EXPECT_TRUE(eventually([&] { return sessions.questions() > before; }));
+  EXPECT_FALSE(lock->isLocked());
+}
+
+TEST_F(SessionLockTest, EitherBusIsEnough) {
+  Sessions sessions(system.address(), true);
+  EXPECT_TRUE(becomes(true));
+  const auto alone = ScreenLock::connect(noBus, system.address());
+  ASSERT_TRUE(alone);
+  EXPECT_TRUE(eventually([&] { return alone->isLocked(); }));
+  Locker locker(session.address(), "org.gnome.ScreenSaver", true);
+  sessions.mark(false);
+  EXPECT_TRUE(eventually([&] { return !alone->isLocked(); }));
+  EXPECT_TRUE(becomes(true)) << "the locker still covers it";
+  session.stop();
+  EXPECT_TRUE(becomes(false));
+}
+
+TEST_F(SessionLockTest, NothingIsLockedWhenTheListHasGone) {
+  {
+    const Sessions sessions(system.address(), true);
+    EXPECT_TRUE(becomes(true));
+  }
+  EXPECT_TRUE(becomes(false));
+}
+
 TEST(ScreenLock, AnswersThatThereIsNoBus) {
-  EXPECT_EQ(ScreenLock::connect("unix:path=/nonexistent/bus"), nullptr);
+  EXPECT_EQ(ScreenLock::connect(noBus, noBus), nullptr);
 }
 
 }  // namespace

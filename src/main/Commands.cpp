@@ -1,0 +1,125 @@
+#include "main/Commands.h"
+
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+#include <thread>
+
+#include "base/Log.h"
+#include "main/Resources.h"
+#include "main/SnippetFiles.h"
+#include "model/SnippetStore.h"
+#include "model/StorageFolder.h"
+#include "platform/WallClock.h"
+#include "platform/atspi/AccessibilityBus.h"
+#include "platform/freedesktop/BaseFolders.h"
+#include "platform/freedesktop/InstanceSocket.h"
+#include "platform/freedesktop/TrustRecord.h"
+
+namespace tessarin::commands {
+namespace {
+
+freedesktop::TrustRecord trustRecord() {
+  return freedesktop::TrustRecord(freedesktop::configFolder(processEnvironment));
+}
+
+void print(std::FILE* stream, const std::string& text) {
+  std::fwrite(text.data(), 1, text.size(), stream);
+}
+
+/// Standard output belongs to the answer, so what could not be read goes to standard error, and what could is
+/// not worth a line.
+void logProblem(const std::string& line) {
+  if (line.find("] Loaded ") == std::string::npos) print(stderr, line + "\n");
+}
+
+/// The user's snippets, without any running instance.
+class OwnStore {
+ public:
+  SnippetStore& operator*() { return store_; }
+
+ private:
+  LogCapture log_{logProblem};
+  SystemWallClock clock_;
+  SnippetStore store_{{.resources = resourceFolder(std::filesystem::canonical("/proc/self/exe")),
+                       .storage = applicationSupportFolder()},
+                      clock_};
+};
+
+Answer perform(const Request& request) {
+  OwnStore store;
+  return request.kind == Request::Kind::importFile ? importSnippets(*store, request.file)
+                                                   : exportSnippets(*store, request.file);
+}
+
+}  // namespace
+
+Reached reachInstance(const Request& request, std::chrono::milliseconds patience) {
+  constexpr std::chrono::milliseconds pause{20};
+  const std::filesystem::path folder = applicationSupportFolder();
+  const auto deadline = std::chrono::steady_clock::now() + answerTime;
+  do {
+    if (auto lock = freedesktop::FolderLock::acquire(folder)) return {std::nullopt, std::move(lock)};
+    const auto line = freedesktop::requestOfRunningInstance(folder, request.encoded(), patience);
+    if (line) return {Answer::decode(*line), std::nullopt};
+    std::this_thread::sleep_for(pause);
+  } while (std::chrono::steady_clock::now() < deadline);
+  return {};
+}
+
+int report(const Answer& answer) {
+  if (!answer.isSuccess) {
+    print(stderr, "tessarin: " + answer.text + "\n");
+    return failure;
+  }
+  print(stdout, answer.text + "\n");
+  return success;
+}
+
+int reportNoAnswer() {
+  return report({false, "the running instance does not answer"});
+}
+
+int allow() {
+  if (!trustRecord().allow()) return failure;
+  std::puts("Tessarin may judge keys and write into other applications.");
+  std::puts(
+      atspi::AccessibilityBus::enable()
+          ? "The session's accessibility is switched on. Qt applications and browsers that are open now "
+            "notice it when they are started again; until then, text is pasted there."
+          : "The session's accessibility could not be switched on; text will be pasted.");
+  return success;
+}
+
+int disallow() {
+  if (!trustRecord().disallow()) return failure;
+  std::puts("Tessarin no longer judges keys or writes into other applications.");
+  return success;
+}
+
+int request(Request::Kind kind) {
+  const Reached reached = reachInstance({kind, {}}, answerTime);
+  if (reached.answer) return report(*reached.answer);
+  return reached.folder ? report({false, "no instance is running"}) : reportNoAnswer();
+}
+
+int importOrExport(const CommandLine& line) {
+  const auto kind =
+      line.action == CommandLine::Action::importFile ? Request::Kind::importFile : Request::Kind::exportFile;
+  const Request request{kind, std::filesystem::absolute(line.argument)};
+  const Reached reached = reachInstance(request, fileTime);
+  if (reached.answer) return report(*reached.answer);
+  return reached.folder ? report(perform(request)) : reportNoAnswer();
+}
+
+int search(const CommandLine& line) {
+  OwnStore store;
+  try {
+    print(stdout, searchResults(*store, line.argument, {.limit = line.limit, .json = line.json}));
+  } catch (const std::exception& error) {
+    return report({false, error.what()});
+  }
+  return std::fflush(stdout) == 0 ? success : failure;
+}
+
+}  // namespace tessarin::commands

@@ -1,0 +1,50 @@
+#include "platform/freedesktop/LockSource.h"
+
+namespace tessarin::freedesktop {
+
+void CloseBus::operator()(DBusConnection* connection) const {
+  dbus_connection_close(connection);
+  dbus_connection_unref(connection);
+}
+
+Bus openBus(DBusBusType kind, const std::string& address) {
+  Bus bus(address.empty() ? dbus_bus_get_private(kind, nullptr)
+                          : dbus_connection_open_private(address.c_str(), nullptr));
+  if (!bus) return nullptr;
+  dbus_connection_set_exit_on_disconnect(bus.get(), 0);
+  if (!address.empty() && dbus_bus_register(bus.get(), nullptr) == 0) return nullptr;
+  return bus;
+}
+
+int LockSource::work() {
+  const bool isConnected = dbus_connection_read_write(bus_.get(), 0) != 0;
+  while (const Message message{dbus_connection_pop_message(bus_.get())}) handle(message.get());
+  dbus_connection_flush(bus_.get());
+  int file = -1;
+  if (!isConnected || dbus_connection_get_unix_fd(bus_.get(), &file) == 0) {
+    forget();
+    return -1;
+  }
+  return file;
+}
+
+dbus_uint32_t LockSource::ask(Message question) {
+  dbus_message_set_auto_start(question.get(), 0);
+  dbus_uint32_t serial = 0;
+  dbus_connection_send(bus_.get(), question.get(), &serial);
+  return serial;
+}
+
+void LockSource::handle(DBusMessage* message) {
+  switch (dbus_message_get_type(message)) {
+    case DBUS_MESSAGE_TYPE_SIGNAL:
+      return handleSignal(message);
+    case DBUS_MESSAGE_TYPE_METHOD_RETURN:
+    case DBUS_MESSAGE_TYPE_ERROR:
+      return handleAnswer(dbus_message_get_reply_serial(message), message);
+    default:
+      return;
+  }
+}
+
+}  // namespace tessarin::freedesktop

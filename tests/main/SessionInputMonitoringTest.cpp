@@ -1,0 +1,65 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "main/SessionInputMonitoring.h"
+#include "platform/OwnAddresses.h"
+#include "support/FakeWorkspace.h"
+
+namespace tessarin::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+TEST(SessionInputMonitoring, ExplainsWhatIsMissingAndWhatWorks) {
+  struct Case {
+    KeyTapState state;
+    const char* named;
+  };
+  const Case cases[] = {{KeyTapState::waylandSession, "Wayland"},
+                        {KeyTapState::noServer, "No X server"},
+                        {KeyTapState::missingExtensions, "XInput 2.2, XTest and XKB"}};
+  for (const Case& c : cases) {
+    const Explanation explanation = explain(c.state);
+    EXPECT_THAT(explanation.headline, HasSubstr("cannot"));
+    EXPECT_THAT(explanation.text, HasSubstr(c.named));
+    EXPECT_THAT(explanation.text, HasSubstr("command line work"));
+  }
+  EXPECT_THAT(explain(KeyTapState::usable).headline, Not(HasSubstr("cannot")));
+}
+
+TEST(SessionInputMonitoring, ExplainsOnRequestOnlyWhatIsMissing) {
+  KeyTapState state = KeyTapState::usable;
+  int shown = 0;
+  SessionInputMonitoring monitoring([&] { return state; }, [&](const Explanation&) { ++shown; });
+  EXPECT_TRUE(monitoring.isGranted());
+  monitoring.request();
+  EXPECT_EQ(shown, 0);
+  state = KeyTapState::noServer;
+  EXPECT_FALSE(monitoring.isGranted()) << "asked afresh";
+  monitoring.request();
+  EXPECT_EQ(shown, 1);
+}
+
+TEST(OwnAddresses, AnswersItsOwnAndPassesOnAllElse) {
+  FakeWorkspace desktop;
+  desktop.running.emplace_back();
+  int opened = 0;
+  OwnAddresses workspace(desktop, {{"tessarin:settings/page", [&] { ++opened; }}});
+  workspace.openUrl("tessarin:settings/page");
+  EXPECT_EQ(opened, 1);
+  workspace.openUrl("https://example.org/");
+  workspace.openUrl("tessarin:settings");
+  EXPECT_EQ(opened, 1);
+  EXPECT_THAT(desktop.openedUrls, ElementsAre("https://example.org/", "tessarin:settings"));
+  EXPECT_EQ(workspace.runningApplications(), desktop.running);
+  int changes = 0;
+  const auto observer = workspace.onContextChanged([&] { ++changes; });
+  desktop.activate("org.example.Editor");
+  EXPECT_EQ(workspace.frontmostApplication(), desktop.frontmost);
+  EXPECT_EQ(changes, 1);
+}
+
+}  // namespace
+}  // namespace tessarin::testing

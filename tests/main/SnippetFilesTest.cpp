@@ -1,0 +1,73 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "main/SnippetFiles.h"
+#include "model/SnippetCoding.h"
+#include "model/SnippetStore.h"
+#include "platform/WallClock.h"
+#include "support/LogRecorder.h"
+#include "support/TemporaryFolder.h"
+
+namespace tessarin::testing {
+namespace {
+
+using ::testing::StartsWith;
+
+class SnippetFilesTest : public ::testing::Test {
+ protected:
+  static Snippet snippet(const std::string& trigger, const std::string& replacement) {
+    return {"id-" + trigger, "the " + trigger, trigger, replacement, {}, "Custom", false};
+  }
+  void writeImport(const std::vector<Snippet>& snippets) {
+    folder.write("import.json", encodeSnippets(snippets, JsonStyle::compact));
+  }
+
+  TemporaryFolder folder;
+  LogRecorder log;
+  SystemWallClock clock;
+  SnippetStore store{{.resources = folder.path(), .storage = folder / "storage"}, clock};
+};
+
+TEST_F(SnippetFilesTest, SaysHowManyWereImported) {
+  writeImport({snippet("one", "1")});
+  EXPECT_EQ(importSnippets(store, folder / "import.json"), (Answer{true, "Imported 1 snippet"}));
+  writeImport({snippet("one", "1"), snippet("two", "2"), snippet("three", "3")});
+  EXPECT_EQ(importSnippets(store, folder / "import.json"), (Answer{true, "Imported 2 snippets"}));
+  EXPECT_EQ(importSnippets(store, folder / "import.json"), (Answer{true, "Imported 0 snippets"}));
+}
+
+TEST_F(SnippetFilesTest, SaysWhyAnImportOrExportFailed) {
+  folder.write("broken.json", "[{}]");
+  for (const char* name : {"broken.json", "missing.json", "."}) {
+    const Answer answer = importSnippets(store, folder / name);
+    EXPECT_FALSE(answer.isSuccess);
+    EXPECT_THAT(answer.text, StartsWith("Import failed: ")) << name;
+  }
+  const Answer answer = exportSnippets(store, folder / "missing/export.json");
+  EXPECT_FALSE(answer.isSuccess);
+  EXPECT_THAT(answer.text, StartsWith("Export failed: "));
+}
+
+TEST_F(SnippetFilesTest, WhatIsExportedCanBeImported) {
+  store.addSnippet(snippet("one", "1"));
+  EXPECT_EQ(exportSnippets(store, folder / "export.json"), (Answer{true, "Exported 1 snippet"}));
+  EXPECT_EQ(decodeSnippets(folder.read("export.json")), store.userSnippets());
+}
+
+TEST_F(SnippetFilesTest, SearchListsTheBestFirst) {
+  store.addSnippet(snippet("smiles", "many\n\tlines\\"));
+  store.addSnippet(snippet("smile", "😄"));
+  const std::string best = "smile\t😄\tthe smile\n";
+  EXPECT_EQ(searchResults(store, "smile", {.limit = 8}), best + "smiles\tmany\\n\\tlines\\\\\tthe smiles\n");
+  EXPECT_EQ(searchResults(store, "smile", {.limit = 1}), best);
+  EXPECT_EQ(searchResults(store, "nothing", {.limit = 8}), "");
+}
+
+TEST_F(SnippetFilesTest, SearchResultsAreTheJsonOfAnExport) {
+  store.addSnippet(snippet("smile", "a\n\"b\""));
+  EXPECT_EQ(decodeSnippets(searchResults(store, "smi", {.limit = 8, .json = true})), store.userSnippets());
+  EXPECT_EQ(searchResults(store, "nothing", {.limit = 8, .json = true}), "[]\n");
+}
+
+}  // namespace
+}  // namespace tessarin::testing

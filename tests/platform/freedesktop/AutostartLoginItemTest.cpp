@@ -1,0 +1,220 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <map>
+
+#include "platform/freedesktop/AutostartLoginItem.h"
+#include "platform/freedesktop/DesktopEntryText.h"
+#include "support/FakeLoginItem.h"
+#include "support/LoginItemSuite.h"
+#include "support/TemporaryFolder.h"
+
+namespace tessarin::testing {
+namespace {
+
+using freedesktop::AutostartLoginItem;
+using freedesktop::DesktopEntryText;
+using ::testing::HasSubstr;
+
+/// A home folder with an autostart entry in it, and one for everybody beside it.
+class Home {
+ public:
+  Home() {
+    for (const char* name : {"bin", "config", "system/autostart"}) {
+      std::filesystem::create_directories(folder / name);
+    }
+    install("tessarin");
+  }
+
+  void install(const std::string& name) {
+    folder.write("bin/" + name, "");
+    std::filesystem::permissions(folder / ("bin/" + name), std::filesystem::perms::owner_all);
+  }
+  void writeOwn(const std::string& content) {
+    std::filesystem::create_directories(folder / "config/autostart");
+    folder.write(own, content);
+  }
+  void writeForEverybody(const std::string& content) { folder.write(everybodys, content); }
+  std::string content() const { return folder.read(own); }
+  bool hasOwn() const { return std::filesystem::exists(folder / own); }
+  std::string program() const { return folder / "bin/tessarin"; }
+
+  AutostartLoginItem makeItem(const std::string& desktops = "ubuntu:GNOME") const {
+    const std::map<std::string, std::string> variables = {
+        {"XDG_CONFIG_HOME", folder / "config"},
+        {"XDG_CONFIG_DIRS", "relative:" + (folder / "system").string()},
+        {"XDG_CURRENT_DESKTOP", desktops},
+        {"PATH", folder / "bin"}};
+    return AutostartLoginItem(program(), [variables](const std::string& name) -> std::optional<std::string> {
+      const auto found = variables.find(name);
+      return found == variables.end() ? std::nullopt : std::optional(found->second);
+    });
+  }
+
+  TemporaryFolder folder;
+
+ private:
+  const std::string own = "config/autostart/tessarin.desktop";
+  const std::string everybodys = "system/autostart/tessarin.desktop";
+};
+
+class AutostartWorld {
+ public:
+  LoginItem& item() { return item_; }
+  /// A folder in the file's place keeps even the administrator from writing it.
+  void breakDown() {
+    const auto autostart = home_.folder / "config/autostart";
+    if (!std::filesystem::exists(autostart)) return home_.folder.write("config/autostart", "");
+    home_.writeForEverybody(home_.content());
+    std::filesystem::remove_all(autostart);
+    home_.folder.write("config/autostart", "");
+  }
+  void disableOutside() { home_.writeOwn(home_.content() + "X-GNOME-Autostart-enabled=false\n"); }
+
+ private:
+  Home home_;
+  AutostartLoginItem item_ = home_.makeItem();
+};
+
+class FakeWorld {
+ public:
+  LoginItem& item() { return item_; }
+  void breakDown() { item_.failure = "the disk is full"; }
+  void disableOutside() { item_.enabled = false; }
+
+ private:
+  FakeLoginItem item_;
+};
+
+using Worlds = ::testing::Types<AutostartWorld, FakeWorld>;
+INSTANTIATE_TYPED_TEST_SUITE_P(LoginItems, LoginItemSuite, Worlds);
+
+const std::string entry = "[Desktop Entry]\nType=Application\nName=Tessarin\nExec=tessarin\n";
+
+TEST(AutostartLoginItem, JudgesAnEntryAsTheDesktopDoes) {
+  struct Case {
+    std::string keys;
+    bool isEnabled;
+  };
+  const Case cases[] = {
+      {"", true},
+      {"Hidden=false\n", true},
+      {"Hidden=true\n", false},
+      {"X-GNOME-Autostart-enabled=false\n", false},
+      {"X-GNOME-Autostart-enabled = true \n", true},
+      {"OnlyShowIn=KDE;GNOME;\n", true},
+      {"OnlyShowIn=KDE;\n", false},
+      {"OnlyShowIn=\n", false},
+      {"NotShowIn=KDE;\n", true},
+      {"NotShowIn=ubuntu\n", false},
+      {"TryExec=tessarin\n", true},
+      {"TryExec=missing\n", false},
+      {"TryExec=/missing/tessarin\n", false},
+      {"# Hidden=true\n[Desktop Action hide]\nHidden=true\n", true},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.keys);
+    Home own;
+    own.writeOwn(entry + c.keys);
+    EXPECT_EQ(own.makeItem().isEnabled(), c.isEnabled);
+    Home everybodys;
+    everybodys.writeForEverybody(entry + c.keys);
+    EXPECT_EQ(everybodys.makeItem().isEnabled(), c.isEnabled);
+    everybodys.writeOwn(entry);
+    EXPECT_TRUE(everybodys.makeItem().isEnabled()) << "the user's own goes before";
+  }
+}
+
+TEST(AutostartLoginItem, AnEntryWithNothingToStartStartsNothing) {
+  for (const char* content : {"", "[Desktop Entry]\nType=Application\n", "Exec=tessarin\n"}) {
+    Home home;
+    home.writeForEverybody(entry);
+    home.writeOwn(content);
+    EXPECT_FALSE(home.makeItem().isEnabled()) << content;
+  }
+}
+
+TEST(AutostartLoginItem, IsOffOnceTheProgramIsGone) {
+  Home home;
+  AutostartLoginItem item = home.makeItem();
+  ASSERT_EQ(item.registerItem(), std::nullopt);
+  std::filesystem::remove(home.program());
+  EXPECT_FALSE(item.isEnabled());
+}
+
+TEST(AutostartLoginItem, RegisteringMendsWhatTheUserSwitchedOff) {
+  for (const char* keys : {"Hidden=true\n", "X-GNOME-Autostart-enabled=false\n", "OnlyShowIn=KDE;\n",
+                           "NotShowIn=GNOME;\n", "TryExec=missing\n"}) {
+    SCOPED_TRACE(keys);
+    Home home;
+    home.writeOwn(entry + "X-Delay=5\n" + keys + "\n[Desktop Action new]\nName=New\n");
+    AutostartLoginItem item = home.makeItem();
+    EXPECT_EQ(item.registerItem(), std::nullopt);
+    EXPECT_TRUE(item.isEnabled());
+    EXPECT_THAT(home.content(), HasSubstr("X-Delay=5\n"));
+    EXPECT_THAT(home.content(), ::testing::EndsWith("\n[Desktop Action new]\nName=New\n"));
+  }
+}
+
+TEST(AutostartLoginItem, UnregisteringLeavesWhatIsNotOurs) {
+  struct Case {
+    const char* description;
+    const char* own;
+    const char* everybodys;
+    const char* leftOwn;  // nullptr: no file
+  };
+  const Case cases[] = {
+      {"ours alone", "[Desktop Entry]\nType=Application\nExec=x\nHidden=false\n", nullptr, nullptr},
+      {"with a foreign key", "[Desktop Entry]\nExec=x\nX-Delay=5\n", nullptr,
+       "[Desktop Entry]\nExec=x\nX-Delay=5\nHidden=true\n"},
+      {"with a comment", "# mine\n[Desktop Entry]\nExec=x\n", nullptr,
+       "# mine\n[Desktop Entry]\nExec=x\nHidden=true\n"},
+      {"everybody's too", "[Desktop Entry]\nExec=x\n", "[Desktop Entry]\nExec=x\n",
+       "[Desktop Entry]\nExec=x\nHidden=true\n"},
+      {"everybody's alone", nullptr, "[Desktop Entry]\nExec=x\n",
+       "[Desktop Entry]\nType=Application\nName=Tessarin\nHidden=true\n"},
+      {"none", nullptr, nullptr, nullptr},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.description);
+    Home home;
+    if (c.own) home.writeOwn(c.own);
+    if (c.everybodys) home.writeForEverybody(c.everybodys);
+    AutostartLoginItem item = home.makeItem();
+    EXPECT_EQ(item.unregisterItem(), std::nullopt);
+    EXPECT_FALSE(item.isEnabled());
+    EXPECT_EQ(home.hasOwn(), c.leftOwn != nullptr);
+    EXPECT_EQ(home.content(), c.leftOwn ? c.leftOwn : "");
+  }
+}
+
+TEST(DesktopEntryText, QuotesAnArgumentAndEscapesAValue) {
+  struct Case {
+    const char* path;
+    const char* exec;  // as it stands in the file
+  };
+  const Case cases[] = {
+      {"/usr/bin/tessarin", "/usr/bin/tessarin"},
+      {"/opt/my apps/tessarin", "\"/opt/my apps/tessarin\""},
+      {"/opt/100%/tessarin", "/opt/100%%/tessarin"},
+      {"/opt/$HOME`x`\"y\"", R"("/opt/\\$HOME\\`x\\`\\"y\\"")"},
+      {R"(/opt/a\b)", R"("/opt/a\\\\b")"},
+      {"/opt/a\nb\tc", R"("/opt/a\nb\tc")"},
+      {"/opt/ä;(x)~", "\"/opt/ä;(x)~\""},
+  };
+  for (const Case& c : cases) {
+    DesktopEntryText text;
+    text.set("Exec", freedesktop::quotedArgument(c.path));
+    EXPECT_EQ(text.content(), "[Desktop Entry]\nExec=" + std::string(c.exec) + "\n");
+    EXPECT_EQ(DesktopEntryText(text.content()).value("Exec"), freedesktop::quotedArgument(c.path));
+  }
+  for (const char* value : {" leading", "trailing ", " ", "in between", "", "\\s", "a\rb"}) {
+    DesktopEntryText text;
+    text.set("Name", value);
+    EXPECT_EQ(DesktopEntryText(text.content()).value("Name"), value);
+  }
+}
+
+}  // namespace
+}  // namespace tessarin::testing
