@@ -58,8 +58,8 @@ bool SnippetDraft::isValid() const {
   return !name.empty() && !trigger.empty() && !replacement.empty();
 }
 
-Snippet SnippetDraft::makeSnippet(const std::string& id) const {
-  return {id.empty() ? makeUuid() : id, name,           trigger, replacement,
+Snippet SnippetDraft::makeSnippet(const std::optional<std::string>& id) const {
+  return {id ? *id : makeUuid(), name,           trigger, replacement,
           parseKeywords(keywords),      customCategory, false};
 }
 

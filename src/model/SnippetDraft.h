@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,8 +24,8 @@ struct SnippetDraft {
 
   /// Whether name, trigger and replacement are filled; a space counts.
   bool isValid() const;
-  /// The snippet with all texts as they stand. An empty id asks for a new one.
-  Snippet makeSnippet(const std::string& id = {}) const;
+  /// The snippet with all texts as they stand, under the id or, without one, a new one.
+  Snippet makeSnippet(const std::optional<std::string>& id = std::nullopt) const;
 };
 
 /// The characters that a trigger may have: letters and numbers of any script with the marks that belong to
