@@ -9,6 +9,7 @@
 #include "base/Log.h"
 #include "base/Uuid.h"
 #include "model/SnippetCoding.h"
+#include "model/SnippetFile.h"
 
 namespace tessarin {
 namespace {
@@ -152,7 +153,10 @@ void SnippetStore::deleteSnippet(const std::string& id) {
 }
 
 std::size_t SnippetStore::importSnippets(const std::filesystem::path& file) {
-  std::vector<Snippet> imported = decodeSnippets(readFile(file));
+  return addImported(readSnippetFile(file));
+}
+
+std::size_t SnippetStore::addImported(std::vector<Snippet> imported) {
   std::unordered_set<std::string> taken;
   for (const auto* list : {&builtInSnippets_, &userSnippets_}) {
     for (const Snippet& snippet : *list) taken.insert(snippet.trigger);

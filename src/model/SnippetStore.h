@@ -50,9 +50,10 @@ class SnippetStore {
   /// Removes every user snippet of that id.
   void deleteSnippet(const std::string& id);
 
-  /// Adds those snippets of a file whose trigger (exact text) no snippet here has, with new ids, and returns
-  /// how many. Throws std::runtime_error (DataError for the content) and changes nothing when the file
-  /// cannot be read.
+  /// Adds those of the snippets whose trigger (exact text) no snippet here has, with new ids, and returns how
+  /// many.
+  std::size_t addImported(std::vector<Snippet> imported);
+  /// The same with the snippets of a file. Throws what `readSnippetFile` throws, nothing having changed.
   std::size_t importSnippets(const std::filesystem::path& file);
   /// Throws std::runtime_error when the file cannot be written.
   void exportSnippets(const std::filesystem::path& file) const;

@@ -53,7 +53,8 @@ bool OwnTextField::isEditable() const {
 
 std::string_view OwnTextField::role() const {
   const auto hints = query(Qt::ImHints).value<Qt::InputMethodHints>();
-  if (hints.testFlag(Qt::ImhHiddenText)) return role::secureTextField;
+  const bool keepsOut = widget_ && widget_->property(keepsOutProperty).toBool();
+  if (keepsOut || hints.testFlag(Qt::ImhHiddenText)) return role::secureTextField;
   if (!query(Qt::ImSurroundingText).isValid()) return role::unknown;
   return hints.testFlag(Qt::ImhMultiLine) ? role::textArea : role::textField;
 }

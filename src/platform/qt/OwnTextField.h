@@ -15,6 +15,9 @@ namespace tessarin::ui {
 /// gone.
 class OwnTextField {
  public:
+  /// A widget with this property set to true is treated as a password field: nothing is expanded in it.
+  static constexpr const char* keepsOutProperty = "tessarinKeepsOut";
+
   explicit OwnTextField(QWidget* widget) : widget_(widget) {}
 
   /// Takes text and is no password field.

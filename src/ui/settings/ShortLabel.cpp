@@ -1,0 +1,78 @@
+#include "ui/settings/ShortLabel.h"
+
+#include <QPainter>
+#include <QStyle>
+#include <QTextLayout>
+#include <algorithm>
+#include <cmath>
+
+namespace tessarin::ui {
+
+ShortLabel::ShortLabel(int mostLines, TextStyle style, ColorRole color, QWidget* parent)
+    : StyledLabel({}, style, color, parent), mostLines_(mostLines) {
+  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+  policy.setHeightForWidth(true);
+  setSizePolicy(policy);
+}
+
+/// Calls `visit(line, top)` for each line that is shown and returns how many there are.
+template <class Visit>
+int ShortLabel::layOut(int width, Visit visit) const {
+  const int lineHeight = fontMetrics().lineSpacing();
+  QString shown = text();
+  shown.replace('\n', QChar::LineSeparator);
+  int lines = 0;
+  QTextLayout layout(shown, font(), this);
+  QTextOption option(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft));
+  option.setTextDirection(shown.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  layout.setTextOption(option);
+  layout.beginLayout();
+  while (lines < mostLines_) {
+    QTextLine line = layout.createLine();
+    if (!line.isValid()) break;
+    line.setLineWidth(width);
+    ++lines;
+    const bool goesOn = line.textStart() + line.textLength() < shown.size();
+    const QString rest = goesOn && lines == mostLines_ ? shown.mid(line.textStart()) : QString();
+    visit(line, (lines - 1) * lineHeight, rest);
+  }
+  layout.endLayout();
+  return std::max(lines, 1);
+}
+
+int ShortLabel::heightForWidth(int width) const {
+  return layOut(width, [](const QTextLine&, int, const QString&) {}) * fontMetrics().lineSpacing();
+}
+
+QSize ShortLabel::sizeHint() const {
+  // Emoji and wide marks may need a little more than the advance says.
+  int widest = 0;
+  for (const QString& line : text().split('\n')) {
+    widest = std::max(widest, fontMetrics().horizontalAdvance(line) + 2);
+  }
+  return {widest, fontMetrics().lineSpacing()};
+}
+
+QSize ShortLabel::minimumSizeHint() const {
+  return {std::min(sizeHint().width(), fontMetrics().horizontalAdvance("…") * 4),
+          fontMetrics().lineSpacing()};
+}
+
+void ShortLabel::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setPen(palette().color(QPalette::WindowText));
+  painter.setFont(font());
+  layOut(width(), [&](const QTextLine& line, int top, const QString& rest) {
+    if (rest.isEmpty()) {
+      line.draw(&painter, QPointF(0, top));
+      return;
+    }
+    const QString cut = rest.section(QChar::LineSeparator, 0, 0) + QStringLiteral("…");
+    const QRect place(0, top, width(), fontMetrics().lineSpacing());
+    painter.drawText(place, QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::TextSingleLine,
+                     fontMetrics().elidedText(cut, Qt::ElideRight, width()));
+  });
+}
+
+}  // namespace tessarin::ui

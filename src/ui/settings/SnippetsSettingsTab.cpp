@@ -1,0 +1,155 @@
+#include "ui/settings/SnippetsSettingsTab.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <chrono>
+#include <utility>
+
+#include "base/Log.h"
+#include "model/SnippetStore.h"
+#include "platform/MainQueue.h"
+#include "ui/settings/SnippetEditorView.h"
+#include "ui/settings/SnippetListModel.h"
+#include "ui/settings/SnippetListView.h"
+#include "ui/style/StyledLabel.h"
+#include "ui/style/Symbol.h"
+
+namespace tessarin::ui {
+namespace {
+
+constexpr int padding = 16;
+constexpr int spacing = 12;
+constexpr int lineSpacing = 8;
+constexpr std::chrono::milliseconds messageDuration{3000};
+
+QPushButton* makeButton(const QString& text, const QString& symbol) {
+  auto* button = new QPushButton(symbolIcon(symbol), text);
+  button->setAutoDefault(false);
+  return button;
+}
+
+}  // namespace
+
+SnippetsSettingsTab::SnippetsSettingsTab(const SettingsServices& services, QWidget* parent)
+    : SnippetsSettingsTab(services, SnippetFileDialogs::native(), parent) {}
+
+SnippetsSettingsTab::SnippetsSettingsTab(const SettingsServices& services, SnippetFileDialogs dialogs,
+                                         QWidget* parent)
+    : QWidget(parent),
+      services_(services),
+      dialogs_(std::move(dialogs)),
+      model_(new SnippetListModel(services.snippetStore, services.userDefaults, this)),
+      list_(new SnippetListView),
+      import_(makeButton(tr("Import"), "import")),
+      export_(makeButton(tr("Export"), "export")),
+      add_(makeButton(tr("Add"), "plus")),
+      importMessage_(new StyledLabel({}, TextStyle::caption, ColorRole::green)),
+      builtInCount_(new StyledLabel({}, TextStyle::caption, ColorRole::secondary)),
+      emptyState_(makeEmptyState()) {
+  auto* stack = new QVBoxLayout(this);
+  stack->setContentsMargins(padding, padding, padding, padding);
+  stack->setSpacing(spacing);
+  stack->addLayout(makeHeader());
+  stack->addWidget(importMessage_);
+  stack->addWidget(emptyState_, 1);
+  stack->addWidget(list_, 1);
+  importMessage_->wrapped();
+  importMessage_->hide();
+  list_->setModel(model_);
+  connectAll();
+  refresh();
+}
+
+QHBoxLayout* SnippetsSettingsTab::makeHeader() {
+  auto* header = new QHBoxLayout;
+  header->addWidget(new StyledLabel(tr("Custom Snippets"), TextStyle::headline));
+  header->addStretch(1);
+  for (QPushButton* button : {import_, export_, add_}) header->addWidget(button);
+  return header;
+}
+
+QWidget* SnippetsSettingsTab::makeEmptyState() {
+  auto* block = new QWidget;
+  auto* lines = new QVBoxLayout(block);
+  lines->setSpacing(lineSpacing);
+  lines->addStretch(1);
+  auto* title = new StyledLabel(tr("No custom snippets yet"), TextStyle::body, ColorRole::secondary);
+  for (StyledLabel* line : {title, builtInCount_}) lines->addWidget(&line->centred());
+  lines->addStretch(1);
+  return block;
+}
+
+void SnippetsSettingsTab::connectAll() {
+  connect(import_, &QPushButton::clicked, this, &SnippetsSettingsTab::chooseImport);
+  connect(export_, &QPushButton::clicked, this,
+          [this] { dialogs_.save(*this, [this](const std::filesystem::path& file) { exportTo(file); }); });
+  connect(add_, &QPushButton::clicked, this, [this] { setSheet(SnippetSheetState::forNew()); });
+  connect(list_, &SnippetListView::editRequested, this, [this](const QModelIndex& index) {
+    setSheet(SnippetSheetState::forEditing(model_->snippet(index)));
+  });
+  connect(list_, &SnippetListView::deleteRequested, this, &SnippetsSettingsTab::remove);
+  connect(&reading_, &SnippetFileReading::done, this, &SnippetsSettingsTab::finishImport);
+  storeSubscription_ = services_.snippetStore.onChange([this] { refresh(); });
+}
+
+void SnippetsSettingsTab::refresh() {
+  const bool isEmpty = services_.snippetStore.userSnippets().empty();
+  const bool hadFocus = list_->isAncestorOf(focusWidget()) || list_->hasFocus();
+  export_->setEnabled(!isEmpty);
+  list_->setVisible(!isEmpty);
+  emptyState_->setVisible(isEmpty);
+  builtInCount_->setText(tr("Built-in emojis: %1").arg(services_.snippetStore.builtInSnippets().size()));
+  if (isEmpty && hadFocus) add_->setFocus();
+}
+
+void SnippetsSettingsTab::setSheet(SnippetSheetState state) {
+  if (sheetState_ && sheet_ && sheetState_->identity() == state.identity()) return;
+  delete sheet_;
+  sheetState_ = std::move(state);
+  sheet_ = new SnippetEditorView(services_, sheetState_->editingSnippet(), this);
+  sheet_->setAttribute(Qt::WA_DeleteOnClose);
+  connect(sheet_, &QDialog::finished, this, [this] { sheetState_.reset(); });
+  sheet_->open();
+}
+
+void SnippetsSettingsTab::remove(const QModelIndex& index) {
+  services_.snippetStore.deleteSnippet(model_->snippet(index).id);
+}
+
+void SnippetsSettingsTab::chooseImport() {
+  dialogs_.open(*this, [this](const std::filesystem::path& file) {
+    if (reading_.isRunning()) return;
+    import_->setEnabled(false);
+    reading_.start(file);
+  });
+}
+
+void SnippetsSettingsTab::finishImport(const SnippetFileReading::Result& result) {
+  import_->setEnabled(true);
+  if (!result.error.empty()) {
+    setImportMessage(tr("Import failed: %1").arg(QString::fromStdString(result.error)));
+    return;
+  }
+  const auto count = static_cast<int>(services_.snippetStore.addImported(result.snippets));
+  setImportMessage(count == 1 ? tr("Imported 1 snippet") : tr("Imported %n snippets", nullptr, count));
+}
+
+void SnippetsSettingsTab::setImportMessage(const QString& message) {
+  importMessage_->setText(message);
+  if (!importMessage_->isHidden()) return;
+  importMessage_->show();
+  services_.mainQueue.after(messageDuration, [self = QPointer<SnippetsSettingsTab>(this)] {
+    if (self) self->importMessage_->hide();
+  });
+}
+
+void SnippetsSettingsTab::exportTo(const std::filesystem::path& file) {
+  try {
+    services_.snippetStore.exportSnippets(file);
+  } catch (const std::exception& error) {
+    log("Settings", std::string("Export failed: ") + error.what());
+  }
+}
+
+}  // namespace tessarin::ui

@@ -1,0 +1,71 @@
+#include <gmock/gmock.h>
+
+#include "model/SnippetDraft.h"
+
+namespace tessarin {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::MatchesRegex;
+
+TEST(SnippetDraftTest, ATriggerKeepsLettersNumbersAndTwoSigns) {
+  const struct {
+    const char* text;
+    const char* kept;
+  } cases[] = {
+      {"", ""},
+      {"my shrug!", "myshrug"},
+      {":wave:", "wave"},
+      {"Été_1-2", "Été_1-2"},
+      {"E\u0301te\u0301 x", "E\u0301te\u0301x"},  // marks stay with their letter
+      {"\u0301a", "a"},                           // and go without one
+      {"_\u0301-b", "-b"},                        // a sign with a mark is another character
+      {"привет, 日本 हिन्दी", "привет日本हिन्दी"},
+      {"½٣Ⅷ一", "½٣Ⅷ一"},
+      {"a😀b👨‍👩‍👧c+/;.\t\n\\d", "abcd"},
+      {"a\xffz", "az"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(filteredTrigger(c.text), c.kept) << c.text;
+    EXPECT_EQ(filteredTrigger(c.kept), c.kept) << c.text;
+  }
+}
+
+TEST(SnippetDraftTest, KeywordsStandBetweenCommas) {
+  EXPECT_THAT(parseKeywords(""), IsEmpty());
+  EXPECT_THAT(parseKeywords(" , ,,\t"), IsEmpty());
+  EXPECT_THAT(parseKeywords(" a ,   ,b,,c,"), ElementsAre("a", "b", "c"));
+  EXPECT_THAT(parseKeywords("a b,a b"), ElementsAre("a b", "a b"));
+  EXPECT_THAT(parseKeywords("\u00a0\u3000é\t, \n "), ElementsAre("é", "\n"));
+}
+
+TEST(SnippetDraftTest, IsValidOnceTheThreeTextsAreFilled) {
+  const struct {
+    SnippetDraft draft;
+    bool isValid;
+  } cases[] = {
+      {{"n", "t", "r", ""}, true},  {{" ", "t", "\n", ""}, true}, {{"", "t", "r", "k"}, false},
+      {{"n", "", "r", "k"}, false}, {{"n", "t", "", "k"}, false}, {{}, false},
+  };
+  for (const auto& c : cases) EXPECT_EQ(c.draft.isValid(), c.isValid) << c.draft.name << c.draft.trigger;
+}
+
+TEST(SnippetDraftTest, AChangedSnippetKeepsItsIdAndBecomesCustom) {
+  const Snippet imported{"ID", " Name ", "c++ x", "{{date}}", {"", "one", "two words", "one"}, "Code", true};
+  const SnippetDraft draft = SnippetDraft::of(imported);
+  EXPECT_EQ(draft.trigger, "cx");
+  EXPECT_EQ(draft.keywords, ", one, two words, one");
+  EXPECT_EQ(draft.makeSnippet(imported.id),
+            (Snippet{"ID", " Name ", "cx", "{{date}}", {"one", "two words", "one"}, "Custom", false}));
+}
+
+TEST(SnippetDraftTest, ANewSnippetGetsAnIdOfItsOwn) {
+  const SnippetDraft draft{"n", "t", "r", ""};
+  const std::string id = draft.makeSnippet().id;
+  EXPECT_THAT(id, MatchesRegex("[0-9A-F]{8}-[0-9A-F]{4}-4[0-9A-F]{3}-[89AB][0-9A-F]{3}-[0-9A-F]{12}"));
+  EXPECT_NE(draft.makeSnippet().id, id);
+}
+
+}  // namespace
+}  // namespace tessarin

@@ -1,0 +1,70 @@
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+#include <functional>
+#include <stdexcept>
+
+#include "model/SnippetFile.h"
+#include "support/TemporaryFolder.h"
+
+namespace tessarin {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::HasSubstr;
+using testing::TemporaryFolder;
+
+TEST(SnippetFileTest, WhatHoldsNoSnippetsFailsWithOneSentence) {
+  const std::string entry =
+      R"({"id":"1","name":"n","trigger":"t","replacement":"r","keywords":[],"category":"c","isBuiltIn":false})";
+  const TemporaryFolder folder;
+  const auto write = [&](const std::string& content) {
+    return [&folder, content] { folder.write("file", content); };
+  };
+  const struct {
+    const char* name;
+    std::function<void()> make;
+    const char* problem;
+  } cases[] = {
+      {"missing", [] {}, "No such file"},
+      {"empty", write(""), "ends too early"},
+      {"half written", write("[" + entry + "," + entry.substr(0, 40)), "ends too early"},
+      {"binary",
+       write(std::string("\x7f"
+                         "ELF\0\xff",
+                         6)),
+       "UTF-8"},
+      {"an object", write(entry), "not an array"},
+      {"one bad entry", write("[" + entry + R"(,{"id":"2"}])"), "entry 2 lacks \"name\""},
+      {"two values", write("[" + entry + "][]"), "goes on after its end"},
+      {"deep", write(R"([{"x":)" + std::string(10'000'000, '[')), "nested too deeply"},
+      {"a folder", [&] { fs::create_directory(folder / "file"); }, "directory"},
+      {"a pipe", [&] { ::mkfifo((folder / "file").c_str(), S_IRUSR | S_IWUSR); }, "not an ordinary file"},
+      {"a device", [&] { fs::create_symlink("/dev/zero", folder / "file"); }, "not an ordinary file"},
+      {"huge",
+       [&] {
+         folder.write("file", "[");
+         fs::resize_file(folder / "file", largestSnippetFile + 1);
+       },
+       "larger than 64 MB"},
+  };
+  for (const auto& c : cases) {
+    c.make();
+    try {
+      readSnippetFile(folder / "file");
+      ADD_FAILURE() << c.name;
+    } catch (const std::runtime_error& error) {
+      EXPECT_THAT(error.what(), HasSubstr(c.problem)) << c.name;
+    }
+    fs::remove_all(folder / "file");
+  }
+}
+
+TEST(SnippetFileTest, AFileAtTheLimitIsRead) {
+  const TemporaryFolder folder;
+  folder.write("file", "[]" + std::string(largestSnippetFile - 2, ' '));
+  EXPECT_TRUE(readSnippetFile(folder / "file").empty());
+}
+
+}  // namespace
+}  // namespace tessarin

@@ -1,0 +1,251 @@
+#include <gmock/gmock.h>
+
+#include <QClipboard>
+#include <QInputMethodEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include "input/Preferences.h"
+#include "platform/qt/OwnTextField.h"
+#include "ui/settings/SnippetEditorView.h"
+#include "ui/settings/SnippetTestWindow.h"
+
+namespace tessarin::ui {
+namespace {
+
+using testing::child;
+using ::testing::ElementsAre;
+using testing::eventuallyInLoop;
+using ::testing::IsEmpty;
+using testing::shows;
+
+class SnippetEditorViewTest : public testing::SnippetTestWindow {
+ protected:
+  void open(std::optional<Snippet> snippet = std::nullopt) {
+    sheet = std::make_unique<SnippetEditorView>(services(), std::move(snippet));
+    sheet->show();
+    sheet->activateWindow();
+    ASSERT_TRUE(eventuallyInLoop([this] { return sheet->isActiveWindow(); }));
+    const auto fields = sheet->findChildren<QLineEdit*>();
+    ASSERT_EQ(fields.size(), 3);
+    name = fields[0];
+    trigger = fields[1];
+    keywords = fields[2];
+    replacement = sheet->findChild<QPlainTextEdit*>();
+  }
+  void type(QWidget* widget, const QString& text) {
+    widget->setFocus();
+    QTest::keyClicks(widget, text);
+  }
+  void fill() {
+    type(name, "n");
+    type(trigger, "t");
+    type(replacement, "r");
+  }
+  bool hasPreview() const { return shows<QLabel>(*sheet, "Preview"); }
+  QPushButton* button(const QString& text) const { return child<QPushButton>(*sheet, text); }
+  bool isClosed() const { return !sheet->isVisible(); }
+
+  std::unique_ptr<SnippetEditorView> sheet;
+  QLineEdit* name = nullptr;
+  QLineEdit* trigger = nullptr;
+  QLineEdit* keywords = nullptr;
+  QPlainTextEdit* replacement = nullptr;
+};
+
+TEST_F(SnippetEditorViewTest, OpensEmptyForANewSnippet) {
+  open();
+  EXPECT_TRUE(shows<QLabel>(*sheet, "New Snippet"));
+  EXPECT_EQ(sheet->width(), 480);
+  EXPECT_EQ(name->placeholderText(), "e.g., Shrug");
+  EXPECT_EQ(trigger->placeholderText(), "e.g., shrug");
+  EXPECT_EQ(keywords->placeholderText(), "e.g., whatever, idk");
+  EXPECT_EQ(replacement->placeholderText(), "e.g., ¯\\_(ツ)_/¯ or multi-line text");
+  EXPECT_FALSE(button("Add")->isEnabled());
+  EXPECT_FALSE(hasPreview());
+  EXPECT_TRUE(button("Cancel")->isEnabled());
+}
+
+TEST_F(SnippetEditorViewTest, CanBeConfirmedOnceTheThreeTextsAreFilled) {
+  open();
+  type(keywords, "k");
+  EXPECT_FALSE(hasPreview());
+  fill();
+  EXPECT_TRUE(button("Add")->isEnabled());
+  EXPECT_TRUE(hasPreview());
+  for (QWidget* widget :
+       {static_cast<QWidget*>(name), static_cast<QWidget*>(trigger), static_cast<QWidget*>(replacement)}) {
+    widget->setFocus();
+    QTest::keyClick(widget, Qt::Key_Backspace);
+    EXPECT_FALSE(button("Add")->isEnabled());
+    EXPECT_FALSE(hasPreview());
+    type(widget, "x");
+    EXPECT_TRUE(button("Add")->isEnabled());
+  }
+}
+
+TEST_F(SnippetEditorViewTest, StoresANewSnippetAsTyped) {
+  open();
+  type(name, " n ");
+  type(trigger, ":my t!");
+  type(keywords, " a ,  ,b,,c");
+  type(replacement, "{{date}}");
+  QTest::keyClick(replacement, Qt::Key_Return);
+  type(replacement, "r");
+  EXPECT_FALSE(isClosed());
+  QTest::mouseClick(button("Add"), Qt::LeftButton);
+  EXPECT_TRUE(isClosed());
+  ASSERT_EQ(store->userSnippets().size(), 1U);
+  const Snippet& made = store->userSnippets()[0];
+  EXPECT_EQ(made.id.size(), 36U);
+  EXPECT_EQ(made, (Snippet{made.id, " n ", "myt", "{{date}}\nr", {"a", "b", "c"}, "Custom", false}));
+}
+
+TEST_F(SnippetEditorViewTest, StoresAnEditedSnippetInItsPlace) {
+  store->addSnippet(mine("first"));
+  store->addSnippet({"id", "Name", "c++", "a\u00a0b\r\nc", {"x", "y z"}, "Theirs", false});
+  open(store->userSnippets()[1]);
+  EXPECT_TRUE(shows<QLabel>(*sheet, "Edit Snippet"));
+  EXPECT_EQ(trigger->text(), "c");
+  EXPECT_EQ(keywords->text(), "x, y z");
+  EXPECT_TRUE(hasPreview());
+  QTest::mouseClick(button("Save"), Qt::LeftButton);
+  EXPECT_EQ(store->userSnippets()[1],
+            (Snippet{"id", "Name", "c", "a\u00a0b\r\nc", {"x", "y z"}, "Custom", false}));
+  EXPECT_EQ(store->userSnippets().size(), 2U);
+}
+
+TEST_F(SnippetEditorViewTest, KeepsSpecialSpacesWhileAReplacementIsChanged) {
+  store->addSnippet(mine("t", "a\u00a0b"));
+  open(store->userSnippets()[0]);
+  replacement->moveCursor(QTextCursor::End);
+  type(replacement, "c");
+  QTest::mouseClick(button("Save"), Qt::LeftButton);
+  EXPECT_EQ(store->userSnippets()[0].replacement, "a\u00a0bc");
+}
+
+TEST_F(SnippetEditorViewTest, EscapeStoresNothing) {
+  open();
+  fill();
+  QTest::keyClick(replacement, Qt::Key_Escape);
+  EXPECT_TRUE(isClosed());
+  EXPECT_THAT(triggers(), IsEmpty());
+}
+
+TEST_F(SnippetEditorViewTest, ReturnConfirmsWhereItMakesNoLine) {
+  const struct {
+    std::function<QWidget*()> field;
+    Qt::KeyboardModifiers modifiers;
+    bool confirms;
+  } cases[] = {
+      {[this] { return static_cast<QWidget*>(name); }, Qt::NoModifier, true},
+      {[this] { return static_cast<QWidget*>(trigger); }, Qt::NoModifier, true},
+      {[this] { return static_cast<QWidget*>(keywords); }, Qt::ControlModifier, true},
+      {[this] { return static_cast<QWidget*>(replacement); }, Qt::NoModifier, false},
+      {[this] { return static_cast<QWidget*>(replacement); }, Qt::ShiftModifier, false},
+      {[this] { return static_cast<QWidget*>(replacement); }, Qt::ControlModifier, true},
+  };
+  for (const auto& c : cases) {
+    open();
+    fill();
+    c.field()->setFocus();
+    const std::size_t before = store->userSnippets().size();
+    QTest::keyClick(c.field(), Qt::Key_Return, c.modifiers);
+    EXPECT_EQ(isClosed(), c.confirms);
+    EXPECT_EQ(store->userSnippets().size(), before + (c.confirms ? 1 : 0));
+    EXPECT_EQ(replacement->toPlainText(), c.confirms ? "r" : "r\n");
+  }
+}
+
+TEST_F(SnippetEditorViewTest, ReturnDoesNothingWhileTextsAreMissing) {
+  open();
+  type(name, "n");
+  QTest::keyClick(name, Qt::Key_Return);
+  QTest::keyClick(name, Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_FALSE(isClosed());
+}
+
+TEST_F(SnippetEditorViewTest, TabLeavesTheReplacement) {
+  open();
+  fill();
+  replacement->setFocus();
+  QTest::keyClick(replacement, Qt::Key_Tab);
+  EXPECT_FALSE(replacement->hasFocus());
+  EXPECT_EQ(replacement->toPlainText(), "r");
+}
+
+TEST_F(SnippetEditorViewTest, TheTriggerIsFilteredAroundTheCaret) {
+  open();
+  type(trigger, "ab");
+  QTest::keyClick(trigger, Qt::Key_Left);
+  type(trigger, ": x!");
+  EXPECT_EQ(trigger->text(), "axb");
+  EXPECT_EQ(trigger->cursorPosition(), 2);
+  QGuiApplication::clipboard()->setText(" é:\n2 ");
+  QTest::keyClick(trigger, Qt::Key_V, Qt::ControlModifier);
+  QGuiApplication::clipboard()->clear();
+  EXPECT_EQ(trigger->text(), "axé2b");
+  EXPECT_EQ(trigger->cursorPosition(), 4);
+}
+
+TEST_F(SnippetEditorViewTest, TheTriggerLeavesComposedTextAlone) {
+  open();
+  type(trigger, "a");
+  QInputMethodEvent composing("n'i!", {});
+  QCoreApplication::sendEvent(trigger, &composing);
+  EXPECT_EQ(trigger->text(), "a");
+  QInputMethodEvent commit;
+  commit.setCommitString("你!");
+  QCoreApplication::sendEvent(trigger, &commit);
+  EXPECT_EQ(trigger->text(), "a你");
+}
+
+TEST_F(SnippetEditorViewTest, ShortcodesAreExpandedInEveryFieldButTheTrigger) {
+  open();
+  for (QWidget* widget :
+       {static_cast<QWidget*>(name), static_cast<QWidget*>(keywords), static_cast<QWidget*>(replacement)}) {
+    type(widget, "a:smile");
+    EXPECT_EQ(OwnTextField(widget).replace({1, 6}, "😀"), AccessibilityStatus::success);
+  }
+  EXPECT_EQ(name->text(), "a😀");
+  EXPECT_EQ(replacement->toPlainText(), "a😀");
+  EXPECT_EQ(OwnTextField(trigger).role(), role::secureTextField);
+}
+
+TEST_F(SnippetEditorViewTest, PreviewsTheExpandedText) {
+  clock.time = testing::ManualWallClock::utc(2026, 3, 14);
+  pasteboard.copyElsewhere("copied {{clipboard}}");
+  defaults.set(preferences::key::triggerCharacter, ";");
+  open();
+  fill();
+  EXPECT_TRUE(shows<QLabel>(*sheet, ";t;"));
+  EXPECT_TRUE(shows<QLabel>(*sheet, "r"));
+  EXPECT_EQ(pasteboard.stringReads, 0);
+  type(replacement, " {{clipboard}} {{none}}");
+  EXPECT_TRUE(shows<QLabel>(*sheet, "r copied {{clipboard}} {{none}}"));
+  EXPECT_EQ(pasteboard.stringReads, 1);
+  pasteboard.copyElsewhere("other");
+  type(trigger, "u");
+  EXPECT_TRUE(shows<QLabel>(*sheet, ";tu;"));
+  EXPECT_TRUE(shows<QLabel>(*sheet, "r other {{none}}"));
+  defaults.set(preferences::key::triggerCharacter, "/");
+  EXPECT_TRUE(shows<QLabel>(*sheet, "/tu/"));
+}
+
+TEST_F(SnippetEditorViewTest, GrowsWithTheTextWithinLimits) {
+  open();
+  const int empty = sheet->height();
+  fill();
+  EXPECT_EQ(replacement->height(), 60);
+  EXPECT_GT(sheet->height(), empty);
+  for (int line = 0; line < 30; ++line) QTest::keyClick(replacement, Qt::Key_Return);
+  EXPECT_EQ(replacement->height(), 160);
+  EXPECT_EQ(sheet->width(), 480);
+  type(name, QString(500, 'W'));
+  EXPECT_EQ(sheet->width(), 480);
+}
+
+}  // namespace
+}  // namespace tessarin::ui

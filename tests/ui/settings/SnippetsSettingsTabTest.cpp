@@ -1,0 +1,320 @@
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+#include <QAccessible>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <fstream>
+#include <iterator>
+
+#include "input/Preferences.h"
+#include "model/SnippetCoding.h"
+#include "ui/settings/SnippetEditorView.h"
+#include "ui/settings/SnippetListModel.h"
+#include "ui/settings/SnippetListView.h"
+#include "ui/settings/SnippetTestWindow.h"
+#include "ui/settings/SnippetsSettingsTab.h"
+
+namespace tessarin::ui {
+namespace {
+
+namespace fs = std::filesystem;
+using std::chrono::milliseconds;
+using testing::child;
+using ::testing::ElementsAre;
+using testing::eventuallyInLoop;
+using ::testing::IsEmpty;
+using testing::shows;
+using ::testing::StartsWith;
+
+class SnippetsSettingsTabTest : public testing::SnippetTestWindow {
+ protected:
+  void open() {
+    window = std::make_unique<QWidget>();
+    window->resize(600, 450);
+    const ChooseFile answer = [this](QWidget&, const auto& chosen) {
+      if (!chosenFile.empty()) chosen(chosenFile);
+    };
+    tab = new SnippetsSettingsTab(services(), {answer, answer}, window.get());
+    tab->setGeometry(window->rect());
+    list = tab->findChild<SnippetListView*>();
+    window->show();
+    window->activateWindow();
+    ASSERT_TRUE(eventuallyInLoop([this] { return window->isActiveWindow(); }));
+  }
+  void openWith(const std::vector<std::string>& shown) {
+    for (const std::string& trigger : shown) store->addSnippet(mine(trigger));
+    open();
+  }
+  QPushButton* button(const QString& text) const { return child<QPushButton>(*tab, text); }
+  void click(const QString& text) const { QTest::mouseClick(button(text), Qt::LeftButton); }
+  /// Where a row's button is painted.
+  QPoint place(int row, RowButton button) const {
+    const auto* delegate = static_cast<SnippetRowDelegate*>(list->itemDelegate());
+    const SnippetRow parts(list->visualRect(list->model()->index(row, 0)), delegate->buttonSizes(),
+                           list->layoutDirection());
+    return (button == RowButton::edit ? parts.edit : parts.remove).center();
+  }
+  void clickRow(int row, RowButton button) const {
+    const QPoint point = place(row, button);
+    QWidget* hit = list->viewport()->childAt(point);
+    if (hit == nullptr) {
+      QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, point);
+    } else {
+      QTest::mouseClick(hit, Qt::LeftButton);
+    }
+  }
+  QVariant shown(int row, int role) const { return list->model()->index(row, 0).data(role); }
+  QString message() const {
+    for (const QLabel* label : tab->findChildren<QLabel*>()) {
+      if (label->isVisible() && label->text().startsWith("Import")) return label->text();
+    }
+    return {};
+  }
+  SnippetEditorView* sheet() const { return tab->findChild<SnippetEditorView*>(); }
+  void import(const std::string& content) {
+    folder.write("import.json", content);
+    importFile(folder / "import.json");
+  }
+  void importFile(const fs::path& file) {
+    chosenFile = file;
+    click("Import");
+    EXPECT_FALSE(button("Import")->isEnabled());
+    EXPECT_TRUE(eventuallyInLoop([this] { return button("Import")->isEnabled(); }));
+  }
+  static std::string json(const std::vector<Snippet>& snippets) {
+    return encodeSnippets(snippets, JsonStyle::compact);
+  }
+
+  fs::path chosenFile;
+  std::unique_ptr<QWidget> window;
+  SnippetsSettingsTab* tab = nullptr;
+  SnippetListView* list = nullptr;
+};
+
+TEST_F(SnippetsSettingsTabTest, SaysSoWhileThereAreNoSnippets) {
+  open();
+  EXPECT_TRUE(shows<QLabel>(*tab, "Custom Snippets"));
+  EXPECT_TRUE(shows<QLabel>(*tab, "No custom snippets yet"));
+  EXPECT_TRUE(shows<QLabel>(*tab, "Built-in emojis: 1"));
+  EXPECT_FALSE(button("Export")->isEnabled());
+  EXPECT_FALSE(list->isVisible());
+  store->addSnippet(mine("a"));
+  EXPECT_FALSE(shows<QLabel>(*tab, "No custom snippets yet"));
+  EXPECT_TRUE(button("Export")->isEnabled());
+  EXPECT_TRUE(list->isVisible());
+  store->deleteSnippet("id-a");
+  EXPECT_TRUE(shows<QLabel>(*tab, "No custom snippets yet"));
+}
+
+TEST_F(SnippetsSettingsTabTest, RowsFollowStoreAndTriggerCharacter) {
+  store->addSnippet(mine("shrug", "one\ntwo\r\n😀"));
+  open();
+  EXPECT_EQ(shown(0, SnippetListModel::triggerRole), ":shrug:");
+  EXPECT_EQ(shown(0, SnippetListModel::nameRole), "Name of shrug");
+  EXPECT_EQ(shown(0, SnippetListModel::replacementRole), "one two 😀");
+  EXPECT_EQ(shown(0, Qt::AccessibleTextRole), ":shrug:, Name of shrug, one two 😀");
+  defaults.set(preferences::key::triggerCharacter, ";");
+  EXPECT_EQ(shown(0, SnippetListModel::triggerRole), ";shrug;");
+  Snippet changed = mine("other");
+  changed.id = "id-shrug";
+  store->updateSnippet(changed);
+  EXPECT_EQ(shown(0, SnippetListModel::triggerRole), ";other;");
+  store->addSnippet(mine(std::string(5000, 'x')));
+  EXPECT_LT(shown(1, SnippetListModel::triggerRole).toString().size(), 1100);
+}
+
+TEST_F(SnippetsSettingsTabTest, RowsKeepTheirPlaceWhenOthersGo) {
+  for (const char* id : {"a", "x", "b", "x", "c"}) store->addSnippet({id, "n", id, "r", {}, "c", false});
+  open();
+  const auto rows = [this] {
+    std::string all;
+    for (int row = 0; row < list->model()->rowCount(); ++row) {
+      all += shown(row, Qt::DisplayRole).toString().toStdString();
+    }
+    return all;
+  };
+  list->setCurrentIndex(list->model()->index(4, 0));
+  store->deleteSnippet("a");
+  EXPECT_EQ(rows(), "xbxc");
+  EXPECT_EQ(list->currentIndex().row(), 3);
+  store->deleteSnippet("x");
+  EXPECT_EQ(rows(), "bc");
+  store->deleteSnippet("unknown");
+  EXPECT_EQ(rows(), "bc");
+}
+
+TEST_F(SnippetsSettingsTabTest, AddOpensAnEmptySheet) {
+  open();
+  click("Add");
+  ASSERT_NE(sheet(), nullptr);
+  EXPECT_TRUE(sheet()->isModal());
+  const auto fields = sheet()->findChildren<QLineEdit*>();
+  QTest::keyClicks(fields[0], "n");
+  QTest::keyClicks(fields[1], "t");
+  QTest::keyClicks(sheet()->findChild<QPlainTextEdit*>(), "r");
+  QTest::keyClick(fields[0], Qt::Key_Return);
+  EXPECT_TRUE(eventuallyInLoop([this] { return sheet() == nullptr; }));
+  EXPECT_THAT(triggers(), ElementsAre("t"));
+  click("Add");
+  EXPECT_NE(sheet(), nullptr);
+}
+
+TEST_F(SnippetsSettingsTabTest, EveryRowCanBeEditedByPointerAndKeys) {
+  openWith({"a", "b", "c"});
+  const struct {
+    const char* what;
+    std::function<void()> act;
+    const char* edited;
+  } cases[] = {
+      {"painted button", [this] { clickRow(1, RowButton::edit); }, "b"},
+      {"real button", [this] { clickRow(1, RowButton::edit); }, "b"},
+      {"F2", [this] { QTest::keyClick(list, Qt::Key_F2); }, "b"},
+      {"Return",
+       [this] {
+         QTest::keyClick(list, Qt::Key_Down);
+         QTest::keyClick(list, Qt::Key_Return);
+       },
+       "c"},
+      {"Tab and Space",
+       [this] {
+         list->setFocus();
+         QTest::keyClick(list, Qt::Key_Tab);
+         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+       },
+       "c"},
+  };
+  for (const auto& c : cases) {
+    c.act();
+    ASSERT_NE(sheet(), nullptr) << c.what;
+    EXPECT_EQ(sheet()->findChildren<QLineEdit*>()[1]->text(), c.edited) << c.what;
+    sheet()->reject();
+    ASSERT_TRUE(eventuallyInLoop([this] { return sheet() == nullptr && window->isActiveWindow(); }))
+        << c.what;
+  }
+}
+
+TEST_F(SnippetsSettingsTabTest, EveryRowCanBeDeletedByPointerAndKeys) {
+  openWith({"a", "b", "c", "d", "e"});
+  clickRow(1, RowButton::remove);
+  EXPECT_THAT(triggers(), ElementsAre("a", "c", "d", "e"));
+  QCoreApplication::processEvents();
+  clickRow(list->currentIndex().row(), RowButton::remove);
+  EXPECT_EQ(triggers().size(), 3U);
+  list->setFocus();
+  list->setCurrentIndex(list->model()->index(0, 0));
+  QTest::keyClick(list, Qt::Key_Delete);
+  EXPECT_EQ(triggers().size(), 2U);
+  QTest::keyClick(list, Qt::Key_Tab);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+  EXPECT_EQ(triggers().size(), 1U);
+  EXPECT_EQ(decodeSnippets(folder.read("user-snippets.json")), store->userSnippets());
+  list->setFocus();
+  QTest::keyClick(list, Qt::Key_Delete);
+  EXPECT_THAT(triggers(), IsEmpty());
+  EXPECT_TRUE(button("Add")->hasFocus());
+}
+
+TEST_F(SnippetsSettingsTabTest, APressThatLeavesTheButtonDoesNothing) {
+  openWith({"a", "b"});
+  QTest::mousePress(list->viewport(), Qt::LeftButton, {}, place(1, RowButton::remove));
+  QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, place(0, RowButton::remove));
+  QTest::mouseClick(list->viewport(), Qt::RightButton, {}, place(0, RowButton::remove));
+  EXPECT_EQ(triggers().size(), 2U);
+}
+
+TEST_F(SnippetsSettingsTabTest, ScreenReadersMeetRowsAndButtons) {
+  openWith({"a", "b"});
+  list->setCurrentIndex(list->model()->index(1, 0));
+  const QAccessibleInterface* rows = QAccessible::queryAccessibleInterface(list);
+  ASSERT_NE(rows, nullptr);
+  EXPECT_EQ(rows->child(0)->text(QAccessible::Name), ":a:, Name of a, text");
+  EXPECT_EQ(list->findChild<QPushButton*>("editRow")->accessibleName(), "Edit :b:");
+  EXPECT_EQ(list->findChild<QPushButton*>("deleteRow")->accessibleName(), "Delete :b:");
+}
+
+TEST_F(SnippetsSettingsTabTest, ImportSaysHowManyItAdded) {
+  open();
+  const struct {
+    std::vector<Snippet> file;
+    const char* message;
+  } cases[] = {
+      {{mine("a")}, "Imported 1 snippet"},
+      {{mine("a"), mine("smile")}, "Imported 0 snippets"},
+      {{mine("x"), mine("x"), mine("y")}, "Imported 3 snippets"},
+  };
+  for (const auto& c : cases) {
+    import(json(c.file));
+    EXPECT_EQ(message(), c.message);
+  }
+  EXPECT_THAT(triggers(), ElementsAre("a", "x", "x", "y"));
+}
+
+TEST_F(SnippetsSettingsTabTest, TheImportMessageGoesThreeSecondsAfterItsLineCame) {
+  open();
+  import("[]");
+  queue.advance(milliseconds(2000));
+  import("{");
+  EXPECT_THAT(message().toStdString(), StartsWith("Import failed: "));
+  queue.advance(milliseconds(999));
+  EXPECT_NE(message(), "");
+  queue.advance(milliseconds(1));
+  EXPECT_EQ(message(), "");
+  import("[]");
+  window.reset();
+  queue.advance(milliseconds(3000));
+}
+
+TEST_F(SnippetsSettingsTabTest, AFailedImportChangesNothing) {
+  openWith({"a"});
+  ::mkfifo((folder / "pipe").c_str(), S_IRUSR | S_IWUSR);
+  folder.write("huge.json", "[");
+  fs::resize_file(folder / "huge.json", std::uintmax_t{100} << 20);
+  folder.write("half.json", json({mine("x"), mine("y")}).substr(0, 150));
+  for (const fs::path& file : {folder / "missing.json", folder / "pipe", folder / "huge.json",
+                               folder / "half.json", folder.path(), fs::path("/dev/zero")}) {
+    importFile(file);
+    EXPECT_THAT(message().toStdString(), StartsWith("Import failed: ")) << file;
+    EXPECT_THAT(triggers(), ElementsAre("a")) << file;
+    queue.advance(milliseconds(3000));
+  }
+}
+
+TEST_F(SnippetsSettingsTabTest, ClosingTheWindowEndsAnImport) {
+  openWith({});
+  std::vector<Snippet> many(2000, mine("x"));
+  folder.write("many.json", json(many));
+  chosenFile = folder / "many.json";
+  click("Import");
+  window.reset();
+  QThreadPool::globalInstance()->waitForDone();
+  QCoreApplication::processEvents();
+  EXPECT_THAT(triggers(), IsEmpty());
+}
+
+TEST_F(SnippetsSettingsTabTest, ACancelledDialogChangesNothing) {
+  openWith({"a"});
+  click("Import");
+  click("Export");
+  EXPECT_TRUE(button("Import")->isEnabled());
+  EXPECT_EQ(message(), "");
+  EXPECT_THAT(log.lines, IsEmpty());
+}
+
+TEST_F(SnippetsSettingsTabTest, ExportWritesTheFileOrLogsWhyNot) {
+  openWith({"a"});
+  chosenFile = folder / "out.json";
+  click("Export");
+  EXPECT_EQ(decodeSnippets(folder.read("out.json")), store->userSnippets());
+  EXPECT_THAT(log.lines, IsEmpty());
+  chosenFile = folder / "missing/out.json";
+  click("Export");
+  EXPECT_THAT(log.lines, ElementsAre(StartsWith("[Settings] Export failed: ")));
+  EXPECT_EQ(message(), "");
+}
+
+}  // namespace
+}  // namespace tessarin::ui
