@@ -37,6 +37,7 @@ std::shared_ptr<const freedesktop::ApplicationMatcher> applicationMatcher() {
 Desktop::Desktop()
     : defaults_(freedesktop::configFolder(processEnvironment) / "preferences.json"),
       trust_(freedesktop::configFolder(processEnvironment)),
+      loginItem_(std::filesystem::canonical("/proc/self/exe")),
       trustPrompt_([this] { allow(); }),
       popupWindow_([this] { return screens_.space(); }),
       selections_(x11::X11Selections::connect(queue_)),
@@ -77,6 +78,14 @@ AppDelegate::Services Desktop::services(SnippetStore::Folders folders) {
           {},
           {},
           {}};
+}
+
+ui::SettingsServices Desktop::settingsServices(SnippetStore& store) {
+  return {store, defaults_, permissions(), loginItem_, workspace_, general(), queue_, clock_, {}, {}, {}};
+}
+
+UpdaterSeams Desktop::updaterSeams(AppcastSource& source, UpdateUserDriver& driver) {
+  return {defaults_, queue_, clock_, workspace_, source, driver};
 }
 
 void Desktop::shutdown() {

@@ -10,6 +10,7 @@
 #include "platform/GuardedEventTap.h"
 #include "platform/OwnAddresses.h"
 #include "platform/atspi/AtspiAccessibility.h"
+#include "platform/freedesktop/AutostartLoginItem.h"
 #include "platform/freedesktop/JsonUserDefaults.h"
 #include "platform/freedesktop/ScreenLock.h"
 #include "platform/freedesktop/TrustRecord.h"
@@ -30,6 +31,8 @@
 #include "ui/InputMonitoringHelp.h"
 #include "ui/PopupWindow.h"
 #include "ui/TrustPrompt.h"
+#include "ui/settings/SettingsServices.h"
+#include "update/Updater.h"
 
 namespace tessarin {
 
@@ -42,6 +45,13 @@ class Desktop {
   Desktop& operator=(const Desktop&) = delete;
 
   AppDelegate::Services services(SnippetStore::Folders folders);
+  /// All but the updates, of which the desktop knows nothing.
+  ui::SettingsServices settingsServices(SnippetStore& store);
+  UpdaterSeams updaterSeams(AppcastSource& source, UpdateUserDriver& driver);
+  Permissions permissions() { return {accessibility_, inputMonitoring_, workspace_}; }
+  UserDefaults& userDefaults() { return defaults_; }
+  MainQueue& mainQueue() { return queue_; }
+  Workspace& workspace() { return workspace_; }
   /// Gives the clipboard back and hands it over, while the connections still stand.
   void shutdown();
 
@@ -58,6 +68,7 @@ class Desktop {
   SystemWallClock clock_;
   freedesktop::JsonUserDefaults defaults_;
   freedesktop::TrustRecord trust_;
+  freedesktop::AutostartLoginItem loginItem_;
   ui::TrustPrompt trustPrompt_;
   ui::InputMonitoringHelp inputMonitoringHelp_;
   ui::QtStatusBar statusBar_;

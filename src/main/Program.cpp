@@ -9,10 +9,15 @@
 namespace tessarin {
 namespace {
 
-/// The windows that the controller and the menu lead to are hung in here.
-AppDelegate::Services services(Desktop& desktop, QApplication& application,
+AppDelegate::Services services(Desktop& desktop, Windows& windows, QApplication& application,
                                const std::filesystem::path& resources, const std::filesystem::path& storage) {
   AppDelegate::Services result = desktop.services({resources, storage});
+  result.startUpdateService = [&windows] { windows.startUpdateService(); };
+  result.showOnboardingWindow = [&windows] { windows.showOnboarding(); };
+  result.menu.checkForUpdates = [&windows] { windows.checkForUpdates(); };
+  result.menu.openSettings = [&windows](SnippetStore* store) {
+    if (store) windows.openSettings(*store);
+  };
   // Later, so that a request is answered and a menu has closed before the loop ends.
   result.menu.quit = [&application] { QTimer::singleShot(0, &application, &QApplication::quit); };
   return result;
@@ -22,7 +27,7 @@ AppDelegate::Services services(Desktop& desktop, QApplication& application,
 
 Program::Program(QApplication& application, UnixSignals& signals, const std::filesystem::path& resources,
                  const std::filesystem::path& storage)
-    : controller_(services(desktop_, application, resources, storage)) {
+    : windows_(desktop_), controller_(services(desktop_, windows_, application, resources, storage)) {
   observeSession(application, signals);
   listenForRequests(storage);
 }
@@ -84,6 +89,7 @@ Answer Program::showSettings() {
 
 void Program::shutDown() {
   controller_.applicationWillTerminate();
+  windows_.close();
   desktop_.shutdown();
 }
 

@@ -9,6 +9,7 @@
 #include "main/Desktop.h"
 #include "main/Request.h"
 #include "main/UnixSignals.h"
+#include "main/Windows.h"
 #include "platform/freedesktop/InstanceSocket.h"
 
 class QApplication;
@@ -36,6 +37,7 @@ class Program {
   void shutDown();
 
   Desktop desktop_;
+  Windows windows_;
   AppDelegate controller_;
   std::optional<freedesktop::InstanceSocket> requests_;
   std::unique_ptr<QSocketNotifier> requestNotifier_;

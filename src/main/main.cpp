@@ -12,6 +12,7 @@
 #include "model/StorageFolder.h"
 #include "platform/freedesktop/BaseFolders.h"
 #include "platform/x11/Handles.h"
+#include "ui/Translations.h"
 
 namespace tessarin {
 namespace {
@@ -46,6 +47,7 @@ int run(int argc, char** argv, bool opensSettings) {
   QApplication application(argc, argv);
   QApplication::setApplicationName("tessarin");
   QApplication::setDesktopFileName("tessarin");
+  ui::installTranslations(application);
   Program program(application, signals, resourceFolder(std::filesystem::canonical("/proc/self/exe")),
                   storage);
   return program.run(opensSettings);

@@ -42,11 +42,13 @@ SampleDesktop::SampleDesktop(const std::filesystem::path& resources, bool filled
 }
 
 ui::SettingsServices SampleDesktop::services() {
-  return {*store, defaults, permissions(), loginItem, workspace, pasteboard, queue, clock, [] {}, "0.1.0", "1"};
+  return {*store, defaults, permissions(), loginItem, workspace, pasteboard,
+          queue,  clock,    [] {},         "0.1.0",   "1"};
 }
 
 void SampleDesktop::addApplications() {
-  for (const auto& [identifier, info] : installed) workspace.running.push_back({identifier, info.name, false});
+  for (const auto& [identifier, info] : installed)
+    workspace.running.push_back({identifier, info.name, false});
 }
 
 void SampleDesktop::addSnippets() {
@@ -56,7 +58,8 @@ void SampleDesktop::addSnippets() {
   store->addSnippet(snippet("Home address", "addr", "12 St James’s Square, London"));
   store->addSnippet(snippet("Ship it", "shipit", "🚢"));
   store->addSnippet(snippet("A name that is much longer than its row will ever be, and goes on after that",
-                            "a_trigger_that_is_long_as_well", "What it stands for is longer still: a sentence "
+                            "a_trigger_that_is_long_as_well",
+                            "What it stands for is longer still: a sentence "
                             "that nobody would like to type twice, let alone every day."));
 }
 
@@ -67,7 +70,8 @@ void SampleDesktop::addUse() {
   for (int day = 0; day < 7; ++day) {
     clock.ago = std::chrono::hours(24 * (6 - day));
     for (int use = 0; use < uses[day]; ++use) {
-      store->usageTracker().recordUsage(triggers[static_cast<std::size_t>(use * (day + 3) / 4) % triggers.size()]);
+      store->usageTracker().recordUsage(
+          triggers[static_cast<std::size_t>(use * (day + 3) / 4) % triggers.size()]);
     }
   }
   clock.ago = {};

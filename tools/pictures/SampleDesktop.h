@@ -29,7 +29,9 @@ struct SampleGrants final : Accessibility, InputMonitoring {
   bool isTrusted() override { return trusted; }
   void prompt() override {}
   ElementRef systemWide() override { return nullptr; }
-  std::optional<AttributeValue> attribute(const ElementRef&, std::string_view) override { return std::nullopt; }
+  std::optional<AttributeValue> attribute(const ElementRef&, std::string_view) override {
+    return std::nullopt;
+  }
   std::optional<AttributeValue> parameterizedAttribute(const ElementRef&, std::string_view,
                                                        const AttributeValue&) override {
     return std::nullopt;

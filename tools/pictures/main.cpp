@@ -1,31 +1,35 @@
 #include <QApplication>
 #include <QDir>
 #include <cstdio>
-#include <filesystem>
 
 #include "Palettes.h"
 #include "PopupPictures.h"
 #include "WindowPictures.h"
+#include "ui/Translations.h"
 
-/// Paints every window and every state of the popup, light and dark, into a folder: pictures FOLDER. The scale is
-/// that of QT_SCALE_FACTOR.
+/// Paints every window and every state of the popup, light and dark, into a folder: pictures FOLDER. The
+/// scale is that of QT_SCALE_FACTOR.
 int main(int argc, char** argv) {
   using namespace tessarin::pictures;
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
+  tessarin::ui::installTranslations(application);
   QApplication::setStyle("Fusion");
   QApplication::setQuitOnLastWindowClosed(false);
   if (argc != 2 || !QDir().mkpath(argv[1])) {
     std::fprintf(stderr, "usage: pictures FOLDER\n");
     return 2;
   }
+  const auto resources =
+      tessarin::resourceFolder(std::filesystem::path(TESSARIN_PROGRAM_FOLDER) / "pictures");
   const double scale = application.devicePixelRatio();
   for (const bool isDark : {false, true}) {
     const QPalette palette = isDark ? darkPalette() : lightPalette();
     QApplication::setPalette(palette);
-    const QString prefix =
-        QStringLiteral("%1/%2-%3x-").arg(QString::fromLocal8Bit(argv[1]), isDark ? "dark" : "light").arg(scale);
-    if (!savePopups(prefix, palette, scale) || !saveWindows(prefix)) {
+    const QString prefix = QStringLiteral("%1/%2-%3x-")
+                               .arg(QString::fromLocal8Bit(argv[1]), isDark ? "dark" : "light")
+                               .arg(scale);
+    if (!savePopups(prefix, palette, scale) || !saveWindows(prefix, TESSARIN_RESOURCES)) {
       std::fprintf(stderr, "pictures: cannot write into %s\n", argv[1]);
       return 1;
     }

@@ -1,6 +1,7 @@
 #include "ui/settings/BarChart.h"
 
 #include <QLinearGradient>
+#include <QLocale>
 #include <QPainter>
 #include <QStyle>
 #include <algorithm>
@@ -52,7 +53,8 @@ std::int64_t BarChart::top() const {
 }
 
 int BarChart::scaleWidth() const {
-  return QFontMetrics(fontOf(TextStyle::caption2, font())).horizontalAdvance(locale().toString(top()));
+  return QFontMetrics(fontOf(TextStyle::caption2, font()))
+      .horizontalAdvance(locale().toString(static_cast<qlonglong>(top())));
 }
 
 void BarChart::paintEvent(QPaintEvent* /*event*/) {
@@ -79,7 +81,7 @@ void BarChart::paintScale(QPainter& painter, const QRectF& plot) const {
     painter.setPen(text);
     const QRect number(0, qRound(y) - line / 2, scaleWidth(), line);
     painter.drawText(QStyle::visualRect(layoutDirection(), this->rect(), number),
-                     Qt::AlignRight | Qt::AlignVCenter, locale().toString(value));
+                     Qt::AlignRight | Qt::AlignVCenter, locale().toString(static_cast<qlonglong>(value)));
   }
 }
 
