@@ -64,7 +64,7 @@ void ShortLabel::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(palette().color(QPalette::WindowText));
   painter.setFont(font());
   painter.setLayoutDirection(text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
-  const int side = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignAbsolute;
+  const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignAbsolute;
   layOut(width(), [&](const QTextLine& line, int top, const QString& rest) {
     if (rest.isEmpty()) {
       line.draw(&painter, QPointF(0, top));
@@ -72,7 +72,7 @@ void ShortLabel::paintEvent(QPaintEvent* /*event*/) {
     }
     const QString cut = rest.section(QChar::LineSeparator, 0, 0) + QStringLiteral("…");
     const QRect place(0, top, width(), fontMetrics().lineSpacing());
-    painter.drawText(place, side | Qt::TextSingleLine,
+    painter.drawText(place, static_cast<int>(side) | Qt::TextSingleLine,
                      fontMetrics().elidedText(cut, Qt::ElideRight, width()));
   });
 }

@@ -34,7 +34,7 @@ void drawLine(QPainter& painter, const QRect& frame, const QFont& font, const QC
   painter.setFont(font);
   painter.setPen(color);
   painter.setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
-  painter.drawText(frame, side | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine,
+  painter.drawText(frame, static_cast<int>(side | Qt::AlignAbsolute | Qt::AlignVCenter) | Qt::TextSingleLine,
                    QFontMetrics(font).elidedText(text, Qt::ElideRight, frame.width()));
   painter.setLayoutDirection(around);
 }
