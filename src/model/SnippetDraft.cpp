@@ -59,8 +59,7 @@ bool SnippetDraft::isValid() const {
 }
 
 Snippet SnippetDraft::makeSnippet(const std::optional<std::string>& id) const {
-  return {id ? *id : makeUuid(), name,           trigger, replacement,
-          parseKeywords(keywords),      customCategory, false};
+  return {id ? *id : makeUuid(), name, trigger, replacement, parseKeywords(keywords), customCategory, false};
 }
 
 std::string filteredTrigger(std::string_view text) {

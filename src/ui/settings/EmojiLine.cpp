@@ -1,5 +1,6 @@
 #include "ui/settings/EmojiLine.h"
 
+#include <QFontInfo>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <algorithm>
@@ -11,8 +12,9 @@
 namespace tessarin::ui {
 namespace {
 
-/// The side of an emoji's square, in sizes of its font.
-constexpr double emojiSide = 1.28;
+/// The height of an emoji, in sizes of the text around it, and the width that it takes, in heights.
+constexpr double emojiHeight = 1.15;
+constexpr double emojiWidth = 1.2;
 
 }  // namespace
 
@@ -23,11 +25,11 @@ EmojiLine::EmojiLine(const QString& text, const QFont& font, double maxWidth)
 }
 
 int EmojiLine::emojiSize() const {
-  return static_cast<int>(std::round(QFontMetricsF(font_).ascent() * 0.95));
+  return static_cast<int>(std::round(QFontInfo(font_).pixelSize() * emojiHeight));
 }
 
 EmojiLine::Run EmojiLine::makeRun(const QString& text, bool isEmoji) const {
-  if (isEmoji) return {text, true, emojiSize() * emojiSide};
+  if (isEmoji) return {text, true, emojiSize() * emojiWidth};
   return {text, false, std::ceil(QFontMetricsF(font_).horizontalAdvance(text))};
 }
 
@@ -85,7 +87,9 @@ double EmojiLine::width() const {
 void EmojiLine::draw(QPainter& painter, const QRectF& frame, const QColor& color, EmojiGlyphs& glyphs) const {
   painter.setFont(font_);
   painter.setPen(color);
-  double x = painter.layoutDirection() == Qt::RightToLeft ? frame.right() - width() : frame.left();
+  const Qt::LayoutDirection around = painter.layoutDirection();
+  double x = around == Qt::RightToLeft ? frame.right() - width() : frame.left();
+  painter.setLayoutDirection(isRightToLeft_ ? Qt::RightToLeft : Qt::LeftToRight);
   const auto drawRun = [&](const Run& run) {
     const QRectF place(x, frame.top(), run.width, frame.height());
     if (run.isEmoji) {
@@ -102,6 +106,7 @@ void EmojiLine::draw(QPainter& painter, const QRectF& frame, const QColor& color
   } else {
     std::for_each(runs_.begin(), runs_.end(), drawRun);
   }
+  painter.setLayoutDirection(around);
 }
 
 }  // namespace tessarin::ui

@@ -5,7 +5,6 @@
 #include <QPainter>
 #include <QTextBlock>
 #include <algorithm>
-#include <cmath>
 
 #include "ui/style/Colors.h"
 #include "ui/style/TextStyle.h"
@@ -25,11 +24,14 @@ constexpr int verticalInset = 8;
 }  // namespace
 
 ReplacementEditor::ReplacementEditor(const QString& placeholder, QWidget* parent) : QPlainTextEdit(parent) {
-  setFrameShape(NoFrame);
+  setFrameStyle(Box | Plain);
+  setLineWidth(1);
   setTabChangesFocus(true);
   setPlaceholderText(placeholder);
-  document()->setDocumentMargin(horizontalInset);
-  setViewportMargins(0, verticalInset - horizontalInset, 0, verticalInset - horizontalInset);
+  const int margin = horizontalInset - frameWidth();
+  document()->setDocumentMargin(margin);
+  const int above = verticalInset - margin - frameWidth();
+  setViewportMargins(0, above, 0, above);
   setAutoFillBackground(false);
   viewport()->setAutoFillBackground(false);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -101,12 +103,19 @@ void ReplacementEditor::resizeEvent(QResizeEvent* event) {
   fitHeight();
 }
 
-void ReplacementEditor::paintEvent(QPaintEvent* event) {
-  {
-    QPainter painter(viewport());
-    painter.fillRect(event->rect(), palette().color(QPalette::Base));
-  }
-  QPlainTextEdit::paintEvent(event);
+bool ReplacementEditor::event(QEvent* event) {
+  if (event->type() != QEvent::Paint) return QPlainTextEdit::event(event);
+  paintFrame();
+  return true;
+}
+
+void ReplacementEditor::paintFrame() {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(withOpacity(colorOf(ColorRole::primary, palette()), frameOpacity), frameWidth()));
+  painter.setBrush(palette().color(QPalette::Base));
+  const double inset = frameWidth() / 2.0;
+  painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), radius, radius);
 }
 
 }  // namespace tessarin::ui

@@ -23,10 +23,11 @@ class ReplacementEditor final : public QPlainTextEdit {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
+  bool event(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void paintFrame();
   void restyle();
   void fitHeight();
 

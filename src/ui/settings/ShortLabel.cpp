@@ -23,7 +23,7 @@ int ShortLabel::layOut(int width, Visit visit) const {
   shown.replace('\n', QChar::LineSeparator);
   int lines = 0;
   QTextLayout layout(shown, font(), this);
-  QTextOption option(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft));
+  QTextOption option(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignAbsolute);
   option.setTextDirection(shown.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
   option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   layout.setTextOption(option);
@@ -63,6 +63,8 @@ void ShortLabel::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setPen(palette().color(QPalette::WindowText));
   painter.setFont(font());
+  painter.setLayoutDirection(text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+  const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignAbsolute;
   layOut(width(), [&](const QTextLine& line, int top, const QString& rest) {
     if (rest.isEmpty()) {
       line.draw(&painter, QPointF(0, top));
@@ -70,7 +72,7 @@ void ShortLabel::paintEvent(QPaintEvent* /*event*/) {
     }
     const QString cut = rest.section(QChar::LineSeparator, 0, 0) + QStringLiteral("…");
     const QRect place(0, top, width(), fontMetrics().lineSpacing());
-    painter.drawText(place, QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::TextSingleLine,
+    painter.drawText(place, static_cast<int>(side) | Qt::TextSingleLine,
                      fontMetrics().elidedText(cut, Qt::ElideRight, width()));
   });
 }

@@ -23,6 +23,7 @@ namespace {
 constexpr int sheetWidth = 480;
 constexpr int padding = 16;
 constexpr int spacing = 16;
+constexpr int rowSpacing = 8;
 constexpr int blockSpacing = 4;
 constexpr int previewLines = 3;
 /// More than three lines hold.
@@ -74,6 +75,7 @@ SnippetEditorView::SnippetEditorView(const SettingsServices& services, std::opti
 
 QFormLayout* SnippetEditorView::makeForm() {
   auto* form = new QFormLayout;
+  form->setVerticalSpacing(rowSpacing);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   const struct {
     QString label;
@@ -111,6 +113,7 @@ QBoxLayout* SnippetEditorView::makeReplacementBlock() {
 QWidget* SnippetEditorView::makePreview() {
   auto* block = makeStack<QVBoxLayout>(blockSpacing);
   auto* row = makeStack<QHBoxLayout>(blockSpacing * 2);
+  previewTrigger_->setMaximumWidth(sheetWidth / 2 - padding);
   row->addWidget(previewTrigger_, 0, Qt::AlignTop);
   row->addWidget(previewText_, 1, Qt::AlignTop);
   block->addWidget(new StyledLabel(tr("Preview"), TextStyle::caption, ColorRole::secondary));

@@ -26,13 +26,17 @@ QColor textColor(const QStyleOptionViewItem& option) {
   return option.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
 }
 
+/// At the side where lines begin in the window; within the line, the text's own direction holds.
 void drawLine(QPainter& painter, const QRect& frame, const QFont& font, const QColor& color,
               const QString& text) {
+  const Qt::LayoutDirection around = painter.layoutDirection();
+  const auto side = around == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
   painter.setFont(font);
   painter.setPen(color);
-  const auto side = painter.layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
-  painter.drawText(frame, side | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine,
+  painter.setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+  painter.drawText(frame, static_cast<int>(side | Qt::AlignAbsolute | Qt::AlignVCenter) | Qt::TextSingleLine,
                    QFontMetrics(font).elidedText(text, Qt::ElideRight, frame.width()));
+  painter.setLayoutDirection(around);
 }
 
 }  // namespace
@@ -45,11 +49,11 @@ RowButtonSizes SnippetRowDelegate::buttonSizes() const {
 }
 
 const SnippetRowDelegate::Fonts& SnippetRowDelegate::fontsFor(const QFont& base) const {
-  if (fonts_.base != base || fonts_.trigger.family().isEmpty()) {
-    fonts_ = {base, fontOf(TextStyle::title2, base), fontOf(TextStyle::monospacedBody, base),
-              fontOf(TextStyle::caption, base)};
+  if (!fonts_ || fonts_->base != base) {
+    fonts_ = Fonts{base, fontOf(TextStyle::title2, base), fontOf(TextStyle::monospacedBody, base),
+                   fontOf(TextStyle::caption, base)};
   }
-  return fonts_;
+  return *fonts_;
 }
 
 QSize SnippetRowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const {

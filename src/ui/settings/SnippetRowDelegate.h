@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QPersistentModelIndex>
 #include <QStyledItemDelegate>
+#include <optional>
 
 #include "ui/EmojiGlyphs.h"
 #include "ui/settings/SnippetRow.h"
@@ -47,7 +48,7 @@ class SnippetRowDelegate final : public QStyledItemDelegate {
   const QPushButton& edit_;
   const QPushButton& remove_;
   HotButton hot_;
-  mutable Fonts fonts_;
+  mutable std::optional<Fonts> fonts_;
   mutable EmojiGlyphs glyphs_;
 };
 

@@ -1,5 +1,6 @@
 #include "ui/settings/SnippetsSettingsTab.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -94,12 +95,14 @@ void SnippetsSettingsTab::connectAll() {
 }
 
 void SnippetsSettingsTab::refresh() {
+  // An import tells of every single snippet.
   const bool isEmpty = services_.snippetStore.userSnippets().empty();
-  const bool hadFocus = list_->isAncestorOf(focusWidget()) || list_->hasFocus();
+  if (isEmpty == !emptyState_->isHidden() && isEmpty == list_->isHidden()) return;
+  const bool hadFocus = list_->hasFocus() || list_->isAncestorOf(QApplication::focusWidget());
+  builtInCount_->setText(tr("Built-in emojis: %1").arg(services_.snippetStore.builtInSnippets().size()));
   export_->setEnabled(!isEmpty);
   list_->setVisible(!isEmpty);
   emptyState_->setVisible(isEmpty);
-  builtInCount_->setText(tr("Built-in emojis: %1").arg(services_.snippetStore.builtInSnippets().size()));
   if (isEmpty && hadFocus) add_->setFocus();
 }
 

@@ -4,6 +4,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QSvgRenderer>
 #include <utility>
 
@@ -40,7 +41,15 @@ class SymbolIconEngine final : public QIconEngine {
 }  // namespace
 
 QPixmap symbolPixmap(const QString& name, const QColor& color, const QSize& size, qreal devicePixelRatio) {
-  QPixmap pixmap(size * devicePixelRatio);
+  const QString key = QStringLiteral("tessarin|%1|%2|%3x%4|%5")
+                          .arg(name)
+                          .arg(color.rgba())
+                          .arg(size.width())
+                          .arg(size.height())
+                          .arg(devicePixelRatio);
+  QPixmap pixmap;
+  if (QPixmapCache::find(key, &pixmap)) return pixmap;
+  pixmap = QPixmap(size * devicePixelRatio);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
   QSvgRenderer(":/symbols/" + name + ".svg").render(&painter, QRectF(pixmap.rect()));
@@ -48,6 +57,7 @@ QPixmap symbolPixmap(const QString& name, const QColor& color, const QSize& size
   painter.fillRect(pixmap.rect(), color);
   painter.end();
   pixmap.setDevicePixelRatio(devicePixelRatio);
+  QPixmapCache::insert(key, pixmap);
   return pixmap;
 }
 
