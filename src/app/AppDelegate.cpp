@@ -120,7 +120,8 @@ void AppDelegate::applicationWillTerminate() {
 }
 
 void AppDelegate::endCollecting() {
-  handler(&AppDelegate::handleAppSwitch)();
+  const auto end = handler(&AppDelegate::handleAppSwitch);
+  end();
 }
 
 bool AppDelegate::toggleEnabled() {

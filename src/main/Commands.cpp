@@ -83,11 +83,11 @@ int reportNoAnswer() {
 int allow() {
   if (!trustRecord().allow()) return failure;
   std::puts("Tessarin may judge keys and write into other applications.");
-  std::puts(
-      atspi::AccessibilityBus::enable()
-          ? "The session's accessibility is switched on. Qt applications and browsers that are open now "
-            "notice it when they are started again; until then, text is pasted there."
-          : "The session's accessibility could not be switched on; text will be pasted.");
+  std::puts(atspi::AccessibilityBus::enable()
+                ? "The session's accessibility is switched on, for later sessions too. Qt applications and "
+                  "browsers that are open now "
+                  "notice it when they are started again; until then, text is pasted there."
+                : "The session's accessibility could not be switched on; text will be pasted.");
   return success;
 }
 

@@ -19,7 +19,8 @@ void TrustPrompt::ask() {
       "After you type the trigger character, Tessarin judges the keys that follow, shows matches beside the "
       "caret and replaces the shortcode in the application you are typing in. While idle it sees no key but "
       "the trigger. Of what you type, nothing is kept but how often each entry was used.\n\n"
-      "Saying yes also switches the session's accessibility on. Qt applications and browsers that are open "
+      "Saying yes also switches the session's accessibility on, for later sessions too. Qt applications and "
+      "browsers that are open "
       "now "
       "notice it when they are started again; until then, text is pasted there."));
   QPushButton* yes = dialog_->addButton(tr("Allow"), QMessageBox::AcceptRole);
