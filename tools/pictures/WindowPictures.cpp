@@ -3,7 +3,10 @@
 #include <QApplication>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QVariantAnimation>
 #include <QWidget>
+#include <algorithm>
+#include <utility>
 
 #include "SampleDesktop.h"
 #include "main/SessionInputMonitoring.h"
@@ -24,6 +27,7 @@ class Camera {
 
   void take(const QString& name, QWidget& window) {
     settle();
+    while (isMoving(window)) QApplication::processEvents();
     isGood_ = window.grab().save(prefix_ + name + ".png") && isGood_;
   }
 
@@ -44,6 +48,13 @@ class Camera {
  private:
   static void settle() {
     for (int round = 0; round < 3; ++round) QApplication::processEvents();
+  }
+
+  static bool isMoving(const QWidget& window) {
+    const auto animations = window.findChildren<QVariantAnimation*>();
+    return std::any_of(animations.begin(), animations.end(), [](const QVariantAnimation* animation) {
+      return animation->state() == QAbstractAnimation::Running;
+    });
   }
 
   QString prefix_;

@@ -20,8 +20,6 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "usage: pictures FOLDER\n");
     return 2;
   }
-  const auto resources =
-      tessarin::resourceFolder(std::filesystem::path(TESSARIN_PROGRAM_FOLDER) / "pictures");
   const double scale = application.devicePixelRatio();
   for (const bool isDark : {false, true}) {
     const QPalette palette = isDark ? darkPalette() : lightPalette();

@@ -15,6 +15,7 @@
 #include "ui/onboarding/StepIndicator.h"
 #include "ui/style/Card.h"
 #include "ui/style/PermissionRow.h"
+#include "ui/style/Spacing.h"
 #include "ui/style/StyledLabel.h"
 #include "ui/style/SymbolLabel.h"
 
@@ -29,7 +30,6 @@ constexpr int textPadding = 40;
 constexpr int hintPadding = 60;
 constexpr int hintSpacing = 8;
 constexpr int rowSpacing = 16;
-constexpr int padding = 16;
 constexpr int permissionSymbol = 24;
 
 /// A step's items below one another, in the middle of the room that there is.
@@ -37,7 +37,7 @@ class Step {
  public:
   Step() : widget_(new QWidget), items_(new QVBoxLayout(widget_)) {
     items_->setSpacing(itemSpacing);
-    items_->setContentsMargins(0, padding, 0, padding);
+    items_->setContentsMargins(0, defaultPadding, 0, defaultPadding);
     items_->addStretch(1);
   }
 
@@ -71,7 +71,7 @@ class Step {
 QWidget* onCard(PermissionRow* row) {
   auto* card = new Card;
   auto* layout = new QVBoxLayout(card);
-  layout->setContentsMargins(padding, padding, padding, padding);
+  layout->setContentsMargins(defaultPadding, defaultPadding, defaultPadding, defaultPadding);
   layout->addWidget(row);
   return card;
 }
@@ -128,6 +128,7 @@ OnboardingView::OnboardingView(const Permissions& permissions, UserDefaults& def
 
 void OnboardingView::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
+  forward_->setDefault(true);  // not before it is in its window, which keeps the default button
   refresh();
   timer_ = queue_.repeat(refreshInterval, [this] { refresh(); });
 }
@@ -199,12 +200,12 @@ QWidget* OnboardingView::makeDone() {
 QWidget* OnboardingView::makeNavigation() {
   auto* bar = new QWidget;
   auto* row = new QHBoxLayout(bar);
-  row->setContentsMargins(padding, padding, padding, padding);
+  row->setContentsMargins(defaultPadding, defaultPadding, defaultPadding, defaultPadding);
   row->addWidget(indicator_);
   row->addStretch(1);
   row->addWidget(back_);
   row->addWidget(forward_);
-  forward_->setDefault(true);
+  back_->setAutoDefault(false);
   connect(back_, &QPushButton::clicked, this, [this] { goTo(currentStep_ - 1); });
   connect(forward_, &QPushButton::clicked, this, &OnboardingView::goOn);
   return bar;

@@ -37,7 +37,10 @@ StepAnimation::StepAnimation(QWidget& stage, const QPixmap& before, const QPixma
   progress_->setDuration(milliseconds);
   progress_->setEasingCurve(QEasingCurve::InOutQuad);
   connect(progress_, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
-  connect(progress_, &QVariantAnimation::finished, this, &QObject::deleteLater);
+  connect(progress_, &QVariantAnimation::finished, this, [this] {
+    hide();
+    deleteLater();
+  });
 }
 
 void StepAnimation::paintEvent(QPaintEvent* /*event*/) {

@@ -5,7 +5,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -13,6 +12,8 @@
 
 #include "platform/Workspace.h"
 #include "ui/style/FlowGrid.h"
+#include "ui/style/ScrollPane.h"
+#include "ui/style/Spacing.h"
 #include "ui/style/StyledLabel.h"
 #include "ui/style/Symbol.h"
 
@@ -81,6 +82,7 @@ AppListSettingsTab::AppListSettingsTab(const SettingsServices& services, AppList
   entries_->setSelectionMode(QAbstractItemView::NoSelection);
   entries_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
   auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(tabPadding, tabPadding, tabPadding, tabPadding);
   layout->setSpacing(spacing);
   layout->addWidget(new StyledLabel(texts.title, TextStyle::headline));
   layout->addWidget(description);
@@ -93,16 +95,9 @@ AppListSettingsTab::AppListSettingsTab(const SettingsServices& services, AppList
 }
 
 QWidget* AppListSettingsTab::makeRunningApps() {
-  auto* area = new QScrollArea;
-  area->setWidget(appButtons_);
-  area->setWidgetResizable(true);
-  area->setFrameShape(QFrame::NoFrame);
-  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  auto* area = new ScrollPane(appButtons_);
   area->setMaximumHeight(highestGrid);
   area->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
-  area->setFocusPolicy(Qt::NoFocus);
-  area->viewport()->setAutoFillBackground(false);
-  appButtons_->setAutoFillBackground(false);
   return area;
 }
 

@@ -12,6 +12,7 @@
 #include "platform/LoginItem.h"
 #include "platform/UserDefaults.h"
 #include "ui/style/Form.h"
+#include "ui/style/Spacing.h"
 #include "ui/style/StyledLabel.h"
 
 namespace tessarin::ui {
@@ -44,6 +45,7 @@ GeneralSettingsTab::GeneralSettingsTab(const SettingsServices& services, QWidget
   updates->addWidget(updateHint_);
   updates->addWidget(makeUpdateButton(), 0, Qt::AlignLeading);
   auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(tabPadding, tabPadding, tabPadding, tabPadding);
   layout->addWidget(form);
   showPreferences();
   preferences_ = services_.userDefaults.onChange([this] { showPreferences(); });

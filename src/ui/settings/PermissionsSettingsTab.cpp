@@ -6,6 +6,7 @@
 #include "platform/MainQueue.h"
 #include "ui/style/Form.h"
 #include "ui/style/PermissionRow.h"
+#include "ui/style/Spacing.h"
 #include "ui/style/StyledLabel.h"
 
 namespace tessarin::ui {
@@ -37,6 +38,7 @@ PermissionsSettingsTab::PermissionsSettingsTab(const SettingsServices& services,
   form->addSection({})->addWidget(accessibility_);
   form->addSection({})->addWidget(note);
   auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(tabPadding, tabPadding, tabPadding, tabPadding);
   layout->addWidget(form);
   connect(inputMonitoring_, &PermissionRow::grantClicked, this,
           [this] { services_.permissions.openInputMonitoringSettings(); });

@@ -5,6 +5,7 @@
 #include "ui/settings/GeneralSettingsTab.h"
 #include "ui/settings/PasteFallbackAppsSettingsTab.h"
 #include "ui/settings/PermissionsSettingsTab.h"
+#include "ui/settings/SettingsTabBar.h"
 #include "ui/settings/SnippetsSettingsTab.h"
 #include "ui/settings/StatsSettingsTab.h"
 #include "ui/style/Symbol.h"
@@ -18,7 +19,8 @@ constexpr QSize smallest(580, 400);
 
 SettingsView::SettingsView(const SettingsServices& services, QWidget* parent) : QTabWidget(parent) {
   setMinimumSize(smallest);
-  setUsesScrollButtons(true);
+  setTabBar(new SettingsTabBar);
+  setAccessibleName(tr("Settings"));
   addTab(new GeneralSettingsTab(services), symbolIcon("gear"), tr("General"));
   addTab(new SnippetsSettingsTab(services), symbolIcon("text-badge-plus"), tr("Snippets"));
   addTab(

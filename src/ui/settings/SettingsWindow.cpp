@@ -12,7 +12,6 @@ namespace tessarin::ui {
 namespace {
 
 constexpr QSize contentSize(640, 480);
-constexpr int padding = 16;
 
 }  // namespace
 
@@ -32,7 +31,6 @@ std::unique_ptr<QWidget> SettingsWindow::makeWindow() {
   auto window = std::make_unique<QWidget>();
   window->setWindowTitle(QCoreApplication::translate("tessarin::ui::SettingsWindow", "Tessarin Settings"));
   auto* layout = new QVBoxLayout(window.get());
-  layout->setContentsMargins(padding, padding, padding, padding);
   layout->addWidget(new SettingsView(services_));
   for (const QKeySequence& keys : {QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)}) {
     auto* shortcut = new QShortcut(keys, window.get());

@@ -13,13 +13,13 @@
 #include "ui/settings/SnippetEditorView.h"
 #include "ui/settings/SnippetListModel.h"
 #include "ui/settings/SnippetListView.h"
+#include "ui/style/Spacing.h"
 #include "ui/style/StyledLabel.h"
 #include "ui/style/Symbol.h"
 
 namespace tessarin::ui {
 namespace {
 
-constexpr int padding = 16;
 constexpr int spacing = 12;
 constexpr int lineSpacing = 8;
 constexpr std::chrono::milliseconds messageDuration{3000};
@@ -49,7 +49,7 @@ SnippetsSettingsTab::SnippetsSettingsTab(const SettingsServices& services, Snipp
       builtInCount_(new StyledLabel({}, TextStyle::caption, ColorRole::secondary)),
       emptyState_(makeEmptyState()) {
   auto* stack = new QVBoxLayout(this);
-  stack->setContentsMargins(padding, padding, padding, padding);
+  stack->setContentsMargins(tabPadding, tabPadding, tabPadding, tabPadding);
   stack->setSpacing(spacing);
   stack->addLayout(makeHeader());
   stack->addWidget(importMessage_);

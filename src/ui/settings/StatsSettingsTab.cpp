@@ -13,6 +13,8 @@
 #include "platform/UserDefaults.h"
 #include "ui/settings/BarChart.h"
 #include "ui/settings/StatCard.h"
+#include "ui/style/ScrollPane.h"
+#include "ui/style/Spacing.h"
 #include "ui/style/StyledLabel.h"
 
 namespace tessarin::ui {
@@ -76,12 +78,17 @@ StatsSettingsTab::StatsSettingsTab(UsageTracker& tracker, UserDefaults& defaults
       today_(new StatCard(tr("Today"))),
       chart_(new BarChart),
       triggers_(new QListWidget) {
-  auto* layout = new QVBoxLayout(this);
+  auto* content = new QWidget;
+  auto* layout = new QVBoxLayout(content);
+  layout->setContentsMargins(tabPadding, tabPadding, tabPadding, tabPadding);
   layout->setSpacing(spacing);
   layout->addWidget(new StyledLabel(tr("Usage Statistics"), TextStyle::headline));
   layout->addWidget(makeCards());
   layout->addWidget(makeChart());
   layout->addWidget(makeMostUsed(), 1);
+  auto* whole = new QVBoxLayout(this);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->addWidget(new ScrollPane(content));
   recordings_ = tracker_.onRecorded([this](const std::string&) { refreshSoon(); });
   preferences_ = defaults_.onChange([this] { refreshSoon(); });
   refresh();

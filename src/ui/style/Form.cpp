@@ -15,21 +15,12 @@ constexpr int cardPadding = 12;
 
 }  // namespace
 
-Form::Form(QWidget* parent) : QScrollArea(parent) {
-  auto* content = new QWidget;
-  auto* layout = new QVBoxLayout(content);
+Form::Form(QWidget* parent) : ScrollPane(new QWidget, parent), sections_(new QVBoxLayout) {
+  auto* layout = new QVBoxLayout(widget());
   layout->setContentsMargins(0, 0, 0, 0);
-  sections_ = new QVBoxLayout;
   sections_->setSpacing(sectionSpacing);
   layout->addLayout(sections_);
   layout->addStretch(1);
-  setWidget(content);
-  setWidgetResizable(true);
-  setFrameShape(QFrame::NoFrame);
-  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  viewport()->setAutoFillBackground(false);
-  content->setAutoFillBackground(false);
-  setFocusPolicy(Qt::NoFocus);
 }
 
 QVBoxLayout* Form::addSection(const QString& title) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QScrollArea>
+#include "ui/style/ScrollPane.h"
 
 class QVBoxLayout;
 
@@ -8,7 +8,7 @@ namespace tessarin::ui {
 
 /// A form in groups: each section has a title, which may be empty, above a card that holds its rows. Scrolls
 /// where the window is too low for it.
-class Form : public QScrollArea {
+class Form : public ScrollPane {
   Q_OBJECT
 
  public:

@@ -8,6 +8,7 @@ namespace tessarin::ui {
 StyledLabel::StyledLabel(const QString& text, TextStyle style, ColorRole color, QWidget* parent)
     : QLabel(text, parent), style_(style), color_(color) {
   setTextFormat(Qt::PlainText);
+  setForegroundRole(QPalette::WindowText);  // else that of a list, in a list
   restyle();
 }
 

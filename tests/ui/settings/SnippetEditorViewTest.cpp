@@ -9,8 +9,8 @@
 
 #include "input/Preferences.h"
 #include "platform/qt/OwnTextField.h"
+#include "ui/settings/SettingsTest.h"
 #include "ui/settings/SnippetEditorView.h"
-#include "ui/settings/SnippetTestWindow.h"
 
 namespace tessarin::ui {
 namespace {
@@ -21,7 +21,7 @@ using testing::eventuallyInLoop;
 using ::testing::IsEmpty;
 using testing::shows;
 
-class SnippetEditorViewTest : public testing::SnippetTestWindow {
+class SnippetEditorViewTest : public testing::SettingsTest {
  protected:
   void open(std::optional<Snippet> snippet = std::nullopt) {
     sheet = std::make_unique<SnippetEditorView>(services(), std::move(snippet));

@@ -11,10 +11,10 @@
 
 #include "input/Preferences.h"
 #include "model/SnippetCoding.h"
+#include "ui/settings/SettingsTest.h"
 #include "ui/settings/SnippetEditorView.h"
 #include "ui/settings/SnippetListModel.h"
 #include "ui/settings/SnippetListView.h"
-#include "ui/settings/SnippetTestWindow.h"
 #include "ui/settings/SnippetsSettingsTab.h"
 
 namespace tessarin::ui {
@@ -29,7 +29,7 @@ using ::testing::IsEmpty;
 using testing::shows;
 using ::testing::StartsWith;
 
-class SnippetsSettingsTabTest : public testing::SnippetTestWindow {
+class SnippetsSettingsTabTest : public testing::SettingsTest {
  protected:
   void open() {
     window = std::make_unique<QWidget>();

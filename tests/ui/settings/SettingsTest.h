@@ -5,7 +5,6 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QWidget>
-#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
@@ -14,6 +13,7 @@
 #include "platform/qt/TestApplication.h"
 #include "support/FakeAccessibility.h"
 #include "support/FakeInputMonitoring.h"
+#include "support/FakeLoginItem.h"
 #include "support/FakePasteboard.h"
 #include "support/FakeUserDefaults.h"
 #include "support/FakeWorkspace.h"
@@ -25,10 +25,10 @@
 
 namespace tessarin::testing {
 
-/// What the windows around snippets work with: a store in a folder of its own, everything else played.
-class SnippetTestWindow : public ::testing::Test {
+/// What the settings work with: a store in a folder of its own, everything else played.
+class SettingsTest : public ::testing::Test {
  protected:
-  SnippetTestWindow() {
+  SettingsTest() {
     ensureApplication();
     folder.write("emoji-data.json",
                  R"([{"name":"smile","trigger":"smile","replacement":"😀","keywords":[],"category":"x"}])");
@@ -45,10 +45,10 @@ class SnippetTestWindow : public ::testing::Test {
     return found;
   }
   ui::SettingsServices services() {
-    return {*store,     defaults,  Permissions(accessibility, inputMonitoring, workspace),
-            *loginItem, workspace, pasteboard,
-            queue,      clock,     [] {},
-            "1.0",      "1"};
+    return {*store,    defaults,  Permissions(accessibility, inputMonitoring, workspace),
+            loginItem, workspace, pasteboard,
+            queue,     clock,     [this] { ++updateChecks; },
+            "1.0",     "1"};
   }
 
   TemporaryFolder folder;
@@ -59,13 +59,10 @@ class SnippetTestWindow : public ::testing::Test {
   FakeAccessibility accessibility;
   FakeInputMonitoring inputMonitoring;
   FakeWorkspace workspace;
+  int updateChecks = 0;
+  FakeLoginItem loginItem;
   LogRecorder log;
   std::unique_ptr<SnippetStore> store;
-
- private:
-  /// Asked for nothing here.
-  alignas(std::max_align_t) char noLoginItem_[64]{};
-  LoginItem* loginItem = reinterpret_cast<LoginItem*>(noLoginItem_);
 };
 
 template <class Widget>

@@ -1,0 +1,141 @@
+#include <gmock/gmock.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QToolButton>
+
+#include "ui/settings/AppListSettingsTab.h"
+#include "ui/settings/BlockedAppsSettingsTab.h"
+#include "ui/settings/PasteFallbackAppsSettingsTab.h"
+#include "ui/settings/SettingsTest.h"
+
+namespace tessarin::ui {
+namespace {
+
+using testing::child;
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::IsSupersetOf;
+using ::testing::Not;
+using testing::shows;
+
+class AppListSettingsTabTest : public testing::SettingsTest {
+ protected:
+  void open() {
+    tab = std::make_unique<BlockedAppsSettingsTab>(services());
+    tab->resize(600, 440);
+    tab->show();
+  }
+
+  std::vector<std::string> listed() const {
+    std::vector<std::string> found;
+    const auto* list = tab->findChild<QListWidget*>();
+    for (int row = 0; row < list->count(); ++row) {
+      found.push_back(list->item(row)->data(Qt::AccessibleTextRole).toString().toStdString());
+    }
+    return found;
+  }
+
+  /// The applications that can be added by a click, in their order.
+  std::vector<std::string> offered() const {
+    std::vector<std::string> found;
+    for (const QPushButton* button : tab->findChildren<QPushButton*>()) {
+      const QString name = button->accessibleName();
+      if (name.startsWith("Add ")) found.push_back(name.mid(4).toStdString());
+    }
+    return found;
+  }
+
+  template <class Button>
+  void click(const QString& accessibleName) const {
+    for (auto* button : tab->findChildren<Button*>()) {
+      if (button->accessibleName() != accessibleName) continue;
+      QTest::mouseClick(button, Qt::LeftButton);
+      QCoreApplication::processEvents();
+      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+      return;
+    }
+    ADD_FAILURE() << "no button " << accessibleName.toStdString();
+  }
+
+  std::vector<std::string> stored() const {
+    return defaults.stringArray("blacklistedApps").value_or(std::vector<std::string>());
+  }
+
+  std::unique_ptr<AppListSettingsTab> tab;
+};
+
+TEST_F(AppListSettingsTabTest, listsTheStoredAndTheBuiltInOnes) {
+  const auto& builtIn = preferences::defaultBlockedApps();
+  open();
+  EXPECT_THAT(listed(), ::testing::ElementsAreArray(builtIn));
+  defaults.set("blacklistedApps",
+               std::vector<std::string>{"org.example.b", "Org.example.a", *builtIn.begin()});
+  open();
+  EXPECT_EQ(listed().size(), builtIn.size() + 2);
+  EXPECT_EQ(listed().front(), "Org.example.a") << "capitals first";
+  tab = std::make_unique<PasteFallbackAppsSettingsTab>(services());
+  EXPECT_THAT(listed(), ::testing::UnorderedElementsAreArray(preferences::defaultPasteFallbackApps()));
+}
+
+TEST_F(AppListSettingsTabTest, removingLastsUntilTheListIsLoadedAgain) {
+  const std::string builtIn = *preferences::defaultBlockedApps().begin();
+  open();
+  click<QToolButton>(QString("Remove %1").arg(QString::fromStdString(builtIn)));
+  EXPECT_THAT(listed(), Not(Contains(builtIn)));
+  EXPECT_THAT(stored(), Not(Contains(builtIn)));
+  EXPECT_EQ(stored().size(), preferences::defaultBlockedApps().size() - 1) << "the whole list is written";
+  open();
+  EXPECT_THAT(listed(), Contains(builtIn));
+}
+
+TEST_F(AppListSettingsTabTest, addsWhatIsTyped) {
+  open();
+  auto* field = tab->findChild<QLineEdit*>();
+  auto* add = child<QPushButton>(*tab, "Add");
+  EXPECT_FALSE(add->isEnabled());
+  QTest::keyClicks(field, " \t");
+  EXPECT_FALSE(add->isEnabled());
+  const auto before = listed().size();
+  for (int time = 0; time < 2; ++time) {
+    field->setText("  com.example.app\t");
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(field->text(), "  com.example.app\t") << "Return does nothing of its own";
+    QTest::mouseClick(add, Qt::LeftButton);
+    EXPECT_TRUE(field->text().isEmpty());
+    EXPECT_EQ(listed().size(), before + 1) << "once only";
+  }
+  EXPECT_THAT(stored(), Contains("com.example.app"));
+}
+
+TEST_F(AppListSettingsTabTest, offersTheRunningApplicationsThatAreNotListed) {
+  const std::string builtIn = *preferences::defaultBlockedApps().begin();
+  workspace.running = {{"org.example.b", "beta", false},
+                       {builtIn, "Listed", false},
+                       {"org.example.a", "Alpha", false},
+                       {"", "Nameless", false},
+                       {"org.example.c", "", false}};
+  open();
+  EXPECT_THAT(offered(), ElementsAre("Alpha", "beta", "org.example.c"));
+  click<QPushButton>("Add Alpha");
+  EXPECT_THAT(stored(), Contains("org.example.a"));
+  EXPECT_THAT(offered(), ElementsAre("beta", "org.example.c"));
+  click<QToolButton>(QString("Remove %1").arg(QString::fromStdString(builtIn)));
+  EXPECT_THAT(offered(), ElementsAre("beta", "Listed", "org.example.c"));
+}
+
+TEST_F(AppListSettingsTabTest, namesInstalledApplications) {
+  defaults.set("blacklistedApps", std::vector<std::string>{"org.example.editor"});
+  workspace.installed["org.example.editor"] = {"Editor", "editor.desktop", "editor"};
+  open();
+  EXPECT_TRUE(shows<QLabel>(*tab, "Editor"));
+  EXPECT_TRUE(shows<QLabel>(*tab, "org.example.editor"));
+  click<QToolButton>("Remove Editor");
+  EXPECT_FALSE(shows<QLabel>(*tab, "Editor"));
+}
+
+}  // namespace
+}  // namespace tessarin::ui

@@ -1,0 +1,86 @@
+#include <gmock/gmock.h>
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "ui/settings/GeneralSettingsTab.h"
+#include "ui/settings/SettingsTest.h"
+
+namespace tessarin::ui {
+namespace {
+
+using testing::child;
+using ::testing::ElementsAre;
+using testing::shows;
+
+class GeneralSettingsTabTest : public testing::SettingsTest {
+ protected:
+  void open() {
+    tab = std::make_unique<GeneralSettingsTab>(services());
+    tab->show();
+  }
+  QCheckBox* launch() const { return child<QCheckBox>(*tab, "Launch at login"); }
+  QCheckBox* icon() const { return child<QCheckBox>(*tab, "Show menu bar icon"); }
+  void press(QWidget* widget) const { QTest::keyClick(widget, Qt::Key_Space); }
+
+  std::unique_ptr<GeneralSettingsTab> tab;
+};
+
+TEST_F(GeneralSettingsTabTest, launchAtLoginFollowsTheLoginItem) {
+  open();
+  EXPECT_FALSE(launch()->isChecked());
+  EXPECT_THAT(loginItem.calls, ElementsAre()) << "showing it changes nothing";
+  press(launch());
+  press(launch());
+  EXPECT_THAT(loginItem.calls, ElementsAre("register", "unregister"));
+  loginItem.enabled = true;
+  open();
+  EXPECT_TRUE(launch()->isChecked());
+  EXPECT_THAT(log.lines, ElementsAre());
+}
+
+TEST_F(GeneralSettingsTabTest, aFailureTurnsTheToggleBack) {
+  open();
+  loginItem.failure = "the folder is read-only";
+  press(launch());
+  EXPECT_FALSE(launch()->isChecked());
+  EXPECT_THAT(loginItem.calls, ElementsAre("register", "unregister")) << "the correction is a change, too";
+  const char* line = "[Settings] Failed to update launch at login: the folder is read-only";
+  EXPECT_THAT(log.lines, ElementsAre(line, line));
+}
+
+TEST_F(GeneralSettingsTabTest, theTriggerCharacterIsShownEverywhereAtOnce) {
+  open();
+  EXPECT_TRUE(child<QRadioButton>(*tab, ":")->isChecked());
+  for (const char* character : {";", "/", ":"}) {
+    press(child<QRadioButton>(*tab, character));
+    EXPECT_EQ(defaults.string("triggerCharacter"), character);
+    EXPECT_TRUE(shows<QLabel>(*tab, QString("Type %1shortcode%1 to trigger autocomplete").arg(character)));
+    EXPECT_TRUE(
+        shows<QLabel>(*tab, QString("System-wide %1shortcode%1 autocomplete for macOS").arg(character)));
+  }
+  defaults.set("triggerCharacter", ";");
+  EXPECT_TRUE(child<QRadioButton>(*tab, ";")->isChecked()) << "changed by another program";
+}
+
+TEST_F(GeneralSettingsTabTest, theMenuBarIconIsShownUnlessStoredOtherwise) {
+  open();
+  EXPECT_TRUE(icon()->isChecked());
+  EXPECT_THAT(defaults.writes, ElementsAre());
+  press(icon());
+  EXPECT_EQ(defaults.boolean("showMenuBarIcon"), false);
+  defaults.set("showMenuBarIcon", true);
+  EXPECT_TRUE(icon()->isChecked());
+}
+
+TEST_F(GeneralSettingsTabTest, showsTheVersionAndChecksForUpdates) {
+  open();
+  EXPECT_TRUE(shows<QLabel>(*tab, "Version 1.0 (1)"));
+  QTest::mouseClick(child<QPushButton>(*tab, "Check for Updates..."), Qt::LeftButton);
+  EXPECT_EQ(updateChecks, 1);
+}
+
+}  // namespace
+}  // namespace tessarin::ui
