@@ -2,98 +2,739 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>InputMonitoringHelp</name>
+    <message>
+        <source>Tessarin can judge keys on this session.</source>
+        <translation>Tessarin kann in dieser Sitzung Tasten auswerten.</translation>
+    </message>
+    <message>
+        <source>Tessarin cannot judge keys on this session.</source>
+        <translation>Tessarin kann in dieser Sitzung keine Tasten auswerten.</translation>
+    </message>
+    <message>
+        <source>Nothing is missing.</source>
+        <translation>Es fehlt nichts.</translation>
+    </message>
+    <message>
+        <source>This is a Wayland session, in which a program sees only the keys typed into its own windows. Choose an X11 session (often called “Xorg”) when you log in, and shortcodes expand everywhere.</source>
+        <translation>Dies ist eine Wayland-Sitzung, in der ein Programm nur die Tasten sieht, die in seinen eigenen Fenstern getippt werden. Wählen Sie bei der Anmeldung eine X11-Sitzung (oft „Xorg“ genannt), dann werden Kürzel überall ersetzt.</translation>
+    </message>
+    <message>
+        <source>No X server answers. Start Tessarin from an X11 desktop session.</source>
+        <translation>Kein X-Server antwortet. Starten Sie Tessarin aus einer X11-Sitzung.</translation>
+    </message>
+    <message>
+        <source>The X server lacks one of the extensions XInput 2.2, XTest and XKB. Every current X server has them; remote and nested ones may have to be updated or started with them switched on.</source>
+        <translation>Dem X-Server fehlt eine der Erweiterungen XInput 2.2, XTest und XKB. Jeder aktuelle X-Server hat sie; entfernte und eingebettete müssen vielleicht aktualisiert oder mit ihnen gestartet werden.</translation>
+    </message>
+    <message>
+        <source>Until then no shortcode expands and no popup appears. The tray menu, the settings, your snippets, import and export, and the command line work.</source>
+        <translation>Bis dahin wird kein Kürzel ersetzt und kein Popup gezeigt. Das Menü, die Einstellungen, Ihre Bausteine, Import und Export und die Befehlszeile funktionieren.</translation>
+    </message>
+</context>
+<context>
     <name>Menu</name>
     <message>
         <source>Check for Updates...</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Aktualisierungen suchen …</translation>
     </message>
     <message>
         <source>Settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen …</translation>
     </message>
     <message>
         <source>Permissions</source>
-        <translation type="unfinished"></translation>
+        <translation>Berechtigungen</translation>
     </message>
     <message>
         <source>Quit Tessarin</source>
-        <translation type="unfinished"></translation>
+        <translation>Tessarin beenden</translation>
     </message>
     <message>
         <source>Disable Tessarin</source>
-        <translation type="unfinished"></translation>
+        <translation>Tessarin ausschalten</translation>
     </message>
     <message>
         <source>Enable Tessarin</source>
-        <translation type="unfinished"></translation>
+        <translation>Tessarin einschalten</translation>
     </message>
     <message>
         <source>  Input Monitoring: ✓</source>
-        <translation type="unfinished"></translation>
+        <translation>  Eingabeüberwachung: ✓</translation>
     </message>
     <message>
         <source>  Input Monitoring: ✗</source>
-        <translation type="unfinished"></translation>
+        <translation>  Eingabeüberwachung: ✗</translation>
     </message>
     <message>
         <source>  Accessibility: ✓</source>
-        <translation type="unfinished"></translation>
+        <translation>  Bedienungshilfen: ✓</translation>
     </message>
     <message>
         <source>  Accessibility: ✗ (optional)</source>
-        <translation type="unfinished"></translation>
+        <translation>  Bedienungshilfen: ✗ (optional)</translation>
     </message>
 </context>
 <context>
     <name>Popup</name>
     <message>
         <source>navigate</source>
-        <translation type="unfinished"></translation>
+        <translation>bewegen</translation>
     </message>
     <message>
         <source>select</source>
-        <translation type="unfinished"></translation>
+        <translation>wählen</translation>
     </message>
     <message>
         <source>confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>einsetzen</translation>
     </message>
     <message>
         <source>cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>abbrechen</translation>
     </message>
     <message>
         <source>skin tone</source>
-        <translation type="unfinished"></translation>
+        <translation>Hautton</translation>
     </message>
     <message>
         <source>1 match</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Treffer</translation>
     </message>
     <message>
         <source>No matches</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Treffer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n matches</source>
+        <translation>
+            <numerusform>%n Treffer</numerusform>
+            <numerusform>%n Treffer</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SnippetFiles</name>
+    <message>
+        <source>Imported 1 snippet</source>
+        <translation>1 Baustein importiert</translation>
+    </message>
+    <message numerus="yes">
+        <source>Imported %n snippets</source>
+        <translation>
+            <numerusform>%n Baustein importiert</numerusform>
+            <numerusform>%n Bausteine importiert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Import failed: %1</source>
+        <translation>Import fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Exported 1 snippet</source>
+        <translation>1 Baustein exportiert</translation>
+    </message>
+    <message numerus="yes">
+        <source>Exported %n snippets</source>
+        <translation>
+            <numerusform>%n Baustein exportiert</numerusform>
+            <numerusform>%n Bausteine exportiert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Export failed: %1</source>
+        <translation>Export fehlgeschlagen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SparkleUpdaterService</name>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::AppListSettingsTab</name>
+    <message>
+        <source>Add from running apps</source>
+        <translation>Aus laufenden Programmen hinzufügen</translation>
+    </message>
+    <message>
+        <source>Bundle ID</source>
+        <translation>Kennung</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>%1 entfernen</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>%1 hinzufügen</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::BlockedAppsSettingsTab</name>
+    <message>
+        <source>Blocked Apps</source>
+        <translation>Gesperrte Apps</translation>
+    </message>
+    <message>
+        <source>Tessarin is disabled in these apps. Apps with their own emoji picker (like Slack) are blocked by default.</source>
+        <translation>In diesen Apps ist Tessarin ausgeschaltet. Apps mit eigener Emoji-Auswahl (wie Slack) sind von vornherein gesperrt.</translation>
+    </message>
+    <message>
+        <source>e.g., com.tinyspeck.slackmacgap</source>
+        <translation>z. B. com.tinyspeck.slackmacgap</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::CheckingDialog</name>
+    <message>
+        <source>Looking for updates…</source>
+        <translation>Suche nach Aktualisierungen …</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::GeneralSettingsTab</name>
+    <message>
+        <source>Launch at login</source>
+        <translation>Bei der Anmeldung starten</translation>
+    </message>
+    <message>
+        <source>Show menu bar icon</source>
+        <translation>Symbol in der Leiste zeigen</translation>
+    </message>
+    <message>
+        <source>Startup</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Trigger Character</source>
+        <translation>Auslösezeichen</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Aussehen</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation>Aktualisierungen</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>Character %1</source>
+        <translation>Zeichen %1</translation>
+    </message>
+    <message>
+        <source>Version %1 (%2)</source>
+        <translation>Version %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Check for Updates...</source>
+        <translation>Nach Aktualisierungen suchen …</translation>
+    </message>
+    <message>
+        <source>Type %1shortcode%1 to trigger autocomplete</source>
+        <translation>%1kürzel%1 tippen, um Vorschläge zu bekommen</translation>
+    </message>
+    <message>
+        <source>System-wide %1shortcode%1 autocomplete for macOS</source>
+        <translation>Systemweite %1kürzel%1-Vervollständigung für macOS</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::MessageDialog</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::OnboardingView</name>
+    <message>
+        <source>Input Monitoring</source>
+        <translation>Eingabeüberwachung</translation>
+    </message>
+    <message>
+        <source>Detects when you type shortcodes</source>
+        <translation>Bemerkt, wenn Sie Kürzel tippen</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Bedienungshilfen</translation>
+    </message>
+    <message>
+        <source>Positions the popup and inserts text</source>
+        <translation>Platziert das Popup und fügt Text ein</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Welcome to Tessarin</source>
+        <translation>Willkommen bei Tessarin</translation>
+    </message>
+    <message>
+        <source>System-wide %1shortcode%1 autocomplete for macOS</source>
+        <translation>Systemweite %1kürzel%1-Vervollständigung für macOS</translation>
+    </message>
+    <message>
+        <source>Type shortcodes anywhere to instantly insert emoji, kaomoji, and custom snippets.</source>
+        <translation>Tippen Sie irgendwo ein Kürzel und fügen Sie sofort Emoji, Kaomoji und eigene Bausteine ein.</translation>
+    </message>
+    <message>
+        <source>Grant Permissions</source>
+        <translation>Berechtigungen erteilen</translation>
+    </message>
+    <message>
+        <source>Tessarin needs two permissions to work:</source>
+        <translation>Tessarin braucht zwei Berechtigungen:</translation>
+    </message>
+    <message>
+        <source>Try It Out</source>
+        <translation>Ausprobieren</translation>
+    </message>
+    <message>
+        <source>Type %1smile%1 in any text field</source>
+        <translation>Tippen Sie %1smile%1 in irgendein Textfeld</translation>
+    </message>
+    <message>
+        <source>Type the trigger character to start</source>
+        <translation>Mit dem Auslösezeichen beginnen</translation>
+    </message>
+    <message>
+        <source>Type a shortcode like &quot;smile&quot; or &quot;wave&quot;</source>
+        <translation>Ein Kürzel wie „smile“ oder „wave“ tippen</translation>
+    </message>
+    <message>
+        <source>Press Enter or type the trigger again to confirm</source>
+        <translation>Mit der Eingabetaste oder dem Auslösezeichen bestätigen</translation>
+    </message>
+    <message>
+        <source>Try it here</source>
+        <translation>Hier ausprobieren</translation>
+    </message>
+    <message>
+        <source>You&apos;re All Set!</source>
+        <translation>Alles bereit!</translation>
+    </message>
+    <message>
+        <source>Tessarin runs in your menu bar. Look for the keyboard icon to access settings, manage snippets, and more.</source>
+        <translation>Tessarin läuft in Ihrer Leiste. Über das Symbol dort erreichen Sie die Einstellungen, Ihre Bausteine und mehr.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Get Started</source>
+        <translation>Loslegen</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::OnboardingWindow</name>
+    <message>
+        <source>Welcome to Tessarin</source>
+        <translation>Willkommen bei Tessarin</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::PasteFallbackAppsSettingsTab</name>
+    <message>
+        <source>Paste Mode Apps</source>
+        <translation>Einfüge-Apps</translation>
+    </message>
+    <message>
+        <source>These apps use clipboard paste instead of direct text insertion. Terminal emulators, web browsers, and other apps where direct insertion doesn&apos;t work should be listed here.</source>
+        <translation>In diesen Apps wird über die Zwischenablage eingefügt statt unmittelbar. Terminals, Webbrowser und andere Apps, in denen unmittelbares Einfügen nicht geht, gehören auf diese Liste.</translation>
+    </message>
+    <message>
+        <source>e.g., com.example.terminal</source>
+        <translation>z. B. com.example.terminal</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::PermissionRow</name>
+    <message>
+        <source>Grant</source>
+        <translation>Erteilen</translation>
+    </message>
+    <message>
+        <source>%1: granted</source>
+        <translation>%1: erteilt</translation>
+    </message>
+    <message>
+        <source>%1: not granted</source>
+        <translation>%1: nicht erteilt</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::PermissionsSettingsTab</name>
+    <message>
+        <source>Input Monitoring</source>
+        <translation>Eingabeüberwachung</translation>
+    </message>
+    <message>
+        <source>Required — captures keystrokes to detect :shortcodes:</source>
+        <translation>Nötig — wertet Tastendrücke aus, um :kürzel: zu erkennen</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Bedienungshilfen</translation>
+    </message>
+    <message>
+        <source>Optional — enables cursor positioning and direct text insertion</source>
+        <translation>Freiwillig — für das Popup an der Schreibmarke und unmittelbares Einfügen</translation>
+    </message>
+    <message>
+        <source>Without Accessibility, Tessarin uses clipboard paste as a fallback. The popup will appear near the mouse cursor instead of the text caret.</source>
+        <translation>Ohne Bedienungshilfen fügt Tessarin über die Zwischenablage ein. Das Popup erscheint dann beim Mauszeiger statt bei der Schreibmarke.</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::ReleaseNotesView</name>
+    <message>
+        <source>Release notes</source>
+        <translation>Versionshinweise</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::SettingsView</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Snippets</source>
+        <translation>Bausteine</translation>
+    </message>
+    <message>
+        <source>Stats</source>
+        <translation>Statistik</translation>
+    </message>
+    <message>
+        <source>Blocked Apps</source>
+        <translation>Gesperrte Apps</translation>
+    </message>
+    <message>
+        <source>Paste Mode Apps</source>
+        <translation>Einfüge-Apps</translation>
+    </message>
+    <message>
+        <source>Permissions</source>
+        <translation>Berechtigungen</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::SettingsWindow</name>
+    <message>
+        <source>Tessarin Settings</source>
+        <translation>Tessarin-Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::SnippetEditorView</name>
+    <message>
+        <source>e.g., ¯\_(ツ)_/¯ or multi-line text</source>
+        <translation>z. B. ¯\_(ツ)_/¯ oder mehrzeiliger Text</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Edit Snippet</source>
+        <translation>Baustein bearbeiten</translation>
+    </message>
+    <message>
+        <source>New Snippet</source>
+        <translation>Neuer Baustein</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>e.g., Shrug</source>
+        <translation>z. B. Schulterzucken</translation>
+    </message>
+    <message>
+        <source>Trigger</source>
+        <translation>Kürzel</translation>
+    </message>
+    <message>
+        <source>e.g., shrug</source>
+        <translation>z. B. shrug</translation>
+    </message>
+    <message>
+        <source>Keywords (comma-separated)</source>
+        <translation>Stichwörter (durch Komma getrennt)</translation>
+    </message>
+    <message>
+        <source>e.g., whatever, idk</source>
+        <translation>z. B. egal, weiß nicht</translation>
+    </message>
+    <message>
+        <source>Replacement</source>
+        <translation>Ersetzung</translation>
+    </message>
+    <message>
+        <source>Available variables: {{date}}, {{time}}, {{datetime}}, {{clipboard}}</source>
+        <translation>Verfügbare Variablen: {{date}}, {{time}}, {{datetime}}, {{clipboard}}</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::SnippetFileDialogs</name>
+    <message>
+        <source>Import Snippets</source>
+        <translation>Bausteine importieren</translation>
+    </message>
+    <message>
+        <source>Export Snippets</source>
+        <translation>Bausteine exportieren</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::SnippetListModel</name>
+    <message>
+        <source>%1, %2, %3</source>
+        <extracomment>A list row, as it is read out: trigger, name, text inserted</extracomment>
+        <translation>%1, %2, %3</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::SnippetListView</name>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Custom Snippets</source>
+        <translation>Eigene Bausteine</translation>
+    </message>
+    <message>
+        <source>Edit %1</source>
+        <translation>%1 bearbeiten</translation>
+    </message>
+    <message>
+        <source>Delete %1</source>
+        <translation>%1 löschen</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::SnippetsSettingsTab</name>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Custom Snippets</source>
+        <translation>Eigene Bausteine</translation>
+    </message>
+    <message>
+        <source>No custom snippets yet</source>
+        <translation>Noch keine eigenen Bausteine</translation>
+    </message>
+    <message>
+        <source>Built-in emojis: %1</source>
+        <translation>Eingebaute Emoji: %1</translation>
+    </message>
+    <message>
+        <source>Import failed: %1</source>
+        <translation>Import fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Imported 1 snippet</source>
+        <translation>1 Baustein importiert</translation>
+    </message>
+    <message numerus="yes">
+        <source>Imported %n snippets</source>
+        <translation>
+            <numerusform>%n Baustein importiert</numerusform>
+            <numerusform>%n Bausteine importiert</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::StatsSettingsTab</name>
+    <message>
+        <source>Total Expansions</source>
+        <translation>Ersetzungen insgesamt</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+    <message>
+        <source>Usage Statistics</source>
+        <translation>Nutzungsstatistik</translation>
+    </message>
+    <message>
+        <source>Last 7 Days</source>
+        <translation>Letzte 7 Tage</translation>
+    </message>
+    <message>
+        <source>No usage data yet</source>
+        <translation>Noch keine Nutzungsdaten</translation>
+    </message>
+    <message>
+        <source>Most Used</source>
+        <translation>Am meisten benutzt</translation>
+    </message>
+    <message>
+        <source>No snippets used yet</source>
+        <translation>Noch keine Bausteine benutzt</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::StepIndicator</name>
+    <message>
+        <source>Step %1 of %2</source>
+        <translation>Schritt %1 von %2</translation>
     </message>
 </context>
 <context>
     <name>tessarin::ui::TrustPrompt</name>
     <message>
         <source>Allow Tessarin to expand shortcodes?</source>
-        <translation type="unfinished"></translation>
+        <translation>Darf Tessarin Kürzel ersetzen?</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Erlauben</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Nicht jetzt</translation>
     </message>
     <message>
         <source>After you type the trigger character, Tessarin judges the keys that follow, shows matches beside the caret and replaces the shortcode in the application you are typing in. While idle it sees no key but the trigger. Of what you type, nothing is kept but how often each entry was used.
 
-Saying yes also switches the session&apos;s accessibility on; applications that are open now may have to be started again before text can be replaced directly in them.</source>
-        <translation type="unfinished"></translation>
+Saying yes also switches the session&apos;s accessibility on, for later sessions too. Qt applications and browsers that are open now notice it when they are started again; until then, text is pasted there.</source>
+        <translation>Nachdem Sie das Auslösezeichen getippt haben, wertet Tessarin die folgenden Tasten aus, zeigt Treffer neben der Schreibmarke und ersetzt das Kürzel in der Anwendung, in der Sie schreiben. In Ruhe sieht es keine Taste außer dem Auslösezeichen. Von dem, was Sie tippen, wird nur behalten, wie oft jeder Eintrag benutzt wurde.
+
+Wenn Sie zustimmen, werden auch die Bedienungshilfen der Sitzung eingeschaltet, ebenso für spätere Sitzungen. Qt-Anwendungen und Browser, die jetzt offen sind, bemerken es, wenn sie neu gestartet werden; bis dahin wird dort über die Zwischenablage eingefügt.</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::UpdateDialog</name>
+    <message>
+        <source>Tessarin Update</source>
+        <translation>Tessarin-Aktualisierung</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::UpdateFoundDialog</name>
+    <message>
+        <source>A new version of Tessarin is available</source>
+        <translation>Eine neue Version von Tessarin ist da</translation>
     </message>
     <message>
-        <source>Allow</source>
-        <translation type="unfinished"></translation>
+        <source>Tessarin %1 can be downloaded now. This is version %2.</source>
+        <translation>Tessarin %1 kann jetzt heruntergeladen werden. Dies ist Version %2.</translation>
     </message>
     <message>
-        <source>Not Now</source>
-        <translation type="unfinished"></translation>
+        <source>What has changed:</source>
+        <translation>Was sich geändert hat:</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <translation>Diese Version auslassen</translation>
+    </message>
+    <message>
+        <source>Remind Me Later</source>
+        <translation>Später erinnern</translation>
+    </message>
+    <message>
+        <source>Download…</source>
+        <translation>Herunterladen …</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::UpdateWindows</name>
+    <message>
+        <source>The update server cannot be reached. Is this computer connected to the network?</source>
+        <translation>Der Server für Aktualisierungen ist nicht zu erreichen. Ist dieser Rechner mit dem Netz verbunden?</translation>
+    </message>
+    <message>
+        <source>The update server took too long to answer.</source>
+        <translation>Der Server für Aktualisierungen hat zu lange nicht geantwortet.</translation>
+    </message>
+    <message>
+        <source>The update server cannot be trusted, as its certificate is not in order.</source>
+        <translation>Dem Server für Aktualisierungen ist nicht zu trauen: Sein Zertifikat ist nicht in Ordnung.</translation>
+    </message>
+    <message>
+        <source>Updates are looked for over secure connections only, and the address of the update server does not lead to one.</source>
+        <translation>Nach Aktualisierungen wird nur über sichere Verbindungen gesucht, und die Adresse des Servers führt zu keiner.</translation>
+    </message>
+    <message>
+        <source>The update server leads from one address to another without end.</source>
+        <translation>Der Server für Aktualisierungen führt ohne Ende von einer Adresse zur nächsten.</translation>
+    </message>
+    <message>
+        <source>The update server does not have the list of updates.</source>
+        <translation>Der Server hat keine Liste der Aktualisierungen.</translation>
+    </message>
+    <message>
+        <source>The update server sent more than a list of updates.</source>
+        <translation>Der Server hat mehr als eine Liste der Aktualisierungen geschickt.</translation>
+    </message>
+    <message>
+        <source>The list of updates cannot be read.</source>
+        <translation>Die Liste der Aktualisierungen ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>Tessarin is up to date</source>
+        <translation>Tessarin ist auf dem neuesten Stand</translation>
+    </message>
+    <message>
+        <source>Version %1 is the newest one there is.</source>
+        <translation>Version %1 ist die neueste, die es gibt.</translation>
+    </message>
+    <message>
+        <source>Tessarin could not look for updates</source>
+        <translation>Tessarin konnte nicht nach Aktualisierungen suchen</translation>
     </message>
 </context>
 </TS>

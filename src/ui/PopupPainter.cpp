@@ -43,7 +43,8 @@ double drawRight(QPainter& painter, const QRectF& band, double right, const QStr
 
 QString matchCount(std::size_t count) {
   if (count == 1) return QCoreApplication::translate("Popup", "1 match");
-  return QCoreApplication::translate("Popup", "%n matches", nullptr, static_cast<int>(count));
+  const int shown = static_cast<int>(count);
+  return QCoreApplication::translate("Popup", "%n matches", nullptr, shown);
 }
 
 QColor whiteAt(double opacity) {

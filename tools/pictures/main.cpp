@@ -12,6 +12,7 @@
 int main(int argc, char** argv) {
   using namespace tessarin::pictures;
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
   QApplication application(argc, argv);
   tessarin::ui::installTranslations(application);
   QApplication::setStyle("Fusion");
