@@ -44,21 +44,28 @@ KeyFilter::KeyFilter(const SessionKeyboard& keyboard, TapControl& control, KeyJu
 }
 
 void KeyFilter::run() {
-  while (!control_.isStopping() && xcb_connection_has_error(keyboard_.connection) == 0) {
-    control_.clearWakeUp();
+  while (goesOn()) {
+    bool busy = settle();
+    busy |= carryOutPosts();
+    grabs_.holdChords();
+    xcb_flush(keyboard_.connection);
+    // After everything that writes or waits for a reply: both may read events, and the socket then does not
+    // tell of them.
     while (const auto press = events_.next()) {
       takeNews();
       handle(press->key);
+      busy = true;
     }
-    // Whatever waits for an answer of the server may read events too, so look again before sleeping.
-    const bool news = takeNews();
-    const bool settled = settle();
-    const bool posted = carryOutPosts();
-    grabs_.holdChords();
-    xcb_flush(keyboard_.connection);
-    if (!news && !settled && !posted) wait();
+    busy |= takeNews();
+    if (!busy) wait();
   }
   leave();
+}
+
+// The wake-up goes first: one that comes after the look at the control must not be lost.
+bool KeyFilter::goesOn() {
+  control_.clearWakeUp();
+  return !control_.isStopping() && xcb_connection_has_error(keyboard_.connection) == 0;
 }
 
 bool KeyFilter::takeNews() {

@@ -32,6 +32,7 @@ class KeyFilter {
   using Clock = std::chrono::steady_clock;
   enum class Holding { nothing, trigger, everything };
 
+  bool goesOn();
   // Each answers whether there was anything to do.
   bool takeNews();
   bool settle();
