@@ -48,7 +48,7 @@ class KeyFilter {
   KeyVerdict ask(const KeyEvent& event);
   void judgeFirstKept();
   bool keptTooLong() const;
-  void switchOff();
+  void timeOut();
   void wait();
   void leave();
 
