@@ -8,6 +8,7 @@ using namespace std::chrono_literals;
 
 class X11EventTapTimeOutTest : public TapFixture {
  protected:
+  X11EventTapTimeOutTest() { answerTime = x11::KeyQuestion::answerTime; }
   /// Waits for the document while the main thread does nothing else.
   bool comesBy(const std::string& expected, std::chrono::milliseconds time) {
     const auto deadline = queue.now() + time;
