@@ -174,8 +174,10 @@ TEST_F(X11EventTapTest, KeepsAutoRepeatBehindAnInsertion) {
   start();
   ASSERT_EQ(display.run({"xset", "r", "rate", "120", "100"}), 0);
   holdBack();
+  const int before = document->grabs();
   typist->press(XKB_KEY_o);
-  queue.runUntil([] { return false; }, std::chrono::milliseconds(300));
+  // Each key that is kept takes the keyboard away from the window for a moment.
+  ASSERT_TRUE(queue.runUntil([&] { return document->text().empty() && document->grabs() >= before + 6; }));
   typist->release(XKB_KEY_o);
   typist->type("p");
   typist->sync();
