@@ -29,6 +29,7 @@ void TapFixture::start(const std::vector<std::string>& layout, bool withManager)
 // A trigger that is seen shows that the thread is at work. Several may come at once, and must not collect.
 void TapFixture::waitUntilWatching() {
   isProbing_ = true;
+  seen.clear();
   document->text();
   document->clear();
   int typed = 0;
