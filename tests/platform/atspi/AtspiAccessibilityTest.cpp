@@ -38,6 +38,13 @@ constexpr std::chrono::milliseconds longestCall{50};
 /// What a busy machine may add to a deadline.
 constexpr std::chrono::milliseconds tolerance{60};
 
+AtspiAccessibility::Options optionsFor(const PrivateSession& session) {
+  AtspiAccessibility::Options options;
+  options.sessionBusAddress = session.busAddress();
+  options.ownProcess = 0;
+  return options;
+}
+
 class AtspiAccessibilityTest : public ::testing::Test {
  protected:
   static void SetUpTestSuite() { session = std::make_unique<PrivateSession>(); }
@@ -47,11 +54,10 @@ class AtspiAccessibilityTest : public ::testing::Test {
 
   /// The application runs in our own process, so a test says whose windows are passed over.
   void openAccessibility(std::uint32_t ownProcess) {
-    AtspiAccessibility::Options options;
+    AtspiAccessibility::Options options = optionsFor(*session);
     options.isTrusted = [] { return true; };
     options.activeProcess = [this] { return activeProcess; };
     options.coordinateSpace = [] { return CoordinateSpace(2, 500); };
-    options.sessionBusAddress = session->busAddress();
     options.ownProcess = ownProcess;
     accessibility = std::make_unique<AtspiAccessibility>(queue, options);
   }
@@ -103,13 +109,6 @@ class AtspiAccessibilityTest : public ::testing::Test {
 };
 
 std::unique_ptr<PrivateSession> AtspiAccessibilityTest::session;
-
-AtspiAccessibility::Options optionsFor(const PrivateSession& session) {
-  AtspiAccessibility::Options options;
-  options.sessionBusAddress = session.busAddress();
-  options.ownProcess = 0;
-  return options;
-}
 
 class AtspiWorld {
  public:

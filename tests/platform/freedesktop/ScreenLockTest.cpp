@@ -1,4 +1,3 @@
-#include <dbus/dbus.h>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <poll.h>
@@ -7,6 +6,7 @@
 #include <atomic>
 #include <stdexcept>
 
+#include "platform/atspi/BusCalls.h"
 #include "platform/freedesktop/ScreenLock.h"
 #include "support/Eventually.h"
 #include "support/desktop/ChildProcess.h"
@@ -40,52 +40,44 @@ class PrivateBus {
 class Locker {
  public:
   Locker(const std::string& address, const std::string& name, bool isActive)
-      : name_(name), isActive_(isActive), bus_(dbus_connection_open_private(address.c_str(), nullptr)) {
-    dbus_bus_register(bus_, nullptr);
-    dbus_connection_set_exit_on_disconnect(bus_, 0);
-    dbus_bus_request_name(bus_, name.c_str(), DBUS_NAME_FLAG_DO_NOT_QUEUE, nullptr);
+      : name_(name), isActive_(isActive), bus_(atspi::connectTo(address)) {
+    dbus_bus_request_name(bus_.get(), name.c_str(), DBUS_NAME_FLAG_DO_NOT_QUEUE, nullptr);
     thread_ = std::thread([this] { run(); });
   }
   ~Locker() {
     isEnding_ = true;
     thread_.join();
-    dbus_connection_close(bus_);
-    dbus_connection_unref(bus_);
   }
   Locker(const Locker&) = delete;
   Locker& operator=(const Locker&) = delete;
 
   void tell(bool isActive) {
     isActive_ = isActive;
-    DBusMessage* signal = dbus_message_new_signal("/locker", name_.c_str(), "ActiveChanged");
-    const dbus_bool_t value = isActive ? 1 : 0;
-    dbus_message_append_args(signal, DBUS_TYPE_BOOLEAN, &value, DBUS_TYPE_INVALID);
-    dbus_connection_send(bus_, signal, nullptr);
-    dbus_connection_flush(bus_);
-    dbus_message_unref(signal);
+    send(dbus_message_new_signal("/locker", name_.c_str(), "ActiveChanged"));
   }
 
  private:
   void run() {
     while (!isEnding_) {
-      dbus_connection_read_write(bus_, 5);
-      while (DBusMessage* message = dbus_connection_pop_message(bus_)) {
-        if (dbus_message_has_member(message, "GetActive") != 0) answer(message);
-        dbus_message_unref(message);
+      dbus_connection_read_write(bus_.get(), 5);
+      while (const atspi::MessagePtr call{dbus_connection_pop_message(bus_.get())}) {
+        if (dbus_message_has_member(call.get(), "GetActive") != 0) {
+          send(dbus_message_new_method_return(call.get()));
+        }
       }
     }
   }
-  void answer(DBusMessage* call) {
-    DBusMessage* reply = dbus_message_new_method_return(call);
+  void send(DBusMessage* news) {
+    const atspi::MessagePtr owned(news);
     const dbus_bool_t value = isActive_ ? 1 : 0;
-    dbus_message_append_args(reply, DBUS_TYPE_BOOLEAN, &value, DBUS_TYPE_INVALID);
-    dbus_connection_send(bus_, reply, nullptr);
-    dbus_message_unref(reply);
+    dbus_message_append_args(news, DBUS_TYPE_BOOLEAN, &value, DBUS_TYPE_INVALID);
+    dbus_connection_send(bus_.get(), news, nullptr);
+    dbus_connection_flush(bus_.get());
   }
 
   std::string name_;
   std::atomic<bool> isActive_;
-  DBusConnection* bus_;
+  atspi::ConnectionPtr bus_;
   std::atomic<bool> isEnding_ = false;
   std::thread thread_;
 };
