@@ -1,6 +1,6 @@
 #include "support/FakeTextField.h"
 
-#include <algorithm>
+#include <utility>
 
 #include "text/Graphemes.h"
 
@@ -27,7 +27,7 @@ FakeTextField::FakeTextField() {
   attributes[std::string(attribute::value)] = std::string();
   showCaret();
   parameterized[std::string(attribute::stringForRange)] = [this](const AttributeValue& range) {
-    return std::optional<AttributeValue>(textIn(std::get<TextRange>(range)));
+    return textIn(std::get<TextRange>(range));
   };
   writers[std::string(attribute::selectedTextRange)] = [this](const AttributeValue& value) {
     selection_ = std::get<TextRange>(value);
@@ -59,10 +59,11 @@ void FakeTextField::showCaret() {
   attributes[std::string(attribute::selectedTextRange)] = TextRange{static_cast<std::int64_t>(caret_), 0};
 }
 
-std::string FakeTextField::textIn(const TextRange& range) const {
+std::optional<AttributeValue> FakeTextField::textIn(const TextRange& range) const {
+  if (range.location < 0) return std::nullopt;
   std::string found;
   const std::int64_t end = range.location + range.length;
-  for (std::int64_t i = std::max<std::int64_t>(range.location, 0); i < end; ++i) {
+  for (std::int64_t i = range.location; i < end; ++i) {
     found += characters_.at(static_cast<std::size_t>(i));
   }
   return found;
@@ -75,8 +76,8 @@ void FakeTextField::erase(const TextRange& range) {
 }
 
 AccessibilityStatus FakeTextField::replaceSelection(const std::string& text) {
-  if (writeResult == AccessibilityStatus::failure) return writeResult;
-  erase(selection_);
+  if (!selection_ || writeResult == AccessibilityStatus::failure) return AccessibilityStatus::failure;
+  erase(*std::exchange(selection_, std::nullopt));
   if (writeResult == AccessibilityStatus::success) type(text);
   return writeResult;
 }

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,7 @@ class FakeTextField : public FakeElement {
   /// Types characters at the caret.
   void type(const std::string& text);
   void setCaret(std::size_t position);
+  void clear() { erase({0, static_cast<std::int64_t>(characters_.size())}); }
   std::string document() const;
   std::size_t caret() const { return caret_; }
 
@@ -26,13 +28,13 @@ class FakeTextField : public FakeElement {
  private:
   FakeTextField();
   void showCaret();
-  std::string textIn(const TextRange& range) const;
+  std::optional<AttributeValue> textIn(const TextRange& range) const;
   void erase(const TextRange& range);
   AccessibilityStatus replaceSelection(const std::string& text);
 
   std::vector<std::string> characters_;
   std::size_t caret_ = 0;
-  TextRange selection_;
+  std::optional<TextRange> selection_;  ///< until it has been written
 };
 
 }  // namespace tessarin::testing

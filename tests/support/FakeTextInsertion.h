@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "platform/TextInsertion.h"
-#include "support/Expectations.h"
 
 namespace tessarin {
 
@@ -37,12 +36,10 @@ class FakeTextInsertion final : public TextInsertion {
   void replace(const Replacement& replacement, Completion done) override {
     replacements.push_back(replacement);
     if (onAsked) onAsked();
-    expected_.came(replacement);
     underWay_.emplace_back(replacement, std::move(done));
     if (finishesAtOnce) finish();
   }
 
-  void expectReplacement(Replacement replacement) { expected_.expect(std::move(replacement)); }
   /// Ends the oldest replacement under way.
   void finish(InsertionOutcome outcome = InsertionOutcome::inserted) {
     auto [replacement, done] = std::move(underWay_.front());
@@ -59,7 +56,6 @@ class FakeTextInsertion final : public TextInsertion {
 
  private:
   std::deque<std::pair<Replacement, Completion>> underWay_;
-  Expectations<Replacement> expected_{"replacement"};
 };
 
 }  // namespace tessarin::testing

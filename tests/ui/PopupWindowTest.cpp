@@ -48,25 +48,6 @@ class PopupWindowTest : public ::testing::Test {
   std::vector<int> variants;
 };
 
-TEST_F(PopupWindowTest, FollowsItsFrameAndGoesWhenHidden) {
-  show(popupWithRows(3));
-  EXPECT_EQ(client.frameOf(window.nativeWindow()), (Rect{200, 100, 320, 172}));
-  window.show(popupWithRows(8), {10, 20, 320, 352});
-  EXPECT_TRUE(becomes([this] {
-    return client.frameOf(window.nativeWindow()) == Rect{10, 1024 - 20 - 352, 320, 352};
-  }));
-  window.hide();
-  EXPECT_TRUE(becomes([this] { return !client.popup(); }));
-}
-
-TEST_F(PopupWindowTest, TellsTheVariantThatIsClicked) {
-  show(withPicker(popupWithRows(8)));
-  clickAt(layout.variant(4).center());
-  EXPECT_TRUE(becomes([this] { return !variants.empty(); }));
-  EXPECT_THAT(variants, ElementsAre(4));
-  EXPECT_THAT(rows, ElementsAre());
-}
-
 TEST_F(PopupWindowTest, TellsTheRowThatIsClickedAndNothingOutsideRows) {
   const auto focused = client.focusedWindow();
   show(popupWithRows(8));
@@ -78,18 +59,6 @@ TEST_F(PopupWindowTest, TellsTheRowThatIsClickedAndNothingOutsideRows) {
   EXPECT_THAT(variants, ElementsAre());
   EXPECT_EQ(client.focusedWindow(), focused);
   EXPECT_FALSE(window.isActiveWindow());
-}
-
-TEST_F(PopupWindowTest, AClickMayHideThePopup) {
-  show(popupWithRows(8));
-  window.onRowClicked([this](int index) {
-    rows.push_back(index);
-    window.hide();
-    window.onRowClicked({});
-  });
-  clickAt(layout.row(0, 0).center());
-  EXPECT_TRUE(becomes([this] { return !client.popup(); }));
-  EXPECT_THAT(rows, ElementsAre(0));
 }
 
 TEST_F(PopupWindowTest, TheWheelMovesTheListAndClicksFollowIt) {

@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QInputMethodEvent>
 #include <QScreen>
-#include <QTextBoundaryFinder>
 #include <algorithm>
 
 #include "text/Graphemes.h"
@@ -23,18 +22,16 @@ Rect globalRect(const QWidget& widget, const QRectF& local) {
   return toPoints({widget.mapToGlobal(local.topLeft()), local.size()}, widget.screen());
 }
 
-/// Where the `count` characters that end at `end` begin.
-std::optional<qsizetype> startOf(const QString& text, qsizetype end, std::int64_t count) {
-  QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, text.left(end));
-  characters.toEnd();
-  for (; count > 0; --count) {
-    if (characters.toPreviousBoundary() < 0) return std::nullopt;
-  }
-  return characters.position();
-}
-
 std::string toUtf8(const QString& text) {
   return text.toStdString();
+}
+
+/// Where the `count` characters that end at `end` begin.
+std::optional<qsizetype> startOf(const QString& text, qsizetype end, std::int64_t count) {
+  const auto wanted = static_cast<std::size_t>(std::max<std::int64_t>(count, 0));
+  const std::string characters = text::lastCharacters(toUtf8(text.left(end)), wanted);
+  if (text::characterCount(characters) < wanted) return std::nullopt;
+  return end - QString::fromStdString(characters).size();
 }
 
 }  // namespace

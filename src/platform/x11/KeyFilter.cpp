@@ -44,21 +44,28 @@ KeyFilter::KeyFilter(const SessionKeyboard& keyboard, TapControl& control, KeyJu
 }
 
 void KeyFilter::run() {
-  while (!control_.isStopping() && xcb_connection_has_error(keyboard_.connection) == 0) {
-    control_.clearWakeUp();
+  while (goesOn()) {
+    bool busy = settle();
+    busy |= carryOutPosts();
+    grabs_.holdChords();
+    xcb_flush(keyboard_.connection);
+    // After everything that writes or waits for a reply: both may read events, and the socket then does not
+    // tell of them.
     while (const auto press = events_.next()) {
       takeNews();
       handle(press->key);
+      busy = true;
     }
-    // Whatever waits for an answer of the server may read events too, so look again before sleeping.
-    const bool news = takeNews();
-    const bool settled = settle();
-    const bool posted = carryOutPosts();
-    grabs_.holdChords();
-    xcb_flush(keyboard_.connection);
-    if (!news && !settled && !posted) wait();
+    busy |= takeNews();
+    if (!busy) wait();
   }
   leave();
+}
+
+// The wake-up goes first: one that comes after the look at the control must not be lost.
+bool KeyFilter::goesOn() {
+  control_.clearWakeUp();
+  return !control_.isStopping() && xcb_connection_has_error(keyboard_.connection) == 0;
 }
 
 bool KeyFilter::takeNews() {
@@ -96,6 +103,7 @@ void KeyFilter::refreshLayout() {
 KeyFilter::Holding KeyFilter::wantedHolding(const TapSettings& settings) const {
   if (!layout_) return Holding::nothing;
   if (!kept_.empty()) return Holding::everything;
+  if (settings.hasTimedOut) return Holding::trigger;
   if (!settings.isEnabled) return Holding::nothing;
   return settings.attention == KeyAttention::triggerOnly ? Holding::trigger : Holding::everything;
 }
@@ -156,8 +164,8 @@ void KeyFilter::keep(const TypedKey& key) {
 
 KeyVerdict KeyFilter::decide(const TypedKey& key) {
   const TapSettings settings = control_.settings();
-  if (!settings.isEnabled || !layout_) return KeyVerdict::pass;
-  const bool onlyTrigger = settings.attention == KeyAttention::triggerOnly;
+  if ((!settings.isEnabled && !settings.hasTimedOut) || !layout_) return KeyVerdict::pass;
+  const bool onlyTrigger = settings.hasTimedOut || settings.attention == KeyAttention::triggerOnly;
   // The keys before the trigger were not seen, so a sequence that they began is unknown.
   if (onlyTrigger) translator_.reset();
   const auto event = translator_.translate(*layout_, key);
@@ -170,12 +178,14 @@ KeyVerdict KeyFilter::decide(const TypedKey& key) {
 
 KeyVerdict KeyFilter::ask(const KeyEvent& event) {
   const auto verdict = judge_.ask(event);
-  if (!verdict) switchOff();
+  if (!verdict) timeOut();
   return verdict.value_or(KeyVerdict::pass);
 }
 
-void KeyFilter::switchOff() {
-  control_.setEnabled(false);
+// One more trigger waits for the main thread, which hears of the time-out before it is asked about it: after
+// a short hang the next shortcode works. A second time-out in a row lets go of the keyboard altogether.
+void KeyFilter::timeOut() {
+  control_.timeOut();
   judge_.reportTimeOut();
 }
 
@@ -187,7 +197,8 @@ bool KeyFilter::settle() {
     return true;
   }
   if (!keptTooLong()) return false;
-  switchOff();
+  control_.setEnabled(false);
+  judge_.reportTimeOut();
   return true;
 }
 

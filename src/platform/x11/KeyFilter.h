@@ -32,6 +32,7 @@ class KeyFilter {
   using Clock = std::chrono::steady_clock;
   enum class Holding { nothing, trigger, everything };
 
+  bool goesOn();
   // Each answers whether there was anything to do.
   bool takeNews();
   bool settle();
@@ -47,7 +48,7 @@ class KeyFilter {
   KeyVerdict ask(const KeyEvent& event);
   void judgeFirstKept();
   bool keptTooLong() const;
-  void switchOff();
+  void timeOut();
   void wait();
   void leave();
 

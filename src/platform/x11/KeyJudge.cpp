@@ -14,7 +14,7 @@ void KeyJudge::setHandler(EventTap::Handler handler) {
 }
 
 std::optional<KeyVerdict> KeyJudge::ask(const KeyEvent& event) {
-  const auto question = std::make_shared<KeyQuestion>();
+  const auto question = std::make_shared<KeyQuestion>(answerTime_);
   {
     const std::lock_guard lock(mutex_);
     if (closed_) return std::nullopt;

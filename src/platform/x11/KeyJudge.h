@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -13,7 +14,8 @@ namespace tessarin::x11 {
 /// Carries keys from the keyboard thread to the tap's handler on the main thread, and the verdicts back.
 class KeyJudge {
  public:
-  explicit KeyJudge(MainQueue& queue) : queue_(queue), owner_(std::make_shared<Owner>()) {}
+  KeyJudge(MainQueue& queue, std::chrono::milliseconds answerTime)
+      : queue_(queue), answerTime_(answerTime), owner_(std::make_shared<Owner>()) {}
 
   /// Main thread. Without a handler every key passes.
   void setHandler(EventTap::Handler handler);
@@ -34,6 +36,7 @@ class KeyJudge {
   };
 
   MainQueue& queue_;
+  std::chrono::milliseconds answerTime_;
   std::shared_ptr<Owner> owner_;
   std::mutex mutex_;
   std::shared_ptr<KeyQuestion> question_;

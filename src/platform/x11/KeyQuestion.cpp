@@ -8,8 +8,8 @@ std::optional<std::chrono::milliseconds> KeyQuestion::claim() {
   const std::lock_guard lock(mutex_);
   if (state_ != State::asked) return std::nullopt;
   state_ = State::claimed;
-  const auto used = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - asked_);
-  return std::max(answerTime - used, std::chrono::milliseconds(0));
+  const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline_ - Clock::now());
+  return std::max(left, std::chrono::milliseconds(0));
 }
 
 void KeyQuestion::answer(KeyVerdict verdict) {
@@ -29,8 +29,8 @@ void KeyQuestion::cancel() {
 std::optional<KeyVerdict> KeyQuestion::await() {
   std::unique_lock lock(mutex_);
   const auto isOver = [this] { return state_ == State::answered || state_ == State::givenUp; };
-  changed_.wait_until(lock, asked_ + answerTime, isOver);
-  if (state_ == State::claimed) changed_.wait_until(lock, asked_ + answerTime + graceTime, isOver);
+  changed_.wait_until(lock, deadline_, isOver);
+  if (state_ == State::claimed) changed_.wait_until(lock, deadline_ + graceTime, isOver);
   if (state_ == State::answered) return verdict_;
   state_ = State::givenUp;
   return std::nullopt;

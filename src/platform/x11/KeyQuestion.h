@@ -21,6 +21,8 @@ class KeyQuestion {
   /// the key by would do twice what it does.
   static constexpr std::chrono::milliseconds graceTime{100};
 
+  explicit KeyQuestion(std::chrono::milliseconds time = answerTime) : deadline_(Clock::now() + time) {}
+
   /// Main thread: takes the question. The time left to answer; none when it was given up.
   std::optional<std::chrono::milliseconds> claim();
   /// Main thread, after `claim`.
@@ -34,7 +36,7 @@ class KeyQuestion {
  private:
   enum class State { asked, claimed, answered, givenUp };
 
-  const Clock::time_point asked_ = Clock::now();
+  const Clock::time_point deadline_;
   std::mutex mutex_;
   std::condition_variable changed_;
   State state_ = State::asked;

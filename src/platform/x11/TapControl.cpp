@@ -26,12 +26,18 @@ void TapControl::clearWakeUp() {
 
 void TapControl::setEnabled(bool enabled) {
   const std::lock_guard lock(mutex_);
-  if (std::exchange(settings_.isEnabled, enabled) != enabled) wake();
+  const bool hadTimedOut = std::exchange(settings_.hasTimedOut, false);
+  if (std::exchange(settings_.isEnabled, enabled) != enabled || hadTimedOut) wake();
+}
+
+void TapControl::timeOut() {
+  const std::lock_guard lock(mutex_);
+  settings_.hasTimedOut = std::exchange(settings_.isEnabled, false);
 }
 
 void TapControl::setAttention(KeyAttention attention, const std::string& trigger) {
   const std::lock_guard lock(mutex_);
-  const TapSettings wanted{settings_.isEnabled, attention, trigger};
+  const TapSettings wanted{settings_.isEnabled, settings_.hasTimedOut, attention, trigger};
   if (settings_ == wanted) return;
   settings_ = wanted;
   wake();

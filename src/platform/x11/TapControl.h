@@ -13,6 +13,8 @@ namespace tessarin::x11 {
 /// What the tap's owner wants at the moment.
 struct TapSettings {
   bool isEnabled = false;
+  /// Off for one key that was not answered in time, and the owner has not switched it since.
+  bool hasTimedOut = false;
   KeyAttention attention = KeyAttention::triggerOnly;
   std::string trigger;
   bool operator==(const TapSettings&) const = default;
@@ -27,6 +29,8 @@ class TapControl {
   TapControl& operator=(const TapControl&) = delete;
 
   void setEnabled(bool enabled);
+  /// A key was not answered in time: switches off, and remembers that unless it is the second time in a row.
+  void timeOut();
   void setAttention(KeyAttention attention, const std::string& trigger);
   void post(const std::vector<KeyPress>& presses);
   /// The thread is to end.

@@ -48,8 +48,8 @@ bool canTapKeys(xcb_connection_t* connection) {
          isPresent(connection, xcb_test_id) && isPresent(connection, xcb_xkb_id) && hasInput(connection);
 }
 
-X11Keyboard::X11Keyboard(MainQueue& queue, std::string display)
-    : display_(std::move(display)), judge_(queue) {}
+X11Keyboard::X11Keyboard(MainQueue& queue, std::string display, std::chrono::milliseconds answerTime)
+    : display_(std::move(display)), judge_(queue, answerTime) {}
 
 X11Keyboard::~X11Keyboard() {
   control_.stop();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <string>
 #include <thread>
@@ -19,7 +20,9 @@ namespace tessarin::x11 {
 class X11Keyboard {
  public:
   /// `queue` outlives this. `display` as in DISPLAY; empty for that variable's value.
-  explicit X11Keyboard(MainQueue& queue, std::string display = {});
+  /// `answerTime`: what the main thread has for each key.
+  explicit X11Keyboard(MainQueue& queue, std::string display = {},
+                       std::chrono::milliseconds answerTime = KeyQuestion::answerTime);
   /// Passes on what is kept and lets go of every key.
   ~X11Keyboard();
   X11Keyboard(const X11Keyboard&) = delete;

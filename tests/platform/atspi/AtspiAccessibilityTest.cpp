@@ -9,7 +9,9 @@
 #include "platform/atspi/AtspiAccessibility.h"
 #include "platform/atspi/FakeApplication.h"
 #include "platform/atspi/Roles.h"
+#include "support/AccessibilitySuite.h"
 #include "support/Eventually.h"
+#include "support/FakeTextField.h"
 #include "support/LogRecorder.h"
 #include "support/ManualMainQueue.h"
 #include "support/desktop/PrivateSession.h"
@@ -36,6 +38,13 @@ constexpr std::chrono::milliseconds longestCall{50};
 /// What a busy machine may add to a deadline.
 constexpr std::chrono::milliseconds tolerance{60};
 
+AtspiAccessibility::Options optionsFor(const PrivateSession& session) {
+  AtspiAccessibility::Options options;
+  options.sessionBusAddress = session.busAddress();
+  options.ownProcess = 0;
+  return options;
+}
+
 class AtspiAccessibilityTest : public ::testing::Test {
  protected:
   static void SetUpTestSuite() { session = std::make_unique<PrivateSession>(); }
@@ -45,11 +54,10 @@ class AtspiAccessibilityTest : public ::testing::Test {
 
   /// The application runs in our own process, so a test says whose windows are passed over.
   void openAccessibility(std::uint32_t ownProcess) {
-    AtspiAccessibility::Options options;
+    AtspiAccessibility::Options options = optionsFor(*session);
     options.isTrusted = [] { return true; };
     options.activeProcess = [this] { return activeProcess; };
     options.coordinateSpace = [] { return CoordinateSpace(2, 500); };
-    options.sessionBusAddress = session->busAddress();
     options.ownProcess = ownProcess;
     accessibility = std::make_unique<AtspiAccessibility>(queue, options);
   }
@@ -102,6 +110,60 @@ class AtspiAccessibilityTest : public ::testing::Test {
 
 std::unique_ptr<PrivateSession> AtspiAccessibilityTest::session;
 
+class AtspiWorld {
+ public:
+  AtspiWorld() { moveFocus(); }
+  Accessibility& accessibility() { return accessibility_; }
+  void setText(const std::string& text) {
+    application_.setText(testing::utf32(text), static_cast<std::int32_t>(testing::utf32(text).size()));
+  }
+  std::string text() const { return testing::utf8(application_.text()); }
+  void moveFocus() { std::swap(here_, there_); }
+  template <class Condition>
+  bool waitFor(Condition condition) {
+    // Events that came before our listening are lost, so they are told again.
+    return eventually(condition, [this] {
+      application_.announceWindow("Activate");
+      application_.announceFocus(here_, true);
+      queue_.runReady();
+    });
+  }
+
+ private:
+  static const PrivateSession& session() {
+    static const PrivateSession shared;
+    return shared;
+  }
+
+  ManualMainQueue queue_;
+  AtspiAccessibility accessibility_{queue_, optionsFor(session())};
+  FakeApplication application_{session().accessibilityBusAddress()};
+  const char* here_ = FakeApplication::otherFieldPath;
+  const char* there_ = FakeApplication::fieldPath;
+};
+
+class FakeWorld {
+ public:
+  FakeWorld() { moveFocus(); }
+  Accessibility& accessibility() { return accessibility_; }
+  void setText(const std::string& text) {
+    fields_[0]->clear();
+    fields_[0]->type(text);
+  }
+  std::string text() const { return fields_[0]->document(); }
+  void moveFocus() { accessibility_.focus(fields_[moves_++ % 2]); }
+  template <class Condition>
+  bool waitFor(Condition condition) {
+    return condition();
+  }
+
+ private:
+  testing::FakeAccessibility accessibility_;
+  std::shared_ptr<testing::FakeTextField> fields_[2] = {testing::FakeTextField::create(),
+                                                        testing::FakeTextField::create()};
+  std::size_t moves_ = 0;
+};
+
 /// A call or property that is answered in its own way, and what is asked for then.
 struct Spoilt {
   const char* name;
@@ -115,38 +177,6 @@ TEST_F(AtspiAccessibilityTest, switchesTheSessionsAccessibilityOn) {
   ASSERT_FALSE(session->isAccessibilityEnabled());
   EXPECT_TRUE(AccessibilityBus::enable(session->busAddress()));
   EXPECT_TRUE(session->isAccessibilityEnabled());
-}
-
-TEST_F(AtspiAccessibilityTest, readsAFieldAndReplacesInIt) {
-  const std::u32string accented = U"e" + std::u32string(40, U'\u0301');
-  struct Case {
-    std::u32string text;
-    std::int32_t caret;
-    TextRange range;  // its length is in characters as the user sees them, and its end is the caret
-    const char* read;
-    std::u32string replaced;
-  };
-  const Case cases[] = {
-      {U"é😀 ñ:smile", 10, {3, 7}, "ñ:smile", U"é😀 👍🏽"},
-      {U"a👩‍🚀🇩🇪é", 8, {6, 1}, "é", U"a👩‍🚀🇩🇪👍🏽"},
-      {U"a👩‍🚀🇩🇪é", 7, {5, 2}, "🇩🇪é", U"a👩‍🚀👍🏽"},
-      {U"a👩‍🚀🇩🇪é", 7, {4, 3}, "👩‍🚀🇩🇪é", U"a👍🏽"},
-      {U"ab" + accented, 43, {42, 1}, nullptr, U"ab👍🏽"},
-      {U"abc", 3, {0, 3}, "abc", U"👍🏽"},
-  };
-  openApplication();
-  EXPECT_EQ(read(attribute::value), AttributeValue(std::string()));
-  EXPECT_EQ(application->calls("GetText"), 0) << "readability is found out without fetching the text";
-  for (const Case& tested : cases) {
-    SCOPED_TRACE(tested.range.location);
-    application->setText(tested.text, tested.caret);
-    EXPECT_EQ(read(attribute::selectedTextRange), AttributeValue(TextRange{tested.caret, 0}));
-    if (tested.read != nullptr) {
-      EXPECT_EQ(read(attribute::stringForRange, tested.range), AttributeValue(std::string(tested.read)));
-    }
-    EXPECT_EQ(replace(tested.range, "👍🏽"), AccessibilityStatus::success);
-    EXPECT_EQ(application->text(), tested.replaced);
-  }
 }
 
 TEST_F(AtspiAccessibilityTest, namesRoles) {
@@ -182,6 +212,7 @@ TEST_F(AtspiAccessibilityTest, hasAValueOnlyWhereTextCanBeWritten) {
     SCOPED_TRACE(spoilt.name);
     openApplication();
     ASSERT_TRUE(read(attribute::value));
+    EXPECT_EQ(application->calls("GetText"), 0) << "found out without fetching the text";
     application->answer(spoilt.member, spoilt.answer);
     EXPECT_FALSE(read(attribute::value));
     application.reset();
@@ -206,7 +237,6 @@ TEST_F(AtspiAccessibilityTest, believesNoGarbage) {
       {"less text", "GetText", value("abc"), text, TextRange{4, 6}},
       {"huge text", "GetText", value(std::string(8 << 20, 'x')), text, TextRange{4, 6}},
       {"text is a number", "GetText", value(7), text, TextRange{4, 6}},
-      {"range before the start", "", nullptr, text, TextRange{-20, 6}},
       {"range of negative length", "", nullptr, text, TextRange{10, -3}},
       {"range beyond the end", "", nullptr, text, TextRange{400, 6}},
       {"range beyond all", "", nullptr, text, TextRange{std::int64_t{1} << 40, 6}},
@@ -214,7 +244,6 @@ TEST_F(AtspiAccessibilityTest, believesNoGarbage) {
       {"bounds nowhere", "GetCharacterExtents", bounds({least, least, 5, 10}), place, TextRange{1, 0}},
       {"bounds of no height", "GetCharacterExtents", bounds({1, 1, 5, 0}), place, TextRange{1, 0}},
       {"bounds without end", "GetCharacterExtents", bounds({1, 1, 5, 70000}), place, TextRange{1, 0}},
-      {"unknown attribute", "", nullptr, "AXColor"},
   };
   for (const Spoilt& spoilt : cases) {
     SCOPED_TRACE(spoilt.name);
@@ -283,10 +312,8 @@ TEST_F(AtspiAccessibilityTest, aHeldReplacementIsCarriedOutOnce) {
   EXPECT_TRUE(eventually([this] { return application->text() == U"é😀 ñ😀"; }));
 }
 
-TEST_F(AtspiAccessibilityTest, writesOnlyWhatWasSelected) {
+TEST_F(AtspiAccessibilityTest, writesOnlyTextAndOnlyInTheFieldWhereItWasSelected) {
   openApplication();
-  EXPECT_EQ(accessibility->setAttribute(field, attribute::selectedText, std::string("x")),
-            AccessibilityStatus::failure);
   EXPECT_EQ(replace({4, 6}, std::string("a\0b", 3)), AccessibilityStatus::failure);
   EXPECT_EQ(replace({4, 6}, "\xff"), AccessibilityStatus::failure);
   const ElementRef other = focus(FakeApplication::otherFieldPath);
@@ -330,7 +357,7 @@ TEST_F(AtspiAccessibilityTest, tellsOnceThatTheFocusIsElsewhere) {
   openApplication();
   queue.runReady();
   int moves = 0;
-  Subscription subscription = accessibility->onFocusMoved([&moves] { ++moves; });
+  const Subscription subscription = accessibility->onFocusMoved([&moves] { ++moves; });
   application->announceFocus(FakeApplication::fieldPath, false);
   ASSERT_TRUE(eventually([this] { return focusedPath().empty(); }));
   focus(FakeApplication::fieldPath);
@@ -339,10 +366,6 @@ TEST_F(AtspiAccessibilityTest, tellsOnceThatTheFocusIsElsewhere) {
   focus(FakeApplication::otherFieldPath);
   const auto turn = [this] { queue.runReady(); };
   EXPECT_TRUE(eventually([&moves] { return moves == 1; }, turn));
-  subscription.reset();
-  focus(FakeApplication::fieldPath);
-  queue.runReady();
-  EXPECT_EQ(moves, 1);
 }
 
 TEST_F(AtspiAccessibilityTest, aFocusLetGoByTheActiveProcessIsStillThere) {
@@ -451,3 +474,10 @@ TEST_F(AtspiAccessibilityTest, comesBackWithTheAccessibilityBus) {
 
 }  // namespace
 }  // namespace tessarin::atspi
+
+namespace tessarin::testing {
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Atspi, AccessibilitySuite, ::testing::Types<atspi::AtspiWorld>);
+INSTANTIATE_TYPED_TEST_SUITE_P(Fake, AccessibilitySuite, ::testing::Types<atspi::FakeWorld>);
+
+}  // namespace tessarin::testing

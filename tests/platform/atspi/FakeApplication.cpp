@@ -1,5 +1,7 @@
 #include "platform/atspi/FakeApplication.h"
 
+#include <unicode/unistr.h>
+
 #include <algorithm>
 #include <utility>
 #include <vector>
@@ -10,29 +12,6 @@
 
 namespace tessarin::testing {
 namespace {
-
-std::string utf8(const std::u32string& text) {
-  std::string result;
-  for (const char32_t c : text) {
-    const int extra = c < 0x80 ? 0 : c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
-    constexpr unsigned lead[] = {0, 0xC0, 0xE0, 0xF0};
-    result += static_cast<char>(lead[extra] | c >> 6 * extra);
-    for (int i = extra - 1; i >= 0; --i) result += static_cast<char>(0x80 | (c >> 6 * i & 0x3F));
-  }
-  return result;
-}
-
-std::u32string utf32(const std::string& text) {
-  std::u32string result;
-  for (const unsigned char byte : text) {
-    if ((byte & 0xC0) != 0x80) {
-      result += byte < 0x80 ? byte : byte < 0xE0 ? byte & 0x1F : byte < 0xF0 ? byte & 0x0F : byte & 0x07;
-    } else {
-      result.back() = result.back() << 6 | (byte & 0x3F);
-    }
-  }
-  return result;
-}
 
 void appendReference(DBusMessageIter* into, const std::string& bus, const char* path) {
   contain(into, DBUS_TYPE_STRUCT, nullptr, [&](DBusMessageIter* members) {
@@ -53,6 +32,21 @@ std::string memberOf(DBusMessage* call) {
 }
 
 }  // namespace
+
+std::string utf8(const std::u32string& text) {
+  std::string result;
+  return icu::UnicodeString::fromUTF32(reinterpret_cast<const UChar32*>(text.data()),
+                                       static_cast<std::int32_t>(text.size()))
+      .toUTF8String(result);
+}
+
+std::u32string utf32(const std::string& text) {
+  const auto whole = icu::UnicodeString::fromUTF8(text);
+  std::u32string result(static_cast<std::size_t>(whole.countChar32()), U'\0');
+  UErrorCode error = U_ZERO_ERROR;
+  whole.toUTF32(reinterpret_cast<UChar32*>(result.data()), whole.countChar32(), error);
+  return result;
+}
 
 void append(DBusMessageIter* into, std::int32_t value) {
   dbus_message_iter_append_basic(into, DBUS_TYPE_INT32, &value);

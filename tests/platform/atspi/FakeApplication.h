@@ -18,6 +18,9 @@
 
 namespace tessarin::testing {
 
+std::string utf8(const std::u32string& text);
+std::u32string utf32(const std::string& text);
+
 /// Fills in the reply to a call.
 using Answer = std::function<void(DBusMessage* call, DBusMessageIter* reply)>;
 

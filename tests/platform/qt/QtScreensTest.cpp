@@ -3,6 +3,8 @@
 #include <cstdlib>
 
 #include "platform/qt/QtScreens.h"
+#include "support/FakeScreens.h"
+#include "support/ScreensSuite.h"
 #include "support/desktop/ChildProcess.h"
 #include "support/desktop/XClient.h"
 
@@ -13,22 +15,55 @@ using ::testing::ElementsAre;
 using testing::XClient;
 
 /// The display of the test program: 1280 x 1024 pixels, no window manager, scale 1.
-class QtScreensTest : public ::testing::Test {
- protected:
-  void TearDown() override {
+class Monitors {
+ public:
+  ~Monitors() {
     for (const char* name : {"left", "right"}) testing::run({"xrandr", "--delmonitor", name});
     client.setRootNumbers("_NET_WORKAREA", {});
     client.setRootNumbers("_NET_CURRENT_DESKTOP", {});
     client.setRootNumbers("_NET_ACTIVE_WINDOW", {});
   }
+  QtScreens& screens() { return screens_; }
   /// The right one is the primary and lower than the left one.
-  static void layOutTwoMonitors() {
+  static void layOut() {
     ASSERT_EQ(testing::run({"xrandr", "--setmonitor", "left", "640/300x900/300+0+0", "screen"}), 0);
     ASSERT_EQ(testing::run({"xrandr", "--setmonitor", "*right", "640/300x924/300+640+100", "none"}), 0);
   }
+  void focus(std::size_t number) {
+    const auto window = client.openWindow({number == 0 ? 700.0 : 20.0, 300, 200, 100});
+    client.setRootNumbers("_NET_ACTIVE_WINDOW", {window});
+  }
+  void movePointer(Point point) {
+    client.movePointer(static_cast<int>(point.x), 1024 - static_cast<int>(point.y));
+  }
 
   XClient client{std::getenv("DISPLAY")};
-  QtScreens screens;
+
+ private:
+  QtScreens screens_;
+};
+
+class FakeWorld {
+ public:
+  Screens& screens() { return fake_; }
+  void layOut() {
+    fake_.all.clear();
+    for (const Rect& frame : {Rect{640, -100, 640, 924}, Rect{0, 24, 640, 900}}) {
+      fake_.all.push_back({frame, frame});
+    }
+  }
+  void focus(std::size_t number) { fake_.main = fake_.all.at(number); }
+  void movePointer(Point point) { fake_.mouse = point; }
+
+ private:
+  testing::FakeScreens fake_;
+};
+
+class QtScreensTest : public ::testing::Test {
+ protected:
+  Monitors monitors;
+  XClient& client = monitors.client;
+  QtScreens& screens = monitors.screens();
 };
 
 TEST_F(QtScreensTest, ASingleMonitorIsTheWholeDisplay) {
@@ -37,16 +72,8 @@ TEST_F(QtScreensTest, ASingleMonitorIsTheWholeDisplay) {
   EXPECT_EQ(screens.mainScreen(), whole);
 }
 
-TEST_F(QtScreensTest, ThePrimaryMonitorComesFirstAndSetsTheHeight) {
-  layOutTwoMonitors();
-  const auto found = screens.screens();
-  ASSERT_EQ(found.size(), 2U);
-  EXPECT_EQ(found[0].frame, (Rect{640, -100, 640, 924}));
-  EXPECT_EQ(found[1].frame, (Rect{0, 24, 640, 900}));
-}
-
 TEST_F(QtScreensTest, PanelsAreLessThanTheVisibleFrame) {
-  layOutTwoMonitors();
+  monitors.layOut();
   client.setRootNumbers("_NET_CURRENT_DESKTOP", {1});
   client.setRootNumbers("_NET_WORKAREA", {0, 0, 10, 10, 0, 30, 1280, 994});
   const auto found = screens.screens();
@@ -58,22 +85,16 @@ TEST_F(QtScreensTest, PanelsAreLessThanTheVisibleFrame) {
   EXPECT_EQ(screens.screens()[1].visibleFrame, found[1].frame) << "a work area that leaves nothing of it";
 }
 
-TEST_F(QtScreensTest, TheMainScreenHasTheActiveWindow) {
-  layOutTwoMonitors();
-  const auto found = screens.screens();
-  ASSERT_EQ(found.size(), 2U);
-  client.setRootNumbers("_NET_ACTIVE_WINDOW", {client.openWindow({20, 20, 200, 100})});
-  EXPECT_EQ(screens.mainScreen(), found[1]);
-  client.setRootNumbers("_NET_ACTIVE_WINDOW", {client.openWindow({700, 300, 200, 100})});
-  EXPECT_EQ(screens.mainScreen(), found[0]);
+TEST_F(QtScreensTest, AWindowThatHasGoneIsOnNoScreen) {
+  monitors.layOut();
   client.setRootNumbers("_NET_ACTIVE_WINDOW", {1});
-  EXPECT_EQ(screens.mainScreen(), found[0]) << "a window that has gone";
-}
-
-TEST_F(QtScreensTest, ThePointerIsInScreenCoordinates) {
-  client.movePointer(300, 200);
-  EXPECT_EQ(screens.mouseLocation(), (Point{300, 824}));
+  EXPECT_EQ(screens.mainScreen(), screens.screens().at(0));
 }
 
 }  // namespace
 }  // namespace tessarin::ui
+
+namespace tessarin::testing {
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, ScreensSuite, ::testing::Types<ui::Monitors>);
+INSTANTIATE_TYPED_TEST_SUITE_P(Fake, ScreensSuite, ::testing::Types<ui::FakeWorld>);
+}  // namespace tessarin::testing

@@ -17,7 +17,7 @@ void TapFixture::start(const std::vector<std::string>& layout, bool withManager)
   document = std::make_unique<DocumentWindow>(display.name());
   document->clipboard = "😀";
   typist = std::make_unique<Typist>(display.name());
-  keyboard = std::make_shared<x11::X11Keyboard>(queue, display.name());
+  keyboard = std::make_shared<x11::X11Keyboard>(queue, display.name(), answerTime);
   tap = std::make_unique<x11::X11EventTap>(keyboard);
   poster = std::make_unique<x11::X11KeyPoster>(keyboard);
   ASSERT_TRUE(tap->create([this](const KeyEvent& event) { return judge(event); }));
@@ -26,8 +26,10 @@ void TapFixture::start(const std::vector<std::string>& layout, bool withManager)
   waitUntilWatching();
 }
 
-// A trigger that is seen shows that the thread is at work.
+// A trigger that is seen shows that the thread is at work. Several may come at once, and must not collect.
 void TapFixture::waitUntilWatching() {
+  isProbing_ = true;
+  seen.clear();
   document->text();
   document->clear();
   int typed = 0;
@@ -38,8 +40,7 @@ void TapFixture::waitUntilWatching() {
     queue.runUntil([this] { return !seen.empty(); }, std::chrono::milliseconds(50));
   }
   ASSERT_TRUE(queue.runUntil([&] { return document->text().size() == typed * trigger.size(); }));
-  collecting_ = false;
-  attend(KeyAttention::triggerOnly);
+  isProbing_ = false;
   document->clear();
   seen.clear();
 }
@@ -68,6 +69,7 @@ KeyVerdict TapFixture::judge(const KeyEvent& event) {
     return KeyVerdict::pass;
   }
   seen.push_back(event);
+  if (isProbing_) return KeyVerdict::pass;
   if (onKey) onKey(event);
   if (!collecting_) {
     collecting_ = event.text == x11::utf16Text(trigger);

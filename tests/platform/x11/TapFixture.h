@@ -45,6 +45,8 @@ class TapFixture : public ::testing::Test {
   std::unique_ptr<x11::X11EventTap> tap;
   std::unique_ptr<x11::X11KeyPoster> poster;
 
+  /// Of each key. Longer than the user's, so that a busy machine does not spoil what is not about time.
+  std::chrono::milliseconds answerTime = std::chrono::seconds(20);
   Insertion insertion = Insertion::direct;
   std::string trigger = ":";
   std::vector<KeyEvent> seen;
@@ -56,6 +58,7 @@ class TapFixture : public ::testing::Test {
   void insert();
   void finishWhenPasted(int pastes);
 
+  bool isProbing_ = false;
   bool holdNext_ = false;
   bool collecting_ = false;
   int typed_ = 0;

@@ -4,9 +4,11 @@
 #include "DocumentWindow.h"
 #include "LiveMainQueue.h"
 #include "Typist.h"
-#include "platform/KeyCodes.h"
 #include "platform/x11/X11InputMonitoring.h"
 #include "platform/x11/X11KeyPoster.h"
+#include "support/FakeKeyPoster.h"
+#include "support/KeyPosterSuite.h"
+#include "support/ManualMainQueue.h"
 #include "support/desktop/PrivateDisplay.h"
 
 namespace tessarin::testing {
@@ -17,35 +19,68 @@ struct Layout {
   std::uint8_t group;
 };
 
-class X11KeyPosterTest : public ::testing::TestWithParam<Layout> {};
+const Layout layouts[] = {{{"us"}, 0}, {{"us", "dvorak"}, 0}, {{"fr"}, 0}, {{"us,ru"}, 1}, {{"ru,us"}, 0}};
 
-INSTANTIATE_TEST_SUITE_P(Layouts, X11KeyPosterTest,
-                         ::testing::Values(Layout{{"us"}, 0}, Layout{{"us", "dvorak"}, 0}, Layout{{"fr"}, 0},
-                                           Layout{{"us,ru"}, 1}, Layout{{"ru,us"}, 0}));
+/// Under Caps Lock, with the layout of that number.
+template <std::size_t number>
+class X11PosterWorld {
+ public:
+  KeyPoster& poster() { return poster_; }
+  std::string document() { return document_.text(); }
+  std::string typeTwo() {
+    document_.clipboard = "P";
+    typist_.lock(layouts[number].group, x11::ModifierBits::capsLock);
+    typist_.tap(XKB_KEY_1);
+    typist_.tap(XKB_KEY_2);
+    typist_.press(XKB_KEY_Shift_R);
+    EXPECT_TRUE(waitFor([this] { return !document().empty() && document_.presses() == 3; }));
+    return document();
+  }
+  bool waitFor(const std::function<bool()>& condition) { return queue_.runUntil(condition); }
 
-TEST_P(X11KeyPosterTest, PressesTheKeysOfTheLayoutInForce) {
-  const PrivateDisplay display;
-  std::vector<std::string> command{"setxkbmap"};
-  command.insert(command.end(), GetParam().arguments.begin(), GetParam().arguments.end());
-  ASSERT_EQ(display.run(command), 0);
-  DocumentWindow document(display.name());
-  document.clipboard = "P";
-  Typist typist(display.name());
-  typist.lock(GetParam().group, x11::ModifierBits::capsLock);
-  typist.tap(XKB_KEY_1);
-  typist.tap(XKB_KEY_2);
-  LiveMainQueue queue;
-  x11::X11KeyPoster poster(std::make_shared<x11::X11Keyboard>(queue, display.name()));
-  typist.press(XKB_KEY_Shift_R);
-  poster.post({{keycode::deleteBackward, 0},
-               {keycode::v, keyflag::control},
-               {keycode::insert, keyflag::shift},
-               {keycode::deleteBackward, keyflag::control | keyflag::shift}});
-  const auto isDone = [&] { return document.text().ends_with("<Control-Shift-BackSpace>"); };
-  ASSERT_TRUE(queue.runUntil(isDone)) << document.text();
-  EXPECT_TRUE(document.text().ends_with("P<Shift-Insert><Control-Shift-BackSpace>")) << document.text();
-  EXPECT_EQ(document.pastes(), 1);
-}
+ private:
+  static std::string prepared(const PrivateDisplay& display) {
+    std::vector<std::string> command{"setxkbmap"};
+    command.insert(command.end(), layouts[number].arguments.begin(), layouts[number].arguments.end());
+    EXPECT_EQ(display.run(command), 0);
+    return display.name();
+  }
+
+  PrivateDisplay display_;
+  DocumentWindow document_{prepared(display_)};
+  Typist typist_{display_.name()};
+  LiveMainQueue queue_;
+  x11::X11KeyPoster poster_{std::make_shared<x11::X11Keyboard>(queue_, display_.name())};
+};
+
+class FakePosterWorld {
+ public:
+  KeyPoster& poster() { return poster_; }
+  std::string typeTwo() { return text_ = "12"; }
+  std::string document() const {
+    std::string text = text_;
+    for (const auto& [press, at] : poster_.posted) {
+      if (press == KeyPress{keycode::deleteBackward, 0}) text.pop_back();
+      if (press == KeyPress{keycode::v, keyflag::control}) text += "P";
+      if (press == KeyPress{keycode::insert, keyflag::shift}) text += "<Shift-Insert>";
+      if (press == KeyPress{keycode::deleteBackward, keyflag::control | keyflag::shift}) {
+        text += "<Control-Shift-BackSpace>";
+      }
+    }
+    return text;
+  }
+  bool waitFor(const std::function<bool()>& condition) { return condition(); }
+
+ private:
+  std::string text_;
+  ManualMainQueue queue_;
+  FakeKeyPoster poster_{queue_};
+};
+
+using X11PosterWorlds = ::testing::Types<X11PosterWorld<0>, X11PosterWorld<1>, X11PosterWorld<2>,
+                                         X11PosterWorld<3>, X11PosterWorld<4>>;
+INSTANTIATE_TYPED_TEST_SUITE_P(X11Layouts, KeyPosterSuite, X11PosterWorlds);
+INSTANTIATE_TYPED_TEST_SUITE_P(Fake, KeyPosterSuite, ::testing::Types<FakePosterWorld>);
 
 TEST(X11InputMonitoring, IsGrantedWhereKeysCanBeHeld) {
   const PrivateDisplay display;

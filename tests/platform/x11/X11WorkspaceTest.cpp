@@ -28,7 +28,6 @@ class Session {
         std::vector<std::filesystem::path>{applications.path()}, std::vector<std::string>{}));
     workspace = x11::X11Workspace::connect(queue, matcher, display.name());
     peer = std::make_unique<XClient>(display.name());
-    if (isManaged) waitUntilWindowsAreManaged();
   }
 
   xcb_window_t show(const std::string& name, const WindowOptions& options = {}, double x = 0) {
@@ -46,19 +45,6 @@ class Session {
     return waitFor([&] { return frontmost() == name; });
   }
 
-  /// A window manager that has just come up may pass over the first windows.
-  void waitUntilWindowsAreManaged() {
-    const auto probe = [this] {
-      const auto window = show("probe");
-      const bool isManaged = eventually([this] { return frontmost() == "probe"; }, [] {}, probeTime);
-      peer->destroy(window);
-      return isManaged;
-    };
-    EXPECT_TRUE(waitFor(probe)) << "no window is ever managed";
-    EXPECT_TRUE(becomesFrontmost("none"));
-  }
-
-  static constexpr std::chrono::milliseconds probeTime{300};
   PrivateDisplay display;
   TemporaryFolder applications;
   std::shared_ptr<ApplicationMatcher> matcher;

@@ -3,14 +3,13 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
-#include <xcb/xcb.h>
 
 #include <chrono>
-#include <cstdlib>
-#include <cstring>
 #include <memory>
 #include <stdexcept>
-#include <thread>
+
+#include "support/Eventually.h"
+#include "support/desktop/XClient.h"
 
 namespace tessarin::testing {
 namespace {
@@ -32,23 +31,6 @@ std::string readLine(int fd) {
   throw std::runtime_error("no X server came up");
 }
 
-struct Disconnect {
-  void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
-};
-
-bool isManaged(xcb_connection_t* connection, xcb_window_t root) {
-  constexpr char name[] = "_NET_SUPPORTING_WM_CHECK";
-  const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> atom(
-      xcb_intern_atom_reply(connection, xcb_intern_atom(connection, 0, std::strlen(name), name), nullptr),
-      &std::free);
-  if (!atom) return false;
-  const std::unique_ptr<xcb_get_property_reply_t, decltype(&std::free)> property(
-      xcb_get_property_reply(
-          connection, xcb_get_property(connection, 0, root, atom->atom, XCB_ATOM_WINDOW, 0, 1), nullptr),
-      &std::free);
-  return property && property->value_len == 1;
-}
-
 }  // namespace
 
 PrivateDisplay::PrivateDisplay(const std::string& geometry, const std::vector<std::string>& arguments) {
@@ -66,15 +48,18 @@ PrivateDisplay::PrivateDisplay(const std::string& geometry, const std::vector<st
 
 void PrivateDisplay::startWindowManager() {
   windowManager_ = ChildProcess({"openbox", "--sm-disable"}, {variable()});
-  const std::unique_ptr<xcb_connection_t, Disconnect> connection(xcb_connect(name_.c_str(), nullptr));
-  const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection.get())).data->root;
-  const auto deadline = Clock::now() + startUpTime;
-  while (!isManaged(connection.get(), root)) {
-    if (Clock::now() > deadline || !windowManager_.isRunning()) {
-      throw std::runtime_error("no window manager came up");
-    }
-    std::this_thread::sleep_for(std::chrono::milliseconds(5));
-  }
+  XClient client(name_);
+  const xcb_window_t window = client.openWindow({0, 0, 10, 10});
+  // While it starts it announces itself, forgets windows that are mapped, and takes the focus. All that is
+  // over when a window has got the focus from it, and lost it.
+  const bool isManaging =
+      eventually([&] { return client.activeWindow() == window; }, [&] { client.activate(window); });
+  client.destroy(window);
+  const bool isSettled = eventually([&] {
+    const xcb_window_t focused = client.focusedWindow();
+    return focused > XCB_INPUT_FOCUS_POINTER_ROOT && focused != window;
+  });
+  if (!isManaging || !isSettled) throw std::runtime_error("no window manager came up");
 }
 
 int PrivateDisplay::run(const std::vector<std::string>& command) const {

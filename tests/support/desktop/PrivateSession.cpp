@@ -1,11 +1,9 @@
 #include "support/desktop/PrivateSession.h"
 
-#include <dbus/dbus.h>
-
 #include <fstream>
-#include <memory>
 #include <stdexcept>
 
+#include "platform/atspi/BusCalls.h"
 #include "support/Eventually.h"
 
 namespace tessarin::testing {
@@ -13,35 +11,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Unref {
-  void operator()(DBusMessage* message) const { dbus_message_unref(message); }
-  void operator()(DBusConnection* connection) const {
-    dbus_connection_close(connection);
-    dbus_connection_unref(connection);
-  }
-};
-using Connection = std::unique_ptr<DBusConnection, Unref>;
-using Message = std::unique_ptr<DBusMessage, Unref>;
-
-Connection connect(const std::string& address) {
-  Connection connection(dbus_connection_open_private(address.c_str(), nullptr));
+atspi::MessagePtr askLauncher(const std::string& busAddress, const char* interface, const char* method,
+                              const char* property) {
+  const atspi::ConnectionPtr connection = atspi::connectTo(busAddress);
   if (!connection) return nullptr;
-  dbus_connection_set_exit_on_disconnect(connection.get(), FALSE);
-  if (!dbus_bus_register(connection.get(), nullptr)) return nullptr;
-  return connection;
-}
-
-Message askLauncher(const std::string& busAddress, const char* interface, const char* method,
-                    const char* property) {
-  const Connection connection = connect(busAddress);
-  if (!connection) return nullptr;
-  const Message request(dbus_message_new_method_call("org.a11y.Bus", "/org/a11y/bus", interface, method));
+  const atspi::MessagePtr request(
+      dbus_message_new_method_call("org.a11y.Bus", "/org/a11y/bus", interface, method));
   if (property != nullptr) {
     const char* owner = "org.a11y.Status";
     dbus_message_append_args(request.get(), DBUS_TYPE_STRING, &owner, DBUS_TYPE_STRING, &property,
                              DBUS_TYPE_INVALID);
   }
-  return Message(dbus_connection_send_with_reply_and_block(connection.get(), request.get(), 5000, nullptr));
+  return atspi::callAndWait(connection.get(), request.get(), std::chrono::seconds(5));
 }
 
 std::string configuration(const fs::path& folder) {
@@ -66,14 +47,14 @@ void PrivateSession::startBus() {
   std::ofstream(file) << configuration(folder_.path());
   busAddress_ = "unix:path=" + (folder_.path() / "session").string();
   bus_ = ChildProcess({"dbus-daemon", "--nofork", "--config-file=" + file.string()}, environment());
-  if (!eventually([this] { return connect(busAddress_) != nullptr; })) {
+  if (!eventually([this] { return atspi::connectTo(busAddress_) != nullptr; })) {
     throw std::runtime_error("no session bus came up");
   }
 }
 
 void PrivateSession::startAccessibility() {
   accessibility_ = start({"/usr/libexec/at-spi-bus-launcher", "--launch-immediately"});
-  if (!eventually([this] { return connect(accessibilityBusAddress()) != nullptr; })) {
+  if (!eventually([this] { return atspi::connectTo(accessibilityBusAddress()) != nullptr; })) {
     throw std::runtime_error("no accessibility bus came up");
   }
 }
@@ -83,7 +64,7 @@ void PrivateSession::stopAccessibility() {
 }
 
 std::string PrivateSession::accessibilityBusAddress() const {
-  const Message reply = askLauncher(busAddress_, "org.a11y.Bus", "GetAddress", nullptr);
+  const atspi::MessagePtr reply = askLauncher(busAddress_, "org.a11y.Bus", "GetAddress", nullptr);
   const char* address = nullptr;
   if (!reply || !dbus_message_get_args(reply.get(), nullptr, DBUS_TYPE_STRING, &address, DBUS_TYPE_INVALID)) {
     return {};
@@ -92,7 +73,7 @@ std::string PrivateSession::accessibilityBusAddress() const {
 }
 
 bool PrivateSession::isAccessibilityEnabled() const {
-  const Message reply = askLauncher(busAddress_, DBUS_INTERFACE_PROPERTIES, "Get", "IsEnabled");
+  const atspi::MessagePtr reply = askLauncher(busAddress_, DBUS_INTERFACE_PROPERTIES, "Get", "IsEnabled");
   DBusMessageIter iterator;
   DBusMessageIter value;
   dbus_bool_t enabled = FALSE;
