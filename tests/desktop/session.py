@@ -143,14 +143,15 @@ class Session:
 class Tessarin:
     """The running program; its log goes to a file."""
 
-    def __init__(self, session, allowed=True, program=PROGRAM):
+    def __init__(self, session, allowed=True, program=PROGRAM, welcomes=False):
         self.session = session
         self.program = program
         self.log_path = session.folder / "tessarin.log"
         self._child = None
         if allowed:
             session.run(program, "--allow")
-        self._skip_onboarding()
+        if not welcomes:
+            self._skip_onboarding()
 
     def _skip_onboarding(self):
         path = pathlib.Path(self.session.env["XDG_CONFIG_HOME"]) / "tessarin/preferences.json"

@@ -5,8 +5,6 @@ import json
 import pathlib
 import unittest
 
-import Xlib.X
-
 from editors import Mousepad
 from session import ROOT, Session, Tessarin, wait_for
 from typist import Typist
@@ -28,20 +26,8 @@ class ApplicationTest(unittest.TestCase):
         return json.loads(self.preferences_path.read_text()).get(key)
 
     def window(self, title):
-        """The frame of the window of this title, once it is there."""
-        return wait_for(lambda: self.find_window(title), what=f"the window “{title}”")
-
-    def find_window(self, title):
-        name = self.typist.display.intern_atom("_NET_WM_NAME")
-        for number in self.typist.client_windows():
-            try:
-                window = self.typist.display.create_resource_object("window", number)
-                shown = window.get_full_property(name, Xlib.X.AnyPropertyType)
-                if shown and shown.value.decode() == title:
-                    return window.get_geometry()
-            except Exception:  # it went between the two questions
-                continue
-        return None
+        """The size of the window of this title, once it is there."""
+        return wait_for(lambda: self.typist.titled(title), what=f"the window “{title}”").get_geometry()
 
     def heard(self):
         """What a screen reader is told, line by line."""
@@ -67,7 +53,7 @@ class FirstRun(ApplicationTest):
         self.assertIsNone(self.stored("hasCompletedOnboarding"))
         self.typist.press("Return")
         wait_for(lambda: self.stored("hasCompletedOnboarding"), what="the welcome to be over")
-        wait_for(lambda: not self.find_window("Welcome to Tessarin"), what="its window to go")
+        wait_for(lambda: not self.typist.titled("Welcome to Tessarin"), what="its window to go")
 
         with Mousepad(self.session, self.typist) as editor:
             self.typist.type("a:tada\nb")
@@ -96,7 +82,7 @@ class SecondStart(ApplicationTest):
     def test_it_brings_up_the_settings_of_the_first(self):
         self.assertEqual(self.tessarin.command().returncode, 0)
         self.window("Tessarin Settings")
-        self.assertIsNone(self.find_window("Welcome to Tessarin"))
+        self.assertIsNone(self.typist.titled("Welcome to Tessarin"))
 
     def test_import_and_export_through_the_running_program(self):
         folder = self.session.folder

@@ -96,6 +96,19 @@ class Typist:
     def client_windows(self):
         return set(self._root_property("_NET_CLIENT_LIST"))
 
+    def titled(self, title):
+        """The managed window of this title, or nothing."""
+        name = self.display.intern_atom("_NET_WM_NAME")
+        for number in self.client_windows():
+            try:
+                window = self.display.create_resource_object("window", number)
+                shown = window.get_full_property(name, X.AnyPropertyType)
+            except Exception:  # it went between the two questions
+                continue
+            if shown and shown.value.decode() == title:
+                return window
+        return None
+
     def popup(self):
         """Frame of the popup on screen (x, y, width, height), or nothing."""
         for child in self.display.screen().root.query_tree().children:
