@@ -15,7 +15,7 @@ _tessarin() {
       mapfile -t COMPREPLY < <(compgen -f -X '!*.json' -- "$word"; compgen -d -- "$word")
       ;;
     --search)
-      ((COMP_CWORD != 3)) || mapfile -t COMPREPLY < <(compgen -W "--json" -- "$word")
+      ((COMP_CWORD < 3)) || mapfile -t COMPREPLY < <(compgen -W "--json --limit" -- "$word")
       ;;
   esac
 }

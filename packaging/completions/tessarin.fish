@@ -15,3 +15,4 @@ complete -c tessarin -n $file -l import -x -a $files -d 'Add the snippets of a f
 complete -c tessarin -n $file -l export -x -a $files -d 'Write the own snippets to a file'
 complete -c tessarin -n $first -l search -x -d 'Print what matches'
 complete -c tessarin -n '__fish_contains_opt search' -l json -d 'Print it as JSON'
+complete -c tessarin -n '__fish_contains_opt search' -l limit -x -d 'Print at most so many'

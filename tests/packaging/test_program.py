@@ -54,6 +54,7 @@ class Installing(unittest.TestCase):
     def test_works_and_leaves_nothing_behind(self):
         listed = [pathlib.Path(line) for line in output("dpkg", "-L", "tessarin").splitlines()]
         self.assertEqual(output("/usr/bin/tessarin", "--version"), f"tessarin {project_version()}\n")
+        self.assertIn("smile", output("/usr/bin/tessarin", "--search", "smile"))
         self.assertIn("tessarin", output("man", "-w", "tessarin"))
         apt("remove", "tessarin")
         self.assertFalse(is_installed(), "something is left to purge")

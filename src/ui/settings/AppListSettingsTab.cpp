@@ -80,6 +80,7 @@ AppListSettingsTab::AppListSettingsTab(const SettingsServices& services, AppList
   entries_->setMinimumHeight(lowestList);
   entries_->setAccessibleName(texts.title);
   entries_->setSelectionMode(QAbstractItemView::NoSelection);
+  entries_->setResizeMode(QListView::Adjust);
   entries_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(tabPadding, tabPadding, tabPadding, tabPadding);

@@ -1,6 +1,7 @@
 #include "ui/settings/RunningAppInfo.h"
 
 #include <QCollator>
+#include <QGuiApplication>
 #include <algorithm>
 
 #include "platform/Workspace.h"
@@ -18,9 +19,12 @@ RunningAppInfo infoOf(const Application& application, Workspace& workspace) {
 }  // namespace
 
 std::vector<RunningAppInfo> runningApps(Workspace& workspace) {
+  // The settings themselves are a window of a task bar.
+  const std::string ours = QGuiApplication::desktopFileName().toStdString();
   std::vector<RunningAppInfo> apps;
   for (const Application& application : workspace.runningApplications()) {
-    if (!application.bundleIdentifier.empty()) apps.push_back(infoOf(application, workspace));
+    const std::string& identifier = application.bundleIdentifier;
+    if (!identifier.empty() && identifier != ours) apps.push_back(infoOf(application, workspace));
   }
   QCollator collator;
   collator.setCaseSensitivity(Qt::CaseInsensitive);
