@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/style/StyledLabel.h"
 #include "ui/style/SymbolLabel.h"
@@ -13,6 +14,7 @@ constexpr int symbolSize = 48;
 constexpr int hintSymbolSize = 18;
 constexpr int hintSpacing = 8;
 constexpr int hintPadding = 60;
+constexpr int widestHint = 520 - 2 * hintPadding - hintSymbolSize - hintSpacing;
 
 }  // namespace
 
@@ -45,7 +47,10 @@ QWidget* ExerciseStep::makeHints() const {
 }
 
 void ExerciseStep::addHint(QVBoxLayout& list, const QString& symbol, const QString& text) {
+  // On one line where that fits, so that the hints stand together in the middle.
   auto* label = new StyledLabel(text);
+  label->setMinimumWidth(std::min(label->sizeHint().width(), widestHint));
+  label->wrapped();
   auto* row = new QHBoxLayout;
   row->setSpacing(hintSpacing);
   row->addWidget(new SymbolLabel(symbol, hintSymbolSize, ColorRole::primary));

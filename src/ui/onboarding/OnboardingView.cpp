@@ -42,6 +42,7 @@ OnboardingView::OnboardingView(const Permissions& permissions, UserDefaults& def
   refreshPermissions();
   refreshTrigger();
   showStep(0);
+  next_->setDefault(true);  // not before it stands in the dialog
   timer_ = queue.repeat(refreshInterval, [this] { refreshPermissions(); });
   defaultsObserver_ = defaults_.onChange([this] { refreshTrigger(); });
 }
@@ -60,7 +61,6 @@ QWidget* OnboardingView::makeNavigation() {
   indicator_ = new StepIndicator(totalSteps);
   back_ = new QPushButton(tr("Back"));
   next_ = new QPushButton;
-  next_->setDefault(true);
   connect(back_, &QPushButton::clicked, this, &OnboardingView::goBack);
   connect(next_, &QPushButton::clicked, this, &OnboardingView::goOn);
   auto* bar = new QWidget;

@@ -31,7 +31,7 @@ void OnboardingWindow::present() {
 }
 
 void OnboardingWindow::makeView() {
-  view_ = new OnboardingView(permissions_, defaults_, queue_);
+  view_ = new OnboardingView(permissions_, defaults_, queue_, this);
   layout()->addWidget(view_);
   connect(view_, &OnboardingView::finished, this, &QWidget::close);
 }
@@ -45,6 +45,8 @@ void OnboardingWindow::hideEvent(QHideEvent* event) {
   QDialog::hideEvent(event);
   // Minimising hides as well, but from outside.
   if (event->spontaneous() || view_ == nullptr) return;
+  layout()->removeWidget(view_);
+  view_->hide();
   std::exchange(view_, nullptr)->deleteLater();
 }
 

@@ -14,10 +14,22 @@ namespace {
 constexpr int widestSpacing = 20;
 constexpr int narrowestSpacing = 4;
 
+/// As high as its texts are at the width that it has; labels that wrap ask for more on their own.
+class Content final : public QWidget {
+ public:
+  QSize minimumSizeHint() const override { return {0, 0}; }
+
+ protected:
+  void resizeEvent(QResizeEvent* /*event*/) override {
+    // Resized while its layout is being measured, the toolkit would leave everything where it was.
+    if (layout()->geometry() != rect()) layout()->setGeometry(rect());
+  }
+};
+
 }  // namespace
 
 StepPage::StepPage(QWidget* parent) : QScrollArea(parent) {
-  auto* content = new QWidget;
+  auto* content = new Content;
   column_ = new QVBoxLayout(content);
   column_->setContentsMargins(0, 0, 0, 0);
   column_->setSpacing(widestSpacing);
@@ -40,7 +52,8 @@ void StepPage::add(QWidget* widget, int sidePadding) {
 }
 
 void StepPage::addSymbol(const QString& name, int size, ColorRole color) {
-  column_->insertWidget(column_->count() - 1, new SymbolLabel(name, size, color), 0, Qt::AlignHCenter);
+  symbol_ = new SymbolLabel(name, size, color);
+  column_->insertWidget(column_->count() - 1, symbol_, 0, Qt::AlignHCenter);
 }
 
 QString StepPage::text() const {
@@ -61,10 +74,19 @@ bool StepPage::event(QEvent* event) {
 }
 
 void StepPage::fit() {
+  if (symbol_ != nullptr) symbol_->show();
+  if (!fitsMovedTogether() && symbol_ != nullptr) {
+    symbol_->hide();
+    fitsMovedTogether();
+  }
+}
+
+bool StepPage::fitsMovedTogether() {
   for (int spacing = widestSpacing; spacing >= narrowestSpacing; spacing -= 2) {
     column_->setSpacing(spacing);
-    if (column_->totalHeightForWidth(width()) <= height()) return;
+    if (column_->totalHeightForWidth(width()) <= height()) return true;
   }
+  return false;
 }
 
 }  // namespace tessarin::ui

@@ -8,8 +8,10 @@ class QVBoxLayout;
 
 namespace tessarin::ui {
 
-/// One step of the onboarding: a column in the middle of its room. Moves closer together, and at the very
-/// last scrolls, where large type or long texts need it.
+class SymbolLabel;
+
+/// One step of the onboarding: a column in the middle of its room. Where large type or long texts need it, it
+/// moves closer together, then does without its symbol, and at the very last scrolls.
 class StepPage : public QScrollArea {
   Q_OBJECT
 
@@ -32,8 +34,10 @@ class StepPage : public QScrollArea {
 
  private:
   void fit();
+  bool fitsMovedTogether();
 
   QVBoxLayout* column_;
+  SymbolLabel* symbol_ = nullptr;
 };
 
 }  // namespace tessarin::ui

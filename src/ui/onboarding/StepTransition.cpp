@@ -2,12 +2,15 @@
 
 #include <QEasingCurve>
 #include <QPainter>
+#include <algorithm>
 
 namespace tessarin::ui {
 namespace {
 
 constexpr int milliseconds = 250;
 constexpr double distance = 40;
+constexpr double turn =
+    0.4;  // when the one has gone and the other begins to appear: never two texts over each other
 
 }  // namespace
 
@@ -43,9 +46,9 @@ void StepTransition::stop() {
 void StepTransition::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   const double progress = progress_.currentValue().toDouble();
-  painter.setOpacity(1 - progress);
+  painter.setOpacity(std::max(0.0, 1 - progress / turn));
   painter.drawPixmap(QPointF(-direction_ * distance * progress, 0), before_);
-  painter.setOpacity(progress);
+  painter.setOpacity(std::max(0.0, (progress - turn) / (1 - turn)));
   painter.drawPixmap(QPointF(direction_ * distance * (1 - progress), 0), after_);
 }
 

@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QLocale>
 #include <QPointer>
+#include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -48,8 +49,8 @@ BarChart::Bar barOf(const UsageTracker::DayCount& day, const QLocale& locale) {
 
 StatsSettingsTab::StatsSettingsTab(UsageTracker& tracker, UserDefaults& defaults, MainQueue& queue,
                                    QWidget* parent)
-    : QWidget(parent), tracker_(tracker), defaults_(defaults), queue_(queue) {
-  auto* column = new QVBoxLayout(this);
+    : QWidget(parent), tracker_(tracker), defaults_(defaults), queue_(queue), content_(new QWidget) {
+  auto* column = new QVBoxLayout(content_);
   column->setContentsMargins(padding, padding, padding, padding);
   column->setSpacing(partSpacing);
   column->addWidget(new StyledLabel(tr("Usage Statistics"), TextStyle::headline));
@@ -57,8 +58,28 @@ StatsSettingsTab::StatsSettingsTab(UsageTracker& tracker, UserDefaults& defaults
   addChart(*column);
   addMostUsed(*column);
   column->addStretch(1);
+  putIntoScrollArea();
+  refresh();
   usageObserver_ = tracker_.onRecorded([this](const std::string&) { refreshLater(); });
   defaultsObserver_ = defaults_.onChange([this] { refreshLater(); });
+}
+
+void StatsSettingsTab::putIntoScrollArea() {
+  auto* area = new QScrollArea;
+  area->setWidget(content_);
+  area->setWidgetResizable(true);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->viewport()->setAutoFillBackground(false);
+  content_->setAutoFillBackground(false);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(area);
+}
+
+QSize StatsSettingsTab::sizeHint() const {
+  return content_->sizeHint();
 }
 
 void StatsSettingsTab::addCards(QVBoxLayout& column) {

@@ -29,10 +29,14 @@ class StatsSettingsTab final : public QWidget {
   StatsSettingsTab(UsageTracker& tracker, UserDefaults& defaults, MainQueue& queue,
                    QWidget* parent = nullptr);
 
+  /// Room for all of it; with less it scrolls.
+  QSize sizeHint() const override;
+
  protected:
   void showEvent(QShowEvent* event) override;
 
  private:
+  void putIntoScrollArea();
   void addCards(QVBoxLayout& column);
   void addChart(QVBoxLayout& column);
   void addMostUsed(QVBoxLayout& column);
@@ -45,6 +49,7 @@ class StatsSettingsTab final : public QWidget {
   UsageTracker& tracker_;
   UserDefaults& defaults_;
   MainQueue& queue_;
+  QWidget* content_;
   StatCard* total_ = nullptr;
   StatCard* today_ = nullptr;
   StyledLabel* noUsage_ = nullptr;
