@@ -177,6 +177,13 @@
     </message>
 </context>
 <context>
+    <name>tessarin::ui::BarChart</name>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
     <name>tessarin::ui::BlockedAppsSettingsTab</name>
     <message>
         <source>Blocked Apps</source>
@@ -200,6 +207,48 @@
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::DoneStep</name>
+    <message>
+        <source>You&apos;re All Set!</source>
+        <translation>Alles bereit!</translation>
+    </message>
+    <message>
+        <source>Tessarin runs in your menu bar. Look for the keyboard icon to access settings, manage snippets, and more.</source>
+        <translation>Tessarin läuft in Ihrer Leiste. Über das Symbol dort erreichen Sie die Einstellungen, Ihre Bausteine und mehr.</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::ExerciseStep</name>
+    <message>
+        <source>Try It Out</source>
+        <translation>Ausprobieren</translation>
+    </message>
+    <message>
+        <source>Try it here</source>
+        <translation>Hier ausprobieren</translation>
+    </message>
+    <message>
+        <source>Type the trigger character to start</source>
+        <translation>Mit dem Auslösezeichen beginnen</translation>
+    </message>
+    <message>
+        <source>Type a shortcode like &quot;smile&quot; or &quot;wave&quot;</source>
+        <translation>Ein Kürzel wie „smile“ oder „wave“ tippen</translation>
+    </message>
+    <message>
+        <source>Press Enter or type the trigger again to confirm</source>
+        <translation>Mit der Eingabetaste oder dem Auslösezeichen bestätigen</translation>
+    </message>
+    <message>
+        <source>Type %1smile%1 in any text field</source>
+        <translation>Tippen Sie %1smile%1 in irgendein Textfeld</translation>
+    </message>
+    <message>
+        <source>%1smile%1</source>
+        <translation>%1smile%1</translation>
     </message>
 </context>
 <context>
@@ -261,78 +310,17 @@
     </message>
 </context>
 <context>
+    <name>tessarin::ui::MostUsedList</name>
+    <message>
+        <source>%1. %2, %3</source>
+        <translation>%1. %2, %3</translation>
+    </message>
+</context>
+<context>
     <name>tessarin::ui::OnboardingView</name>
-    <message>
-        <source>Input Monitoring</source>
-        <translation>Eingabeüberwachung</translation>
-    </message>
-    <message>
-        <source>Detects when you type shortcodes</source>
-        <translation>Bemerkt, wenn Sie Kürzel tippen</translation>
-    </message>
-    <message>
-        <source>Accessibility</source>
-        <translation>Bedienungshilfen</translation>
-    </message>
-    <message>
-        <source>Positions the popup and inserts text</source>
-        <translation>Platziert das Popup und fügt Text ein</translation>
-    </message>
     <message>
         <source>Back</source>
         <translation>Zurück</translation>
-    </message>
-    <message>
-        <source>Welcome to Tessarin</source>
-        <translation>Willkommen bei Tessarin</translation>
-    </message>
-    <message>
-        <source>System-wide %1shortcode%1 autocomplete for macOS</source>
-        <translation>Systemweite %1kürzel%1-Vervollständigung für macOS</translation>
-    </message>
-    <message>
-        <source>Type shortcodes anywhere to instantly insert emoji, kaomoji, and custom snippets.</source>
-        <translation>Tippen Sie irgendwo ein Kürzel und fügen Sie sofort Emoji, Kaomoji und eigene Bausteine ein.</translation>
-    </message>
-    <message>
-        <source>Grant Permissions</source>
-        <translation>Berechtigungen erteilen</translation>
-    </message>
-    <message>
-        <source>Tessarin needs two permissions to work:</source>
-        <translation>Tessarin braucht zwei Berechtigungen:</translation>
-    </message>
-    <message>
-        <source>Try It Out</source>
-        <translation>Ausprobieren</translation>
-    </message>
-    <message>
-        <source>Type %1smile%1 in any text field</source>
-        <translation>Tippen Sie %1smile%1 in irgendein Textfeld</translation>
-    </message>
-    <message>
-        <source>Type the trigger character to start</source>
-        <translation>Mit dem Auslösezeichen beginnen</translation>
-    </message>
-    <message>
-        <source>Type a shortcode like &quot;smile&quot; or &quot;wave&quot;</source>
-        <translation>Ein Kürzel wie „smile“ oder „wave“ tippen</translation>
-    </message>
-    <message>
-        <source>Press Enter or type the trigger again to confirm</source>
-        <translation>Mit der Eingabetaste oder dem Auslösezeichen bestätigen</translation>
-    </message>
-    <message>
-        <source>Try it here</source>
-        <translation>Hier ausprobieren</translation>
-    </message>
-    <message>
-        <source>You&apos;re All Set!</source>
-        <translation>Alles bereit!</translation>
-    </message>
-    <message>
-        <source>Tessarin runs in your menu bar. Look for the keyboard icon to access settings, manage snippets, and more.</source>
-        <translation>Tessarin läuft in Ihrer Leiste. Über das Symbol dort erreichen Sie die Einstellungen, Ihre Bausteine und mehr.</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -401,6 +389,82 @@
     <message>
         <source>Without Accessibility, Tessarin uses clipboard paste as a fallback. The popup will appear near the mouse cursor instead of the text caret.</source>
         <translation>Ohne Bedienungshilfen fügt Tessarin über die Zwischenablage ein. Das Popup erscheint dann beim Mauszeiger statt bei der Schreibmarke.</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::PermissionsStep</name>
+    <message>
+        <source>Grant Permissions</source>
+        <translation>Berechtigungen erteilen</translation>
+    </message>
+    <message>
+        <source>Tessarin needs two permissions to work:</source>
+        <translation>Tessarin braucht zwei Berechtigungen:</translation>
+    </message>
+    <message>
+        <source>Input Monitoring</source>
+        <translation>Eingabeüberwachung</translation>
+    </message>
+    <message>
+        <source>Detects when you type shortcodes</source>
+        <translation>Bemerkt, wenn Sie Kürzel tippen</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Bedienungshilfen</translation>
+    </message>
+    <message>
+        <source>Positions the popup and inserts text</source>
+        <translation>Platziert das Popup und fügt Text ein</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::PopupAccessible</name>
+    <message>
+        <source>%1, %2 of %3</source>
+        <translation>%1, %2 von %3</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::PopupItemAccessible</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>no skin tone</source>
+        <translation>ohne Hautton</translation>
+    </message>
+    <message>
+        <source>light skin tone</source>
+        <translation>heller Hautton</translation>
+    </message>
+    <message>
+        <source>medium-light skin tone</source>
+        <translation>mittelheller Hautton</translation>
+    </message>
+    <message>
+        <source>medium skin tone</source>
+        <translation>mittlerer Hautton</translation>
+    </message>
+    <message>
+        <source>medium-dark skin tone</source>
+        <translation>mitteldunkler Hautton</translation>
+    </message>
+    <message>
+        <source>dark skin tone</source>
+        <translation>dunkler Hautton</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::PopupListAccessible</name>
+    <message>
+        <source>Emoji and snippets</source>
+        <translation>Emoji und Bausteine</translation>
+    </message>
+    <message>
+        <source>Skin tones</source>
+        <translation>Hauttöne</translation>
     </message>
 </context>
 <context>
@@ -596,6 +660,13 @@
     </message>
 </context>
 <context>
+    <name>tessarin::ui::StatCard</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>tessarin::ui::StatsSettingsTab</name>
     <message>
         <source>Total Expansions</source>
@@ -735,6 +806,21 @@ Wenn Sie zustimmen, werden auch die Bedienungshilfen der Sitzung eingeschaltet, 
     <message>
         <source>Tessarin could not look for updates</source>
         <translation>Tessarin konnte nicht nach Aktualisierungen suchen</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::WelcomeStep</name>
+    <message>
+        <source>Welcome to Tessarin</source>
+        <translation>Willkommen bei Tessarin</translation>
+    </message>
+    <message>
+        <source>Type shortcodes anywhere to instantly insert emoji, kaomoji, and custom snippets.</source>
+        <translation>Tippen Sie irgendwo ein Kürzel und fügen Sie sofort Emoji, Kaomoji und eigene Bausteine ein.</translation>
+    </message>
+    <message>
+        <source>System-wide %1shortcode%1 autocomplete for macOS</source>
+        <translation>Systemweite %1kürzel%1-Vervollständigung für macOS</translation>
     </message>
 </context>
 </TS>

@@ -17,7 +17,7 @@ void Windows::checkForUpdates() {
 void Windows::showOnboarding() {
   onboardingWindow_ = std::make_unique<ui::OnboardingWindow>(desktop_.permissions(), desktop_.userDefaults(),
                                                              desktop_.mainQueue());
-  onboardingWindow_->open();
+  onboardingWindow_->present();
 }
 
 void Windows::openSettings(SnippetStore& store) {

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "platform/qt/NativePopupWindow.h"
+#include "ui/PopupAccessible.h"
 
 namespace tessarin::ui {
 namespace {
@@ -22,6 +23,7 @@ constexpr Qt::WindowFlags popupFlags = Qt::ToolTip | Qt::FramelessWindowHint | Q
 
 PopupWindow::PopupWindow(Space space)
     : QWidget(nullptr, popupFlags), space_(std::move(space)), painter_(palette()) {
+  PopupAccessible::install();
   setAttribute(Qt::WA_ShowWithoutActivating);
   setAttribute(Qt::WA_TranslucentBackground);
   setAttribute(Qt::WA_X11NetWmWindowTypePopupMenu);
@@ -64,12 +66,15 @@ void PopupWindow::hide() {
   pressed_ = {};
   content_ = {};
   painter_.rest();
+  isUntold_ = false;
+  tellAssistants();
 }
 
 void PopupWindow::setContent(const PopupContent& content, QSizeF size) {
   const bool isSameList = isVisible() && content.rows == content_.rows;
   const bool isSelectionMoved = content.selectedIndex != content_.selectedIndex;
   const bool isPickerToggled = content.skinToneMode != content_.skinToneMode;
+  isUntold_ = isUntold_ || !isSameList || content != content_;
   content_ = content;
   layout_ = PopupLayout(content, size);
   const double target = layout_.scrollCentring(content.selectedIndex);
@@ -118,6 +123,14 @@ PopupWindow::Target PopupWindow::targetAt(QPointF point) const {
 void PopupWindow::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter_.paint(painter, content_, layout_, {scroll_, hoveredRow_, isTranslucent_});
+  if (std::exchange(isUntold_, false)) tellAssistants();
+}
+
+void PopupWindow::tellAssistants() {
+  if (!QAccessible::isActive()) return;
+  QTimer::singleShot(0, this, [this] {
+    if (auto* accessible = PopupAccessible::of(*this)) accessible->tellChanges();
+  });
 }
 
 void PopupWindow::mouseMoveEvent(QMouseEvent* event) {
@@ -136,11 +149,14 @@ void PopupWindow::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   const Target released = targetAt(event->position());
   if (std::exchange(pressed_, {}) != released) return;
-  // Copies: a click may hide the popup and set other callbacks.
-  const auto onRow = rowClicked_;
-  const auto onVariant = variantClicked_;
-  if (released.row && onRow) onRow(*released.row);
-  if (released.variant && onVariant) onVariant(*released.variant);
+  if (released.row) choose(PopupList::rows, *released.row);
+  if (released.variant) choose(PopupList::variants, *released.variant);
+}
+
+void PopupWindow::choose(PopupList list, int index) {
+  // A copy: a click may hide the popup and set other callbacks.
+  const auto clicked = list == PopupList::rows ? rowClicked_ : variantClicked_;
+  if (clicked) clicked(index);
 }
 
 void PopupWindow::wheelEvent(QWheelEvent* event) {

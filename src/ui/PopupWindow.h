@@ -8,6 +8,7 @@
 
 #include "platform/CoordinateSpace.h"
 #include "platform/PopupSurface.h"
+#include "ui/PopupList.h"
 #include "ui/PopupPainter.h"
 
 namespace tessarin::ui {
@@ -30,6 +31,10 @@ class PopupWindow final : public QWidget, public PopupSurface {
   /// The X window, to be told from other programs' windows.
   std::uint32_t nativeWindow() const { return static_cast<std::uint32_t>(winId()); }
   double scroll() const { return scroll_; }
+  const PopupContent& content() const { return content_; }
+  const PopupLayout& contentLayout() const { return layout_; }
+  /// As if the row or the variant had been clicked.
+  void choose(PopupList list, int index);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -54,6 +59,8 @@ class PopupWindow final : public QWidget, public PopupSurface {
   void showAt(const Rect& frame);
   void setScroll(double scroll);
   void setHoveredRow(std::optional<int> row);
+  /// Soon, so that neither the picture nor a key waits for it.
+  void tellAssistants();
 
   Space space_;
   PopupPainter painter_;
@@ -64,6 +71,7 @@ class PopupWindow final : public QWidget, public PopupSurface {
   std::optional<int> hoveredRow_;
   bool isTranslucent_ = false;
   Target pressed_;
+  bool isUntold_ = false;  ///< assistive technologies do not know the content yet
   QVariantAnimation scrolling_;
   std::function<void(int)> rowClicked_;
   std::function<void(int)> variantClicked_;

@@ -4,15 +4,19 @@
 #include <cstdlib>
 
 #include "support/desktop/PrivateDisplay.h"
+#include "support/desktop/PrivateSession.h"
 #include "ui/PopupChild.h"
 
-/// The tests of windows run on an X server of their own. The program also starts itself anew, for windows at
-/// another scale: see PopupChild.h.
+/// The tests of windows run on an X server and in a session of their own, with assistive technologies at
+/// work. The program also starts itself anew, for windows at another scale: see PopupChild.h.
 int main(int argc, char** argv) {
   if (tessarin::testing::isPopupChild(argc, argv)) return tessarin::testing::runPopupChild(argc, argv);
   ::testing::InitGoogleMock(&argc, argv);
   const tessarin::testing::PrivateDisplay display;
+  const tessarin::testing::PrivateSession session;
   ::setenv("DISPLAY", display.name().c_str(), 1);
+  ::setenv("DBUS_SESSION_BUS_ADDRESS", session.busAddress().c_str(), 1);
+  ::setenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1", 1);
   ::setenv("QT_QPA_PLATFORM", "xcb", 1);
   const QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);

@@ -28,6 +28,8 @@ class Camera {
   void take(const QString& name, QWidget& window) {
     settle();
     while (isMoving(window)) QApplication::processEvents();
+    // Without a loop that runs, nothing else removes what has come to its end.
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     isGood_ = window.grab().save(prefix_ + name + ".png") && isGood_;
   }
 
@@ -84,7 +86,7 @@ void takeEditor(Camera& camera, SampleDesktop& desktop) {
 
 void takeOnboarding(Camera& camera, SampleDesktop& desktop, const QString& state) {
   ui::OnboardingWindow window(desktop.permissions(), desktop.defaults, desktop.queue);
-  window.open();
+  window.present();
   for (int step = 1; step <= 4; ++step) {
     camera.take(QStringLiteral("onboarding-%1-%2").arg(step).arg(state), window);
     for (auto* button : window.findChildren<QPushButton*>()) {

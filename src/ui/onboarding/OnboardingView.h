@@ -1,69 +1,65 @@
 #pragma once
 
 #include <QWidget>
+#include <vector>
 
 #include "base/Subscription.h"
 #include "input/Permissions.h"
 
-class QLineEdit;
 class QPushButton;
-class QStackedWidget;
 
 namespace tessarin {
+
 class MainQueue;
 class UserDefaults;
-}  // namespace tessarin
 
-namespace tessarin::ui {
+namespace ui {
 
-class PermissionRow;
+class PermissionsStep;
 class StepIndicator;
+class StepPage;
+class StepStack;
 
-/// Welcomes the user in four steps: what the program is, its permissions, an exercise and the end. Nothing
-/// has to be granted to go on.
+/// Walks the user through four steps: a welcome, the two permissions, an exercise and a closing page. The
+/// permissions' state is live while the view exists. Its button that goes on is the default button of the
+/// dialog around it. All references outlive it.
 class OnboardingView final : public QWidget {
   Q_OBJECT
 
  public:
-  /// All outlive the view.
+  static constexpr int totalSteps = 4;
+
   OnboardingView(const Permissions& permissions, UserDefaults& defaults, MainQueue& queue,
                  QWidget* parent = nullptr);
 
   int currentStep() const { return currentStep_; }
 
  Q_SIGNALS:
-  /// The user has gone through all of it, and it has been stored.
+  /// The last step was confirmed, and that has been stored.
   void finished();
 
- protected:
-  void showEvent(QShowEvent* event) override;
-  void hideEvent(QHideEvent* event) override;
-
  private:
-  QWidget* makeWelcome();
-  QWidget* makePermissions();
-  QWidget* makeExercise();
-  QWidget* makeDone();
+  void addSteps();
   QWidget* makeNavigation();
-  QString triggerCharacter() const;
-
-  void goTo(int step);
   void goOn();
+  void goBack();
   void showStep(int step);
-  void refresh();
+  void finish();
+  void refreshPermissions();
+  void refreshTrigger();
 
   Permissions permissions_;
   UserDefaults& defaults_;
-  MainQueue& queue_;
   int currentStep_ = 0;
-  PermissionRow* inputMonitoring_;
-  PermissionRow* accessibility_;
-  QLineEdit* exercise_;
-  QStackedWidget* steps_;
-  StepIndicator* indicator_;
-  QPushButton* back_;
-  QPushButton* forward_;
+  std::vector<StepPage*> steps_;
+  PermissionsStep* permissionsStep_ = nullptr;
+  StepStack* stack_ = nullptr;
+  StepIndicator* indicator_ = nullptr;
+  QPushButton* back_ = nullptr;
+  QPushButton* next_ = nullptr;
   Subscription timer_;
+  Subscription defaultsObserver_;
 };
 
-}  // namespace tessarin::ui
+}  // namespace ui
+}  // namespace tessarin

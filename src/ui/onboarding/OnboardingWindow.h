@@ -2,24 +2,41 @@
 
 #include <QDialog>
 
-#include "ui/onboarding/OnboardingView.h"
+#include "input/Permissions.h"
 
-namespace tessarin::ui {
+namespace tessarin {
 
-/// The window that greets a new user. Closing it before the end lets it come again at the next start.
+class MainQueue;
+class UserDefaults;
+
+namespace ui {
+
+class OnboardingView;
+
+/// The window "Welcome to Tessarin". Its content lives from being presented until the window is closed;
+/// closed before its end, it begins anew the next time. Escape does not close it. All references outlive it.
 class OnboardingWindow final : public QDialog {
   Q_OBJECT
 
  public:
   OnboardingWindow(const Permissions& permissions, UserDefaults& defaults, MainQueue& queue);
 
-  /// In the middle of the screen, in front, with the keyboard.
-  void open() override;
-  /// Escape closes nothing here.
-  void reject() override {}
+  /// Shows the window in the middle of the screen and gives it the keyboard; one that is open comes to the
+  /// front as it is.
+  void present();
 
  protected:
-  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+
+ private:
+  void makeView();
+
+  Permissions permissions_;
+  UserDefaults& defaults_;
+  MainQueue& queue_;
+  OnboardingView* view_ = nullptr;
 };
 
-}  // namespace tessarin::ui
+}  // namespace ui
+}  // namespace tessarin

@@ -8,18 +8,18 @@
 namespace tessarin::ui {
 namespace {
 
-constexpr int dot = 8;
-constexpr int gap = 6;
-constexpr double faint = 0.2;
+constexpr int dotSize = 8;
+constexpr int dotSpacing = 6;
+constexpr double faintOpacity = 0.2;
 
 }  // namespace
 
 StepIndicator::StepIndicator(int steps, QWidget* parent) : QWidget(parent), steps_(steps) {
-  setFixedSize(steps * dot + (steps - 1) * gap, dot);
-  setCurrentStep(0);
+  setFixedSize(steps * (dotSize + dotSpacing) - dotSpacing, dotSize);
+  setCurrent(0);
 }
 
-void StepIndicator::setCurrentStep(int step) {
+void StepIndicator::setCurrent(int step) {
   current_ = step;
   setAccessibleName(tr("Step %1 of %2").arg(step + 1).arg(steps_));
   update();
@@ -29,11 +29,12 @@ void StepIndicator::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
+  const QColor accent = colorOf(ColorRole::accent, palette());
+  const QColor faint = withOpacity(colorOf(ColorRole::primary, palette()), faintOpacity);
   for (int step = 0; step < steps_; ++step) {
-    painter.setBrush(step == current_ ? colorOf(ColorRole::accent, palette())
-                                      : withOpacity(colorOf(ColorRole::primary, palette()), faint));
-    const QRect place(step * (dot + gap), 0, dot, dot);
-    painter.drawEllipse(QStyle::visualRect(layoutDirection(), rect(), place));
+    const QRect dot(step * (dotSize + dotSpacing), 0, dotSize, dotSize);
+    painter.setBrush(step == current_ ? accent : faint);
+    painter.drawEllipse(QStyle::visualRect(layoutDirection(), rect(), dot));
   }
 }
 

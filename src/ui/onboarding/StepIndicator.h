@@ -4,20 +4,21 @@
 
 namespace tessarin::ui {
 
-/// A row of dots, one a step, with that of the current step in the accent colour.
+/// A dot for each step, the current one in the accent colour.
 class StepIndicator final : public QWidget {
   Q_OBJECT
 
  public:
   explicit StepIndicator(int steps, QWidget* parent = nullptr);
-  void setCurrentStep(int step);
+
+  void setCurrent(int step);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
   int steps_;
-  int current_ = 0;
+  int current_ = -1;
 };
 
 }  // namespace tessarin::ui

@@ -1,9 +1,10 @@
 #include "ui/settings/BarChart.h"
 
+#include <QFontMetricsF>
 #include <QLinearGradient>
 #include <QLocale>
 #include <QPainter>
-#include <QStyle>
+#include <QStringList>
 #include <algorithm>
 #include <utility>
 
@@ -13,101 +14,115 @@
 namespace tessarin::ui {
 namespace {
 
-constexpr double radius = 4;
-constexpr double barShare = 0.62;  ///< of the room that a bar and its gap have
-constexpr int gap = 6;             ///< between the scale, the labels and the bars
-constexpr int mostSteps = 4;
+constexpr double cornerRadius = 4;
+constexpr double widestBar = 44;
+constexpr double barShare = 0.62;  // of the room that a bar has
+constexpr double lowestBar = 2;    // so that a count of one is seen beside thousands
+constexpr double axisGap = 6;
+constexpr double labelGap = 4;
+constexpr double gridOpacity = 0.12;
+constexpr double linesPerMark = 1.7;
+constexpr int mostIntervals = 4;
 
 }  // namespace
 
 BarChart::BarChart(QWidget* parent) : QWidget(parent) {
+  setFixedHeight(chartHeight);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
 void BarChart::setBars(std::vector<Bar> bars) {
+  if (bars == bars_) return;
   bars_ = std::move(bars);
-  QStringList told;
-  for (const Bar& bar : bars_) told << QStringLiteral("%1 %2").arg(bar.label).arg(bar.count);
-  setAccessibleDescription(told.join(", "));
+  QStringList spoken;
+  for (const Bar& bar : bars_) spoken << tr("%1 %2").arg(bar.name).arg(bar.count);
+  setAccessibleDescription(locale().createSeparatedList(spoken));
   update();
 }
 
-std::int64_t BarChart::stepFor(std::int64_t highest) {
-  for (std::int64_t power = 1;; power *= 10) {
-    for (const std::int64_t factor : {1, 2, 5}) {
-      if (power * factor * mostSteps >= highest) return power * factor;
-    }
-  }
+QFont BarChart::labelFont() const {
+  return fontOf(TextStyle::caption2, font());
 }
 
-std::int64_t BarChart::step() const {
-  std::int64_t highest = 1;
+BarChart::Measures BarChart::measures() const {
+  Measures result;
+  const QFontMetricsF metrics(labelFont());
+  result.labelHeight = metrics.height();
+  const double above = result.labelHeight / 2;
+  const double plotHeight = height() - above - labelGap - result.labelHeight;
+  std::int64_t highest = 0;
   for (const Bar& bar : bars_) highest = std::max(highest, bar.count);
-  return stepFor(highest);
+  const int room = static_cast<int>(plotHeight / (linesPerMark * result.labelHeight));
+  result.axis = ChartAxis::reaching(highest, std::clamp(room, 1, mostIntervals));
+  const double marks = metrics.horizontalAdvance(QString::number(result.axis.top));
+  result.plot = QRectF(0, above, width() - axisGap - marks, plotHeight);
+  if (!bars_.empty()) result.slot = result.plot.width() / static_cast<double>(bars_.size());
+  return result;
 }
 
-std::int64_t BarChart::top() const {
-  std::int64_t highest = 1;
-  for (const Bar& bar : bars_) highest = std::max(highest, bar.count);
-  return (highest + step() - 1) / step() * step();
+QRectF BarChart::visual(const QRectF& rect) const {
+  if (layoutDirection() == Qt::LeftToRight) return rect;
+  return {width() - rect.right(), rect.top(), rect.width(), rect.height()};
 }
 
-int BarChart::scaleWidth() const {
-  return QFontMetrics(fontOf(TextStyle::caption2, font()))
-      .horizontalAdvance(locale().toString(static_cast<qlonglong>(top())));
+QRectF BarChart::barRect(std::size_t index) const {
+  const Bar& bar = bars_.at(index);
+  if (bar.count <= 0) return {};
+  const Measures all = measures();
+  const double share = static_cast<double>(bar.count) / static_cast<double>(all.axis.top);
+  const double barHeight = std::max(lowestBar, all.plot.height() * share);
+  const double barWidth = std::min(widestBar, all.slot * barShare);
+  const double centre = all.slot * (static_cast<double>(index) + 0.5);
+  return visual({centre - barWidth / 2, all.plot.bottom() - barHeight, barWidth, barHeight});
 }
 
 void BarChart::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setFont(fontOf(TextStyle::caption2, font()));
-  const int line = painter.fontMetrics().height();
-  const QRectF plot(scaleWidth() + gap, line / 2.0, width() - scaleWidth() - gap,
-                    height() - 1.5 * line - gap);
-  paintScale(painter, plot);
-  paintBars(painter, plot);
+  painter.setFont(labelFont());
+  const Measures all = measures();
+  paintAxis(painter, all);
+  paintBars(painter);
+  paintLabels(painter, all);
 }
 
-void BarChart::paintScale(QPainter& painter, const QRectF& plot) const {
-  const QColor text = colorOf(ColorRole::secondary, palette());
-  const QColor lines = withOpacity(colorOf(ColorRole::primary, palette()), 0.12);
-  const int line = painter.fontMetrics().height();
-  for (std::int64_t value = 0; value <= top(); value += step()) {
-    const double y = plot.bottom() - plot.height() * static_cast<double>(value) / static_cast<double>(top());
-    painter.setPen(lines);
-    const QRect rule(qRound(plot.left()), qRound(y), qRound(plot.width()), 0);
-    const QRect shown = QStyle::visualRect(layoutDirection(), this->rect(), rule.adjusted(0, 0, 0, 1));
-    painter.drawLine(QPointF(shown.left(), qRound(y) + 0.5), QPointF(shown.right(), qRound(y) + 0.5));
-    painter.setPen(text);
-    const QRect number(0, qRound(y) - line / 2, scaleWidth(), line);
-    painter.drawText(QStyle::visualRect(layoutDirection(), this->rect(), number),
-                     Qt::AlignRight | Qt::AlignVCenter, locale().toString(static_cast<qlonglong>(value)));
+void BarChart::paintAxis(QPainter& painter, const Measures& measures) const {
+  const QColor line = withOpacity(colorOf(ColorRole::primary, palette()), gridOpacity);
+  const Qt::Alignment outward = Qt::AlignVCenter | Qt::AlignAbsolute |
+                                (layoutDirection() == Qt::LeftToRight ? Qt::AlignRight : Qt::AlignLeft);
+  const double axisWidth = width() - measures.plot.right();
+  for (std::int64_t count = 0; count <= measures.axis.top; count += measures.axis.step) {
+    const double share = static_cast<double>(count) / static_cast<double>(measures.axis.top);
+    const double y = measures.plot.bottom() - measures.plot.height() * share;
+    painter.fillRect(visual({0, qRound(y) - 0.5, measures.plot.width(), 1}), line);
+    painter.setPen(colorOf(ColorRole::secondary, palette()));
+    const QRectF place(measures.plot.right(), y - measures.labelHeight / 2, axisWidth, measures.labelHeight);
+    painter.drawText(visual(place), static_cast<int>(outward), QString::number(count));
   }
 }
 
-void BarChart::paintBars(QPainter& painter, const QRectF& plot) const {
-  if (bars_.empty()) return;
-  const double room = plot.width() / static_cast<double>(bars_.size());
+void BarChart::paintBars(QPainter& painter) const {
   const QColor accent = colorOf(ColorRole::accent, palette());
-  QLinearGradient fill(plot.topLeft(), plot.bottomLeft());
-  fill.setColorAt(0, accent.lighter(118));
-  fill.setColorAt(1, accent);
+  painter.setPen(Qt::NoPen);
   for (std::size_t index = 0; index < bars_.size(); ++index) {
-    const double left = plot.left() + room * static_cast<double>(index);
-    const double high = plot.height() * static_cast<double>(bars_[index].count) / static_cast<double>(top());
-    const QRectF bar(left + room * (1 - barShare) / 2, plot.bottom() - high, room * barShare, high);
-    const QRectF label(left, plot.bottom() + gap, room, height() - plot.bottom() - gap);
-    const bool mirrored = layoutDirection() == Qt::RightToLeft;
-    const auto placed = [&](QRectF rect) {
-      if (mirrored) rect.moveLeft(width() - rect.right());
-      return rect;
-    };
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(fill);
-    if (high > 0)
-      painter.drawRoundedRect(placed(bar), std::min(radius, high / 2), std::min(radius, high / 2));
-    painter.setPen(colorOf(ColorRole::secondary, palette()));
-    painter.drawText(placed(label), Qt::AlignHCenter | Qt::AlignTop, bars_[index].label);
+    const QRectF rect = barRect(index);
+    QLinearGradient gradient(rect.topLeft(), rect.bottomLeft());
+    gradient.setColorAt(0, accent.lighter(128));
+    gradient.setColorAt(1, accent);
+    painter.setBrush(gradient);
+    const double radius = std::min({cornerRadius, rect.width() / 2, rect.height() / 2});
+    painter.drawRoundedRect(rect, radius, radius);
+  }
+}
+
+void BarChart::paintLabels(QPainter& painter, const Measures& measures) const {
+  painter.setPen(colorOf(ColorRole::secondary, palette()));
+  const QFontMetricsF metrics(labelFont());
+  for (std::size_t index = 0; index < bars_.size(); ++index) {
+    const QRectF place(measures.slot * static_cast<double>(index), height() - measures.labelHeight,
+                       measures.slot, measures.labelHeight);
+    painter.drawText(visual(place), Qt::AlignCenter,
+                     metrics.elidedText(bars_[index].label, Qt::ElideRight, measures.slot));
   }
 }
 

@@ -7,31 +7,25 @@
 namespace tessarin::ui {
 namespace {
 
-constexpr int valueSize = 28;
-constexpr int padding = 12;
+constexpr int lineSpacing = 4;
+constexpr int verticalPadding = 12;
 
 }  // namespace
 
-StatCard::StatCard(const QString& title, QWidget* parent) : Card(parent), value_(new QLabel) {
-  QFont font = value_->font();
-  font.setPixelSize(valueSize);
-  font.setBold(true);
-  value_->setFont(font);
-  value_->setAlignment(Qt::AlignCenter);
-  value_->setTextFormat(Qt::PlainText);
+StatCard::StatCard(const QString& title, QWidget* parent)
+    : Card(parent), title_(title), value_(new StyledLabel({}, TextStyle::figure)) {
   auto* caption = new StyledLabel(title, TextStyle::caption, ColorRole::secondary);
-  caption->centred();
   auto* lines = new QVBoxLayout(this);
-  lines->setContentsMargins(0, padding, 0, padding);
-  lines->setSpacing(4);
-  lines->addWidget(value_);
-  lines->addWidget(caption);
-  setAccessibleName(title);
+  lines->setContentsMargins(0, verticalPadding, 0, verticalPadding);
+  lines->setSpacing(lineSpacing);
+  lines->addWidget(&value_->centred());
+  lines->addWidget(&caption->centred());
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
 void StatCard::setValue(const QString& value) {
   value_->setText(value);
-  setAccessibleDescription(value);
+  setAccessibleName(tr("%1: %2").arg(title_, value));
 }
 
 }  // namespace tessarin::ui

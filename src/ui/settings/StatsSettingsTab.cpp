@@ -1,17 +1,19 @@
 #include "ui/settings/StatsSettingsTab.h"
 
 #include <QDateTime>
-#include <QHBoxLayout>
-#include <QListWidget>
-#include <QStackedLayout>
+#include <QLocale>
+#include <QPointer>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "input/Preferences.h"
 #include "model/UsageTracker.h"
 #include "platform/MainQueue.h"
 #include "platform/UserDefaults.h"
 #include "ui/settings/BarChart.h"
+#include "ui/settings/MostUsedList.h"
 #include "ui/settings/StatCard.h"
 #include "ui/style/ScrollPane.h"
 #include "ui/style/Spacing.h"
@@ -20,161 +22,128 @@
 namespace tessarin::ui {
 namespace {
 
-constexpr int spacing = 16;
+constexpr int partSpacing = 16;
 constexpr int sectionSpacing = 8;
-constexpr int chartHeight = 120;
-constexpr int lowestList = 100;
-constexpr int rankWidth = 24;
-constexpr std::size_t mostRows = 10;
+constexpr std::size_t mostUsedCount = 10;
 
-QString weekday(WallClock::TimePoint day, const QLocale& locale) {
-  const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(day.time_since_epoch()).count();
-  return locale.dayName(QDateTime::fromSecsSinceEpoch(seconds).date().dayOfWeek(), QLocale::ShortFormat);
+QVBoxLayout* addSection(QVBoxLayout& column, const QString& title) {
+  auto* section = new QVBoxLayout;
+  section->setSpacing(sectionSpacing);
+  section->addWidget(new StyledLabel(title, TextStyle::subheadline));
+  column.addLayout(section);
+  return section;
 }
 
-QVBoxLayout* makeSection(QWidget* section, const QString& title) {
-  auto* lines = new QVBoxLayout(section);
-  lines->setContentsMargins(0, 0, 0, 0);
-  lines->setSpacing(sectionSpacing);
-  lines->addWidget(new StyledLabel(title, TextStyle::subheadline));
-  return lines;
+QDate dateOf(WallClock::TimePoint time) {
+  const auto sinceEpoch = std::chrono::floor<std::chrono::milliseconds>(time.time_since_epoch());
+  return QDateTime::fromMSecsSinceEpoch(sinceEpoch.count()).date();
 }
 
-/// The widget, or the note while there is nothing to show in it.
-QStackedLayout* makeStack(QWidget* widget, const QString& note, Qt::Alignment alignment) {
-  auto* stack = new QStackedLayout;
-  stack->addWidget(widget);
-  auto* label = new StyledLabel(note, TextStyle::caption, ColorRole::secondary);
-  label->setAlignment(alignment);
-  stack->addWidget(label);
-  return stack;
-}
-
-QWidget* makeRow(std::size_t rank, const QString& trigger, std::int64_t count) {
-  auto* row = new QWidget;
-  auto* layout = new QHBoxLayout(row);
-  layout->setContentsMargins(6, 4, 10, 4);
-  layout->setSpacing(8);
-  auto* number = new StyledLabel(QStringLiteral("%1.").arg(rank), TextStyle::body, ColorRole::secondary);
-  number->setMinimumWidth(rankWidth);
-  number->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
-  auto* uses = new StyledLabel(QString::number(count), TextStyle::subheadline, ColorRole::secondary);
-  layout->addWidget(number);
-  layout->addWidget(new StyledLabel(trigger, TextStyle::monospacedBody));
-  layout->addStretch(1);
-  layout->addWidget(uses);
-  return row;
+BarChart::Bar barOf(const UsageTracker::DayCount& day, const QLocale& locale) {
+  const int weekday = dateOf(day.date).dayOfWeek();
+  return {locale.standaloneDayName(weekday, QLocale::ShortFormat),
+          locale.standaloneDayName(weekday, QLocale::LongFormat), day.count};
 }
 
 }  // namespace
 
 StatsSettingsTab::StatsSettingsTab(UsageTracker& tracker, UserDefaults& defaults, MainQueue& queue,
                                    QWidget* parent)
-    : QWidget(parent),
-      tracker_(tracker),
-      defaults_(defaults),
-      queue_(queue),
-      total_(new StatCard(tr("Total Expansions"))),
-      today_(new StatCard(tr("Today"))),
-      chart_(new BarChart),
-      triggers_(new QListWidget) {
-  auto* content = new QWidget;
-  auto* layout = new QVBoxLayout(content);
-  layout->setContentsMargins(tabPadding, tabPadding, tabPadding, tabPadding);
-  layout->setSpacing(spacing);
-  layout->addWidget(new StyledLabel(tr("Usage Statistics"), TextStyle::headline));
-  layout->addWidget(makeCards());
-  layout->addWidget(makeChart());
-  layout->addWidget(makeMostUsed(), 1);
-  auto* whole = new QVBoxLayout(this);
-  whole->setContentsMargins(0, 0, 0, 0);
-  whole->addWidget(new ScrollPane(content));
-  recordings_ = tracker_.onRecorded([this](const std::string&) { refreshSoon(); });
-  preferences_ = defaults_.onChange([this] { refreshSoon(); });
+    : QWidget(parent), tracker_(tracker), defaults_(defaults), queue_(queue), content_(new QWidget) {
+  auto* column = new QVBoxLayout(content_);
+  column->setContentsMargins(tabPadding, tabPadding, tabPadding, tabPadding);
+  column->setSpacing(partSpacing);
+  column->addWidget(new StyledLabel(tr("Usage Statistics"), TextStyle::headline));
+  addCards(*column);
+  addChart(*column);
+  addMostUsed(*column);
+  column->addStretch(1);
+  putIntoScrollArea();
   refresh();
+  usageObserver_ = tracker_.onRecorded([this](const std::string&) { refreshLater(); });
+  defaultsObserver_ = defaults_.onChange([this] { refreshLater(); });
 }
 
-QWidget* StatsSettingsTab::makeCards() {
-  auto* cards = new QWidget;
-  auto* row = new QHBoxLayout(cards);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(spacing);
+void StatsSettingsTab::putIntoScrollArea() {
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(new ScrollPane(content_));
+}
+
+QSize StatsSettingsTab::sizeHint() const {
+  return content_->sizeHint();
+}
+
+void StatsSettingsTab::addCards(QVBoxLayout& column) {
+  total_ = new StatCard(tr("Total Expansions"));
+  today_ = new StatCard(tr("Today"));
+  auto* row = new QHBoxLayout;
+  row->setSpacing(partSpacing);
   row->addWidget(total_, 1);
   row->addWidget(today_, 1);
-  return cards;
+  column.addLayout(row);
 }
 
-QWidget* StatsSettingsTab::makeChart() {
-  auto* section = new QWidget;
-  QVBoxLayout* lines = makeSection(section, tr("Last 7 Days"));
-  chart_->setFixedHeight(chartHeight);
-  chart_->setAccessibleName(tr("Last 7 Days"));
-  auto* box = new QWidget;
-  box->setFixedHeight(chartHeight);
-  chartOrNote_ = makeStack(chart_, tr("No usage data yet"), Qt::AlignCenter);
-  box->setLayout(chartOrNote_);
-  lines->addWidget(box);
-  return section;
+void StatsSettingsTab::addChart(QVBoxLayout& column) {
+  const QString title = tr("Last 7 Days");
+  noUsage_ = new StyledLabel(tr("No usage data yet"), TextStyle::caption, ColorRole::secondary);
+  noUsage_->setFixedHeight(BarChart::chartHeight);
+  chart_ = new BarChart;
+  chart_->setAccessibleName(title);
+  auto* section = addSection(column, title);
+  section->addWidget(&noUsage_->centred());
+  section->addWidget(chart_);
 }
 
-QWidget* StatsSettingsTab::makeMostUsed() {
-  auto* section = new QWidget;
-  QVBoxLayout* lines = makeSection(section, tr("Most Used"));
-  triggers_->setMinimumHeight(lowestList);
-  triggers_->setSelectionMode(QAbstractItemView::NoSelection);
-  triggers_->setAccessibleName(tr("Most Used"));
-  triggersOrNote_ = makeStack(triggers_, tr("No snippets used yet"), Qt::AlignLeading | Qt::AlignTop);
-  lines->addLayout(triggersOrNote_, 1);
-  return section;
+void StatsSettingsTab::addMostUsed(QVBoxLayout& column) {
+  const QString title = tr("Most Used");
+  noneUsed_ = new StyledLabel(tr("No snippets used yet"), TextStyle::caption, ColorRole::secondary);
+  mostUsed_ = new MostUsedList;
+  mostUsed_->setAccessibleName(title);
+  auto* section = addSection(column, title);
+  section->addWidget(noneUsed_);
+  section->addWidget(mostUsed_);
 }
 
 void StatsSettingsTab::showEvent(QShowEvent* event) {
-  QWidget::showEvent(event);
   refresh();
+  QWidget::showEvent(event);
 }
 
-void StatsSettingsTab::refreshSoon() {
-  if (!isVisible() || isRefreshing_) return;
-  isRefreshing_ = true;
-  queue_.async([this, weak = std::weak_ptr<char>(alive_)] {
-    if (weak.expired()) return;
-    isRefreshing_ = false;
-    refresh();
+void StatsSettingsTab::refreshLater() {
+  if (!isVisible() || std::exchange(isRefreshPending_, true)) return;
+  queue_.async([tab = QPointer(this)] {
+    if (!tab) return;
+    tab->isRefreshPending_ = false;
+    if (tab->isVisible()) tab->refresh();
   });
 }
 
 void StatsSettingsTab::refresh() {
   total_->setValue(QString::number(tracker_.totalExpansions()));
   today_->setValue(QString::number(tracker_.todayCount()));
-  showDays();
-  showTriggers();
+  refreshChart();
+  refreshMostUsed();
 }
 
-void StatsSettingsTab::showDays() {
+void StatsSettingsTab::refreshChart() {
   std::vector<BarChart::Bar> bars;
-  bool isEmpty = true;
-  for (const UsageTracker::DayCount& day : tracker_.dailyCounts()) {
-    bars.push_back({weekday(day.date, locale()), day.count});
-    isEmpty = isEmpty && day.count == 0;
-  }
+  for (const auto& day : tracker_.dailyCounts()) bars.push_back(barOf(day, locale()));
+  const bool isUsed = std::any_of(bars.begin(), bars.end(), [](const auto& bar) { return bar.count != 0; });
+  noUsage_->setVisible(!isUsed);
+  chart_->setVisible(isUsed);
   chart_->setBars(std::move(bars));
-  chartOrNote_->setCurrentIndex(isEmpty ? 1 : 0);
 }
 
-void StatsSettingsTab::showTriggers() {
-  const QString character = QString::fromStdString(preferences::currentTriggerCharacter(defaults_));
-  const auto used = tracker_.topUsed(mostRows);
-  triggers_->clear();
-  for (std::size_t index = 0; index < used.size(); ++index) {
-    const QString trigger = character + QString::fromStdString(used[index].trigger) + character;
-    auto* item = new QListWidgetItem(triggers_);
-    QWidget* row = makeRow(index + 1, trigger, used[index].count);
-    item->setData(Qt::AccessibleTextRole,
-                  QStringLiteral("%1. %2 %3").arg(index + 1).arg(trigger).arg(used[index].count));
-    item->setSizeHint(row->sizeHint());
-    triggers_->setItemWidget(item, row);
+void StatsSettingsTab::refreshMostUsed() {
+  const QString mark = QString::fromStdString(preferences::currentTriggerCharacter(defaults_));
+  std::vector<MostUsedList::Entry> entries;
+  for (const auto& [trigger, count] : tracker_.topUsed(mostUsedCount)) {
+    entries.push_back({mark + QString::fromStdString(trigger) + mark, count});
   }
-  triggersOrNote_->setCurrentIndex(used.empty() ? 1 : 0);
+  noneUsed_->setVisible(entries.empty());
+  mostUsed_->setVisible(!entries.empty());
+  mostUsed_->setEntries(entries);
 }
 
 }  // namespace tessarin::ui

@@ -1,59 +1,65 @@
 #pragma once
 
 #include <QWidget>
-#include <memory>
 
 #include "base/Subscription.h"
 
-class QListWidget;
-class QStackedLayout;
+class QVBoxLayout;
 
 namespace tessarin {
+
 class MainQueue;
 class UsageTracker;
 class UserDefaults;
-}  // namespace tessarin
 
-namespace tessarin::ui {
+namespace ui {
 
 class BarChart;
+class MostUsedList;
 class StatCard;
+class StyledLabel;
 
-/// The tab that shows how much the expander is used, live.
+/// How much the expander is used: two numbers, the last seven days as bars, and the ten triggers used most.
+/// Keeps nothing itself: while it is shown it reads everything anew soon after each expansion, and whenever
+/// it comes into view. All references outlive it.
 class StatsSettingsTab final : public QWidget {
   Q_OBJECT
 
  public:
-  /// All outlive the tab.
   StatsSettingsTab(UsageTracker& tracker, UserDefaults& defaults, MainQueue& queue,
                    QWidget* parent = nullptr);
+
+  /// Room for all of it; with less it scrolls.
+  QSize sizeHint() const override;
 
  protected:
   void showEvent(QShowEvent* event) override;
 
  private:
-  QWidget* makeCards();
-  QWidget* makeChart();
-  QWidget* makeMostUsed();
-  /// Once, a little later, for all changes that come together; not while the tab is hidden.
-  void refreshSoon();
+  void putIntoScrollArea();
+  void addCards(QVBoxLayout& column);
+  void addChart(QVBoxLayout& column);
+  void addMostUsed(QVBoxLayout& column);
+  /// Soon, as an expansion that is being recorded must not wait for it; once for several.
+  void refreshLater();
   void refresh();
-  void showDays();
-  void showTriggers();
+  void refreshChart();
+  void refreshMostUsed();
 
   UsageTracker& tracker_;
   UserDefaults& defaults_;
   MainQueue& queue_;
-  StatCard* total_;
-  StatCard* today_;
-  BarChart* chart_;
-  QStackedLayout* chartOrNote_;
-  QListWidget* triggers_;
-  QStackedLayout* triggersOrNote_;
-  bool isRefreshing_ = false;
-  Subscription recordings_;
-  Subscription preferences_;
-  std::shared_ptr<char> alive_ = std::make_shared<char>();
+  QWidget* content_;
+  StatCard* total_ = nullptr;
+  StatCard* today_ = nullptr;
+  StyledLabel* noUsage_ = nullptr;
+  BarChart* chart_ = nullptr;
+  StyledLabel* noneUsed_ = nullptr;
+  MostUsedList* mostUsed_ = nullptr;
+  bool isRefreshPending_ = false;
+  Subscription usageObserver_;
+  Subscription defaultsObserver_;
 };
 
-}  // namespace tessarin::ui
+}  // namespace ui
+}  // namespace tessarin

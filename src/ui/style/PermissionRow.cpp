@@ -14,11 +14,12 @@ PermissionRow::PermissionRow(const Texts& texts, int symbolSize, QWidget* parent
       texts_(texts),
       symbol_(new SymbolLabel(texts.missingSymbol, symbolSize, texts.missingColor)),
       grant_(new QPushButton(tr("Grant"))) {
+  auto* name = new StyledLabel(texts.name, TextStyle::headline);
   auto* description = new StyledLabel(texts.description, TextStyle::caption, ColorRole::secondary);
   description->wrapped();
   auto* lines = new QVBoxLayout;
   lines->setSpacing(2);
-  lines->addWidget(new StyledLabel(texts.name, TextStyle::headline));
+  lines->addWidget(&name->wrapped());
   lines->addWidget(description);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);

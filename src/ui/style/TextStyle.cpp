@@ -26,6 +26,8 @@ QFont monospaced(const QFont& base) {
 
 QFont fontOf(TextStyle style, const QFont& base) {
   switch (style) {
+    case TextStyle::figure:
+      return scaled(base, 2.1, QFont::Bold);
     case TextStyle::largeTitle:
       return scaled(base, 2.0, QFont::Bold);
     case TextStyle::title:

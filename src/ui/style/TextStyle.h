@@ -6,6 +6,7 @@ namespace tessarin::ui {
 
 /// The sizes of text in our windows, relative to the desktop's own font.
 enum class TextStyle {
+  figure,  ///< a number that stands for itself
   largeTitle,
   title,
   title2,
