@@ -13,6 +13,7 @@ namespace {
 
 constexpr int widestSpacing = 20;
 constexpr int narrowestSpacing = 4;
+constexpr int edge = 6;
 
 /// As high as its texts are at the width that it has; labels that wrap ask for more on their own.
 class Content final : public QWidget {
@@ -31,7 +32,7 @@ class Content final : public QWidget {
 StepPage::StepPage(QWidget* parent) : QScrollArea(parent) {
   auto* content = new Content;
   column_ = new QVBoxLayout(content);
-  column_->setContentsMargins(0, 0, 0, 0);
+  column_->setContentsMargins(0, edge, 0, edge);
   column_->setSpacing(widestSpacing);
   column_->addStretch(1);
   column_->addStretch(1);

@@ -1,5 +1,6 @@
 #include "ui/settings/BarChart.h"
 
+#include <QAccessibleWidget>
 #include <QFontMetricsF>
 #include <QLinearGradient>
 #include <QLocale>
@@ -24,9 +25,16 @@ constexpr double gridOpacity = 0.12;
 constexpr double linesPerMark = 1.7;
 constexpr int mostIntervals = 4;
 
+/// Said to be a chart, so that its description is not passed over as that of a mere container.
+QAccessibleInterface* makeAccessible(const QString& /*className*/, QObject* object) {
+  auto* chart = qobject_cast<BarChart*>(object);
+  return chart != nullptr ? new QAccessibleWidget(chart, QAccessible::Chart) : nullptr;
+}
+
 }  // namespace
 
 BarChart::BarChart(QWidget* parent) : QWidget(parent) {
+  QAccessible::installFactory(makeAccessible);
   setFixedHeight(chartHeight);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }

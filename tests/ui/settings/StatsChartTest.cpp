@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QImage>
+#include <QLocale>
 
 #include "ui/settings/BarChart.h"
 
@@ -21,6 +23,7 @@ TEST(ChartAxis, HasRoundStepsOfWholeCounts) {
 class BarChartTest : public ::testing::Test {
  protected:
   BarChartTest() {
+    chart.setLocale(QLocale(QLocale::English));
     chart.resize(500, BarChart::chartHeight);
     chart.setBars({{"Mon", "Monday", 0}, {"Tue", "Tuesday", 1}, {"Wed", "Wednesday", 5000}});
   }
@@ -44,6 +47,12 @@ TEST_F(BarChartTest, BarsAreRoundedAndOfTheAccentFromLightToFull) {
   EXPECT_GT(colorAt(image, {bar.center().x(), bar.top() + 4}).lightness(),
             colorAt(image, {bar.center().x(), bar.bottom() - 4}).lightness());
   EXPECT_NE(colorAt(image, bar.center()), ground);
+}
+
+TEST_F(BarChartTest, IsReadAsAChartOfItsCounts) {
+  const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&chart);
+  EXPECT_EQ(accessible->role(), QAccessible::Chart);
+  EXPECT_EQ(accessible->text(QAccessible::Description), "Monday 0, Tuesday 1, and Wednesday 5000");
 }
 
 TEST_F(BarChartTest, TheFirstBarStandsWhereReadingBegins) {
