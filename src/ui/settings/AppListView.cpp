@@ -37,7 +37,7 @@ ShortLabel* makeLine(const QString& text, TextStyle style, ColorRole color = Col
 /// Name over identifier where the application is installed, with its icon if it has one; else the identifier
 /// alone.
 void describe(QHBoxLayout* row, const QString& bundleID, const std::optional<ApplicationInfo>& installed) {
-  if (!installed) return row->addWidget(makeLine(bundleID, TextStyle::monospacedBody), 1);
+  if (!installed) return row->addWidget(makeLine(bundleID, TextStyle::monospacedBody), 1, Qt::AlignVCenter);
   const QIcon icon = applicationIcon(installed->icon);
   if (!icon.isNull()) row->addWidget(makeIcon(icon));
   auto* lines = new QVBoxLayout;

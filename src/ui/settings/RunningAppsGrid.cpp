@@ -19,7 +19,7 @@ constexpr FlowGrid::Spacing spacing{120, 8, 6};
 /// What a button shows leaves the pointer to the button.
 void addPart(QHBoxLayout* label, QLabel* part, int stretch) {
   part->setAttribute(Qt::WA_TransparentForMouseEvents);
-  label->addWidget(part, stretch);
+  label->addWidget(part, stretch, Qt::AlignVCenter);
 }
 
 }  // namespace
