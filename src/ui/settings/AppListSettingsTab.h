@@ -9,11 +9,12 @@
 #include "ui/settings/SettingsServices.h"
 
 class QLineEdit;
-class QListWidget;
+class QPushButton;
 
 namespace tessarin::ui {
 
-class FlowGrid;
+class AppListView;
+class RunningAppsGrid;
 
 /// A tab that edits one of the lists of applications: its entries, buttons for the applications that run and
 /// a field for an identifier.
@@ -34,24 +35,21 @@ class AppListSettingsTab : public QWidget {
   void showEvent(QShowEvent* event) override;
 
  private:
-  QWidget* makeRunningApps();
   QWidget* makeManualEntry(const QString& placeholder);
-  QWidget* makeRow(const std::string& bundleID);
-  QWidget* makeAppButton(const RunningAppInfo& app);
 
   void add(const std::string& bundleID);
   void addManualEntry();
   void remove(const std::string& bundleID);
-  void showEntries();
-  void showRunningApps();
+  void showList();
+  void orderFocus();
 
   SettingsServices services_;
   AppList list_;
   std::vector<RunningAppInfo> runningApps_;
-  QListWidget* entries_;
-  QWidget* appButtons_;
-  FlowGrid* grid_;
+  AppListView* entries_;
+  RunningAppsGrid* grid_;
   QLineEdit* manualBundleID_;
+  QPushButton* addButton_;
 };
 
 }  // namespace tessarin::ui

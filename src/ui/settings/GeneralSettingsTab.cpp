@@ -115,10 +115,12 @@ void GeneralSettingsTab::changeLaunchAtLogin(bool launchAtLogin) {
 
 void GeneralSettingsTab::showPreferences() {
   const QString trigger =
-      QString::fromStdString(preferences::currentTriggerCharacter(services_.userDefaults));
-  for (QAbstractButton* button : triggers_->buttons()) {
-    if (button->text() == trigger) button->setChecked(true);
-  }
+      QString::fromStdString(services_.userDefaults.string(preferences::key::triggerCharacter)
+                                 .value_or(preferences::defaultTriggerCharacter));
+  // Another trigger than those offered is none of the choices.
+  triggers_->setExclusive(false);
+  for (QAbstractButton* button : triggers_->buttons()) button->setChecked(button->text() == trigger);
+  triggers_->setExclusive(true);
   triggerHint_->setText(tr("Type %1shortcode%1 to trigger autocomplete").arg(trigger));
   updateHint_->setText(tr("System-wide %1shortcode%1 autocomplete for macOS").arg(trigger));
   showMenuBarIcon_->setChecked(services_.userDefaults.boolean(preferences::key::showMenuBarIcon)

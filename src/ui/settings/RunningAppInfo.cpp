@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "platform/Workspace.h"
+#include "ui/settings/ApplicationIcon.h"
 
 namespace tessarin::ui {
 namespace {
@@ -32,12 +33,6 @@ std::vector<RunningAppInfo> runningApps(Workspace& workspace) {
     return collator.compare(a.name, b.name) < 0;
   });
   return apps;
-}
-
-QIcon applicationIcon(const std::string& nameOrPath) {
-  const QString name = QString::fromStdString(nameOrPath);
-  if (name.startsWith('/')) return QIcon(name);
-  return QIcon::fromTheme(name);
 }
 
 }  // namespace tessarin::ui

@@ -22,7 +22,4 @@ struct RunningAppInfo {
 /// there twice is listed twice.
 std::vector<RunningAppInfo> runningApps(Workspace& workspace);
 
-/// By its name in the icon theme, or by its path.
-QIcon applicationIcon(const std::string& nameOrPath);
-
 }  // namespace tessarin::ui

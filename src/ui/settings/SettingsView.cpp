@@ -1,5 +1,7 @@
 #include "ui/settings/SettingsView.h"
 
+#include <QShortcut>
+
 #include "model/SnippetStore.h"
 #include "ui/settings/BlockedAppsSettingsTab.h"
 #include "ui/settings/GeneralSettingsTab.h"
@@ -29,6 +31,14 @@ SettingsView::SettingsView(const SettingsServices& services, QWidget* parent) : 
   addTab(new BlockedAppsSettingsTab(services), symbolIcon("hand-raised"), tr("Blocked Apps"));
   addTab(new PasteFallbackAppsSettingsTab(services), symbolIcon("doc-on-clipboard"), tr("Paste Mode Apps"));
   addTab(new PermissionsSettingsTab(services), symbolIcon("lock-shield"), tr("Permissions"));
+  addShortcut(Qt::CTRL | Qt::Key_PageDown, 1);
+  addShortcut(Qt::CTRL | Qt::Key_PageUp, -1);
+}
+
+/// Ctrl+Tab is the widget's own.
+void SettingsView::addShortcut(QKeyCombination keys, int step) {
+  connect(new QShortcut(keys, this), &QShortcut::activated, this,
+          [this, step] { setCurrentIndex((currentIndex() + step + count()) % count()); });
 }
 
 }  // namespace tessarin::ui

@@ -12,6 +12,10 @@ class SettingsView final : public QTabWidget {
 
  public:
   explicit SettingsView(const SettingsServices& services, QWidget* parent = nullptr);
+
+ private:
+  /// The keys lead that many tabs on, round and round.
+  void addShortcut(QKeyCombination keys, int step);
 };
 
 }  // namespace tessarin::ui

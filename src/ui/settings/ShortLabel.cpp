@@ -15,10 +15,14 @@ ShortLabel::ShortLabel(int mostLines, TextStyle style, ColorRole color, QWidget*
   setSizePolicy(policy);
 }
 
+/// A whole number of points that no descender leaves: the font's own number is rounded.
+int ShortLabel::lineHeight() const {
+  return static_cast<int>(std::ceil(QFontMetricsF(font()).lineSpacing()));
+}
+
 /// Calls `visit(line, top)` for each line that is shown and returns how many there are.
 template <class Visit>
 int ShortLabel::layOut(int width, Visit visit) const {
-  const int lineHeight = fontMetrics().lineSpacing();
   QString shown = text();
   shown.replace('\n', QChar::LineSeparator);
   int lines = 0;
@@ -35,14 +39,14 @@ int ShortLabel::layOut(int width, Visit visit) const {
     ++lines;
     const bool goesOn = line.textStart() + line.textLength() < shown.size();
     const QString rest = goesOn && lines == mostLines_ ? shown.mid(line.textStart()) : QString();
-    visit(line, (lines - 1) * lineHeight, rest);
+    visit(line, (lines - 1) * lineHeight(), rest);
   }
   layout.endLayout();
   return std::max(lines, 1);
 }
 
 int ShortLabel::heightForWidth(int width) const {
-  return layOut(width, [](const QTextLine&, int, const QString&) {}) * fontMetrics().lineSpacing();
+  return layOut(width, [](const QTextLine&, int, const QString&) {}) * lineHeight();
 }
 
 QSize ShortLabel::sizeHint() const {
@@ -51,12 +55,11 @@ QSize ShortLabel::sizeHint() const {
   for (const QString& line : text().split('\n')) {
     widest = std::max(widest, fontMetrics().horizontalAdvance(line) + 2);
   }
-  return {widest, fontMetrics().lineSpacing()};
+  return {widest, lineHeight()};
 }
 
 QSize ShortLabel::minimumSizeHint() const {
-  return {std::min(sizeHint().width(), fontMetrics().horizontalAdvance("…") * 4),
-          fontMetrics().lineSpacing()};
+  return {std::min(sizeHint().width(), fontMetrics().horizontalAdvance("…") * 4), lineHeight()};
 }
 
 void ShortLabel::paintEvent(QPaintEvent* /*event*/) {
@@ -71,7 +74,7 @@ void ShortLabel::paintEvent(QPaintEvent* /*event*/) {
       return;
     }
     const QString cut = rest.section(QChar::LineSeparator, 0, 0) + QStringLiteral("…");
-    const QRect place(0, top, width(), fontMetrics().lineSpacing());
+    const QRect place(0, top, width(), lineHeight());
     painter.drawText(place, static_cast<int>(side) | Qt::TextSingleLine,
                      fontMetrics().elidedText(cut, Qt::ElideRight, width()));
   });

@@ -20,6 +20,7 @@ class ShortLabel final : public StyledLabel {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  int lineHeight() const;
   template <class Visit>
   int layOut(int width, Visit visit) const;
 

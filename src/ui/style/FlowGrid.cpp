@@ -55,11 +55,13 @@ QSize FlowGrid::minimumSize() const {
 void FlowGrid::setGeometry(const QRect& rect) {
   QLayout::setGeometry(rect);
   const int columns = columnsIn(rect.width());
-  const int width = (rect.width() - (columns - 1) * spacing_.columns) / columns;
   const int height = rowHeight();
+  // The pixels that are left over widen some columns, so that the last one ends at the edge.
+  const auto left = [&](int column) { return column * (rect.width() + spacing_.columns) / columns; };
   for (int index = 0; index < count(); ++index) {
-    const QRect cell(rect.x() + index % columns * (width + spacing_.columns),
-                     rect.y() + index / columns * (height + spacing_.rows), width, height);
+    const int column = index % columns;
+    const QRect cell(rect.x() + left(column), rect.y() + index / columns * (height + spacing_.rows),
+                     left(column + 1) - left(column) - spacing_.columns, height);
     items_[static_cast<std::size_t>(index)]->setGeometry(
         QStyle::visualRect(parentWidget() ? parentWidget()->layoutDirection() : Qt::LeftToRight, rect, cell));
   }

@@ -10,6 +10,7 @@ StyledLabel::StyledLabel(const QString& text, TextStyle style, ColorRole color, 
   setTextFormat(Qt::PlainText);
   setForegroundRole(QPalette::WindowText);  // else that of a list, in a list
   restyle();
+  alignToSide();
 }
 
 StyledLabel& StyledLabel::wrapped() {
@@ -36,6 +37,7 @@ void StyledLabel::changeEvent(QEvent* event) {
                        event->type() == QEvent::ApplicationPaletteChange ||
                        event->type() == QEvent::PaletteChange;
   if (isStyle && !isRestyling_) restyle();
+  if (event->type() == QEvent::LayoutDirectionChange) alignToSide();
 }
 
 void StyledLabel::restyle() {
@@ -45,6 +47,15 @@ void StyledLabel::restyle() {
   colors.setColor(QPalette::WindowText, colorOf(color_, colors));
   setPalette(colors);
   isRestyling_ = false;
+}
+
+/// The side of the layout, not that of the text: a line that is not translated stands below the others.
+void StyledLabel::alignToSide() {
+  const Qt::Alignment horizontal = alignment() & Qt::AlignHorizontal_Mask;
+  const bool isAtSide = horizontal == Qt::AlignLeft || horizontal.testFlag(Qt::AlignAbsolute);
+  if (!isAtSide) return;
+  const Qt::Alignment side = isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+  setAlignment((alignment() & Qt::AlignVertical_Mask) | side | Qt::AlignAbsolute);
 }
 
 }  // namespace tessarin::ui

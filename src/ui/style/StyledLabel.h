@@ -26,6 +26,7 @@ class StyledLabel : public QLabel {
 
  private:
   void restyle();
+  void alignToSide();
 
   TextStyle style_;
   ColorRole color_;

@@ -9,6 +9,7 @@
 #include "ui/settings/AppListSettingsTab.h"
 #include "ui/settings/BlockedAppsSettingsTab.h"
 #include "ui/settings/PasteFallbackAppsSettingsTab.h"
+#include "ui/settings/RunningAppsGrid.h"
 #include "ui/settings/SettingsTest.h"
 
 namespace tessarin::ui {
@@ -63,6 +64,23 @@ class AppListSettingsTabTest : public testing::SettingsTest {
 
   std::vector<std::string> stored() const {
     return defaults.stringArray("blacklistedApps").value_or(std::vector<std::string>());
+  }
+
+  QListWidget* list() const { return tab->findChild<QListWidget*>(); }
+
+  /// What has the keyboard, once the tab has it at all.
+  QString focused() const {
+    const QWidget* widget = QApplication::focusWidget();
+    return widget ? widget->accessibleName() : QString();
+  }
+  void openFocused() {
+    open();
+    ASSERT_TRUE(testing::showFocused(*tab, *list()));
+  }
+  void press(Qt::Key key) const {
+    QTest::keyClick(QApplication::focusWidget(), key);
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
 
   std::unique_ptr<AppListSettingsTab> tab;
@@ -135,6 +153,93 @@ TEST_F(AppListSettingsTabTest, namesInstalledApplications) {
   EXPECT_TRUE(shows<QLabel>(*tab, "org.example.editor"));
   click<QToolButton>("Remove Editor");
   EXPECT_FALSE(shows<QLabel>(*tab, "Editor"));
+}
+
+TEST_F(AppListSettingsTabTest, theTabKeyGoesFromTopToBottom) {
+  workspace.running = {{"org.example.a", "Alpha", false}, {"org.example.b", "beta", false}};
+  openFocused();
+  tab->findChild<QLineEdit*>()->setText("org.example.c");
+  for (const char* name : {"Remove com.apple.MobileSMS", "Remove com.tinyspeck.slackmacgap", "Add Alpha",
+                           "Add beta", "Bundle ID", ""}) {
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focused(), name);
+  }
+  press(Qt::Key_Space);
+  EXPECT_THAT(stored(), Contains("org.example.c"));
+  EXPECT_EQ(list()->count(), 3);
+}
+
+TEST_F(AppListSettingsTabTest, theKeyboardStaysInItsPlaceWhenItsRowGoes) {
+  defaults.set("blacklistedApps", std::vector<std::string>{"org.example.a", "org.example.b"});
+  workspace.running = {{"org.example.c", "Gamma", false}, {"org.example.d", "Delta", false}};
+  openFocused();
+  for (int time = 0; time < 3; ++time) press(Qt::Key_Tab);
+  for (const char* name : {"Remove org.example.a", "Remove org.example.b", "Remove com.tinyspeck.slackmacgap",
+                           "Remove com.apple.MobileSMS", "Blocked Apps"}) {
+    EXPECT_EQ(focused(), name);
+    if (list()->count() > 0) press(Qt::Key_Space);
+  }
+  EXPECT_TRUE(defaults.stringArray("blacklistedApps")->empty());
+  press(Qt::Key_Tab);
+  EXPECT_EQ(focused(), "Add Delta");
+  press(Qt::Key_Space);
+  EXPECT_EQ(focused(), "Add Gamma");
+}
+
+TEST_F(AppListSettingsTabTest, theDeleteKeyRemovesTheCurrentEntry) {
+  openFocused();
+  press(Qt::Key_Down);
+  press(Qt::Key_Delete);
+  EXPECT_THAT(stored(), ElementsAre("com.apple.MobileSMS"));
+  press(Qt::Key_Delete);
+  EXPECT_THAT(listed(), IsEmpty());
+  press(Qt::Key_Delete);
+  EXPECT_EQ(list()->count(), 0);
+}
+
+TEST_F(AppListSettingsTabTest, aButtonThatTheKeyboardComesToIsInView) {
+  std::vector<std::string> many;
+  for (char letter = 'a'; letter <= 'z'; ++letter) many.push_back(std::string("org.example.") + letter);
+  defaults.set("blacklistedApps", many);
+  openFocused();
+  for (std::size_t row = 0; row < many.size(); ++row) {
+    press(Qt::Key_Tab);
+    const QWidget* button = QApplication::focusWidget();
+    EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect()) << "row " << row;
+  }
+}
+
+TEST_F(AppListSettingsTabTest, longTextsAreCutAndLeaveTheButtonsInReach) {
+  const std::string endless(300, 'm');
+  defaults.set("blacklistedApps", std::vector<std::string>{endless});
+  workspace.installed["com.apple.MobileSMS"] = {endless, "sms.desktop", ""};
+  workspace.running = {{"org.example.a", endless, false}};
+  openFocused();
+  for (const auto* button : tab->findChildren<QAbstractButton*>()) {
+    EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect());
+  }
+  EXPECT_LT(tab->findChildren<QPushButton*>().front()->width(), 300);
+}
+
+TEST_F(AppListSettingsTabTest, theGridIsAsHighAsItsButtonsUpToALimit) {
+  open();
+  auto* grid = tab->findChild<RunningAppsGrid*>();
+  EXPECT_EQ(grid->height(), 0);
+  workspace.running = {{"org.example.0", "0", false}};
+  open();
+  grid = tab->findChild<RunningAppsGrid*>();
+  const int row = grid->height();
+  EXPECT_GT(row, 0);
+  for (int number = 1; number < 60; ++number) {
+    workspace.running.push_back({"org.example." + std::to_string(number), std::to_string(number), false});
+  }
+  open();
+  grid = tab->findChild<RunningAppsGrid*>();
+  EXPECT_EQ(grid->height(), 120);
+  EXPECT_EQ(grid->buttons()[4]->y(), row + 6) << "four columns of at least 120 fit";
+  tab->resize(400, 440);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(grid->buttons()[2]->y(), row + 6) << "the columns are counted anew";
 }
 
 }  // namespace

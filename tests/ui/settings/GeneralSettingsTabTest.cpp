@@ -65,6 +65,24 @@ TEST_F(GeneralSettingsTabTest, theTriggerCharacterIsShownEverywhereAtOnce) {
   EXPECT_TRUE(child<QRadioButton>(*tab, ";")->isChecked()) << "changed by another program";
 }
 
+TEST_F(GeneralSettingsTabTest, aTriggerThatIsNotOfferedIsNoneOfTheChoices) {
+  open();
+  defaults.set("triggerCharacter", "!");
+  for (const auto* choice : tab->findChildren<QRadioButton*>()) EXPECT_FALSE(choice->isChecked());
+  EXPECT_TRUE(shows<QLabel>(*tab, "Type !shortcode! to trigger autocomplete"));
+  press(child<QRadioButton>(*tab, "/"));
+  EXPECT_EQ(defaults.string("triggerCharacter"), "/");
+}
+
+TEST_F(GeneralSettingsTabTest, arrowKeysChooseTheTrigger) {
+  open();
+  ASSERT_TRUE(testing::showFocused(*tab, *child<QRadioButton>(*tab, ":")));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+  EXPECT_EQ(defaults.string("triggerCharacter"), ";");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+  EXPECT_EQ(defaults.string("triggerCharacter"), "/");
+}
+
 TEST_F(GeneralSettingsTabTest, theMenuBarIconIsShownUnlessStoredOtherwise) {
   open();
   EXPECT_TRUE(icon()->isChecked());

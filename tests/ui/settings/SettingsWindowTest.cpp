@@ -48,6 +48,31 @@ TEST_F(SettingsWindowTest, showsSixTabsAndOpensOnTheFirst) {
   EXPECT_EQ(tabs()->currentIndex(), 0);
 }
 
+TEST_F(SettingsWindowTest, keysCloseIt) {
+  const QKeyCombination cases[] = {Qt::Key_Escape, Qt::CTRL | Qt::Key_W};
+  for (const QKeyCombination keys : cases) {
+    settings.open();
+    ASSERT_TRUE(testing::showFocused(*settings.window(), *tabs()->tabBar()));
+    QTest::keyClick(tabs()->tabBar(), keys.key(), keys.keyboardModifiers());
+    EXPECT_FALSE(settings.window()->isVisible());
+  }
+}
+
+TEST_F(SettingsWindowTest, keysLeadFromTabToTabRoundAndRound) {
+  struct {
+    QKeyCombination keys;
+    int tab;
+  } const steps[] = {{Qt::CTRL | Qt::Key_PageDown, 1}, {Qt::CTRL | Qt::Key_Tab, 2},
+                     {Qt::CTRL | Qt::Key_PageUp, 1},   {Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, 0},
+                     {Qt::CTRL | Qt::Key_PageUp, 5},   {Qt::CTRL | Qt::Key_PageDown, 0}};
+  settings.open();
+  ASSERT_TRUE(testing::showFocused(*settings.window(), *tabs()->tabBar()));
+  for (const auto& [keys, tab] : steps) {
+    QTest::keyClick(QApplication::focusWidget(), keys.key(), keys.keyboardModifiers());
+    EXPECT_EQ(tabs()->currentIndex(), tab);
+  }
+}
+
 TEST_F(SettingsWindowTest, everythingThatTakesTheKeyboardHasAName) {
   workspace.running = {{"org.example.a", "Alpha", false}};
   store->addSnippet(mine("one"));
@@ -80,7 +105,9 @@ TEST_F(SettingsWindowTest, permissionsAreLiveWhileTheyAreShown) {
   queue.advance(milliseconds(1));
   EXPECT_EQ(grants().size(), 1);
   inputMonitoring.granted = true;
+  const auto waiting = queue.pending();
   tabs()->setCurrentIndex(0);
+  EXPECT_EQ(queue.pending(), waiting - 1) << "no wake-up while it is hidden";
   tabs()->setCurrentIndex(5);
   EXPECT_EQ(grants().size(), 0) << "asked again when it is shown";
 }
