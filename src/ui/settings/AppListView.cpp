@@ -53,6 +53,7 @@ AppListView::AppListView(Workspace& workspace, std::function<void(const std::str
                          QWidget* parent)
     : QListWidget(parent), workspace_(workspace), remove_(std::move(remove)) {
   setSelectionMode(NoSelection);
+  setResizeMode(Adjust);
   setVerticalScrollMode(ScrollPerPixel);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
