@@ -49,7 +49,7 @@ int FlowGrid::heightForWidth(int width) const {
 }
 
 QSize FlowGrid::minimumSize() const {
-  return {spacing_.narrowest, heightForWidth(geometry().width())};
+  return {spacing_.narrowest, rowHeight()};  // the width decides on more
 }
 
 void FlowGrid::setGeometry(const QRect& rect) {

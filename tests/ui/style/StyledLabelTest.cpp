@@ -1,0 +1,52 @@
+#include <gtest/gtest.h>
+
+#include <QImage>
+
+#include "platform/qt/TestApplication.h"
+#include "ui/style/StyledLabel.h"
+
+namespace tessarin::ui {
+namespace {
+
+/// Where the ink of a label begins and ends, as parts of its width.
+std::pair<double, double> inkOf(StyledLabel& label) {
+  label.resize(200, 40);
+  QImage image(label.size(), QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  label.render(&image, {}, {}, QWidget::DrawChildren);
+  int first = image.width();
+  int last = 0;
+  for (int x = 0; x < image.width(); ++x) {
+    for (int y = 0; y < image.height(); ++y) {
+      if (image.pixelColor(x, y).alpha() == 0) continue;
+      first = std::min(first, x);
+      last = std::max(last, x);
+    }
+  }
+  return {first / 200.0, last / 200.0};
+}
+
+TEST(StyledLabel, BeginsAtTheSideOfTheLayoutWhateverItsScript) {
+  testing::ensureApplication();
+  for (const char* text : {"one line", "שורה אחת"}) {
+    StyledLabel label(QString::fromUtf8(text));
+    EXPECT_LT(inkOf(label).first, 0.05) << text;
+    label.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_GT(inkOf(label).second, 0.95) << text;
+    label.wrapped();
+    EXPECT_GT(inkOf(label).second, 0.95) << text;
+    label.setLayoutDirection(Qt::LeftToRight);
+    EXPECT_LT(inkOf(label).first, 0.05) << text;
+  }
+}
+
+TEST(StyledLabel, StaysCentred) {
+  testing::ensureApplication();
+  StyledLabel label("one line");
+  label.centred().setLayoutDirection(Qt::RightToLeft);
+  const auto [first, last] = inkOf(label);
+  EXPECT_NEAR(first, 1 - last, 0.02);
+}
+
+}  // namespace
+}  // namespace tessarin::ui
