@@ -167,13 +167,12 @@
         <source>Add</source>
         <translation>Hinzufügen</translation>
     </message>
+</context>
+<context>
+    <name>tessarin::ui::AppListView</name>
     <message>
         <source>Remove %1</source>
         <translation>%1 entfernen</translation>
-    </message>
-    <message>
-        <source>Add %1</source>
-        <translation>%1 hinzufügen</translation>
     </message>
 </context>
 <context>
@@ -472,6 +471,13 @@
     <message>
         <source>Release notes</source>
         <translation>Versionshinweise</translation>
+    </message>
+</context>
+<context>
+    <name>tessarin::ui::RunningAppsGrid</name>
+    <message>
+        <source>Add %1</source>
+        <translation>%1 hinzufügen</translation>
     </message>
 </context>
 <context>

@@ -12,8 +12,10 @@
 #include "main/SessionKind.h"
 #include "model/StorageFolder.h"
 #include "platform/freedesktop/BaseFolders.h"
+#include "platform/freedesktop/DesktopEntry.h"
 #include "platform/x11/Handles.h"
 #include "ui/Translations.h"
+#include "ui/settings/ApplicationIcon.h"
 
 namespace tessarin {
 namespace {
@@ -49,6 +51,7 @@ int run(int argc, char** argv, bool opensSettings) {
   QApplication::setApplicationName("tessarin");
   QApplication::setDesktopFileName("tessarin");
   ui::installTranslations(application);
+  ui::searchIconsBeside(freedesktop::applicationFolders(processEnvironment));
   Program program(application, signals, resourceFolder(std::filesystem::canonical("/proc/self/exe")),
                   storage);
   return program.run(opensSettings);
