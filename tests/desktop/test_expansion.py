@@ -163,6 +163,8 @@ class HeldKeys(DesktopTest):
                 wait_for(lambda: re.fullmatch(r"a<(\d+)>b", self.saved(editor)), what="one snippet for all letters")
                 self.assertGreater(int(re.search(r"\d+", editor.document()).group()), 3)
 
+                # A key that is held while a terminal's PRIMARY is still lent to a paste may not repeat.
+                wait_for(lambda: b"<" not in clipboard(self.session, selection="primary"), what="PRIMARY to come back")
                 self.play([" " if program is not Xterm else "", "x:kkk"])
                 self.typist.hold("BackSpace", 0.4)
                 self.play(["y:smile\n"])
