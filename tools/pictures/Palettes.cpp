@@ -18,4 +18,15 @@ QPalette lightPalette() {
   return palette;
 }
 
+QPalette highContrastPalette() {
+  QPalette palette(Qt::black, Qt::black);
+  palette.setColor(QPalette::Base, Qt::black);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(role, Qt::white);
+  }
+  palette.setColor(QPalette::Highlight, QColor(0xff, 0xd7, 0x00));
+  palette.setColor(QPalette::HighlightedText, Qt::black);
+  return palette;
+}
+
 }  // namespace tessarin::pictures

@@ -6,5 +6,7 @@ namespace tessarin::pictures {
 
 QPalette lightPalette();
 QPalette darkPalette();
+/// White and yellow on black, as themes for weak eyes have it.
+QPalette highContrastPalette();
 
 }  // namespace tessarin::pictures
