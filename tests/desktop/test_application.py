@@ -70,7 +70,8 @@ class FirstRun(ApplicationTest):
         self.tessarin.command("--settings")
         frame = self.window("Tessarin Settings")
         self.assertEqual((frame.width, frame.height), (640, 480))
-        wait_for(lambda: self.typist.active_frame()[2:] == (640, 480), what="the settings to be in front")
+        wait_for(lambda: self.typist.titled("Tessarin Settings").id == self.typist.active_window(),
+                 what="the settings to be in front")
         for _ in range(2):
             self.typist.press("Tab", "Control_L")
         self.wait_until_heard("Usage Statistics", ":tada:", ":smile:")
