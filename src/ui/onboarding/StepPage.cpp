@@ -29,20 +29,11 @@ class Content final : public QWidget {
 
 }  // namespace
 
-StepPage::StepPage(QWidget* parent) : QScrollArea(parent) {
-  auto* content = new Content;
-  column_ = new QVBoxLayout(content);
+StepPage::StepPage(QWidget* parent) : ScrollPane(new Content, parent), column_(new QVBoxLayout(widget())) {
   column_->setContentsMargins(0, edge, 0, edge);
   column_->setSpacing(widestSpacing);
   column_->addStretch(1);
   column_->addStretch(1);
-  setWidget(content);
-  setWidgetResizable(true);
-  setFrameShape(QFrame::NoFrame);
-  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  setFocusPolicy(Qt::NoFocus);
-  viewport()->setAutoFillBackground(false);
-  content->setAutoFillBackground(false);
 }
 
 void StepPage::add(QWidget* widget, int sidePadding) {
@@ -64,7 +55,7 @@ QString StepPage::text() const {
 }
 
 void StepPage::resizeEvent(QResizeEvent* event) {
-  QScrollArea::resizeEvent(event);
+  ScrollPane::resizeEvent(event);
   fit();
 }
 

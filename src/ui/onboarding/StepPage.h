@@ -1,8 +1,7 @@
 #pragma once
 
-#include <QScrollArea>
-
 #include "ui/style/Colors.h"
+#include "ui/style/ScrollPane.h"
 
 class QVBoxLayout;
 
@@ -12,7 +11,7 @@ class SymbolLabel;
 
 /// One step of the onboarding: a column in the middle of its room. Where large type or long texts need it, it
 /// moves closer together, then does without its symbol, and at the very last scrolls.
-class StepPage : public QScrollArea {
+class StepPage : public ScrollPane {
   Q_OBJECT
 
  public:

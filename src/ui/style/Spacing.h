@@ -2,9 +2,7 @@
 
 namespace tessarin::ui {
 
-/// Points around what a window or a card shows, where nothing else is said.
-inline constexpr int defaultPadding = 16;
-/// Around what a tab of the settings shows, inside of the tab view's own frame.
+/// Points around what a tab of the settings shows, inside of the tab view's own frame.
 inline constexpr int tabPadding = 10;
 
 }  // namespace tessarin::ui
