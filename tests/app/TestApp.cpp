@@ -35,6 +35,8 @@ TestApp::TestApp() {
   insertion.onInserted = [this](const Replacement& replacement) { document.apply(replacement); };
 }
 
+TestApp::~TestApp() = default;
+
 AppDelegate& TestApp::create() {
   const auto hook = [this](const char* name) { return [this, name] { hooksRun.emplace_back(name); }; };
   if (!app) {

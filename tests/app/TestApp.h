@@ -29,6 +29,9 @@ namespace tessarin::testing {
 class TestApp {
  public:
   TestApp();
+  ~TestApp();
+  TestApp(const TestApp&) = delete;
+  TestApp& operator=(const TestApp&) = delete;
 
   /// Makes the controller, if there is none yet, without launching it.
   AppDelegate& create();
