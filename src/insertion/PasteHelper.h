@@ -19,7 +19,7 @@ namespace tessarin {
 ///
 /// Counted from the call with n characters: deletions at once; the text goes onto the pasteboard at
 /// 0.02n + 0.05 s, and once the contents are saved; the paste chord 0.05 s later; the contents come back 0.2
-/// s after the chord, and once the application has read the text or two seconds have passed.
+/// s after the chord, and 0.1 s after the application has last read the text or two seconds after the chord.
 class PasteHelper {
  public:
   /// All must outlive the helper. `primary` is what terminals paste from.
@@ -30,8 +30,8 @@ class PasteHelper {
   PasteHelper& operator=(const PasteHelper&) = delete;
 
   /// One at a time: not before the last `done`. Contents of that paste which have not come back yet then stay
-  /// away until this one is over. `done` says inserted as soon as the application has read the text, at once
-  /// when the text is empty. Otherwise, two seconds after the chord, it says erasedOnly (unchanged when there
+  /// away until this one is over. `done` says inserted as soon as the application has read the text (0.2 s
+  /// after the chord if that was before it), at once when the text is empty. Otherwise, two seconds after the chord, it says erasedOnly (unchanged when there
   /// was nothing to erase).
   void pasteText(std::int64_t deleteCount, const std::string& text, PasteChord chord,
                  TextInsertion::Completion done);

@@ -15,6 +15,8 @@ constexpr milliseconds timePerDeletion{20};
 constexpr milliseconds deletionMargin{50};
 constexpr milliseconds fromWriteToChord{50};
 constexpr milliseconds shortestLoan{200};  ///< from the chord
+/// Some applications read twice: to see whether there is something to paste, and to paste it.
+constexpr milliseconds settlingOfRead{100};
 constexpr milliseconds longestWait{2000};  ///< for the application to read the text, from the chord
 constexpr milliseconds fillingCheck{50};
 
@@ -70,16 +72,22 @@ void PasteSession::postPasteKeystroke() {
 
 void PasteSession::shortestLoanIsOver() {
   isShortestLoanOver_ = true;
-  // An application that watches the pasteboard has read before the chord, and no further read is told of.
-  if (std::ranges::any_of(tools_.loans, &PasteboardLoan::hasBeenRead)) isReadOrGivenUp_ = true;
+  // An application that watches the pasteboard has read before the chord, and may or may not read again: the
+  // keys held back need not wait for that, only the user's contents do.
+  if (std::ranges::any_of(tools_.loans, &PasteboardLoan::hasBeenRead)) answer(InsertionOutcome::inserted);
   restoreWhenAllowed();
-  if (isReadOrGivenUp_) answer(InsertionOutcome::inserted);
 }
 
 void PasteSession::textWasRead() {
+  answer(InsertionOutcome::inserted);
+  ++unsettledReads_;
+  after(settlingOfRead, &PasteSession::readHasSettled);
+}
+
+void PasteSession::readHasSettled() {
+  if (--unsettledReads_ > 0) return;
   isReadOrGivenUp_ = true;
   restoreWhenAllowed();
-  answer(InsertionOutcome::inserted);
 }
 
 void PasteSession::stopWaiting() {

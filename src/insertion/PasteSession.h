@@ -48,6 +48,7 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
   void postPasteKeystroke();
   void shortestLoanIsOver();
   void textWasRead();
+  void readHasSettled();
   void stopWaiting();
   void restoreWhenAllowed();
   void answer(InsertionOutcome outcome);
@@ -61,6 +62,7 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
   bool areAllAsked_ = false;
   bool isWritten_ = false;
   bool isShortestLoanOver_ = false;
+  int unsettledReads_ = 0;
   bool isReadOrGivenUp_ = false;
 };
 

@@ -45,7 +45,7 @@ class Pasteboard {
   /// Whether the application that had the focus when the paste chord was sent has read, to its end, what
   /// `writeText` wrote.
   virtual bool hasBeenRead() const = 0;
-  /// Runs when `hasBeenRead` becomes true. One callback at a time; an empty one forgets it.
+  /// Runs each time that application has read it. One callback at a time; an empty one forgets it.
   virtual void onRead(std::function<void()> callback) = 0;
 };
 

@@ -39,9 +39,8 @@ void FakePasteboard::copyElsewhere(std::vector<PasteboardItem> items) {
 std::optional<std::string> FakePasteboard::readByApplication() {
   if (!isOurText_) return std::nullopt;
   const std::string text = contents_.front().data;
-  const bool isFirst = !std::exchange(hasBeenRead_, true);
-  const auto callback = isFirst ? onRead_ : nullptr;
-  if (callback) callback();
+  hasBeenRead_ = true;
+  if (const auto callback = onRead_) callback();
   return text;
 }
 

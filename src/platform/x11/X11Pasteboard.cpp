@@ -115,7 +115,7 @@ std::function<void()> X11Pasteboard::readObserver() {
   return [&queue = queue_, weak = std::weak_ptr(read_), generation] {
     queue.async([weak, generation] {
       const auto state = weak.lock();
-      if (!state || state->generation != generation || state->hasBeenRead) return;
+      if (!state || state->generation != generation) return;
       state->hasBeenRead = true;
       if (const auto callback = state->callback) callback();
     });
