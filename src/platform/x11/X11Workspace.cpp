@@ -1,7 +1,6 @@
 #include "platform/x11/X11Workspace.h"
 
 #include <algorithm>
-#include <atomic>
 #include <mutex>
 #include <utility>
 
@@ -10,8 +9,9 @@
 #include "platform/freedesktop/OpenUrl.h"
 #include "platform/x11/ActiveWindow.h"
 #include "platform/x11/Atoms.h"
-#include "platform/x11/FocusedClient.h"
+#include "platform/x11/Handles.h"
 #include "platform/x11/PointerPresses.h"
+#include "platform/x11/PopupOutline.h"
 #include "platform/x11/WindowProperties.h"
 #include "platform/x11/XThread.h"
 
@@ -34,6 +34,7 @@ class X11Workspace::Impl {
         atoms_(thread_->connection()),
         properties_(thread_->connection(), atoms_, root_),
         presses_(thread_->connection(), root_),
+        ownPopup_(thread_->connection()),
         active_(thread_->connection(), atoms_, properties_, root_,
                 [this](ActiveWindow::Change change) { followActiveWindow(change); }) {
     active_.refresh();
@@ -63,20 +64,24 @@ class X11Workspace::Impl {
 
   const freedesktop::ApplicationMatcher& matcher() const { return *matcher_; }
   Subscription subscribe(std::function<void()> callback) { return changed_->subscribe(std::move(callback)); }
-  void setOwnPopup(xcb_window_t window) { ownPopup_ = window; }
+  void setOwnPopup(xcb_window_t window) {
+    thread_->post([this, window] { ownPopup_.follow(window); });
+  }
 
  private:
   void handle(const xcb_generic_event_t& event) {
     if (presses_.isPress(event)) {
       handlePress();
     } else {
+      ownPopup_.handle(event);
       active_.handle(event);
     }
   }
 
   void handlePress() {
-    const xcb_window_t window = topLevelUnderPointer(thread_->connection(), root_);
-    if (window != XCB_WINDOW_NONE && window == ownPopup_) return;
+    const Owned<xcb_query_pointer_reply_t> pointer(xcb_query_pointer_reply(
+        thread_->connection(), xcb_query_pointer(thread_->connection(), root_), nullptr));
+    if (pointer && ownPopup_.contains(pointer->root_x, pointer->root_y)) return;
     if (!active_.isManaged()) active_.refresh();  // where the focus follows the pointer, nothing else tells
     tellMain();
   }
@@ -103,12 +108,12 @@ class X11Workspace::Impl {
   std::shared_ptr<Signal<>> changed_ = std::make_shared<Signal<>>();
   mutable std::mutex mutex_;
   std::optional<Application> frontmost_;
-  std::atomic<xcb_window_t> ownPopup_ = XCB_WINDOW_NONE;
   std::unique_ptr<XThread> thread_;
   xcb_window_t root_;
   Atoms atoms_;
   WindowProperties properties_;
   PointerPresses presses_;
+  PopupOutline ownPopup_;
   ActiveWindow active_;
 };
 

@@ -183,6 +183,15 @@ TEST_F(PointerPress, InsideThePopupDoesNot) {
   EXPECT_TRUE(session.waitFor([&] { return told > 0; }));
 }
 
+TEST_F(PointerPress, InsideAPopupThatHasGoneSinceDoesNot) {
+  session.peer->movePointer(650, 150);
+  session.peer->pressAndHide(1, popup);
+  letItLook();
+  EXPECT_EQ(told, 0);
+  session.peer->press(1);
+  EXPECT_TRUE(session.waitFor([&] { return told > 0; }));
+}
+
 TEST_F(PointerPress, TurningTheWheelDoesNot) {
   // Over the bare root the window manager would change to another desktop.
   session.show("other", {.isOverrideRedirect = true}, 900);

@@ -148,6 +148,14 @@ void XClient::press(std::uint8_t button) {
   sync();
 }
 
+void XClient::pressAndHide(std::uint8_t button, xcb_window_t window) {
+  xcb_grab_server(connection_.get());
+  press(button);
+  xcb_unmap_window(connection_.get(), window);
+  xcb_ungrab_server(connection_.get());
+  sync();
+}
+
 void XClient::click(int x, int y) {
   movePointer(x, y);
   press(XCB_BUTTON_INDEX_1);

@@ -44,6 +44,8 @@ class XClient {
 
   void movePointer(int x, int y);
   void press(std::uint8_t button);
+  /// Hides the window with the press, before anybody else can ask the server anything.
+  void pressAndHide(std::uint8_t button, xcb_window_t window);
   void click(int x, int y);
   /// Says that windows are composed here, as long as this client lives.
   void becomeCompositor();
