@@ -15,6 +15,7 @@ class Editor:
     """A text editor on a file; the document is read by saving it."""
 
     command = ()
+    keeps_lines = True
 
     def __init__(self, session, typist):
         self.session = session
@@ -106,6 +107,7 @@ class Xterm(Editor):
     """A terminal that copies its lines into a file; where the lines end does not count."""
 
     command = ("xterm", "-fa", "DejaVu Sans Mono", "-e", "sh", "-c", 'stty -echoctl iutf8; exec cat > "$0"')
+    keeps_lines = False
 
     def _wait_until_it_takes_keys(self):
         self.typist.type("q\n")

@@ -2,21 +2,13 @@
 """Expansion in real programs: typed through XTest, read back from the saved document."""
 
 import json
-import pathlib
 import re
 import time
 import unittest
 
+from desktop_test import DesktopTest
 from editors import ALL, Featherpad, Firefox, GnomeTextEditor, Mousepad, Xterm, clipboard, set_clipboard
-from session import Session, Tessarin, wait_for
-from typist import Typist
-
-SNIPPETS = {
-    "zqxone": "first",
-    "zqxtwo": "second",
-    "today": "{{date}}",
-    "quote": "[{{clipboard}}]",
-} | {"k" * length: f"<{length}>" for length in range(1, 64)}
+from session import wait_for
 
 
 def key(name, *modifiers):
@@ -43,43 +35,6 @@ ROWS = [
 ]
 
 
-class DesktopTest(unittest.TestCase):
-    """One session and one running program for all tests of a class."""
-
-    preferences = {}
-
-    @classmethod
-    def setUpClass(cls):
-        cls.session = cls.enterClassContext(Session())
-        data = pathlib.Path(cls.session.env["XDG_DATA_HOME"]) / "Tessarin"
-        data.mkdir(parents=True)
-        (data / "user-snippets.json").write_text(json.dumps([
-            {"id": f"USER-{trigger}", "name": trigger, "trigger": trigger, "replacement": text, "keywords": [],
-             "category": "Custom", "isBuiltIn": False} for trigger, text in SNIPPETS.items()]))
-        config = pathlib.Path(cls.session.env["XDG_CONFIG_HOME"]) / "tessarin"
-        config.mkdir(parents=True)
-        cls.preferences_path = config / "preferences.json"
-        cls.preferences_path.write_text(json.dumps({"hasCompletedOnboarding": True} | cls.preferences))
-        cls.typist = Typist(cls.session)
-        cls.addClassCleanup(cls.typist.close)
-        cls.tessarin = cls.enterClassContext(Tessarin(cls.session))
-
-    def play(self, steps):
-        for step in steps:
-            if callable(step):
-                step(self.typist)
-            else:
-                self.typist.type(step)
-
-    def check(self, editor, steps, expected, seconds=8):
-        start = editor.document()
-        self.play(steps)
-        self.assertEqual(editor.wait_for_document(start + expected, seconds), start + expected, self.tessarin.log[-600:])
-
-    def wait_for_popup(self):
-        return wait_for(self.typist.popup, what="the popup")
-
-
 class InEveryProgram(DesktopTest):
     def test_rows(self):
         for program in ALL:
@@ -90,9 +45,9 @@ class InEveryProgram(DesktopTest):
 
     def test_browser(self):
         with Firefox(self.session, self.typist) as page:
-            for name, steps, expected in ROWS:
+            for name, steps, expected in ROWS + [("a burst", ["a:smile\nb " * 20], "a😄b " * 20)]:
                 with self.subTest(row=name):
-                    self.check(page, steps, expected)
+                    self.check(page, steps, expected, seconds=30)
 
     def test_two_hundred_without_a_pause(self):
         for program in ALL:

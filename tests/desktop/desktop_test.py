@@ -1,0 +1,52 @@
+"""What the tests of expansion share: a session with snippets of its own, and the program running in it."""
+
+import json
+import pathlib
+import unittest
+
+from session import Session, Tessarin, wait_for
+from typist import Typist
+
+SNIPPETS = {
+    "zqxone": "first",
+    "zqxtwo": "second",
+    "today": "{{date}}",
+    "quote": "[{{clipboard}}]",
+} | {"k" * length: f"<{length}>" for length in range(1, 64)}
+
+
+class DesktopTest(unittest.TestCase):
+    """One session and one running program for all tests of a class."""
+
+    preferences = {}
+
+    @classmethod
+    def setUpClass(cls):
+        cls.session = cls.enterClassContext(Session())
+        data = pathlib.Path(cls.session.env["XDG_DATA_HOME"]) / "Tessarin"
+        data.mkdir(parents=True)
+        (data / "user-snippets.json").write_text(json.dumps([
+            {"id": f"USER-{trigger}", "name": trigger, "trigger": trigger, "replacement": text, "keywords": [],
+             "category": "Custom", "isBuiltIn": False} for trigger, text in SNIPPETS.items()]))
+        config = pathlib.Path(cls.session.env["XDG_CONFIG_HOME"]) / "tessarin"
+        config.mkdir(parents=True)
+        cls.preferences_path = config / "preferences.json"
+        cls.preferences_path.write_text(json.dumps({"hasCompletedOnboarding": True} | cls.preferences))
+        cls.typist = Typist(cls.session)
+        cls.addClassCleanup(cls.typist.close)
+        cls.tessarin = cls.enterClassContext(Tessarin(cls.session))
+
+    def play(self, steps):
+        for step in steps:
+            if callable(step):
+                step(self.typist)
+            else:
+                self.typist.type(step)
+
+    def check(self, editor, steps, expected, seconds=8):
+        start = editor.document()
+        self.play(steps)
+        self.assertEqual(editor.wait_for_document(start + expected, seconds), start + expected, self.tessarin.log[-600:])
+
+    def wait_for_popup(self):
+        return wait_for(self.typist.popup, what="the popup")
