@@ -90,7 +90,7 @@ UpdaterSeams Desktop::updaterSeams(AppcastSource& source, UpdateUserDriver& driv
 
 void Desktop::shutdown() {
   pasteHelper_.finish();
-  if (selections_) selections_->shutdown();
+  if (selections_) selections_->shutdown("/proc/self/exe");
 }
 
 atspi::AtspiAccessibility::Options Desktop::accessibilityOptions() {

@@ -1,8 +1,11 @@
+#include <unistd.h>
+
 #include <QApplication>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <string_view>
 
 #include "base/AtomicFile.h"
 #include "main/CommandLine.h"
@@ -14,6 +17,7 @@
 #include "platform/freedesktop/BaseFolders.h"
 #include "platform/freedesktop/DesktopEntry.h"
 #include "platform/x11/Handles.h"
+#include "platform/x11/SelectionKeeper.h"
 #include "ui/Translations.h"
 #include "ui/settings/ApplicationIcon.h"
 
@@ -59,6 +63,8 @@ int run(int argc, char** argv, bool opensSettings) {
 
 int start(int argc, char** argv) {
   using Action = CommandLine::Action;
+  const bool keepsSelections = argc == 2 && std::string_view(argv[1]) == x11::SelectionKeeper::option;
+  if (keepsSelections) return x11::SelectionKeeper::run(STDIN_FILENO, STDOUT_FILENO);
   const CommandLine line = CommandLine::parse({argv + 1, argv + argc});
   switch (line.action) {
     case Action::run:

@@ -167,8 +167,10 @@ class Tessarin:
         self.stop()
 
     def start(self):
+        ready = "Keyboard monitor started successfully"
+        earlier = self.log.count(ready)
         self._child = self.session.start(self.program, stdout=self.log_path.open("ab"), stderr=subprocess.STDOUT)
-        self.wait_for_log("Keyboard monitor started successfully")
+        self.wait_for_log(ready, earlier + 1)
 
     def stop(self, how=signal.SIGTERM):
         if self._child is None:

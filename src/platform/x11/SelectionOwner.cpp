@@ -20,6 +20,14 @@ Representation unitsRepresentation(xcb_atom_t target, xcb_atom_t type,
   return {target, type, 32, std::make_shared<const std::string>(std::move(bytes))};
 }
 
+xcb_window_t createSelectionWindow(xcb_connection_t* connection, const xcb_screen_t& screen) {
+  const xcb_window_t window = xcb_generate_id(connection);
+  const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
+  xcb_create_window(connection, XCB_COPY_FROM_PARENT, window, screen.root, -1, -1, 1, 1, 0,
+                    XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &events);
+  return window;
+}
+
 SelectionOwner::SelectionOwner(XThread& thread, Atoms& atoms, OutgoingTransfers& transfers,
                                xcb_window_t window, xcb_atom_t selection)
     : thread_(thread),

@@ -31,6 +31,7 @@ class SelectionOwner {
   /// Leaves the selection without an owner, whoever owned it.
   void clear();
   bool isOwner() const { return isOwner_; }
+  xcb_atom_t selection() const { return selection_; }
   const std::vector<Representation>& contents() const { return contents_; }
   /// The server's time of the last `take` or `clear`.
   xcb_timestamp_t time() const { return time_; }
@@ -64,6 +65,8 @@ class SelectionOwner {
   std::uint32_t expectedClient_ = 0;
 };
 
+/// The window that an owner needs: never shown, and told of changed properties.
+xcb_window_t createSelectionWindow(xcb_connection_t* connection, const xcb_screen_t& screen);
 /// A representation whose data are 32-bit units.
 Representation unitsRepresentation(xcb_atom_t target, xcb_atom_t type,
                                    const std::vector<std::uint32_t>& units);

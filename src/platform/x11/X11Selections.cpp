@@ -10,6 +10,7 @@
 #include "platform/x11/Atoms.h"
 #include "platform/x11/OutgoingTransfers.h"
 #include "platform/x11/SelectionChannel.h"
+#include "platform/x11/SelectionKeeper.h"
 #include "platform/x11/X11Pasteboard.h"
 #include "platform/x11/XThread.h"
 
@@ -17,6 +18,7 @@ namespace tessarin::x11 {
 namespace {
 
 constexpr std::chrono::milliseconds handoverPatience{1000};
+constexpr std::chrono::milliseconds keepingPatience{1500};
 
 bool hasSelectionEvents(xcb_connection_t* connection) {
   const auto* extension = xcb_get_extension_data(connection, &xcb_xfixes_id);
@@ -24,14 +26,6 @@ bool hasSelectionEvents(xcb_connection_t* connection) {
   const Owned<xcb_xfixes_query_version_reply_t> version(
       xcb_xfixes_query_version_reply(connection, xcb_xfixes_query_version(connection, 1, 0), nullptr));
   return version != nullptr;
-}
-
-xcb_window_t createOwnerWindow(xcb_connection_t* connection, const xcb_screen_t& screen) {
-  const xcb_window_t window = xcb_generate_id(connection);
-  const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
-  xcb_create_window(connection, XCB_COPY_FROM_PARENT, window, screen.root, -1, -1, 1, 1, 0,
-                    XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &events);
-  return window;
 }
 
 }  // namespace
@@ -42,7 +36,7 @@ class X11Selections::Impl {
       : thread_(std::move(thread)),
         atoms_(thread_->connection()),
         transfers_(thread_->connection(), atoms_.atom("INCR")),
-        window_(createOwnerWindow(thread_->connection(), *thread_->screen())),
+        window_(createSelectionWindow(thread_->connection(), *thread_->screen())),
         firstEvent_(xcb_get_extension_data(thread_->connection(), &xcb_xfixes_id)->first_event),
         channels_{channel(atoms_.atom("CLIPBOARD")), channel(XCB_ATOM_PRIMARY)},
         general_(queue, *thread_, channels_[0]),
@@ -57,12 +51,13 @@ class X11Selections::Impl {
   X11Pasteboard& general() { return general_; }
   X11Pasteboard& primary() { return primary_; }
 
-  void shutdown() {
+  void shutdown(const std::string& keeper) {
     auto done = handedOver_.get_future();
     thread_->post([this] { handOver(); });
     if (done.wait_for(handoverPatience) != std::future_status::ready) {
       log("Pasteboard", "the clipboard manager did not take over in time");
     }
+    if (!keeper.empty()) thread_->call([this, keeper] { keepWhatIsStillOurs(keeper); }, keepingPatience);
     thread_->stop();
   }
 
@@ -119,6 +114,15 @@ class X11Selections::Impl {
     handedOver_.set_value();
   }
 
+  void keepWhatIsStillOurs(const std::string& keeper) {
+    std::vector<KeptSelection> kept;
+    for (const auto& channel : channels_) {
+      const SelectionOwner& owner = channel->owner();
+      if (owner.isOwner()) kept.push_back({owner.selection(), owner.contents()});
+    }
+    if (!kept.empty()) SelectionKeeper::start(keeper, kept);
+  }
+
   std::unique_ptr<XThread> thread_;
   Atoms atoms_;
   OutgoingTransfers transfers_;
@@ -145,8 +149,8 @@ Pasteboard& X11Selections::general() {
 Pasteboard& X11Selections::primary() {
   return impl_->primary();
 }
-void X11Selections::shutdown() {
-  impl_->shutdown();
+void X11Selections::shutdown(const std::string& keeper) {
+  impl_->shutdown(keeper);
 }
 
 }  // namespace tessarin::x11

@@ -27,8 +27,9 @@ class X11Selections {
   Pasteboard& primary();
 
   /// Before the program ends: hands what we own to the clipboard manager, if there is one, unless it is
-  /// marked as a secret. Waits for it for one second at most, then ends the thread.
-  void shutdown();
+  /// marked as a secret, waiting for one second at most. What nobody took over is kept by `keeper`, a
+  /// program that knows SelectionKeeper's option; empty for none. Then ends the thread.
+  void shutdown(const std::string& keeper = {});
 
  private:
   class Impl;
