@@ -52,17 +52,23 @@ InsertionOutcome AccessibilityHelper::insertText(const std::string& typed, std::
   return InsertionOutcome::unchanged;
 }
 
-std::optional<bool> AccessibilityHelper::hasArrived(const std::string& text) {
+AccessibilityHelper::Arrival AccessibilityHelper::arrival(const std::string& text) {
   accessibility_.beginBudget(arrivalBudget);
   const auto element = focusedElement();
-  if (!element || !accessibility_.attribute(*element, attribute::value)) return std::nullopt;
-  const auto location = caret(*element);
+  if (!element) return Arrival::unknown;
+  const auto found = beforeCaret(*element, static_cast<std::int64_t>(text::characterCount(text)));
+  if (!found) return accessibility_.isBusy(*element) ? Arrival::busy : Arrival::unknown;
+  return text::equals(*found, text) ? Arrival::arrived : Arrival::notYet;
+}
+
+std::optional<std::string> AccessibilityHelper::beforeCaret(const ElementRef& element, std::int64_t count) {
+  if (!accessibility_.attribute(element, attribute::value)) return std::nullopt;
+  const auto location = caret(element);
   if (!location) return std::nullopt;
-  const auto count = static_cast<std::int64_t>(text::characterCount(text));
-  const auto before = accessibility_.parameterizedAttribute(*element, attribute::stringForRange,
+  const auto before = accessibility_.parameterizedAttribute(element, attribute::stringForRange,
                                                             rangeBefore(*location, count));
   const auto* found = before ? std::get_if<std::string>(&*before) : nullptr;
-  return found ? std::optional(text::equals(*found, text)) : std::nullopt;
+  return found ? std::optional(*found) : std::nullopt;
 }
 
 std::optional<ElementRef> AccessibilityHelper::focusedTextElement() {

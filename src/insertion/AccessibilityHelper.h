@@ -25,8 +25,14 @@ class AccessibilityHelper {
   /// `typed` is not looked for. The whole takes 120 ms at most.
   InsertionOutcome insertText(const std::string& typed, std::int64_t count, const std::string& text);
 
-  /// Whether the text stands right before the caret by now. None where that cannot be told.
-  std::optional<bool> hasArrived(const std::string& text);
+  enum class Arrival {
+    arrived,
+    notYet,
+    busy,    ///< the application does not answer just now
+    unknown  ///< it cannot be told
+  };
+  /// Whether the text stands right before the caret by now.
+  Arrival arrival(const std::string& text);
 
   /// The focused element, when it accepts direct insertion.
   std::optional<ElementRef> focusedTextElement();
@@ -42,6 +48,7 @@ class AccessibilityHelper {
  private:
   std::optional<ElementRef> focusedElement();
   bool hasRole(const ElementRef& element, std::string_view name);
+  std::optional<std::string> beforeCaret(const ElementRef& element, std::int64_t count);
   std::optional<std::int64_t> caret(const ElementRef& element);
   /// The caret, once `typed` stands before it.
   std::optional<std::int64_t> caretBehind(const ElementRef& element, const std::string& typed,

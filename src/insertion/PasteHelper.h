@@ -31,8 +31,8 @@ class PasteHelper {
 
   /// One at a time: not before the last `done`. Contents of that paste which have not come back yet then stay
   /// away until this one is over. `done` says inserted as soon as the application has read the text (0.2 s
-  /// after the chord if that was before it), at once when the text is empty. Otherwise, two seconds after the chord, it says erasedOnly (unchanged when there
-  /// was nothing to erase).
+  /// after the chord if that was before it), at once when the text is empty. Otherwise, two seconds after the
+  /// chord, it says erasedOnly (unchanged when there was nothing to erase).
   void pasteText(std::int64_t deleteCount, const std::string& text, PasteChord chord,
                  TextInsertion::Completion done);
 

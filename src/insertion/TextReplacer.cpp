@@ -11,9 +11,14 @@ namespace tessarin {
 namespace {
 
 constexpr std::string_view component = "TextReplacer";
-/// 200 ms in all: an application may turn the text into something else, and keys are not held back for that.
-constexpr int looksForArrival = 40;
 constexpr std::chrono::milliseconds betweenLooks{5};
+/// While the application answers: it may have turned the text into something else, and some paste a while
+/// after they have read.
+constexpr int looksForArrival = 100;
+/// While it hangs: keys let go now would overtake the text.
+constexpr int looksAtBusyApplication = 400;
+
+using Arrival = AccessibilityHelper::Arrival;
 
 std::int64_t charactersToErase(const Replacement& replacement) {
   return replacement.deleteCount + (replacement.includeTriggerChar ? 1 : 0);
@@ -58,20 +63,25 @@ void TextReplacer::paste(std::int64_t count, const std::string& text, InsertionO
                          [this, soFar, text, alive = std::weak_ptr<char>(alive_)](InsertionOutcome outcome) {
                            if (alive.expired()) return;
                            if (outcome == InsertionOutcome::inserted) {
-                             finishOnceArrived(text, looksForArrival);
+                             finishOnceArrived(text, {});
                            } else {
                              finish(outcome == InsertionOutcome::unchanged ? soFar : outcome);
                            }
                          });
 }
 
-void TextReplacer::finishOnceArrived(const std::string& text, int looksLeft) {
-  if (looksLeft == 0 || accessibilityHelper_.hasArrived(text).value_or(true)) {
+void TextReplacer::finishOnceArrived(const std::string& text, Looks looks) {
+  const auto arrival = accessibilityHelper_.arrival(text);
+  if (arrival == Arrival::notYet) ++looks.answered;
+  if (arrival == Arrival::busy) ++looks.busy;
+  const bool isWorthWaiting = (arrival == Arrival::notYet || arrival == Arrival::busy) &&
+                              looks.answered < looksForArrival && looks.busy < looksAtBusyApplication;
+  if (!isWorthWaiting) {
     finish(InsertionOutcome::inserted);
     return;
   }
-  queue_.after(betweenLooks, [this, text, looksLeft, alive = std::weak_ptr<char>(alive_)] {
-    if (!alive.expired()) finishOnceArrived(text, looksLeft - 1);
+  queue_.after(betweenLooks, [this, text, looks, alive = std::weak_ptr<char>(alive_)] {
+    if (!alive.expired()) finishOnceArrived(text, looks);
   });
 }
 

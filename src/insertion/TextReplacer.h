@@ -32,10 +32,16 @@ class TextReplacer final : public TextInsertion {
   };
   std::string expanded(const std::string& text);
   void startNext();
+  /// How often a text that was pasted has been looked for in vain.
+  struct Looks {
+    int answered = 0;
+    int busy = 0;
+  };
+
   void run(const Replacement& replacement);
   void paste(std::int64_t count, const std::string& text, InsertionOutcome soFar);
   /// Some applications read the pasteboard and go on taking keys before the text stands in the document.
-  void finishOnceArrived(const std::string& text, int looksLeft);
+  void finishOnceArrived(const std::string& text, Looks looks);
   void finish(InsertionOutcome outcome);
 
   AccessibilityHelper& accessibilityHelper_;

@@ -19,6 +19,7 @@ class DesktopTest(unittest.TestCase):
     """One session and one running program for all tests of a class."""
 
     preferences = {}
+    snippets = {}
 
     @classmethod
     def setUpClass(cls):
@@ -27,7 +28,7 @@ class DesktopTest(unittest.TestCase):
         data.mkdir(parents=True)
         (data / "user-snippets.json").write_text(json.dumps([
             {"id": f"USER-{trigger}", "name": trigger, "trigger": trigger, "replacement": text, "keywords": [],
-             "category": "Custom", "isBuiltIn": False} for trigger, text in SNIPPETS.items()]))
+             "category": "Custom", "isBuiltIn": False} for trigger, text in (SNIPPETS | cls.snippets).items()]))
         config = pathlib.Path(cls.session.env["XDG_CONFIG_HOME"]) / "tessarin"
         config.mkdir(parents=True)
         cls.preferences_path = config / "preferences.json"

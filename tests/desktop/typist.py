@@ -13,23 +13,38 @@ NAMED = {
 }
 
 
+for keysyms in ("cyrillic", "xkb"):
+    Xlib.XK.load_keysym_group(keysyms)
+
+
 class Typist:
-    def __init__(self, session):
+    """Knows the layout of the time when it is made, and types in the group given (from 0)."""
+
+    def __init__(self, session, group=0):
         self.display = display.Display(session.env["DISPLAY"])
+        self._group = group
         self._codes = {}
 
     def close(self):
         self.display.close()
 
     def _code(self, name):
-        """Key code, and whether Shift is needed."""
+        """Key code, and the modifiers that pick the character."""
         if name not in self._codes:
             keysym = Xlib.XK.string_to_keysym(name)
-            matches = sorted(self.display.keysym_to_keycodes(keysym), key=lambda match: match[1])
+            columns = self._columns()
+            matches = [match for match in self.display.keysym_to_keycodes(keysym) if match[1] in columns]
             if not matches:
                 raise ValueError(f"no key for {name}")
-            self._codes[name] = (matches[0][0], matches[0][1] == 1)
+            code, column = min(matches, key=lambda match: list(columns).index(match[1]))
+            self._codes[name] = (code, columns[column])
         return self._codes[name]
+
+    def _columns(self):
+        """Columns of the server's table of keysyms, plainest first, and the modifiers of each."""
+        if self._group == 1:
+            return {2: [], 3: ["Shift_L"], 0: [], 1: ["Shift_L"]}
+        return {0: [], 1: ["Shift_L"], 4: ["ISO_Level3_Shift"], 5: ["Shift_L", "ISO_Level3_Shift"]}
 
     def down(self, name):
         xtest.fake_input(self.display, X.KeyPress, self._code(name)[0])
@@ -39,8 +54,8 @@ class Typist:
 
     def key(self, name, *modifiers):
         """One press and release, with modifiers by name around it."""
-        code, shifted = self._code(name)
-        held = list(modifiers) + (["Shift_L"] if shifted and "Shift_L" not in modifiers else [])
+        code, picking = self._code(name)
+        held = list(modifiers) + [modifier for modifier in picking if modifier not in modifiers]
         for modifier in held:
             self.down(modifier)
         xtest.fake_input(self.display, X.KeyPress, code)

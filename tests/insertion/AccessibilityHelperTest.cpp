@@ -16,6 +16,7 @@ using std::chrono::milliseconds;
 using testing::FakeAccessibility;
 using testing::FakeElement;
 using testing::FakeTextField;
+using Arrival = AccessibilityHelper::Arrival;
 
 struct AccessibilityHelperTest : ::testing::Test {
   AccessibilityHelperTest() {
@@ -159,30 +160,32 @@ TEST_F(AccessibilityHelperTest, staysWithinItsBudgetWhileWaiting) {
 }
 
 TEST_F(AccessibilityHelperTest, tellsWhetherATextStandsBeforeTheCaret) {
-  EXPECT_EQ(helper.hasArrived(":smile"), true);
-  EXPECT_EQ(helper.hasArrived(":smil"), false);
-  EXPECT_EQ(helper.hasArrived("much more than there is"), false);
+  EXPECT_EQ(helper.arrival(":smile"), Arrival::arrived);
+  EXPECT_EQ(helper.arrival(":smil"), Arrival::notYet);
+  EXPECT_EQ(helper.arrival("much more than there is"), Arrival::notYet);
   field->type(" cafe\u0301");
-  EXPECT_EQ(helper.hasArrived("caf\u00E9"), true);
+  EXPECT_EQ(helper.arrival("caf\u00E9"), Arrival::arrived);
   field->setCaret(2);
-  EXPECT_EQ(helper.hasArrived("caf\u00E9"), false);
-  EXPECT_EQ(helper.hasArrived("hi"), true);
+  EXPECT_EQ(helper.arrival("caf\u00E9"), Arrival::notYet);
+  EXPECT_EQ(helper.arrival("hi"), Arrival::arrived);
 }
 
 TEST_F(AccessibilityHelperTest, cannotTellWhereTheTextIsNotReadable) {
   for (const auto name : {attribute::value, attribute::selectedTextRange, attribute::stringForRange}) {
     field->failing = {std::string(name)};
-    EXPECT_EQ(helper.hasArrived(":smile"), std::nullopt) << name;
+    EXPECT_EQ(helper.arrival(":smile"), Arrival::unknown) << name;
   }
   field->failing.clear();
   accessibility.callDuration = milliseconds(30);
-  EXPECT_EQ(helper.hasArrived(":smile"), std::nullopt) << "too slow";
+  EXPECT_EQ(helper.arrival(":smile"), Arrival::unknown) << "too slow";
+  accessibility.busy = true;
+  EXPECT_EQ(helper.arrival(":smile"), Arrival::busy);
 }
 
 TEST_F(AccessibilityHelperTest, looksForATextInEveryApplication) {
   workspace.frontmost->bundleIdentifier = "org.mozilla.firefox";
   setRole(*field, role::webArea);
-  EXPECT_EQ(helper.hasArrived(":smile"), true);
+  EXPECT_EQ(helper.arrival(":smile"), Arrival::arrived);
 }
 
 TEST_F(AccessibilityHelperTest, knowsATerminalByApplicationOrRole) {

@@ -132,7 +132,13 @@ INSTANTIATE_TEST_SUITE_P(
     Targets, TextReplacerArrival,
     ::testing::Values(Arrival{"soon", [](auto&, auto&) {}, milliseconds(3), milliseconds(5)},
                       Arrival{"late", [](auto&, auto&) {}, milliseconds(111), milliseconds(115)},
-                      Arrival{"asSomethingElse", [](auto&, auto&) {}, never, milliseconds(200)},
+                      Arrival{"asSomethingElse", [](auto&, auto&) {}, never, milliseconds(495)},
+                      Arrival{"inAHungApplication",
+                              [](auto& accessibility, auto& target) {
+                                accessibility.busy = true;
+                                target.failing.insert(std::string(attribute::value));
+                              },
+                              never, milliseconds(1995)},
                       Arrival{"nothingFocused",
                               [](auto& accessibility, auto&) {
                                 accessibility.application->failing.insert(

@@ -64,7 +64,7 @@ def expand(program, pause=0.0, disturbance=lambda editor: contextlib.nullcontext
         with disturbance(editor):
             typist.type("\n".join(lines), pause)
             editor.wait_for_document(expected, seconds)
-        return expected, editor.wait_for_document(expected, 10), tessarin.log[-800:]
+        return expected, editor.wait_for_document(expected, 10), tessarin.log
 
 
 class Speed(unittest.TestCase):

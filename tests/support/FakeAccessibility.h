@@ -50,6 +50,7 @@ class FakeAccessibility final : public Accessibility {
     return focusMoved_.subscribe(std::move(callback));
   }
   void beginBudget(std::chrono::milliseconds budget) override;
+  bool isBusy(const ElementRef&) override { return busy; }
   bool pause(std::chrono::milliseconds duration) override;
 
   /// Puts the focus there, and tells of it.
@@ -59,6 +60,7 @@ class FakeAccessibility final : public Accessibility {
   std::chrono::milliseconds elapsed() const { return elapsed_; }
 
   bool trusted = true;
+  bool busy = false;
   int prompts = 0;
   std::chrono::milliseconds callDuration{0};  ///< what every call takes
   std::vector<std::chrono::milliseconds> budgets;

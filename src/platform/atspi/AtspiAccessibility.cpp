@@ -51,6 +51,11 @@ void AtspiAccessibility::beginBudget(std::chrono::milliseconds budget) {
   channel_.budget().open(budget);
 }
 
+bool AtspiAccessibility::isBusy(const ElementRef& element) {
+  const AtspiElement* asked = known(element);
+  return asked != nullptr && !asked->isSystemWide() && channel_.owesAnswer(asked->object().bus);
+}
+
 bool AtspiAccessibility::pause(std::chrono::milliseconds duration) {
   if (channel_.budget().allowance(duration) < duration) return false;
   std::this_thread::sleep_for(duration);

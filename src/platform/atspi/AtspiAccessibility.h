@@ -59,6 +59,7 @@ class AtspiAccessibility final : public Accessibility {
                                    const AttributeValue& value) override;
   Subscription onFocusMoved(std::function<void()> callback) override;
   void beginBudget(std::chrono::milliseconds budget) override;
+  bool isBusy(const ElementRef& element) override;
   bool pause(std::chrono::milliseconds duration) override;
 
  private:

@@ -18,7 +18,7 @@ bool CallChannel::isConnected() const {
 Answer CallChannel::call(MessagePtr request) {
   const std::string bus = dbus_message_get_destination(request.get());
   const auto longest = budget_.allowance(longestCall_);
-  if (!isConnected() || longest == CallBudget::Duration::zero() || isPassedOver(bus)) return {};
+  if (!isConnected() || longest == CallBudget::Duration::zero() || owesAnswer(bus)) return {};
   DBusPendingCall* sent = nullptr;
   if (!dbus_connection_send_with_reply(connection_.get(), request.get(), &sent, DBUS_TIMEOUT_INFINITE) ||
       sent == nullptr) {
@@ -39,7 +39,7 @@ Answer CallChannel::awaitOwed(const std::string& bus) {
   return answered(pending.get());
 }
 
-bool CallChannel::isPassedOver(const std::string& bus) {
+bool CallChannel::owesAnswer(const std::string& bus) {
   const auto owed = owed_.find(bus);
   if (owed == owed_.end()) return false;
   takeIn();

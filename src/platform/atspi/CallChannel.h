@@ -36,9 +36,11 @@ class CallChannel {
   /// Goes on waiting for the answer that the application owes us. `unanswered` when it still does not come,
   /// `notSent` when it owes none.
   Answer awaitOwed(const std::string& bus);
+  /// Whether the application has been asked something that it has not answered yet. Until it does it is passed
+  /// over.
+  bool owesAnswer(const std::string& bus);
 
  private:
-  bool isPassedOver(const std::string& bus);
   void takeIn();
   bool wait(DBusPendingCall* pending, CallBudget::Duration longest);
   static Answer answered(DBusPendingCall* pending);
