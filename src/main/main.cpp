@@ -27,12 +27,13 @@ bool canOpenWindows() {
   return xcb_connection_has_error(connection.get()) == 0;
 }
 
-/// What earlier instances left when they were killed. The lock keeps others out of the data folder; into the
-/// configuration folder `--allow` may be writing just now.
+/// What earlier instances left when they were killed. The lock keeps others out of the data folder, whatever
+/// the clock said when they wrote; into the configuration folder `--allow` may be writing just now.
 void tidyUp(const std::filesystem::path& storage) {
-  const auto now = std::filesystem::file_time_type::clock::now();
-  removeAbandonedReplacements(storage, now);
-  removeAbandonedReplacements(freedesktop::configFolder(processEnvironment), now - std::chrono::minutes(1));
+  using Time = std::filesystem::file_time_type;
+  removeAbandonedReplacements(storage, Time::max());
+  removeAbandonedReplacements(freedesktop::configFolder(processEnvironment),
+                              Time::clock::now() - std::chrono::minutes(1));
 }
 
 int run(int argc, char** argv, bool opensSettings) {

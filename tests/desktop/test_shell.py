@@ -2,6 +2,7 @@
 """The program around its windows: the tray, the command line, and its ends."""
 
 import json
+import os
 import pathlib
 import signal
 import unittest
@@ -160,6 +161,7 @@ class CommandLineTest(unittest.TestCase):
         with Tessarin(self.session) as program:
             left = self.own.parent / ".tessarin-aB3dEf"
             left.write_text("half a fi")
+            os.utime(left, (2 ** 33, 2 ** 33))  # written before the clock was set back
             program.stop(signal.SIGKILL)
             self.assertTrue(left.exists())
             start_anew(program)
