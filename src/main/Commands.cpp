@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <thread>
 
+#include "base/AtomicFile.h"
 #include "base/Log.h"
 #include "main/Resources.h"
 #include "main/SnippetFiles.h"
@@ -65,7 +66,11 @@ Reached reachInstance(const Request& request, std::chrono::milliseconds patience
     // Even if the lock was free: the running instance's folder may have been removed, its lock with it.
     const auto line = freedesktop::requestOfRunningInstance(folder, request.encoded(), patience);
     if (line) return {Answer::decode(*line), std::nullopt};
-    if (lock) return {std::nullopt, std::move(lock)};
+    if (lock) {
+      // What was killed while it saved left this, whatever the clock said then; nobody else writes there now.
+      removeAbandonedReplacements(folder, std::filesystem::file_time_type::max());
+      return {std::nullopt, std::move(lock)};
+    }
     if (Clock::now() - asked >= patience || Clock::now() >= deadline) return {};
     std::this_thread::sleep_for(pause);
   }

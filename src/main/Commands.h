@@ -21,8 +21,8 @@ inline constexpr std::chrono::minutes fileTime{10};
 /// How long to wait for one that is only starting, or for other commands at work in the folder.
 inline constexpr std::chrono::seconds turnTime{10};
 
-/// Either the running instance has answered, or none runs and the data folder is ours. Neither where there
-/// is an instance that does not answer.
+/// Either the running instance has answered, or none runs and the data folder is ours and tidied up. Neither
+/// where there is an instance that does not answer.
 struct Reached {
   std::optional<Answer> answer;
   std::optional<freedesktop::FolderLock> folder;
