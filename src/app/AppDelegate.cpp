@@ -117,6 +117,7 @@ void AppDelegate::applicationWillTerminate() {
   focusObserver_.reset();
   defaultsObserver_.reset();
   services_.statusBar.onMenuOpening({});
+  snippetStore_.saveWhatIsMissing();
 }
 
 void AppDelegate::endCollecting() {

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <thread>
 
+#include "base/AtomicFile.h"
 #include "base/Log.h"
 #include "main/Resources.h"
 #include "main/SnippetFiles.h"
@@ -57,14 +58,22 @@ Answer perform(const Request& request) {
 Reached reachInstance(const Request& request, std::chrono::milliseconds patience) {
   constexpr std::chrono::milliseconds pause{20};
   const std::filesystem::path folder = applicationSupportFolder();
-  const auto deadline = std::chrono::steady_clock::now() + answerTime;
-  do {
-    if (auto lock = freedesktop::FolderLock::acquire(folder)) return {std::nullopt, std::move(lock)};
+  using Clock = std::chrono::steady_clock;
+  const auto deadline = Clock::now() + turnTime;
+  for (;;) {
+    auto lock = freedesktop::FolderLock::acquire(folder);
+    const auto asked = Clock::now();
+    // Even if the lock was free: the running instance's folder may have been removed, its lock with it.
     const auto line = freedesktop::requestOfRunningInstance(folder, request.encoded(), patience);
     if (line) return {Answer::decode(*line), std::nullopt};
+    if (lock) {
+      // What was killed while it saved left this, whatever the clock said then; nobody else writes there now.
+      removeAbandonedReplacements(folder, std::filesystem::file_time_type::max());
+      return {std::nullopt, std::move(lock)};
+    }
+    if (Clock::now() - asked >= patience || Clock::now() >= deadline) return {};
     std::this_thread::sleep_for(pause);
-  } while (std::chrono::steady_clock::now() < deadline);
-  return {};
+  }
 }
 
 int report(const Answer& answer) {

@@ -18,15 +18,17 @@ inline constexpr int wrongUsage = 2;
 /// whose file may be of any size.
 inline constexpr std::chrono::seconds answerTime{2};
 inline constexpr std::chrono::minutes fileTime{10};
+/// How long to wait for one that is only starting, or for other commands at work in the folder.
+inline constexpr std::chrono::seconds turnTime{10};
 
-/// Either the running instance has answered, or none runs and the data folder is ours. Neither where there
-/// is an instance that does not answer.
+/// Either the running instance has answered, or none runs and the data folder is ours and tidied up. Neither
+/// where there is an instance that does not answer.
 struct Reached {
   std::optional<Answer> answer;
   std::optional<freedesktop::FolderLock> folder;
 };
 
-/// Gives an instance that has just been started a moment to listen.
+/// Waits for its turn where the folder is held by one that does not listen, or not yet.
 Reached reachInstance(const Request& request, std::chrono::milliseconds patience);
 /// Writes a success to standard output and a failure to standard error.
 int report(const Answer& answer);

@@ -91,6 +91,7 @@ UpdaterSeams Desktop::updaterSeams(AppcastSource& source, UpdateUserDriver& driv
 void Desktop::shutdown() {
   pasteHelper_.finish();
   if (selections_) selections_->shutdown("/proc/self/exe");
+  defaults_.saveWhatIsMissing();
 }
 
 atspi::AtspiAccessibility::Options Desktop::accessibilityOptions() {

@@ -1,6 +1,7 @@
 #include "main/SnippetFiles.h"
 
 #include <exception>
+#include <stdexcept>
 
 #include "base/Translate.h"
 #include "model/SnippetCoding.h"
@@ -43,6 +44,7 @@ std::string inOneLine(const std::string& text) {
 Answer importSnippets(SnippetStore& store, const std::filesystem::path& file) {
   try {
     const int count = static_cast<int>(store.importSnippets(file));
+    if (store.saveFailure()) throw std::runtime_error(*store.saveFailure());
     return {true, count == 1 ? translate("SnippetFiles", "Imported 1 snippet")
                              : translate("SnippetFiles", "Imported %n snippets", nullptr, count)};
   } catch (const std::exception& error) {

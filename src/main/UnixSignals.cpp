@@ -7,6 +7,7 @@
 namespace tessarin {
 
 UnixSignals::UnixSignals() {
+  std::signal(SIGPIPE, SIG_IGN);
   sigset_t set;
   sigemptyset(&set);
   for (const int number : {SIGTERM, SIGINT, SIGHUP}) sigaddset(&set, number);

@@ -31,11 +31,9 @@ bool canOpenWindows() {
   return xcb_connection_has_error(connection.get()) == 0;
 }
 
-/// What earlier instances left when they were killed. The lock keeps others out of the data folder; into the
-/// configuration folder `--allow` may be writing just now.
-void tidyUp(const std::filesystem::path& storage) {
+/// What earlier instances left when they were killed, except what `--allow` may be writing just now.
+void tidyUpPreferences() {
   const auto now = std::filesystem::file_time_type::clock::now();
-  removeAbandonedReplacements(storage, now);
   removeAbandonedReplacements(freedesktop::configFolder(processEnvironment), now - std::chrono::minutes(1));
 }
 
@@ -47,8 +45,7 @@ int run(int argc, char** argv, bool opensSettings) {
   if (!canOpenWindows()) {
     return commands::report({false, "no display to open a window on; try from a desktop session"});
   }
-  const std::filesystem::path storage = applicationSupportFolder();
-  tidyUp(storage);
+  tidyUpPreferences();
   UnixSignals signals;
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication application(argc, argv);
@@ -57,7 +54,7 @@ int run(int argc, char** argv, bool opensSettings) {
   ui::installTranslations(application);
   ui::searchIconsBeside(freedesktop::applicationFolders(processEnvironment));
   Program program(application, signals, resourceFolder(std::filesystem::canonical("/proc/self/exe")),
-                  storage);
+                  applicationSupportFolder());
   return program.run(opensSettings);
 }
 

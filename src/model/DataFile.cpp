@@ -20,10 +20,11 @@ bool DataFile::load(const std::function<void(std::string_view)>& decode) {
     const auto content = readFileIfPresent(description_.path);
     if (!content) return false;
     decode(*content);
+    wasThere_ = true;
     return true;
   } catch (const std::exception& error) {
     isUnreadable_ = true;
-    logFailure("load", error);
+    logFailure("load", error.what());
     return false;
   }
 }
@@ -34,9 +35,17 @@ void DataFile::save(const std::function<std::string()>& encode) {
     const std::string content = encode();
     if (isUnreadable_) moveAside();
     replaceFile(description_.path, content, description_.durability);
+    wasThere_ = true;
+    failure_.reset();
   } catch (const std::exception& error) {
-    logFailure("save", error);
+    failure_ = error.what();
+    logFailure("save", *failure_);
   }
+}
+
+bool DataFile::isMissing() const {
+  std::error_code ignored;
+  return failure_ || (wasThere_ && !fs::exists(description_.path, ignored));
 }
 
 void DataFile::moveAside() {
@@ -61,9 +70,9 @@ fs::path DataFile::freeName() const {
   return candidate;
 }
 
-void DataFile::logFailure(const char* action, const std::exception& error) const {
+void DataFile::logFailure(const char* action, const std::string& reason) const {
   log(description_.component,
-      std::string("Failed to ") + action + " " + description_.content + ": " + error.what());
+      std::string("Failed to ") + action + " " + description_.content + ": " + reason);
 }
 
 }  // namespace tessarin

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -31,16 +32,22 @@ class DataFile {
 
   /// Replaces the content by what `encode` returns; makes the folder first.
   void save(const std::function<std::string()>& encode);
+  /// Why the last save failed.
+  const std::optional<std::string>& failure() const { return failure_; }
+  /// Whether what is in memory is not on the disk: the last save failed, or the file has been removed since.
+  bool isMissing() const;
 
  private:
   void moveAside();
   std::filesystem::path freeName() const;
-  void logFailure(const char* action, const std::exception& error) const;
+  void logFailure(const char* action, const std::string& reason) const;
 
   Description description_;
   const WallClock& clock_;
   LocalCalendar calendar_;
   bool isUnreadable_ = false;
+  bool wasThere_ = false;  ///< read or written by us
+  std::optional<std::string> failure_;
 };
 
 }  // namespace tessarin

@@ -38,7 +38,10 @@ SnippetStore::SnippetStore(Folders folders, const WallClock& clock, LocalCalenda
   loadBuiltInKaomoji();
   loadUserSnippets();
   for (const auto& [trigger, count] : usageTracker_.usageCounts()) index_.setUsageCount(trigger, count);
-  usageSubscription_ = usageTracker_.onRecorded([this](const std::string& trigger) { indexUsage(trigger); });
+  usageSubscription_ = usageTracker_.onRecorded([this](const std::string& trigger) {
+    indexUsage(trigger);
+    saveSnippetsIfMissing();
+  });
 }
 
 bool SnippetStore::loadBuiltIns(const char* source, std::vector<Snippet>& loaded) const {
@@ -109,6 +112,17 @@ void SnippetStore::saveUserSnippets() {
   userFile_.save([this] { return encodeSnippets(userSnippets_, JsonStyle::compact); });
 }
 
+void SnippetStore::saveWhatIsMissing() {
+  saveSnippetsIfMissing();
+  usageTracker_.saveWhatIsMissing();
+}
+
+void SnippetStore::saveSnippetsIfMissing() {
+  if (!userFile_.isMissing()) return;
+  saveUserSnippets();
+  if (!saveFailure()) log(component, "Saved the user snippets again, which were missing from the disk");
+}
+
 void SnippetStore::change(const std::function<void()>& apply) {
   willChange_.emit();
   apply();
@@ -169,7 +183,8 @@ std::size_t SnippetStore::addImported(std::vector<Snippet> imported) {
     append(std::move(snippet));
     ++added;
   }
-  if (added > 0) saveUserSnippets();
+  // Those that could not be saved the last time are in memory already, and still to be saved.
+  if (added > 0 || saveFailure()) saveUserSnippets();
   return added;
 }
 

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -43,6 +44,11 @@ class SnippetStore {
 
   /// Failures are logged; the old file then stays.
   void saveUserSnippets();
+  /// Why what was changed last is in memory only.
+  const std::optional<std::string>& saveFailure() const { return userFile_.failure(); }
+  /// Writes once more what could not be saved and what has been removed from the disk since, the usage files
+  /// included. Happens at each expansion too.
+  void saveWhatIsMissing();
   /// Appends as it is, whatever triggers and ids there are already.
   void addSnippet(const Snippet& snippet);
   /// Replaces the first user snippet of that id; without one nothing happens and nothing is saved.
@@ -68,6 +74,7 @@ class SnippetStore {
   void loadBuiltInKaomoji();
   bool loadBuiltIns(const char* source, std::vector<Snippet>& loaded) const;
   void loadUserSnippets();
+  void saveSnippetsIfMissing();
   void indexUsage(const std::string& trigger);
   void append(Snippet snippet);
   void change(const std::function<void()>& apply);

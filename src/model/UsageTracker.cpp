@@ -48,6 +48,11 @@ void UsageTracker::saveUsageEvents() {
   eventsFile_.save([this] { return eventsText_.json(); });
 }
 
+void UsageTracker::saveWhatIsMissing() {
+  if (countsFile_.isMissing()) saveUsageCounts();
+  if (eventsFile_.isMissing()) saveUsageEvents();
+}
+
 void UsageTracker::recordUsage(const std::string& trigger) {
   count(trigger);
   saveUsageCounts();

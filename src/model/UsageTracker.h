@@ -41,6 +41,9 @@ class UsageTracker {
   /// Counts and logs one expansion. What cannot be saved is logged, and stays in memory.
   void recordUsage(const std::string& trigger);
 
+  /// Writes what the disk has not, or no longer, once more.
+  void saveWhatIsMissing();
+
   const UsageCounts& usageCounts() const { return usageCounts_; }
   /// Oldest first.
   const std::vector<UsageEvent>& usageEvents() const { return usageEvents_; }

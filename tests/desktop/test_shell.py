@@ -2,6 +2,7 @@
 """The program around its windows: the tray, the command line, and its ends."""
 
 import json
+import os
 import pathlib
 import signal
 import unittest
@@ -159,11 +160,13 @@ class CommandLineTest(unittest.TestCase):
     def test_what_a_killed_instance_left_is_cleared_away(self):
         with Tessarin(self.session) as program:
             left = self.own.parent / ".tessarin-aB3dEf"
-            left.write_text("half a fi")
-            program.stop(signal.SIGKILL)
-            self.assertTrue(left.exists())
-            start_anew(program)
-            self.assertFalse(left.exists())
+            for next_one in (lambda: start_anew(program), lambda: self.tessarin("--toggle")):
+                left.write_text("half a fi")
+                os.utime(left, (2 ** 33, 2 ** 33))  # written before the clock was set back
+                program.stop(signal.SIGKILL)
+                self.assertTrue(left.exists())
+                next_one()
+                self.assertFalse(left.exists())
 
 
 class EndTest(unittest.TestCase):

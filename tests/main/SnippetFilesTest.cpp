@@ -48,6 +48,19 @@ TEST_F(SnippetFilesTest, SaysWhyAnImportOrExportFailed) {
   EXPECT_THAT(answer.text, StartsWith("Export failed: "));
 }
 
+TEST_F(SnippetFilesTest, AnImportHasFailedUntilItIsOnTheDisk) {
+  folder.write("storage", "a file where the folder should be");
+  writeImport({snippet("one", "1")});
+  for (int attempt = 0; attempt < 2; ++attempt) {
+    const Answer answer = importSnippets(store, folder / "import.json");
+    EXPECT_FALSE(answer.isSuccess);
+    EXPECT_THAT(answer.text, StartsWith("Import failed: cannot create "));
+  }
+  std::filesystem::remove(folder / "storage");
+  EXPECT_EQ(importSnippets(store, folder / "import.json"), (Answer{true, "Imported 0 snippets"}));
+  EXPECT_EQ(decodeSnippets(folder.read("storage/user-snippets.json")), store.userSnippets());
+}
+
 TEST_F(SnippetFilesTest, WhatIsExportedCanBeImported) {
   store.addSnippet(snippet("one", "1"));
   EXPECT_EQ(exportSnippets(store, folder / "export.json"), (Answer{true, "Exported 1 snippet"}));

@@ -175,6 +175,26 @@ TEST_F(UsageTrackerTest, WhatCannotBeSavedStaysInMemory) {
                                       StartsWith("[UsageTracker] Failed to save usage events: ")));
 }
 
+TEST_F(UsageTrackerTest, AClockThatJumpsLosesNothing) {
+  using Clock = ManualWallClock;
+  const auto today = Clock::utc(2026, 3, 14, 9, 30);
+  auto tracker = makeTracker();
+  int count = 0;
+  for (const auto time : {today, Clock::utc(2199, 12, 31), Clock::utc(1970, 1, 1), Clock::utc(1969, 7, 20),
+                          today - std::chrono::hours(48), today}) {
+    clock_.time = time;
+    tracker->recordUsage("a");
+    ++count;
+    EXPECT_GE(tracker->todayCount(), 1);
+    EXPECT_EQ(tracker->dailyCounts().size(), 7U);
+    const auto events = tracker->usageEvents();
+    tracker = makeTracker();
+    EXPECT_EQ(tracker->usageEvents(), events);
+    EXPECT_EQ(tracker->totalExpansions(), count);
+  }
+  EXPECT_THAT(countsOf(tracker->dailyCounts()), ElementsAre(0, 0, 0, 0, 1, 0, 2));
+}
+
 TEST_F(UsageTrackerTest, TodayBeginsAtLocalMidnightAndHasNoEnd) {
   clock_.time = ManualWallClock::utc(2026, 3, 14, 9, 30);
   const double midnight = secondsSinceReferenceDate(ManualWallClock::utc(2026, 3, 13, 23));  // in Berlin

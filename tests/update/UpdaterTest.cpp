@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "support/FakeUserDefaults.h"
 #include "support/FakeWorkspace.h"
 #include "support/LogRecorder.h"
@@ -188,6 +190,23 @@ TEST_F(Updating, GoesOnAfterTheClockJumpsBack) {
   clock.time -= hours(24 * 365);
   pass(hours(2));
   EXPECT_EQ(source.addresses.size(), 2u);
+}
+
+TEST_F(Updating, ChecksNeitherNeverNorAllTheTimeWhateverTheClockDoes) {
+  std::mt19937 random(1);
+  const auto start = clock.time;
+  startAutomatic();
+  for (int round = 0; round < 100; ++round) {
+    clock.time = start + hours(std::uniform_int_distribution(-24 * 365 * 40, 24 * 365 * 200)(random));
+    const std::size_t before = source.addresses.size();
+    for (int hour = 0; hour < 26; ++hour) {
+      pass(minutes(60));
+      if (source.isRunning()) answer({"1.2"});
+    }
+    EXPECT_GE(source.addresses.size(), before + 1) << round;
+    EXPECT_LE(source.addresses.size(), before + 2) << round;
+    EXPECT_LE(queue.pending(), 3u);
+  }
 }
 
 TEST_F(Updating, NoticesADayThatWasSleptThrough) {

@@ -17,21 +17,29 @@ namespace tessarin::freedesktop {
 /// otherwise. Main thread.
 class FileWatcher {
  public:
-  /// Makes the file's folder if it does not exist; the file itself need not. Where the folder cannot be
-  /// watched that is logged and nothing is ever told. `queue` has to outlive this.
+  /// Makes the file's folder if it does not exist, and again when it is removed or moved away; the file
+  /// itself need not exist. Where the folder cannot be watched that is logged and nothing is told from then
+  /// on. `queue` has to outlive this.
   FileWatcher(MainQueue& queue, const std::filesystem::path& file, std::function<void()> changed);
   ~FileWatcher();
   FileWatcher(const FileWatcher&) = delete;
   FileWatcher& operator=(const FileWatcher&) = delete;
 
  private:
+  struct News {
+    bool isOfFile = false;
+    bool isFolderGone = false;
+  };
+
+  bool watchFolders();
   void run();
-  /// Takes all news from the kernel; whether any was of the file.
-  bool takeNews();
+  void tell();
+  /// Takes all news from the kernel.
+  News takeNews();
 
   MainQueue& queue_;
   std::filesystem::path file_;
-  std::filesystem::path target_;  // where symbolic links led at the start
+  std::filesystem::path target_;  // where symbolic links led when watching began
   std::shared_ptr<std::function<void()>> changed_;
   FileDescriptor news_;
   FileDescriptor end_;

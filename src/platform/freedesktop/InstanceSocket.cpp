@@ -26,9 +26,13 @@ std::uint64_t fingerprint(const std::string& text) {
   return hash;
 }
 
+std::string linkPath(const std::string& dataFolder) {
+  return dataFolder + "/instance.socket";
+}
+
 std::string socketPath(const std::string& dataFolder) {
   const char* runtime = std::getenv("XDG_RUNTIME_DIR");
-  if (runtime == nullptr || runtime[0] != '/') return dataFolder + "/instance.socket";
+  if (runtime == nullptr || runtime[0] != '/') return linkPath(dataFolder);
   std::array<char, 40> name{};
   std::snprintf(name.data(), name.size(), "/tessarin-%016llx",
                 static_cast<unsigned long long>(fingerprint(dataFolder)));
@@ -50,16 +54,30 @@ void limitWaiting(int socket, std::chrono::milliseconds time) {
 }
 
 /// One line without its line feed; none when the other side broke off or took too long.
-std::optional<std::string> receiveLine(int socket) {
+std::optional<std::string> receiveLine(int socket, std::chrono::milliseconds patience) {
+  const auto deadline = std::chrono::steady_clock::now() + patience;
   std::string line;
   std::array<char, 512> buffer{};
   while (line.size() < longestLine) {
+    const auto left =
+        std::chrono::ceil<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+    if (left.count() <= 0) return std::nullopt;
+    limitWaiting(socket, left);
     const ssize_t count = recv(socket, buffer.data(), buffer.size(), 0);
     if (count <= 0) return std::nullopt;
     line.append(buffer.data(), static_cast<std::size_t>(count));
     if (const auto end = line.find('\n'); end != std::string::npos) return line.substr(0, end);
   }
   return std::nullopt;
+}
+
+FileDescriptor connected(const std::string& path, std::chrono::milliseconds patience) {
+  const auto place = address(path);
+  FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+  if (!place || !socket) return {};
+  limitWaiting(socket.get(), patience);
+  if (connect(socket.get(), reinterpret_cast<const sockaddr*>(&*place), sizeof *place) != 0) return {};
+  return socket;
 }
 
 bool sendLine(int socket, const std::string& text) {
@@ -80,30 +98,34 @@ std::optional<InstanceSocket> InstanceSocket::listen(const std::string& dataFold
     log("Tessarin", "No socket for requests of later instances: " + std::string(std::strerror(errno)));
     return std::nullopt;
   }
-  return InstanceSocket(std::move(socket), path);
+  const std::string link = linkPath(dataFolder);
+  if (link != path) {
+    ::unlink(link.c_str());
+    if (::symlink(path.c_str(), link.c_str()) != 0) errno = 0;  // a folder that cannot be written to
+  }
+  return InstanceSocket(std::move(socket), path, link);
 }
 
 InstanceSocket::~InstanceSocket() {
-  if (socket_) ::unlink(path_.c_str());
+  if (!socket_) return;
+  ::unlink(path_.c_str());
+  ::unlink(link_.c_str());
 }
 
 void InstanceSocket::serve(const Handler& handler) const {
   const FileDescriptor client(accept4(socket_.get(), nullptr, nullptr, SOCK_CLOEXEC));
   if (!client) return;
-  limitWaiting(client.get(), std::chrono::milliseconds(200));
-  if (const auto request = receiveLine(client.get())) sendLine(client.get(), handler(*request));
+  constexpr std::chrono::milliseconds patience{200};
+  limitWaiting(client.get(), patience);
+  if (const auto request = receiveLine(client.get(), patience)) sendLine(client.get(), handler(*request));
 }
 
 std::optional<std::string> requestOfRunningInstance(const std::string& dataFolder, const std::string& request,
                                                     std::chrono::milliseconds patience) {
-  const auto place = address(socketPath(dataFolder));
-  const FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
-  if (!place || !socket) return std::nullopt;
-  limitWaiting(socket.get(), patience);
-  if (connect(socket.get(), reinterpret_cast<const sockaddr*>(&*place), sizeof *place) != 0)
-    return std::nullopt;
-  if (!sendLine(socket.get(), request)) return std::nullopt;
-  return receiveLine(socket.get());
+  FileDescriptor socket = connected(socketPath(dataFolder), patience);
+  if (!socket) socket = connected(linkPath(dataFolder), patience);
+  if (!socket || !sendLine(socket.get(), request)) return std::nullopt;
+  return receiveLine(socket.get(), patience);
 }
 
 }  // namespace tessarin::freedesktop

@@ -11,7 +11,9 @@ namespace tessarin::freedesktop {
 
 /// The place where the running instance takes requests of later ones: a socket in the user's runtime folder
 /// (else in the data folder), named after the data folder, so that instances with folders of their own stay
-/// apart. A request is one line ("toggle", "quit", …) of less than 16 kB, its answer is one line.
+/// apart. A link in the data folder leads to it, for those that know the folder under another name or have
+/// another runtime folder, or none. A request is one line ("toggle", "quit", …) of less than 16 kB, its
+/// answer is one line.
 class InstanceSocket {
  public:
   using Handler = std::function<std::string(const std::string& request)>;
@@ -26,15 +28,16 @@ class InstanceSocket {
 
   /// Becomes readable when a request is waiting.
   int descriptor() const { return socket_.get(); }
-  /// Answers one waiting request. Waits 200 ms at most for a client that connected and says nothing.
+  /// Answers one waiting request. Waits 200 ms at most for a client that connected and does not say all.
   void serve(const Handler& handler) const;
 
  private:
-  InstanceSocket(FileDescriptor socket, std::string path)
-      : socket_(std::move(socket)), path_(std::move(path)) {}
+  InstanceSocket(FileDescriptor socket, std::string path, std::string link)
+      : socket_(std::move(socket)), path_(std::move(path)), link_(std::move(link)) {}
 
   FileDescriptor socket_;
   std::string path_;
+  std::string link_;  ///< or the same path
 };
 
 /// Hands a request to the running instance. None when there is none, or when it does not answer in time.

@@ -58,6 +58,12 @@ JsonUserDefaults::JsonUserDefaults(fs::path file) : file_(std::move(file)) {
   load();
 }
 
+void JsonUserDefaults::saveWhatIsMissing() {
+  if (!hasSaveFailed_) return;
+  if (currentStamp() != stamp_) load();
+  save();
+}
+
 void JsonUserDefaults::watch(MainQueue& queue) {
   watcher_ = std::make_unique<FileWatcher>(queue, file_, [this] { reloadIfChanged(); });
 }
@@ -81,6 +87,8 @@ void JsonUserDefaults::load() {
   root_ = shared(JsonOwner(json_object()));
   try {
     const auto content = readFileIfPresent(file_);
+    if (!content && wasThere_) log("UserDefaults", "The preferences have been removed; the defaults apply");
+    wasThere_ = content.has_value();
     if (!content) return;
     auto root = shared(parseJson(*content));
     if (!json_is_object(root.get())) throw DataError("the top level is not an object");
@@ -161,9 +169,12 @@ void JsonUserDefaults::save() {
     if (isUnreadable_) moveAside();
     replaceFile(file_, content, Durability::powerCut);
     stamp_ = currentStamp();
+    wasThere_ = true;
     root_ = root;
     unsaved_ = std::move(left);
+    hasSaveFailed_ = false;
   } catch (const std::exception& error) {
+    hasSaveFailed_ = true;
     log("UserDefaults", std::string("Failed to save preferences: ") + error.what());
   }
 }

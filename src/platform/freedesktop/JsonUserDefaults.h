@@ -37,6 +37,8 @@ class JsonUserDefaults final : public UserDefaults {
   void watch(MainQueue& queue);
   /// Takes over what another program has written since we last looked.
   void reloadIfChanged();
+  /// Tries once more to write what could not be written.
+  void saveWhatIsMissing();
 
   std::optional<std::string> string(const std::string& key) const override;
   std::optional<bool> boolean(const std::string& key) const override;
@@ -69,6 +71,8 @@ class JsonUserDefaults final : public UserDefaults {
   std::filesystem::path file_;
   Stamp stamp_;
   bool isUnreadable_ = false;
+  bool wasThere_ = false;
+  bool hasSaveFailed_ = false;
   std::shared_ptr<json_t> root_;
   std::map<std::string, Value> unsaved_;  // what could not be written; goes before what the file holds
   Signal<> changed_;

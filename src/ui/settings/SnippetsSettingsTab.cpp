@@ -135,6 +135,10 @@ void SnippetsSettingsTab::finishImport(const SnippetFileReading::Result& result)
     return;
   }
   const auto count = static_cast<int>(services_.snippetStore.addImported(result.snippets));
+  if (const auto& failure = services_.snippetStore.saveFailure()) {
+    setImportMessage(tr("Import failed: %1").arg(QString::fromStdString(*failure)));
+    return;
+  }
   setImportMessage(count == 1 ? tr("Imported 1 snippet") : tr("Imported %n snippets", nullptr, count));
 }
 

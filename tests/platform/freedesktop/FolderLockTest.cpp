@@ -28,6 +28,7 @@ TEST_F(FolderLockTest, makesTheFolderAndHoldsIt) {
   ASSERT_TRUE(lock);
   EXPECT_FALSE(FolderLock::acquire(folder)) << "taken already";
   EXPECT_TRUE(FolderLock::acquire(parent / "another"));
+  EXPECT_EQ(std::filesystem::status(folder).permissions(), std::filesystem::perms::owner_all);
   EXPECT_THAT(log.lines, IsEmpty());
 }
 

@@ -1,10 +1,15 @@
 #include <gtest/gtest.h>
 #include <poll.h>
+#include <sys/socket.h>
+#include <sys/un.h>
 
+#include <atomic>
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <thread>
 
+#include "base/FileDescriptor.h"
 #include "platform/freedesktop/InstanceSocket.h"
 
 namespace tessarin::freedesktop {
@@ -50,6 +55,29 @@ TEST_F(InstanceSocketTest, RequestReachesTheInstanceOfTheSameFolderOnly) {
   EXPECT_EQ(answer, "done: toggle");
 }
 
+TEST_F(InstanceSocketTest, IsFoundWithAnotherRuntimeFolderAndUnderAnotherNameOfTheDataFolder) {
+  const std::string data = folder_ + "/data";
+  const std::string alias = folder_ + "/alias";
+  std::filesystem::create_directory(data);
+  std::filesystem::create_symlink(data, alias);
+  {
+    const auto socket = InstanceSocket::listen(data);
+    const struct {
+      std::string runtime;
+      std::string data;
+    } clients[] = {{folder_, alias}, {"", data}, {data, data}, {"", alias}};
+    for (const auto& client : clients) {
+      setenv("XDG_RUNTIME_DIR", client.runtime.c_str(), 1);
+      std::optional<std::string> answer;
+      std::thread asking([&] { answer = requestOfRunningInstance(client.data, "toggle"); });
+      served(*socket);
+      asking.join();
+      EXPECT_EQ(answer, "done: toggle") << client.runtime << " " << client.data;
+    }
+  }
+  EXPECT_TRUE(std::filesystem::is_empty(data));
+}
+
 TEST_F(InstanceSocketTest, TakesOverWhatAKilledInstanceLeftAndCleansUp) {
   std::filesystem::path left;
   {
@@ -58,6 +86,28 @@ TEST_F(InstanceSocketTest, TakesOverWhatAKilledInstanceLeftAndCleansUp) {
     EXPECT_TRUE(InstanceSocket::listen("/data/one"));
   }
   EXPECT_FALSE(std::filesystem::exists(left));
+}
+
+TEST_F(InstanceSocketTest, AClientThatSpeaksTooSlowlyIsNotHeardOut) {
+  const auto socket = InstanceSocket::listen(folder_);
+  ASSERT_TRUE(socket);
+  sockaddr_un place{AF_UNIX, {}};
+  (folder_ + "/instance.socket").copy(place.sun_path, sizeof place.sun_path - 1);
+  const FileDescriptor client(::socket(AF_UNIX, SOCK_STREAM, 0));
+  ASSERT_EQ(connect(client.get(), reinterpret_cast<const sockaddr*>(&place), sizeof place), 0);
+  std::atomic<bool> isServed{false};
+  std::thread slow([&] {
+    for (int i = 0; i < 500 && !isServed; ++i) {
+      send(client.get(), "x", 1, MSG_NOSIGNAL);
+      std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    ::shutdown(client.get(), SHUT_WR);
+  });
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(served(*socket), "");
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
+  isServed = true;
+  slow.join();
 }
 
 TEST_F(InstanceSocketTest, AClientThatHangsUpIsForgotten) {

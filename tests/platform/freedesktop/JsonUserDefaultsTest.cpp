@@ -151,9 +151,13 @@ TEST_F(JsonUserDefaultsTest, ReloadsOnlyWhatHasChanged) {
   defaults.reloadIfChanged();
   EXPECT_EQ(changes, 1);
   EXPECT_EQ(defaults.string("text"), "other");
+  write(R"({"text": "OTHER"})");
+  fs::last_write_time(file, fs::file_time_type::clock::now() - std::chrono::hours(24 * 365 * 20));
+  defaults.reloadIfChanged();
+  EXPECT_EQ(defaults.string("text"), "OTHER") << "as long, and older: the clock was set back";
   fs::remove(file);
   defaults.reloadIfChanged();
-  EXPECT_EQ(changes, 2);
+  EXPECT_EQ(changes, 3);
   EXPECT_EQ(defaults.string("text"), std::nullopt);
 }
 
@@ -206,6 +210,26 @@ TEST_F(WatchedPreferences, FollowAFolderThatDidNotExist) {
   defaults.watch(queue);
   JsonUserDefaults(deep).set("text", "a");
   EXPECT_TRUE(waitFor([&] { return defaults.string("text") == "a"; }));
+}
+
+TEST_F(WatchedPreferences, FollowAFolderThatIsRemovedOrMovedAwayAndMadeAnew) {
+  const fs::path deep = folder / "config" / "preferences.json";
+  JsonUserDefaults(deep).set("text", "first");
+  LogRecorder log;
+  JsonUserDefaults defaults(deep);
+  defaults.watch(queue);
+  for (const bool isMoved : {false, true, false}) {
+    if (isMoved) {
+      fs::rename(deep.parent_path(), folder / "elsewhere");
+    } else {
+      fs::remove_all(deep.parent_path());
+    }
+    EXPECT_TRUE(waitFor([&] { return !defaults.string("text") && fs::exists(deep.parent_path()); }));
+    EXPECT_THAT(log.lines, ::testing::Contains(HasSubstr("has gone, and is made again: ")));
+    JsonUserDefaults(deep).set("text", "other");
+    EXPECT_TRUE(waitFor([&] { return defaults.string("text") == "other"; }));
+    log.lines.clear();
+  }
 }
 
 TEST_F(WatchedPreferences, FollowALink) {

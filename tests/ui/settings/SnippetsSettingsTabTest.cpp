@@ -283,6 +283,13 @@ TEST_F(SnippetsSettingsTabTest, AFailedImportChangesNothing) {
   }
 }
 
+TEST_F(SnippetsSettingsTabTest, AnImportThatCannotBeSavedHasFailed) {
+  open();
+  fs::create_directory(folder / "user-snippets.json");
+  import(json({mine("a")}));
+  EXPECT_THAT(message().toStdString(), StartsWith("Import failed: cannot write "));
+}
+
 TEST_F(SnippetsSettingsTabTest, ClosingTheWindowEndsAnImport) {
   openWith({});
   std::vector<Snippet> many(2000, mine("x"));
