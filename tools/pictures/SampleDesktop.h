@@ -41,6 +41,7 @@ struct SampleGrants final : Accessibility, InputMonitoring {
   }
   Subscription onFocusMoved(std::function<void()>) override { return {}; }
   void beginBudget(std::chrono::milliseconds) override {}
+  bool isBusy(const ElementRef&) override { return false; }
   bool pause(std::chrono::milliseconds) override { return false; }
 
   bool isGranted() override { return monitoring; }
