@@ -46,6 +46,12 @@ const Field* fieldNamed(QStringView name, bool isExtension) {
   return found == fields.end() ? nullptr : &*found;
 }
 
+/// The reader's own wording quotes the feed, line feeds and all, which would forge lines of the log.
+const char* description(QXmlStreamReader::Error error) {
+  return error == QXmlStreamReader::PrematureEndOfDocumentError ? "the feed ends too early"
+                                                                : "the feed is not well-formed";
+}
+
 QString decoded(std::string_view bytes) {
   QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
   QString text = decoder(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
@@ -70,7 +76,7 @@ class AppcastReader {
 
   Appcast read() {
     while (!xml_.atEnd()) take(xml_.readNext());
-    if (xml_.hasError()) fail(xml_.errorString().toStdString());
+    if (xml_.hasError()) fail(description(xml_.error()));
     return std::move(appcast_);
   }
 

@@ -1,14 +1,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <map>
 #include <random>
 #include <string>
 #include <vector>
 
-#include "model/MatchScore.h"
 #include "model/SearchIndex.h"
+#include "support/PlainSearch.h"
 
 namespace tessarin {
 namespace {
@@ -19,33 +17,6 @@ using ::testing::IsEmpty;
 Snippet snippet(const std::string& trigger, const std::vector<std::string>& keywords = {}) {
   return {"id_" + trigger, trigger, trigger, "x", keywords, "Custom", false};
 }
-
-/// What the index must answer: every snippet scored one by one, then sorted.
-class PlainPass {
- public:
-  std::vector<std::size_t> search(const std::string& query, std::size_t limit) const {
-    std::vector<std::pair<int, std::size_t>> kept;
-    for (std::size_t i = 0; i < snippets.size(); ++i) {
-      const int base = matchScore(query, snippets[i].trigger, snippets[i].keywords);
-      if (base >= 1) kept.emplace_back(base + bonus(snippets[i].trigger), i);
-    }
-    std::stable_sort(kept.begin(), kept.end(),
-                     [](const auto& a, const auto& b) { return a.first > b.first; });
-    std::vector<std::size_t> positions;
-    for (std::size_t i = 0; i < std::min(limit, kept.size()); ++i) positions.push_back(kept[i].second);
-    return positions;
-  }
-
-  std::vector<Snippet> snippets;
-  std::map<std::string, std::int64_t> counts;
-
- private:
-  int bonus(const std::string& trigger) const {
-    const auto found = counts.find(trigger);
-    if (found == counts.end() || found->second < 1) return 0;
-    return static_cast<int>(std::min<std::int64_t>(found->second, 10)) * 50;
-  }
-};
 
 void fill(SearchIndex& index, const std::vector<Snippet>& snippets) {
   for (const Snippet& s : snippets) index.append(s);
@@ -152,7 +123,7 @@ class Comparison {
   }
 
   Generator generator_;
-  PlainPass plain_;
+  testing::PlainSearch plain_;
   SearchIndex index_;
 };
 

@@ -101,7 +101,9 @@ TEST_P(DamagedFeed, IsRefused) {
     parseAppcast(GetParam().bytes);
     FAIL() << "was taken";
   } catch (const DataError& error) {
-    EXPECT_NE(std::string(error.what()).find(GetParam().complaint), std::string::npos) << error.what();
+    const std::string told = error.what();
+    EXPECT_NE(told.find(GetParam().complaint), std::string::npos) << told;
+    EXPECT_EQ(told.find("quoted"), std::string::npos) << told;
   }
 }
 
@@ -114,6 +116,7 @@ INSTANTIATE_TEST_SUITE_P(
         Damaged{"CutOff", wholeFeed.substr(0, wholeFeed.size() - 8), "line 2"},
         Damaged{"WebPage", "<html><body>moved</body></html>", "no feed"},
         Damaged{"WrongNesting", "<rss><channel></rss></channel>", "line 1"},
+        Damaged{"QuotedName", "<?xml version='1.0' encoding='\nquoted'?><rss/>", "line 2"},
         Damaged{"SecondRoot", "<rss/><rss/>", "line 1"},
         Damaged{"DocumentType", "<!DOCTYPE rss><rss/>", "document type"},
         Damaged{"ExternalDocumentType", "<!DOCTYPE rss SYSTEM 'file:///etc/passwd'><rss/>", "document type"},

@@ -69,8 +69,9 @@ std::vector<std::string> localeCandidates(std::string_view locale) {
   if (language.empty() || language == "C" || language == "POSIX") return {};
   std::vector<std::string> candidates;
   for (const std::string& base : {full, language}) {
+    if (!candidates.empty() && candidates.back() == base) break;  // there is no country
     if (!modifier.empty()) candidates.push_back(base + modifier);
-    if (candidates.empty() || candidates.back() != base) candidates.push_back(base);
+    candidates.push_back(base);
   }
   return candidates;
 }

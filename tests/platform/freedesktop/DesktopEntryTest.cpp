@@ -50,6 +50,7 @@ TEST(DesktopEntry, HasTheNameOfTheLocale) {
 
 TEST(LocaleCandidates, GoFromTheNarrowToTheWide) {
   EXPECT_THAT(localeCandidates("sr_RS.UTF-8@latin"), ElementsAre("sr_RS@latin", "sr_RS", "sr@latin", "sr"));
+  EXPECT_THAT(localeCandidates("ca@valencia"), ElementsAre("ca@valencia", "ca"));
   EXPECT_THAT(localeCandidates("C.UTF-8"), IsEmpty());
 }
 
