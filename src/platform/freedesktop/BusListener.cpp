@@ -1,4 +1,6 @@
-#include "platform/freedesktop/LockSource.h"
+#include "platform/freedesktop/BusListener.h"
+
+#include <poll.h>
 
 namespace tessarin::freedesktop {
 
@@ -16,10 +18,21 @@ Bus openBus(DBusBusType kind, const std::string& address) {
   return bus;
 }
 
-int LockSource::work() {
-  const bool isConnected = dbus_connection_read_write(bus_.get(), 0) != 0;
+Bus openBusAtOnce(const std::string& address) {
+  Bus bus(dbus_connection_open_private(address.c_str(), nullptr));
+  if (!bus) return nullptr;
+  dbus_connection_set_exit_on_disconnect(bus.get(), 0);
+  const Message hello(
+      dbus_message_new_method_call(DBUS_SERVICE_DBUS, DBUS_PATH_DBUS, DBUS_INTERFACE_DBUS, "Hello"));
+  dbus_connection_send(bus.get(), hello.get(), nullptr);
+  return bus;
+}
+
+int BusListener::work() {
+  // Twice: what comes in may want an answer, while the other side is being introduced, too.
+  bool isConnected = dbus_connection_read_write(bus_.get(), 0) != 0;
   while (const Message message{dbus_connection_pop_message(bus_.get())}) handle(message.get());
-  dbus_connection_flush(bus_.get());
+  isConnected = isConnected && dbus_connection_read_write(bus_.get(), 0) != 0;
   int file = -1;
   if (!isConnected || dbus_connection_get_unix_fd(bus_.get(), &file) == 0) {
     forget();
@@ -28,14 +41,20 @@ int LockSource::work() {
   return file;
 }
 
-dbus_uint32_t LockSource::ask(Message question) {
+short BusListener::events() const {
+  const bool hasMore = dbus_connection_get_is_authenticated(bus_.get()) != 0 &&
+                       dbus_connection_has_messages_to_send(bus_.get()) != 0;
+  return static_cast<short>(hasMore ? POLLIN | POLLOUT : POLLIN);
+}
+
+dbus_uint32_t BusListener::ask(Message question) {
   dbus_message_set_auto_start(question.get(), 0);
   dbus_uint32_t serial = 0;
   dbus_connection_send(bus_.get(), question.get(), &serial);
   return serial;
 }
 
-void LockSource::handle(DBusMessage* message) {
+void BusListener::handle(DBusMessage* message) {
   switch (dbus_message_get_type(message)) {
     case DBUS_MESSAGE_TYPE_SIGNAL:
       return handleSignal(message);
