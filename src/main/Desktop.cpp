@@ -51,7 +51,7 @@ Desktop::Desktop()
       x11EventTap_(keyboard_),
       screenLock_(freedesktop::ScreenLock::connect()),
       inputMethodObserver_(workspace_.onContextChanged([this] { inputMethod_.lookAgain(); })),
-      eventTap_(x11EventTap_, [this](bool begins) { return keyGuard(begins); }),
+      eventTap_(x11EventTap_, [this] { return keyGuard(); }),
       keyPoster_(keyboard_),
       otherApplications_(queue_, accessibilityOptions()),
       accessibility_(otherApplications_),
@@ -122,10 +122,10 @@ KeyTapState Desktop::keyTapState() {
   return x11InputMonitoring_.isGranted() ? KeyTapState::usable : KeyTapState::missingExtensions;
 }
 
-KeyGuard Desktop::keyGuard(bool begins) {
+KeyGuard Desktop::keyGuard() {
   if (screenLock_ && screenLock_->isLocked()) return KeyGuard::shut;
   // For services that do not tell of changes. The answer will be there before a person's next key.
-  if (begins) inputMethod_.lookAgain();
+  inputMethod_.lookAgain();
   switch (inputMethod_.state()) {
     case freedesktop::ComposingInputMethod::State::no:
       return KeyGuard::open;

@@ -62,7 +62,7 @@ class Desktop {
   Pasteboard& primary();
   Workspace& sessionWorkspace();
   KeyTapState keyTapState();
-  KeyGuard keyGuard(bool begins);
+  KeyGuard keyGuard();
   void askForTrust();
   void allow();
 

@@ -20,10 +20,8 @@ enum class KeyGuard {
 /// (a locked screen) or another's (an input method that composes).
 class GuardedEventTap final : public EventTap {
  public:
-  /// `tap` outlives this. `guard` is asked for each event and must be quick; `begins`: nothing is being
-  /// collected at the time.
-  GuardedEventTap(EventTap& tap, std::function<KeyGuard(bool begins)> guard)
-      : tap_(tap), guard_(std::move(guard)) {}
+  /// `tap` outlives this. `guard` is asked for each key and must be quick.
+  GuardedEventTap(EventTap& tap, std::function<KeyGuard()> guard) : tap_(tap), guard_(std::move(guard)) {}
 
   bool create(Handler handler) override {
     return tap_.create([this, handler = std::move(handler)](const KeyEvent& event) {
@@ -42,7 +40,7 @@ class GuardedEventTap final : public EventTap {
  private:
   bool isShut(const Handler& handler) {
     const bool begins = attention_ == KeyAttention::triggerOnly;
-    const KeyGuard guard = guard_(begins);
+    const KeyGuard guard = guard_();
     if (guard == KeyGuard::open || (guard == KeyGuard::unsure && begins)) return false;
     // What has been collected until now ends, as the keys that follow go past unseen.
     KeyEvent interruption;
@@ -52,7 +50,7 @@ class GuardedEventTap final : public EventTap {
   }
 
   EventTap& tap_;
-  std::function<KeyGuard(bool begins)> guard_;
+  std::function<KeyGuard()> guard_;
   KeyAttention attention_ = KeyAttention::triggerOnly;
 };
 

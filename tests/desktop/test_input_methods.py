@@ -1,6 +1,8 @@
 #!/usr/bin/python3
 """Beside a running input method: shortcodes expand with its keyboard layouts, and nothing happens while it composes."""
 
+import contextlib
+import operator
 import pathlib
 import signal
 import unittest
@@ -31,14 +33,16 @@ class IBus:
     def __init__(self, session):
         self.session = session
         self._child = session.start("ibus-daemon", "--panel", "disable", "--config", "/usr/libexec/ibus-memconf", "--xim")
-        wait_for(lambda: self.run("address").strip() not in (b"", b"(null)"), what="IBus")
+        wait_for(lambda: self.run("list-engine"), what="IBus")
 
     def run(self, *command):
         return self.session.run("ibus", *command, check=False).stdout
 
     def switch_to(self, engine):
-        self.run("engine", engine)
-        wait_for(lambda: self.run("engine").strip() == engine.encode(), what=engine)
+        def switched():
+            self.run("engine", engine)
+            return self.run("engine").strip() == engine.encode()
+        wait_for(switched, what=engine)
 
     def close(self, how=signal.SIGTERM):
         self.session.stop(self._child, how)
@@ -71,17 +75,17 @@ class Fcitx:
         self.session.stop(self._child, how)
 
 
+ALL = (IBus, Fcitx)
+KEYBOARD, COMPOSING = operator.attrgetter("keyboard"), operator.attrgetter("composing")
+
+
 class BesideAnInputMethod(DesktopTest):
-    def input_methods(self):
-        for kind in (IBus, Fcitx):
-            with self.subTest(kind.__name__):
-                self.session.env["GTK_IM_MODULE"] = kind.module
-                method = kind(self.session)
-                try:
-                    with Mousepad(self.session, self.typist) as editor:
-                        yield method, editor
-                finally:
-                    method.close()
+    @contextlib.contextmanager
+    def typing_with(self, kind, engine):
+        self.session.env["GTK_IM_MODULE"] = kind.module
+        with contextlib.closing(kind(self.session)) as method, Mousepad(self.session, self.typist) as editor:
+            method.switch_to(engine(kind))
+            yield method, editor
 
     def insertions(self):
         return self.tessarin.log.count("Replaced via") + self.tessarin.log.count("Falling back")
@@ -96,25 +100,26 @@ class BesideAnInputMethod(DesktopTest):
         self.assertEqual(self.insertions(), before)
 
     def test_keyboard_and_composing_engine_in_turn(self):
-        for method, editor in self.input_methods():
-            for _ in range(3):
-                method.switch_to(method.keyboard)
-                self.check(editor, ["a:smile\nb "], "a😄b ")
-                method.switch_to(method.composing)
-                self.check_composing(editor)
+        for kind in ALL:
+            with self.subTest(kind.__name__), self.typing_with(kind, KEYBOARD) as (method, editor):
+                for _ in range(3):
+                    method.switch_to(method.keyboard)
+                    self.check(editor, ["a:smile\nb "], "a😄b ")
+                    method.switch_to(method.composing)
+                    self.check_composing(editor)
 
     def test_fifty_without_a_pause(self):
-        for method, editor in self.input_methods():
-            method.switch_to(method.keyboard)
-            self.check(editor, ["a:smile\nb " * 50], "a😄b " * 50, seconds=60)
+        for kind in ALL:
+            with self.subTest(kind.__name__), self.typing_with(kind, KEYBOARD) as (method, editor):
+                self.check(editor, ["a:smile\nb " * 50], "a😄b " * 50, seconds=60)
 
     def test_switched_while_collecting(self):
-        for method, editor in self.input_methods():
-            method.switch_to(method.keyboard)
-            self.play(["a:smi"])
-            self.wait_for_popup()
-            method.switch_to(method.composing)
-            self.check_after_switch(editor)
+        for kind in ALL:
+            with self.subTest(kind.__name__), self.typing_with(kind, KEYBOARD) as (method, editor):
+                self.play(["a:smi"])
+                self.wait_for_popup()
+                method.switch_to(method.composing)
+                self.check_after_switch(editor)
 
     def check_after_switch(self, editor):
         self.play(["le\naa "])
@@ -122,10 +127,10 @@ class BesideAnInputMethod(DesktopTest):
         self.assertIsNone(self.typist.popup())
 
     def test_one_that_crashed_composes_no_longer(self):
-        for method, editor in self.input_methods():
-            method.switch_to(method.composing)
-            self.check_composing(editor)
-            method.close(signal.SIGKILL)
+        for kind in ALL:
+            with self.subTest(kind.__name__), self.typing_with(kind, COMPOSING) as (method, editor):
+                self.check_composing(editor)
+                method.close(signal.SIGKILL)
         self.session.env["GTK_IM_MODULE"] = "gtk-im-context-simple"
         with Mousepad(self.session, self.typist) as editor:
             self.check(editor, ["a:smile\nb "], "a😄b ")

@@ -43,15 +43,16 @@ void ComposingInputMethod::waitFor(pollfd fcitx, pollfd ibus) {
   eventfd_t count = 0;
   if (isAsked) eventfd_read(wake_.get(), &count);
   if (isAsked && fcitx_) fcitx_->lookAgain();
-  if (hasNewAddress || isAsked) followIBus();
+  if (hasNewAddress || (isAsked && !ibus_)) followIBus();
 }
 
-// Also reads away what was said about the file, so that it does not wake us again.
+// What is written there counts even while we are connected: Fcitx poses as IBus, on a bus that outlives it.
 void ComposingInputMethod::followIBus() {
   const std::string address = ibusAddress_.read();
-  if (ibus_ || address.empty()) return;
+  if (ibus_ && address == usedAddress_) return;
   usedAddress_ = address;
-  if (auto bus = openBusAtOnce(address)) ibus_ = std::make_unique<IBusEngine>(std::move(bus));
+  auto bus = address.empty() ? nullptr : openBusAtOnce(address);
+  ibus_ = bus ? std::make_unique<IBusEngine>(std::move(bus)) : nullptr;
 }
 
 pollfd ComposingInputMethod::workFcitx() {
@@ -62,13 +63,8 @@ pollfd ComposingInputMethod::workFcitx() {
 
 pollfd ComposingInputMethod::workIBus() {
   const int file = ibus_ ? ibus_->work() : -1;
-  if (file >= 0) return {file, ibus_->events(), 0};
-  // A daemon that replaces another leaves its address before the other goes.
-  const bool isReplaced = ibus_ && ibusAddress_.read() != usedAddress_;
-  ibus_.reset();
-  if (!isReplaced) return {-1, 0, 0};
-  followIBus();
-  return workIBus();
+  if (file < 0) ibus_.reset();
+  return {file, ibus_ ? ibus_->events() : short{0}, 0};
 }
 
 ComposingInputMethod::State ComposingInputMethod::currentState() const {
