@@ -29,10 +29,13 @@ Bus openBusAtOnce(const std::string& address) {
 }
 
 int BusListener::work() {
-  // Twice: what comes in may want an answer, while the other side is being introduced, too.
-  bool isConnected = dbus_connection_read_write(bus_.get(), 0) != 0;
-  while (const Message message{dbus_connection_pop_message(bus_.get())}) handle(message.get());
-  isConnected = isConnected && dbus_connection_read_write(bus_.get(), 0) != 0;
+  bool isConnected = false;
+  do {
+    // Before and after: what comes in may want an answer, while the two sides are being introduced, too.
+    isConnected = dbus_connection_read_write(bus_.get(), 0) != 0;
+    while (const Message message{dbus_connection_pop_message(bus_.get())}) handle(message.get());
+    isConnected = isConnected && dbus_connection_read_write(bus_.get(), 0) != 0;
+  } while (dbus_connection_get_dispatch_status(bus_.get()) == DBUS_DISPATCH_DATA_REMAINS);
   int file = -1;
   if (!isConnected || dbus_connection_get_unix_fd(bus_.get(), &file) == 0) {
     forget();
