@@ -50,7 +50,8 @@ Desktop::Desktop()
       keyboard_(std::make_shared<x11::X11Keyboard>(queue_)),
       x11EventTap_(keyboard_),
       screenLock_(freedesktop::ScreenLock::connect()),
-      eventTap_(x11EventTap_, [this] { return screenLock_ && screenLock_->isLocked(); }),
+      inputMethodObserver_(workspace_.onContextChanged([this] { inputMethod_.lookAgain(); })),
+      eventTap_(x11EventTap_, [this] { return keyGuard(); }),
       keyPoster_(keyboard_),
       otherApplications_(queue_, accessibilityOptions()),
       accessibility_(otherApplications_),
@@ -120,6 +121,21 @@ KeyTapState Desktop::keyTapState() {
   if (isWaylandSession()) return KeyTapState::waylandSession;
   if (!x11Workspace_) return KeyTapState::noServer;
   return x11InputMonitoring_.isGranted() ? KeyTapState::usable : KeyTapState::missingExtensions;
+}
+
+KeyGuard Desktop::keyGuard() {
+  if (screenLock_ && screenLock_->isLocked()) return KeyGuard::shut;
+  // For services that do not tell of changes. The answer will be there before a person's next key.
+  inputMethod_.lookAgain();
+  switch (inputMethod_.state()) {
+    case freedesktop::ComposingInputMethod::State::no:
+      return KeyGuard::open;
+    case freedesktop::ComposingInputMethod::State::yes:
+      return KeyGuard::shut;
+    case freedesktop::ComposingInputMethod::State::lastTime:
+      break;
+  }
+  return KeyGuard::unsure;
 }
 
 void Desktop::askForTrust() {

@@ -11,6 +11,7 @@
 #include "platform/OwnAddresses.h"
 #include "platform/atspi/AtspiAccessibility.h"
 #include "platform/freedesktop/AutostartLoginItem.h"
+#include "platform/freedesktop/ComposingInputMethod.h"
 #include "platform/freedesktop/JsonUserDefaults.h"
 #include "platform/freedesktop/ScreenLock.h"
 #include "platform/freedesktop/TrustRecord.h"
@@ -61,6 +62,7 @@ class Desktop {
   Pasteboard& primary();
   Workspace& sessionWorkspace();
   KeyTapState keyTapState();
+  KeyGuard keyGuard();
   void askForTrust();
   void allow();
 
@@ -86,6 +88,8 @@ class Desktop {
   std::shared_ptr<x11::X11Keyboard> keyboard_;
   x11::X11EventTap x11EventTap_;
   std::unique_ptr<freedesktop::ScreenLock> screenLock_;
+  freedesktop::ComposingInputMethod inputMethod_;
+  Subscription inputMethodObserver_;
   GuardedEventTap eventTap_;
   x11::X11KeyPoster keyPoster_;
   atspi::AtspiAccessibility otherApplications_;

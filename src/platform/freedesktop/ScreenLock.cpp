@@ -37,7 +37,10 @@ ScreenLock::~ScreenLock() {
 void ScreenLock::run() {
   for (;;) {
     std::vector<pollfd> files{{end_.get(), POLLIN, 0}};
-    for (const auto& source : sources_) files.push_back({source->work(), POLLIN, 0});
+    for (const auto& source : sources_) {
+      const int file = source->work();
+      files.push_back({file, source->events(), 0});
+    }
     isLocked_ = std::ranges::any_of(sources_, [](const auto& source) { return source->isLocked(); });
     poll(files.data(), files.size(), -1);
     if (files.front().revents != 0) return;

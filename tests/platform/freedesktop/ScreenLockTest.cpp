@@ -1,15 +1,12 @@
 #include <dbus/dbus.h>
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <poll.h>
-#include <unistd.h>
 
 #include <atomic>
-#include <stdexcept>
 
 #include "platform/freedesktop/ScreenLock.h"
 #include "support/Eventually.h"
-#include "support/desktop/ChildProcess.h"
+#include "support/desktop/BusService.h"
+#include "support/desktop/PrivateBus.h"
 
 namespace tessarin::testing {
 namespace {
@@ -18,79 +15,11 @@ using freedesktop::ScreenLock;
 
 constexpr const char* noBus = "unix:path=/nonexistent/bus";
 
-/// A session bus of the test's own.
-class PrivateBus {
- public:
-  PrivateBus() {
-    int ends[2];
-    if (pipe2(ends, O_CLOEXEC) != 0) throw std::runtime_error("no pipe");
-    daemon_ = ChildProcess(
-        {"dbus-daemon", "--session", "--nofork", "--print-address=" + std::to_string(ends[1])}, {}, ends[1]);
-    close(ends[1]);
-    for (char c = 0; read(ends[0], &c, 1) == 1 && c != '\n';) address_ += c;
-    close(ends[0]);
-  }
-  const std::string& address() const { return address_; }
-  void stop() { daemon_.stop(); }
-
- private:
-  ChildProcess daemon_;
-  std::string address_;
-};
-
-/// A service on a bus with one state that it tells and that can be asked for.
-class Service {
- public:
-  Service(const std::string& address, const std::string& name)
-      : bus_(dbus_connection_open_private(address.c_str(), nullptr)) {
-    dbus_bus_register(bus_, nullptr);
-    dbus_connection_set_exit_on_disconnect(bus_, 0);
-    dbus_bus_request_name(bus_, name.c_str(), DBUS_NAME_FLAG_DO_NOT_QUEUE, nullptr);
-  }
-  virtual ~Service() {
-    dbus_connection_close(bus_);
-    dbus_connection_unref(bus_);
-  }
-  Service(const Service&) = delete;
-  Service& operator=(const Service&) = delete;
-
- protected:
-  void start() {
-    thread_ = std::thread([this] { run(); });
-  }
-  void stop() {
-    isEnding_ = true;
-    thread_.join();
-  }
-  void send(DBusMessage* message) {
-    dbus_connection_send(bus_, message, nullptr);
-    dbus_connection_flush(bus_);
-    dbus_message_unref(message);
-  }
-  /// The answer to a question, or nullptr.
-  virtual DBusMessage* answer(DBusMessage* question) = 0;
-
- private:
-  void run() {
-    while (!isEnding_) {
-      dbus_connection_read_write(bus_, 5);
-      while (DBusMessage* message = dbus_connection_pop_message(bus_)) {
-        if (DBusMessage* reply = answer(message)) send(reply);
-        dbus_message_unref(message);
-      }
-    }
-  }
-
-  DBusConnection* bus_;
-  std::atomic<bool> isEnding_ = false;
-  std::thread thread_;
-};
-
 /// A locker that says whether it covers the screen.
-class Locker final : public Service {
+class Locker final : public BusService {
  public:
   Locker(const std::string& address, const std::string& name, bool isActive)
-      : Service(address, name), name_(name), isActive_(isActive) {
+      : BusService(address, name), name_(name), isActive_(isActive) {
     start();
   }
   ~Locker() override { stop(); }
@@ -117,10 +46,10 @@ class Locker final : public Service {
 };
 
 /// The list of sessions, with one in it.
-class Sessions final : public Service {
+class Sessions final : public BusService {
  public:
   Sessions(const std::string& address, bool isLocked)
-      : Service(address, "org.freedesktop.login1"), isLocked_(isLocked) {
+      : BusService(address, "org.freedesktop.login1"), isLocked_(isLocked) {
     start();
   }
   ~Sessions() override { stop(); }
