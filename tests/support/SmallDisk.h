@@ -33,7 +33,8 @@ class SmallDisk {
   void clear() const { std::filesystem::remove(folder_ / "ballast"); }
   void setReadOnly(bool isReadOnly) const {
     const int flags = isReadOnly ? MS_REMOUNT | MS_RDONLY : MS_REMOUNT;
-    require(::mount(nullptr, folder_.path().c_str(), nullptr, static_cast<unsigned long>(flags), nullptr) == 0);
+    require(::mount(nullptr, folder_.path().c_str(), nullptr, static_cast<unsigned long>(flags), nullptr) ==
+            0);
   }
 
  private:

@@ -36,8 +36,8 @@ class CallChannel {
   /// Goes on waiting for the answer that the application owes us. `unanswered` when it still does not come,
   /// `notSent` when it owes none.
   Answer awaitOwed(const std::string& bus);
-  /// Whether the application has been asked something that it has not answered yet. Until it does it is passed
-  /// over.
+  /// Whether the application has been asked something that it has not answered yet. Until it does it is
+  /// passed over.
   bool owesAnswer(const std::string& bus);
 
  private:

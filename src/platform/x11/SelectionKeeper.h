@@ -20,8 +20,8 @@ class SelectionKeeper {
   /// The option with which the program is started for that.
   static constexpr const char* option = "--keep-selections";
 
-  /// Starts the program and waits, one second at most, until it has taken the selections. False, and a line in
-  /// the log, when that failed.
+  /// Starts the program and waits, one second at most, until it has taken the selections. False, and a line
+  /// in the log, when that failed.
   static bool start(const std::string& program, const std::vector<KeptSelection>& selections);
   /// What the process does, from reading the selections out of `input` to its end; writes one byte to
   /// `output` when they are taken. Its exit status.
