@@ -14,6 +14,10 @@ constexpr std::string_view component = "TextReplacer";
 /// 200 ms in all: an application may turn the text into something else, and keys are not held back for that.
 constexpr int looksForArrival = 40;
 constexpr std::chrono::milliseconds betweenLooks{5};
+/// Half a second: input methods and slow editors were seen to take a quarter of it.
+constexpr int looksForTyped = 100;
+/// While it does not answer. Its keys wait for it, so that BackSpaces will find the letters.
+constexpr int looksAtSilentApplication = 400;
 
 std::int64_t charactersToErase(const Replacement& replacement) {
   return replacement.deleteCount + (replacement.includeTriggerChar ? 1 : 0);
@@ -36,20 +40,48 @@ void TextReplacer::startNext() {
   Request request = std::move(waiting_.front());
   waiting_.pop_front();
   done_ = std::move(request.done);
-  run(request.replacement);
+  const Replacement& replacement = request.replacement;
+  run({replacement.typed, charactersToErase(replacement), expanded(replacement.text)});
 }
 
-void TextReplacer::run(const Replacement& replacement) {
-  const std::int64_t count = charactersToErase(replacement);
-  const std::string text = expanded(replacement.text);
-  const auto outcome = accessibilityHelper_.insertText(replacement.typed, count, text);
-  if (outcome == InsertionOutcome::inserted) {
-    log(component, "Replaced via Accessibility API");
-    finish(outcome);
-    return;
+void TextReplacer::run(const Job& job) {
+  const auto outcome = accessibilityHelper_.insertText(job.typed, job.count, job.text);
+  switch (outcome) {
+    case InsertionOutcome::inserted:
+      log(component, "Replaced via Accessibility API");
+      return finish(outcome);
+    case InsertionOutcome::differs:
+      return runOnceTyped(job, {});
+    case InsertionOutcome::unchanged:
+    case InsertionOutcome::erasedOnly:
+      return pasteInstead(job, outcome);
   }
+}
+
+void TextReplacer::runOnceTyped(const Job& job, Searches searches) {
+  queue_.after(betweenLooks, [this, job, searches, alive = std::weak_ptr<char>(alive_)] {
+    if (!alive.expired()) lookForTyped(job, searches);
+  });
+}
+
+void TextReplacer::lookForTyped(const Job& job, Searches searches) {
+  const auto stands = accessibilityHelper_.stands(job.typed, job.count);
+  if (stands == true) return run(job);
+  ++(stands ? searches.answered : searches.unanswered);
+  if (searches.answered == looksForTyped) {
+    // The application has corrected or completed the shortcode: erasing would take away other text.
+    log(component, "Something else stands before the caret, and is left alone");
+    return finish(InsertionOutcome::differs);
+  }
+  if (searches.unanswered == looksAtSilentApplication) {
+    return pasteInstead(job, InsertionOutcome::unchanged);
+  }
+  runOnceTyped(job, searches);
+}
+
+void TextReplacer::pasteInstead(const Job& job, InsertionOutcome soFar) {
   log(component, "Falling back to paste method");
-  paste(outcome == InsertionOutcome::erasedOnly ? 0 : count, text, outcome);
+  paste(soFar == InsertionOutcome::erasedOnly ? 0 : job.count, job.text, soFar);
 }
 
 void TextReplacer::paste(std::int64_t count, const std::string& text, InsertionOutcome soFar) {

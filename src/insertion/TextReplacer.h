@@ -32,7 +32,21 @@ class TextReplacer final : public TextInsertion {
   };
   std::string expanded(const std::string& text);
   void startNext();
-  void run(const Replacement& replacement);
+  struct Job {
+    std::string typed;
+    std::int64_t count = 0;  ///< characters to be erased
+    std::string text;        ///< with its template variables filled in
+  };
+  /// How often a shortcode that does not stand in the document yet has been looked for in vain.
+  struct Searches {
+    int answered = 0;
+    int unanswered = 0;
+  };
+  void run(const Job& job);
+  /// The document was read, and something else stands before the caret: letters may still be on their way.
+  void runOnceTyped(const Job& job, Searches searches);
+  void lookForTyped(const Job& job, Searches searches);
+  void pasteInstead(const Job& job, InsertionOutcome soFar);
   void paste(std::int64_t count, const std::string& text, InsertionOutcome soFar);
   /// Some applications read the pasteboard and go on taking keys before the text stands in the document.
   void finishOnceArrived(const std::string& text, int looksLeft);
