@@ -33,15 +33,23 @@ InsertionOutcome AccessibilityHelper::insertText(const std::string& typed, std::
   accessibility_.beginBudget(insertionBudget);
   const auto element = focusedTextElement();
   if (!element) return InsertionOutcome::unchanged;
-  const bool isLookedFor = count > 0 && !typed.empty();
-  const auto location = isLookedFor ? caretBehind(*element, typed, count) : caret(*element);
-  if (!location) return InsertionOutcome::unchanged;
+  if (count <= 0 || typed.empty()) {
+    const auto location = caret(*element);
+    return location ? replaceBefore(*element, *location, count, text) : InsertionOutcome::unchanged;
+  }
+  const auto place = awaitTyped(*element, typed, count);
+  if (!place) return InsertionOutcome::unchanged;
+  return place->isBehindTyped ? replaceBefore(*element, place->caret, count, text)
+                              : InsertionOutcome::differs;
+}
 
-  if (accessibility_.setAttribute(*element, attribute::selectedTextRange, rangeBefore(*location, count)) !=
+InsertionOutcome AccessibilityHelper::replaceBefore(const ElementRef& element, std::int64_t location,
+                                                    std::int64_t count, const std::string& text) {
+  if (accessibility_.setAttribute(element, attribute::selectedTextRange, rangeBefore(location, count)) !=
       AccessibilityStatus::success) {
     return InsertionOutcome::unchanged;
   }
-  switch (accessibility_.setAttribute(*element, attribute::selectedText, text)) {
+  switch (accessibility_.setAttribute(element, attribute::selectedText, text)) {
     case AccessibilityStatus::success:
       return InsertionOutcome::inserted;
     case AccessibilityStatus::erasedOnly:
@@ -69,6 +77,13 @@ std::optional<std::string> AccessibilityHelper::beforeCaret(const ElementRef& el
                                                             rangeBefore(*location, count));
   const auto* found = before ? std::get_if<std::string>(&*before) : nullptr;
   return found ? std::optional(*found) : std::nullopt;
+}
+
+std::optional<bool> AccessibilityHelper::stands(const std::string& typed, std::int64_t count) {
+  accessibility_.beginBudget(arrivalBudget);
+  const auto element = focusedTextElement();
+  const auto place = element ? lookFor(*element, typed, count) : std::nullopt;
+  return place ? std::optional(place->isBehindTyped) : std::nullopt;
 }
 
 std::optional<ElementRef> AccessibilityHelper::focusedTextElement() {
@@ -121,17 +136,27 @@ std::optional<std::int64_t> AccessibilityHelper::caret(const ElementRef& element
   return range ? std::optional(range->location) : std::nullopt;
 }
 
-std::optional<std::int64_t> AccessibilityHelper::caretBehind(const ElementRef& element,
-                                                             const std::string& typed, std::int64_t count) {
+std::optional<AccessibilityHelper::Place> AccessibilityHelper::lookFor(const ElementRef& element,
+                                                                       const std::string& typed,
+                                                                       std::int64_t count) {
+  const auto location = caret(element);
+  if (!location) return std::nullopt;
+  const auto before = accessibility_.parameterizedAttribute(element, attribute::stringForRange,
+                                                            rangeBefore(*location, count));
+  const auto* found = before ? std::get_if<std::string>(&*before) : nullptr;
+  if (!found || found->empty()) return std::nullopt;
+  return Place{*location, text::equals(*found, typed)};
+}
+
+std::optional<AccessibilityHelper::Place> AccessibilityHelper::awaitTyped(const ElementRef& element,
+                                                                          const std::string& typed,
+                                                                          std::int64_t count) {
+  std::optional<Place> last;
   for (milliseconds waited{0};; waited += waitStep) {
-    const auto location = caret(element);
-    if (!location) return std::nullopt;
-    const auto before = accessibility_.parameterizedAttribute(element, attribute::stringForRange,
-                                                              rangeBefore(*location, count));
-    const auto* found = before ? std::get_if<std::string>(&*before) : nullptr;
-    if (!found) return std::nullopt;
-    if (text::equals(*found, typed)) return location;
-    if (waited >= longestWait || !accessibility_.pause(waitStep)) return std::nullopt;
+    const auto place = lookFor(element, typed, count);
+    if (!place) return last;
+    last = place;
+    if (place->isBehindTyped || waited >= longestWait || !accessibility_.pause(waitStep)) return place;
   }
 }
 

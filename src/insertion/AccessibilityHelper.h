@@ -22,8 +22,12 @@ class AccessibilityHelper {
 
   /// Replaces the `count` characters before the caret. `typed` is what they must be, so that nothing else is
   /// erased; letters that the application has not processed yet are waited for, 60 ms at most. An empty
-  /// `typed` is not looked for. The whole takes 120 ms at most.
+  /// `typed` is not looked for. An element that says that nothing at all stands there does not tell of its
+  /// text and counts as unreadable. The whole takes 120 ms at most.
   InsertionOutcome insertText(const std::string& typed, std::int64_t count, const std::string& text);
+  /// Whether `typed`, of `count` characters, stands right before the caret of an element that accepts direct
+  /// insertion. None where that cannot be told.
+  std::optional<bool> stands(const std::string& typed, std::int64_t count);
 
   enum class Arrival {
     arrived,
@@ -50,9 +54,15 @@ class AccessibilityHelper {
   bool hasRole(const ElementRef& element, std::string_view name);
   std::optional<std::string> beforeCaret(const ElementRef& element, std::int64_t count);
   std::optional<std::int64_t> caret(const ElementRef& element);
-  /// The caret, once `typed` stands before it.
-  std::optional<std::int64_t> caretBehind(const ElementRef& element, const std::string& typed,
-                                          std::int64_t count);
+  InsertionOutcome replaceBefore(const ElementRef& element, std::int64_t location, std::int64_t count,
+                                 const std::string& text);
+  struct Place {
+    std::int64_t caret = 0;
+    bool isBehindTyped = false;  ///< else something different stands before it
+  };
+  std::optional<Place> lookFor(const ElementRef& element, const std::string& typed, std::int64_t count);
+  /// Waits until `typed` stands before the caret, 60 ms at most.
+  std::optional<Place> awaitTyped(const ElementRef& element, const std::string& typed, std::int64_t count);
 
   Accessibility& accessibility_;
   Workspace& workspace_;

@@ -12,11 +12,11 @@ namespace {
 
 constexpr std::string_view component = "TextReplacer";
 constexpr std::chrono::milliseconds betweenLooks{5};
-/// While the application answers: it may have turned the text into something else, and some paste a while
-/// after they have read.
-constexpr int looksForArrival = 100;
+/// While the application answers: it may have turned the text into something else. Input methods and slow
+/// editors were seen to take half of this time.
+constexpr int looksAtAnswers = 100;
 /// While it hangs: keys let go now would overtake the text.
-constexpr int looksAtBusyApplication = 400;
+constexpr int looksAtSilence = 400;
 
 using Arrival = AccessibilityHelper::Arrival;
 
@@ -41,20 +41,49 @@ void TextReplacer::startNext() {
   Request request = std::move(waiting_.front());
   waiting_.pop_front();
   done_ = std::move(request.done);
-  run(request.replacement);
+  const Replacement& replacement = request.replacement;
+  run({replacement.typed, charactersToErase(replacement), expanded(replacement.text)});
 }
 
-void TextReplacer::run(const Replacement& replacement) {
-  const std::int64_t count = charactersToErase(replacement);
-  const std::string text = expanded(replacement.text);
-  const auto outcome = accessibilityHelper_.insertText(replacement.typed, count, text);
-  if (outcome == InsertionOutcome::inserted) {
-    log(component, "Replaced via Accessibility API");
-    finish(outcome);
-    return;
+void TextReplacer::run(const Job& job) {
+  const auto outcome = accessibilityHelper_.insertText(job.typed, job.count, job.text);
+  switch (outcome) {
+    case InsertionOutcome::inserted:
+      log(component, "Replaced via Accessibility API");
+      return finish(outcome);
+    case InsertionOutcome::differs:
+      return runOnceTyped(job, {});
+    case InsertionOutcome::unchanged:
+    case InsertionOutcome::erasedOnly:
+      return pasteInstead(job, outcome);
   }
+}
+
+void TextReplacer::runOnceTyped(const Job& job, Looks looks) {
+  queue_.after(betweenLooks, [this, job, looks, alive = std::weak_ptr<char>(alive_)] {
+    if (!alive.expired()) lookForTyped(job, looks);
+  });
+}
+
+void TextReplacer::lookForTyped(const Job& job, Looks looks) {
+  const auto stands = accessibilityHelper_.stands(job.typed, job.count);
+  if (stands == true) return run(job);
+  ++(stands ? looks.answered : looks.unanswered);
+  if (looks.answered == looksAtAnswers) {
+    // The application has corrected or completed the shortcode: erasing would take away other text.
+    log(component, "Something else stands before the caret, and is left alone");
+    return finish(InsertionOutcome::differs);
+  }
+  if (looks.unanswered == looksAtSilence) {
+    // Its keys wait for it as well, so BackSpaces will find the letters.
+    return pasteInstead(job, InsertionOutcome::unchanged);
+  }
+  runOnceTyped(job, looks);
+}
+
+void TextReplacer::pasteInstead(const Job& job, InsertionOutcome soFar) {
   log(component, "Falling back to paste method");
-  paste(outcome == InsertionOutcome::erasedOnly ? 0 : count, text, outcome);
+  paste(soFar == InsertionOutcome::erasedOnly ? 0 : job.count, job.text, soFar);
 }
 
 void TextReplacer::paste(std::int64_t count, const std::string& text, InsertionOutcome soFar) {
@@ -73,9 +102,9 @@ void TextReplacer::paste(std::int64_t count, const std::string& text, InsertionO
 void TextReplacer::finishOnceArrived(const std::string& text, Looks looks) {
   const auto arrival = accessibilityHelper_.arrival(text);
   if (arrival == Arrival::notYet) ++looks.answered;
-  if (arrival == Arrival::busy) ++looks.busy;
+  if (arrival == Arrival::busy) ++looks.unanswered;
   const bool isWorthWaiting = (arrival == Arrival::notYet || arrival == Arrival::busy) &&
-                              looks.answered < looksForArrival && looks.busy < looksAtBusyApplication;
+                              looks.answered < looksAtAnswers && looks.unanswered < looksAtSilence;
   if (!isWorthWaiting) {
     finish(InsertionOutcome::inserted);
     return;

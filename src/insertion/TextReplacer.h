@@ -32,13 +32,22 @@ class TextReplacer final : public TextInsertion {
   };
   std::string expanded(const std::string& text);
   void startNext();
-  /// How often a text that was pasted has been looked for in vain.
+  struct Job {
+    std::string typed;
+    std::int64_t count = 0;  ///< characters to be erased
+    std::string text;        ///< with its template variables filled in
+  };
+  /// How often something that does not stand in the document yet has been looked for in vain.
   struct Looks {
     int answered = 0;
-    int busy = 0;
+    int unanswered = 0;
   };
 
-  void run(const Replacement& replacement);
+  void run(const Job& job);
+  /// The document was read, and something else stands before the caret: letters may still be on their way.
+  void runOnceTyped(const Job& job, Looks looks);
+  void lookForTyped(const Job& job, Looks looks);
+  void pasteInstead(const Job& job, InsertionOutcome soFar);
   void paste(std::int64_t count, const std::string& text, InsertionOutcome soFar);
   /// Some applications read the pasteboard and go on taking keys before the text stands in the document.
   void finishOnceArrived(const std::string& text, Looks looks);

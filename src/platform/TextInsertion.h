@@ -17,6 +17,7 @@ struct Replacement {
 enum class InsertionOutcome {
   inserted,
   unchanged,   ///< the document is as it was
+  differs,     ///< as unchanged, and something else than the shortcode stands before the caret
   erasedOnly,  ///< the shortcode was removed, the text did not get there
 };
 

@@ -121,9 +121,23 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"textNotReadable", [](Test& test) { makeFail(*test.field, attribute::stringForRange); }},
         Refusal{"textNotWritable",
                 [](Test& test) { test.field->writeResult = AccessibilityStatus::failure; }},
-        Refusal{"caretElsewhere", [](Test& test) { test.field->setCaret(8); }},
+        Refusal{"nothingBeforeTheCaret", [](Test& test) { test.field->setCaret(0); }},
         Refusal{"tooSlow", [](Test& test) { test.accessibility.callDuration = milliseconds(30); }}),
     [](const auto& refusal) { return refusal.param.name; });
+
+TEST_F(AccessibilityHelperTest, leavesAloneWhatIsNotTheShortcode) {
+  for (const char* text : {"hi ☺", "hi :smile ", "hi :smil)"}) {
+    accessibility.focus(field = FakeTextField::create());
+    field->type(text);
+    EXPECT_EQ(insert(), InsertionOutcome::differs) << text;
+    EXPECT_EQ(field->document(), text);
+    EXPECT_EQ(helper.stands(":smile", 6), false);
+  }
+  field->type(":smile");
+  EXPECT_EQ(helper.stands(":smile", 6), true);
+  field->setCaret(0);
+  EXPECT_EQ(helper.stands(":smile", 6), std::nullopt) << "an element that does not tell of its text";
+}
 
 TEST_F(AccessibilityHelperTest, acceptsAWebAreaSixLevelsUp) {
   putAncestors(6, role::webArea);
@@ -147,7 +161,7 @@ TEST_F(AccessibilityHelperTest, waitsForLettersOnTheirWay) {
 TEST_F(AccessibilityHelperTest, waitsSixtyMillisecondsAtMost) {
   field->type(" :wav");
   accessibility.at(milliseconds(70), [this] { field->type("e"); });
-  EXPECT_EQ(helper.insertText(":wave", 5, "👋"), InsertionOutcome::unchanged);
+  EXPECT_EQ(helper.insertText(":wave", 5, "👋"), InsertionOutcome::differs);
   EXPECT_EQ(accessibility.elapsed(), milliseconds(60));
   EXPECT_TRUE(accessibility.writes.empty());
 }
@@ -155,7 +169,7 @@ TEST_F(AccessibilityHelperTest, waitsSixtyMillisecondsAtMost) {
 TEST_F(AccessibilityHelperTest, staysWithinItsBudgetWhileWaiting) {
   accessibility.callDuration = milliseconds(8);
   field->type("x");
-  EXPECT_EQ(insert(), InsertionOutcome::unchanged);
+  EXPECT_EQ(insert(), InsertionOutcome::differs);
   EXPECT_LE(accessibility.elapsed(), milliseconds(120));
 }
 

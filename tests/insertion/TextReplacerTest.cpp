@@ -90,6 +90,43 @@ TEST_F(TextReplacerTest, erasesTheTriggerThatConfirmedToo) {
   EXPECT_EQ(countOf(keycode::deleteBackward), 7U);
 }
 
+TEST_F(TextReplacerTest, erasesNothingWhereTheApplicationHasChangedTheShortcode) {
+  for (const char* text : {"abcdefgh ☺", "abcdefgh :smile ", "abcdefgh ☺ile"}) {
+    accessibility.focus(field = testing::FakeTextField::create());
+    field->type(text);
+    outcomes.clear();
+    replace("😀");
+    EXPECT_THAT(outcomes, IsEmpty()) << "letters may be on their way";
+    queue.advance(milliseconds(3000));
+    EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::differs));
+    EXPECT_EQ(field->document(), text);
+    EXPECT_THAT(keys.posted, IsEmpty());
+    EXPECT_EQ(general.snapshots, 0);
+  }
+}
+
+TEST_F(TextReplacerTest, waitsForLettersThatComeLate) {
+  field->type("abcdefgh :smi");
+  replace("😀");
+  queue.advance(milliseconds(200));
+  field->failing = {std::string(attribute::stringForRange)};
+  queue.advance(milliseconds(1000));
+  field->failing.clear();
+  field->type("le");
+  queue.advance(milliseconds(5));
+  EXPECT_EQ(field->document(), "abcdefgh 😀");
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
+  EXPECT_THAT(log.lines, ElementsAre(direct));
+}
+
+TEST_F(TextReplacerTest, pastesWhereTheApplicationHasFallenSilentMeanwhile) {
+  field->type("abcdefgh :smi");
+  replace("😀");
+  field->failing = {std::string(attribute::value)};
+  queue.advance(milliseconds(3000));
+  EXPECT_EQ(countOf(keycode::deleteBackward), 6U);
+}
+
 TEST_F(TextReplacerTest, pastesByShiftInsertInATerminal) {
   workspace.frontmost->isTerminal = true;
   field->failing.insert(std::string(attribute::value));
