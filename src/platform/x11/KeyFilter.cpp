@@ -39,7 +39,8 @@ KeyFilter::KeyFilter(const SessionKeyboard& keyboard, TapControl& control, KeyJu
       judge_(judge),
       events_(keyboard),
       grabs_(keyboard),
-      synthetic_(keyboard, events_, [this](const TypedKey& key) { keep(key); }) {
+      whole_(keyboard),
+      synthetic_(keyboard, events_, whole_, [this](const TypedKey& key) { keep(key); }) {
   refreshLayout();
 }
 
@@ -129,6 +130,10 @@ bool KeyFilter::holdBy(const TapSettings& settings) {
 }
 
 void KeyFilter::handle(const TypedKey& key) {
+  if (whole_.isTaken()) {
+    if (!layout_ || !isModifierSymbol(layout_->symbol(key))) keep(key);
+    return;
+  }
   if (passesUnjudged(key)) {
     keyboard_.replayHeldKey();
     xcb_flush(keyboard_.connection);
@@ -138,6 +143,7 @@ void KeyFilter::handle(const TypedKey& key) {
   if (!kept_.empty() || (settings.isEnabled && settings.attention == KeyAttention::holdBack)) {
     keep(key);
     keyboard_.swallowHeldKey();
+    whole_.noteKept();
   } else {
     const KeyVerdict verdict = decide(key);
     // What is held next has to be settled before this key is answered: the next one comes right behind it.
@@ -208,6 +214,10 @@ void KeyFilter::judgeFirstKept() {
   const TypedKey key = kept_.front();
   if (decide(key) == KeyVerdict::pass && layout_) synthetic_.type(*layout_, key);
   kept_.pop_front();
+  if (kept_.empty() && whole_.isTaken()) {
+    whole_.giveBack();
+    synthetic_.takeIn();
+  }
   keptSince_ = Clock::now();
   holdBy(control_.settings());
 }

@@ -12,6 +12,7 @@
 #include "platform/x11/ServerEvents.h"
 #include "platform/x11/SyntheticKeys.h"
 #include "platform/x11/TapControl.h"
+#include "platform/x11/WholeKeyboard.h"
 
 namespace tessarin::x11 {
 
@@ -57,6 +58,7 @@ class KeyFilter {
   KeyJudge& judge_;
   ServerEvents events_;
   KeyGrabs grabs_;
+  WholeKeyboard whole_;
   SyntheticKeys synthetic_;
   KeyTranslator translator_;
   std::unique_ptr<KeyboardLayout> layout_;

@@ -44,6 +44,7 @@ void SyntheticKeys::takeIn() {
 
 void SyntheticKeys::type(const KeyboardLayout& layout, const TypedKey& key) {
   const ServerGrab grab(keyboard_.connection);
+  whole_.giveBack();
   takeIn();
   modifiers_.impose(layout, key);
   pressAndLetBy(key);

@@ -8,6 +8,7 @@
 #include "platform/x11/ExactModifiers.h"
 #include "platform/x11/KeyboardLayout.h"
 #include "platform/x11/ServerEvents.h"
+#include "platform/x11/WholeKeyboard.h"
 
 namespace tessarin::x11 {
 
@@ -20,29 +21,32 @@ class SyntheticKeys {
   /// `keep` takes over a key of the user's that came in between; it is swallowed afterwards.
   using Keep = std::function<void(const TypedKey&)>;
 
-  SyntheticKeys(const SessionKeyboard& keyboard, ServerEvents& events, Keep keep)
+  SyntheticKeys(const SessionKeyboard& keyboard, ServerEvents& events, WholeKeyboard& whole, Keep keep)
       : keyboard_(keyboard),
         events_(events),
+        whole_(whole),
         keep_(std::move(keep)),
         modifiers_(keyboard.connection, events) {}
 
   /// Presses and releases the key. It has passed our own grabs when this returns. No key is held before the
-  /// call.
+  /// call. The whole keyboard is given back, if it was taken.
   void type(const KeyboardLayout& layout, const TypedKey& key);
   /// The same with these modifiers and the locks and the group in effect.
   void typeChord(const KeyboardLayout& layout, xkb_keysym_t symbol, std::uint8_t modifiers);
+  /// Keeps everything that has come.
+  void takeIn();
   /// To be called when keys were let go of anywhere.
   void followReleases() { modifiers_.followReleases(); }
   /// Lets go of every modifier that is still pressed for the user.
   void returnModifiers() { modifiers_.returnAll(); }
 
  private:
-  void takeIn();
   void pressAndLetBy(const TypedKey& key);
   void keep(const TypedKey& key);
 
   SessionKeyboard keyboard_;
   ServerEvents& events_;
+  WholeKeyboard& whole_;
   Keep keep_;
   ExactModifiers modifiers_;
 };

@@ -232,6 +232,44 @@ TEST_F(X11EventTapTest, KeepsAutoRepeatBehindAnInsertion) {
   EXPECT_EQ(document->text(), letters + "p");
 }
 
+TEST_F(X11EventTapTest, TakesTheKeyboardOnceWhenHundredsOfKeysAreKept) {
+  start();
+  for (const auto device : {Typist::Keyboard::synthetic, Typist::Keyboard::real}) {
+    typeAs(device);
+    holdBack();
+    const int before = document->grabs();
+    typist->type(repeated("abCd", 75));
+    typist->press(XKB_KEY_Control_L);
+    typist->tap(XKB_KEY_e);
+    typist->tap(XKB_KEY_Left);
+    typist->release(XKB_KEY_Control_L);
+    typist->press(XKB_KEY_Shift_L);
+    typist->tap(XKB_KEY_x);
+    typist->sync();
+    EXPECT_TRUE(queue.runUntil([&] { return document->text().empty() && document->grabs() >= before + 8; }));
+    queue.runUntil([] { return false; }, std::chrono::milliseconds(50));
+    EXPECT_LE(document->grabs(), before + 10);
+    attend(KeyAttention::triggerOnly);
+    typist->tap(XKB_KEY_y);
+    typist->release(XKB_KEY_Shift_L);
+    typist->tap(XKB_KEY_z);
+    expectDocument(repeated("abCd", 75) + "<Control-e><Control-Left>XYz");
+    document->clear();
+  }
+}
+
+TEST_F(X11EventTapTest, GivesTheKeyboardBackWhenTheLastKeptKeyIsSwallowed) {
+  insertion = Insertion::paste;
+  start();
+  typist->type(":a\n:bcdefghi\n");
+  expectDocument("😀😀");
+  document->clear();
+  holdBack();
+  typist->type(":bcdefghi\n");
+  attend(KeyAttention::triggerOnly);
+  expectDocument("😀");
+}
+
 TEST_F(X11EventTapTest, PassesKeptKeysOnWhenTheThreadEnds) {
   start();
   holdBack();
