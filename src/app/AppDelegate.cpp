@@ -177,18 +177,29 @@ void AppDelegate::handleCancel() {
 
 void AppDelegate::handleConfirm(const std::string&) {
   const auto snippet = autocompleteViewModel_.selectedSnippet();
-  if (!snippet) return popup_.close();
+  if (!snippet || !beginInsertionByKey()) return popup_.close();
   Replacement replacement{
       .deleteCount = typed_.length(), .text = textToInsert(*snippet), .typed = typed_.text()};
-  if (lastConfirmWasTriggerChar_) includeConfirmingTrigger(replacement);
+  if (lastConfirmWasTriggerChar_ && keyboardMonitor_.isCurrentKeyInDocument()) {
+    replacement.includeTriggerChar = true;
+    replacement.typed += confirmingCharacters_;
+  }
   expand(*snippet, replacement);
 }
 
-void AppDelegate::includeConfirmingTrigger(Replacement& replacement) {
-  // A key that is still held never needs to reach the document to be erased there.
-  if (!keyboardMonitor_.isCurrentKeyInDocument()) return keyboardMonitor_.consumeCurrentKey();
-  replacement.includeTriggerChar = true;
-  replacement.typed += confirmingCharacters_;
+// A key that is still held never needs to reach the document to be erased there. One that has been let by,
+// because we were too slow, stands behind the shortcode: both stay.
+bool AppDelegate::beginInsertionByKey() {
+  beginInsertion();
+  if (keyboardMonitor_.isCurrentKeyInDocument() || keyboardMonitor_.swallowCurrentKey()) return true;
+  --insertionsUnderWay_;
+  log(component, "The confirming key was answered too late and confirms nothing");
+  return false;
+}
+
+void AppDelegate::beginInsertion() {
+  ++insertionsUnderWay_;
+  updateAttention();
 }
 
 void AppDelegate::handleClick(const Snippet& snippet) {
@@ -197,6 +208,7 @@ void AppDelegate::handleClick(const Snippet& snippet) {
   const Replacement replacement{
       .deleteCount = typed_.length(), .text = textToInsert(snippet), .typed = typed_.text()};
   triggerDetector_.setState(TriggerDetector::Idle{});
+  beginInsertion();
   expand(snippet, replacement);
 }
 
@@ -207,8 +219,6 @@ std::string AppDelegate::textToInsert(const Snippet& snippet) const {
 void AppDelegate::expand(const Snippet& snippet, const Replacement& replacement) {
   snippetStore_.usageTracker().recordUsage(snippet.trigger);
   popup_.close();
-  ++insertionsUnderWay_;
-  updateAttention();
   services_.textReplacer.replace(replacement, handler(&AppDelegate::handleInsertionDone));
 }
 

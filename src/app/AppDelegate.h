@@ -102,7 +102,8 @@ class AppDelegate {
 
   std::string textToInsert(const Snippet& snippet) const;
   void expand(const Snippet& snippet, const Replacement& replacement);
-  void includeConfirmingTrigger(Replacement& replacement);
+  bool beginInsertionByKey();
+  void beginInsertion();
   void settle();
   void updateAttention();
   std::string triggerCharacter() const;

@@ -78,6 +78,13 @@ bool KeyboardMonitor::swallows(std::int64_t keyCode) const {
   }
 }
 
+bool KeyboardMonitor::swallowCurrentKey() {
+  tellAttention();
+  if (swallowNow_ && !swallowNow_()) return false;
+  swallowedCurrentKey_ = true;
+  return true;
+}
+
 KeyVerdict KeyboardMonitor::handle(const KeyEvent& event) {
   judging_ = true;
   const KeyVerdict verdict = judge(event);
@@ -103,14 +110,16 @@ KeyVerdict KeyboardMonitor::judge(const KeyEvent& event) {
   if (isSecret(characters)) return KeyVerdict::pass;
   const bool swallowedBefore = swallows(event.keyCode);
   handOver(characters, event);
-  return swallowedBefore || consumesCurrentKey_ || swallows(event.keyCode) ? KeyVerdict::swallow
-                                                                           : KeyVerdict::pass;
+  return swallowedBefore || swallowedCurrentKey_ || swallows(event.keyCode) ? KeyVerdict::swallow
+                                                                            : KeyVerdict::pass;
 }
 
 void KeyboardMonitor::handOver(const std::optional<std::string>& characters, const KeyEvent& event) {
-  consumesCurrentKey_ = false;
+  swallowedCurrentKey_ = false;
   currentKeyInDocument_ = event.isInDocument;
+  swallowNow_ = event.swallowNow;
   if (onKeyEvent) onKeyEvent(characters, event.keyCode, event.flags);
+  swallowNow_ = nullptr;
 }
 
 bool KeyboardMonitor::isSecret(const std::optional<std::string>& characters) {

@@ -38,8 +38,10 @@ class KeyboardMonitor {
 
   /// While `onKeyEvent` runs: whether the key, should it be passed, is in the document already.
   bool isCurrentKeyInDocument() const { return currentKeyInDocument_; }
-  /// While `onKeyEvent` runs: swallows the key in hand, whatever the rule below says.
-  void consumeCurrentKey() { consumesCurrentKey_ = true; }
+  /// While `onKeyEvent` runs, for a key that is not in the document: swallows it at once, whatever the rule
+  /// below says, so that the keyboard does not wait for what follows; the attention told last is in force
+  /// from then on. False when that comes too late and the key has been let by.
+  bool swallowCurrentKey();
   /// The rule as the two flags stand now: Return, Tab, Escape, Up and Down while intercepting, Left and Right
   /// only with `shouldConsumeArrows` as well.
   bool swallows(std::int64_t keyCode) const;
@@ -72,7 +74,8 @@ class KeyboardMonitor {
   Subscription healthCheckTimer_;
   bool judging_ = false;
   bool currentKeyInDocument_ = false;
-  bool consumesCurrentKey_ = false;
+  bool swallowedCurrentKey_ = false;
+  std::function<bool()> swallowNow_;
   KeyAttention attention_ = KeyAttention::triggerOnly;
   std::string trigger_;
 };

@@ -127,6 +127,20 @@ TEST_F(ExpansionTest, ATriggerOfAnotherNormalFormIsErasedAsTyped) {
   EXPECT_THAT(app.insertion.replacements, ElementsAre(Replacement{3, "👋", true, "e\u0301wae\u0301"}));
 }
 
+TEST_F(ExpansionTest, AKeyThatWasLetByConfirmsNothing) {
+  for (const char* confirming : {"⏎", ":"}) {
+    app.type(":smile");
+    app.tap.givesUp = true;
+    app.type(confirming);
+    app.tap.givesUp = false;
+    EXPECT_FALSE(app.popup.visible);
+    EXPECT_EQ(app.tap.attention(), KeyAttention::triggerOnly);
+  }
+  EXPECT_THAT(app.insertion.replacements, IsEmpty());
+  EXPECT_EQ(app.document.text, ":smile\r:smile:");
+  EXPECT_EQ(app.timesUsed("smile"), 0);
+}
+
 // Clicks
 
 TEST_F(ExpansionTest, AClickErasesTheLettersTyped) {

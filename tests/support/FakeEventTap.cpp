@@ -69,12 +69,24 @@ bool FakeEventTap::isHeard(const KeyEvent& event) const {
 KeyVerdict FakeEventTap::judge(KeyEvent event) {
   event.isInDocument = keysReachDocumentFirst && producesText(event);
   if (event.isInDocument) reachDocument(event);
-  const KeyVerdict verdict = isHeard(event) ? handler_(event) : KeyVerdict::pass;
+  const KeyVerdict verdict = isHeard(event) ? verdictOf(event) : KeyVerdict::pass;
   if (verdict == KeyVerdict::pass && !event.isInDocument) reachDocument(event);
   if (verdict == KeyVerdict::swallow && event.isInDocument) {
     ADD_FAILURE() << "a key was swallowed that stands in the document already";
   }
   judged.emplace_back(std::move(event), verdict);
+  return verdict;
+}
+
+KeyVerdict FakeEventTap::verdictOf(KeyEvent event) {
+  bool isSwallowed = false;
+  event.swallowNow = [&] {
+    if (attention_ != KeyAttention::holdBack) ADD_FAILURE() << "the next key would overtake the insertion";
+    return isSwallowed = !givesUp;
+  };
+  const KeyVerdict verdict = handler_(event);
+  if (givesUp) return KeyVerdict::pass;
+  if (isSwallowed && verdict == KeyVerdict::pass) ADD_FAILURE() << "a swallowed key was then passed";
   return verdict;
 }
 

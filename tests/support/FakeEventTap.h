@@ -34,6 +34,7 @@ class FakeEventTap final : public EventTap {
   // How the platform behaves.
   bool isUsable = true;
   bool isQuietWhileIdle = false;        ///< the owner sees nothing but the trigger while it collects nothing
+  bool givesUp = false;                 ///< every answer comes too late
   bool keysReachDocumentFirst = false;  ///< keys that produce text are in the document before they are judged
   std::function<void(const KeyEvent&)> onReachedDocument;
 
@@ -46,6 +47,7 @@ class FakeEventTap final : public EventTap {
 
  private:
   KeyVerdict judge(KeyEvent event);
+  KeyVerdict verdictOf(KeyEvent event);
   bool isHeard(const KeyEvent& event) const;
   void reachDocument(const KeyEvent& event);
   void judgeHeldBack();

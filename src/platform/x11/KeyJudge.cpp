@@ -24,6 +24,7 @@ std::optional<KeyVerdict> KeyJudge::ask(const KeyEvent& event) {
     const auto budget = question->claim();
     if (!budget) return;
     event.budget = *budget;
+    event.swallowNow = [question] { return question->answer(KeyVerdict::swallow); };
     question->answer(owner->judge(event));
   });
   return question->await();

@@ -12,12 +12,13 @@ std::optional<std::chrono::milliseconds> KeyQuestion::claim() {
   return std::max(left, std::chrono::milliseconds(0));
 }
 
-void KeyQuestion::answer(KeyVerdict verdict) {
+bool KeyQuestion::answer(KeyVerdict verdict) {
   const std::lock_guard lock(mutex_);
-  if (state_ != State::claimed) return;
+  if (state_ != State::claimed) return false;
   state_ = State::answered;
   verdict_ = verdict;
   changed_.notify_all();
+  return true;
 }
 
 void KeyQuestion::cancel() {

@@ -25,8 +25,8 @@ class KeyQuestion {
 
   /// Main thread: takes the question. The time left to answer; none when it was given up.
   std::optional<std::chrono::milliseconds> claim();
-  /// Main thread, after `claim`.
-  void answer(KeyVerdict verdict);
+  /// Main thread, after `claim`. False when it was given up in the meantime; only the first answer counts.
+  bool answer(KeyVerdict verdict);
 
   /// The asking thread: waits. None when it gave up.
   std::optional<KeyVerdict> await();

@@ -56,6 +56,33 @@ TEST_F(X11EventTapTimeOutTest, WaitsForAnAnswerThatIsNear) {
   expectDocument("😀b");
 }
 
+TEST_F(X11EventTapTimeOutTest, TellsAHandlerThatItsKeyWasLetBy) {
+  start();
+  std::vector<bool> swallowed;
+  onKey = [&](const KeyEvent& event) {
+    if (event.text != u"\r") return;
+    EXPECT_TRUE(comesBy(":a\n", 5s));
+    swallowed.push_back(event.swallowNow());
+  };
+  typist->type(":a\n");
+  ASSERT_TRUE(queue.runUntil([this] { return timeOuts == 1; }));
+  EXPECT_EQ(swallowed, std::vector<bool>{false});
+}
+
+TEST_F(X11EventTapTimeOutTest, DoesNotWaitForAHandlerThatHasSwallowedTheKey) {
+  start();
+  onKey = [this](const KeyEvent& event) {
+    if (event.text != u"\r") return;
+    attend(KeyAttention::holdBack);
+    EXPECT_TRUE(event.swallowNow());
+    typist->type("b");
+    EXPECT_FALSE(comesBy(":ab", 2 * x11::KeyQuestion::answerTime)) << "the next key overtook the handler";
+  };
+  typist->type(":a\n");
+  expectDocument("😀b");
+  EXPECT_EQ(timeOuts, 0);
+}
+
 TEST_F(X11EventTapTimeOutTest, GivesUpOnAHandlerThatHangs) {
   start();
   onKey = [this](const KeyEvent&) { EXPECT_TRUE(comesBy(":a", 5s)); };
@@ -106,9 +133,10 @@ TEST(KeyQuestion, IsDecidedByWhoeverComesFirst) {
 
   x11::KeyQuestion answered;
   EXPECT_GT(answered.claim().value_or(0ms), 0ms);
-  answered.answer(KeyVerdict::swallow);
+  EXPECT_TRUE(answered.answer(KeyVerdict::swallow));
   answered.cancel();
   EXPECT_EQ(answered.await(), KeyVerdict::swallow);
+  EXPECT_FALSE(answered.answer(KeyVerdict::pass));
 }
 
 }  // namespace
