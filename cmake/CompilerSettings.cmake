@@ -10,7 +10,8 @@ endif()
 
 add_library(tessarin_settings INTERFACE)
 target_compile_options(tessarin_settings INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough)
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough
+  -Wsuggest-override -Wzero-as-null-pointer-constant)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 14)
   # A sum of strings, optimised, is taken for an overlapping copy there (the compiler's bug 105651).
   target_compile_options(tessarin_settings INTERFACE $<$<CONFIG:Release>:-Wno-restrict>)
