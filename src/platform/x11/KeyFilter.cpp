@@ -191,6 +191,7 @@ KeyVerdict KeyFilter::ask(const KeyEvent& event) {
 // One more trigger waits for the main thread, which hears of the time-out before it is asked about it: after
 // a short hang the next shortcode works. A second time-out in a row lets go of the keyboard altogether.
 void KeyFilter::timeOut() {
+  log("KeyFilter", "A key was not answered in time and has been let by");
   control_.timeOut();
   judge_.reportTimeOut();
 }
