@@ -71,7 +71,7 @@ void AppDelegate::installHandlers() {
 }
 
 void AppDelegate::observeDesktop() {
-  appSwitchObserver_ = services_.workspace.onContextChanged(handler(&AppDelegate::handleAppSwitch));
+  appSwitchObserver_ = services_.workspace.onContextChanged(handler(&AppDelegate::handleContextChange));
   focusObserver_ = services_.accessibility.onFocusMoved(handler(&AppDelegate::handleAppSwitch));
   defaultsObserver_ = services_.userDefaults.onChange(handler(&AppDelegate::handleDefaultsChange));
   services_.statusBar.onMenuOpening(handler(&AppDelegate::handleAppSwitch));
@@ -227,6 +227,11 @@ void AppDelegate::handleInsertionDone(InsertionOutcome) {
 }
 
 // The desktop's notifications
+
+void AppDelegate::handleContextChange() {
+  services_.textReplacer.stopWaiting();
+  handleAppSwitch();
+}
 
 void AppDelegate::handleAppSwitch() {
   triggerDetector_.setState(TriggerDetector::Idle{});

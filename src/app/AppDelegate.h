@@ -94,6 +94,7 @@ class AppDelegate {
   void handleCancel();
   void handleConfirm(const std::string& query);
   void handleClick(const Snippet& snippet);
+  void handleContextChange();
   void handleAppSwitch();
   void handleRowClick(int index);
   void handleVariantClick(int index);

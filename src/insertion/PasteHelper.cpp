@@ -34,6 +34,10 @@ void PasteHelper::postBackspaces(std::int64_t count) {
   keyPoster_.post(std::vector<KeyPress>(static_cast<std::size_t>(count), {keycode::deleteBackward, 0}));
 }
 
+void PasteHelper::stopWaiting() {
+  if (session_) session_->answerOncePosted();
+}
+
 void PasteHelper::finish() {
   const auto session = std::exchange(session_, nullptr);
   general_.restore();

@@ -36,6 +36,10 @@ class PasteHelper {
   void pasteText(std::int64_t deleteCount, const std::string& text, PasteChord chord,
                  TextInsertion::Completion done);
 
+  /// Answers a paste whose chord has been posted as one that did not get there. The text stays on the
+  /// pasteboard as long as it would have.
+  void stopWaiting();
+
   /// The general pasteboard's plain text as the user knows it, our own being left out.
   std::optional<std::string> userText() { return general_.userText(); }
 

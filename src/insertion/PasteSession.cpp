@@ -66,6 +66,7 @@ void PasteSession::postPasteKeystroke() {
   }
   tools_.keyPoster.post({job_.chord == PasteChord::shiftInsert ? KeyPress{keycode::insert, keyflag::shift}
                                                                : KeyPress{keycode::v, keyflag::control}});
+  isChordPosted_ = true;
   after(shortestLoan, &PasteSession::shortestLoanIsOver);
   after(longestWait, &PasteSession::stopWaiting);
 }
@@ -108,6 +109,10 @@ void PasteSession::restoreWhenAllowed() {
 
 void PasteSession::answerFailure() {
   answer(job_.deleteCount > 0 ? InsertionOutcome::erasedOnly : InsertionOutcome::unchanged);
+}
+
+void PasteSession::answerOncePosted() {
+  if (isChordPosted_) answerFailure();
 }
 
 void PasteSession::answer(InsertionOutcome outcome) {

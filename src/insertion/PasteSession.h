@@ -40,6 +40,8 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
   void start();
   /// Answers, unless that has been done, that the text did not get there.
   void answerFailure();
+  /// The same, once the chord has been posted; the session goes on.
+  void answerOncePosted();
 
  private:
   void deletionsAreDone();
@@ -61,6 +63,7 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
   bool areDeletionsDone_ = false;
   bool areAllAsked_ = false;
   bool isWritten_ = false;
+  bool isChordPosted_ = false;
   bool isShortestLoanOver_ = false;
   int unsettledReads_ = 0;
   bool isReadOrGivenUp_ = false;

@@ -60,9 +60,7 @@ void TextReplacer::run(const Job& job) {
 }
 
 void TextReplacer::runOnceTyped(const Job& job, Looks looks) {
-  queue_.after(betweenLooks, [this, job, looks, alive = std::weak_ptr<char>(alive_)] {
-    if (!alive.expired()) lookForTyped(job, looks);
-  });
+  lookAgain(InsertionOutcome::differs, [this, job, looks] { lookForTyped(job, looks); });
 }
 
 void TextReplacer::lookForTyped(const Job& job, Looks looks) {
@@ -109,12 +107,23 @@ void TextReplacer::finishOnceArrived(const std::string& text, Looks looks) {
     finish(InsertionOutcome::inserted);
     return;
   }
-  queue_.after(betweenLooks, [this, text, looks, alive = std::weak_ptr<char>(alive_)] {
-    if (!alive.expired()) finishOnceArrived(text, looks);
+  lookAgain(InsertionOutcome::inserted, [this, text, looks] { finishOnceArrived(text, looks); });
+}
+
+void TextReplacer::lookAgain(InsertionOutcome soFar, std::function<void()> look) {
+  watch_ = std::make_shared<Watch>(soFar);
+  queue_.after(betweenLooks, [look = std::move(look), watch = std::weak_ptr(watch_)] {
+    if (!watch.expired()) look();
   });
 }
 
+void TextReplacer::stopWaiting() {
+  if (watch_) return finish(watch_->soFar);
+  pasteHelper_.stopWaiting();
+}
+
 void TextReplacer::finish(InsertionOutcome outcome) {
+  watch_ = nullptr;
   const std::weak_ptr<char> alive = alive_;
   if (const auto done = std::exchange(done_, nullptr)) done(outcome);
   if (alive.expired()) return;

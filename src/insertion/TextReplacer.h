@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -24,6 +25,7 @@ class TextReplacer final : public TextInsertion {
       : accessibilityHelper_(accessibilityHelper), pasteHelper_(pasteHelper), queue_(queue), clock_(clock) {}
 
   void replace(const Replacement& replacement, Completion done) override;
+  void stopWaiting() override;
 
  private:
   struct Request {
@@ -51,6 +53,7 @@ class TextReplacer final : public TextInsertion {
   void paste(std::int64_t count, const std::string& text, InsertionOutcome soFar);
   /// Some applications read the pasteboard and go on taking keys before the text stands in the document.
   void finishOnceArrived(const std::string& text, Looks looks);
+  void lookAgain(InsertionOutcome soFar, std::function<void()> look);
   void finish(InsertionOutcome outcome);
 
   AccessibilityHelper& accessibilityHelper_;
@@ -60,6 +63,10 @@ class TextReplacer final : public TextInsertion {
   std::deque<Request> waiting_;
   Completion done_;
   bool isBusy_ = false;
+  struct Watch {
+    InsertionOutcome soFar;
+  };
+  std::shared_ptr<const Watch> watch_;  ///< while something is being looked for again and again
   std::shared_ptr<char> alive_ = std::make_shared<char>();
 };
 

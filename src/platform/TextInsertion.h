@@ -31,6 +31,9 @@ class TextInsertion {
   /// Calls `done` exactly once, possibly before it returns. A replacement that is asked for while another is
   /// under way waits for its turn.
   virtual void replace(const Replacement& replacement, Completion done) = 0;
+  /// The user has gone elsewhere: what is under way and only waits for the application is answered now, so
+  /// that keys typed there need not wait with it. What has been sent to the application stays sent.
+  virtual void stopWaiting() = 0;
 };
 
 }  // namespace tessarin

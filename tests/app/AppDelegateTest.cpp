@@ -234,7 +234,6 @@ TEST_F(AppDelegateTest, KeysAreLetGoWhateverCameOfTheInsertion) {
 TEST_F(AppDelegateTest, AnInsertionIsNotDisturbedFromOutside) {
   app.insertion.finishesAtOnce = false;
   app.type(":smile⏎");
-  app.workspace.changeContext();
   app.accessibility.focus(std::make_shared<FakeElement>());
   app.tap.disable(KeyEventKind::disabledByTimeout);
   app.defaults.set(preferences::key::triggerCharacter, ";");

@@ -185,6 +185,16 @@ TEST_F(ExpansionTest, KeysTypedDuringAnInsertionAreJudgedAfterIt) {
   EXPECT_EQ(app.document.text, "a😄b👋c");
 }
 
+TEST_F(ExpansionTest, KeysForAnotherWindowDoNotWaitForAnInsertion) {
+  app.insertion.finishesAtOnce = false;
+  app.type("a:smile⏎");
+  app.workspace.changeContext();
+  app.type(":wave⏎b");
+  EXPECT_EQ(app.insertion.underWay(), 1U);
+  app.insertion.finish();
+  EXPECT_EQ(app.document.text, "a:smile👋b");
+}
+
 /// Erases nothing but what was typed, whatever is typed: the document fails the test otherwise.
 TEST(ExpansionStreams, NeverEraseMoreOrLessThanTheShortcode) {
   const std::string overlong(63, 'z');

@@ -127,6 +127,34 @@ TEST_F(TextReplacerTest, pastesWhereTheApplicationHasFallenSilentMeanwhile) {
   EXPECT_EQ(countOf(keycode::deleteBackward), 6U);
 }
 
+TEST_F(TextReplacerTest, answersAtOnceWhenTheUserGoesElsewhere) {
+  replacer->stopWaiting();
+  field->type("abcdefgh ☺");
+  replace("😀");
+  replacer->stopWaiting();
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::differs));
+
+  refuseDirectInsertion();
+  replace("😀");
+  replacer->stopWaiting();
+  queue.advance(milliseconds(200));
+  EXPECT_THAT(outcomes, SizeIs(1)) << "the chord would have pasted elsewhere";
+  queue.advance(milliseconds(300));
+  replacer->stopWaiting();
+  EXPECT_EQ(outcomes.back(), InsertionOutcome::erasedOnly);
+  EXPECT_EQ(general.readByApplication(), "😀") << "it may still read the text";
+
+  replace("😀");
+  queue.advance(milliseconds(500));
+  general.readByApplication();
+  EXPECT_THAT(outcomes, SizeIs(2)) << "the text does not stand there yet";
+  replacer->stopWaiting();
+  EXPECT_EQ(outcomes.back(), InsertionOutcome::inserted);
+  queue.advance(milliseconds(5000));
+  EXPECT_THAT(outcomes, SizeIs(3));
+  EXPECT_EQ(pasteHelper.userText(), "user's");
+}
+
 TEST_F(TextReplacerTest, pastesByShiftInsertInATerminal) {
   workspace.frontmost->isTerminal = true;
   field->failing.insert(std::string(attribute::value));

@@ -40,6 +40,10 @@ class FakeTextInsertion final : public TextInsertion {
     if (finishesAtOnce) finish();
   }
 
+  void stopWaiting() override {
+    while (!underWay_.empty()) finish(InsertionOutcome::erasedOnly);
+  }
+
   /// Ends the oldest replacement under way.
   void finish(InsertionOutcome outcome = InsertionOutcome::inserted) {
     auto [replacement, done] = std::move(underWay_.front());
