@@ -89,6 +89,7 @@ std::optional<std::string> RemoteText::text(std::int64_t start, std::int64_t end
   append(question.get(), end);
   const MessagePtr reply = ask(std::move(question));
   auto text = MessageReader(reply.get()).string();
+  if (text && toolkit_.pads) text = withoutPadding(*text);
   // An application that answers less or more than was asked for, or counts otherwise than its toolkit does,
   // would have us erase the wrong characters.
   if (!text || countUnits(*text, toolkit_.offset) != end - start) return std::nullopt;
