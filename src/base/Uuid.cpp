@@ -1,17 +1,20 @@
 #include "base/Uuid.h"
 
+#include <unistd.h>
+
 #include <array>
+#include <cerrno>
 #include <cstdint>
-#include <random>
+#include <system_error>
 
 namespace tessarin {
 namespace {
 
 std::array<std::uint8_t, 16> randomBytes() {
-  std::random_device device;
-  std::uniform_int_distribution<int> byte(0, 255);
   std::array<std::uint8_t, 16> bytes{};
-  for (auto& b : bytes) b = static_cast<std::uint8_t>(byte(device));
+  if (getentropy(bytes.data(), bytes.size()) != 0) {
+    throw std::system_error(errno, std::generic_category(), "no random bytes");
+  }
   return bytes;
 }
 
