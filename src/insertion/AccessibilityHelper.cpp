@@ -60,23 +60,28 @@ InsertionOutcome AccessibilityHelper::replaceBefore(const ElementRef& element, s
   return InsertionOutcome::unchanged;
 }
 
-AccessibilityHelper::Arrival AccessibilityHelper::arrival(const std::string& text) {
+AccessibilityHelper::Arrival AccessibilityHelper::arrival(const std::string& text,
+                                                          std::optional<std::int64_t> caretWithout) {
   accessibility_.beginBudget(arrivalBudget);
   const auto element = focusedElement();
   if (!element) return Arrival::unknown;
-  const auto found = beforeCaret(*element, static_cast<std::int64_t>(text::characterCount(text)));
+  const bool isReadable = accessibility_.attribute(*element, attribute::value).has_value();
+  const auto count = static_cast<std::int64_t>(text::characterCount(text));
+  const auto found = isReadable ? place(*element, text, count) : std::nullopt;
   if (!found) return accessibility_.isBusy(*element) ? Arrival::busy : Arrival::unknown;
-  return text::equals(*found, text) ? Arrival::arrived : Arrival::notYet;
+  return found->isBehindTyped && found->caret != caretWithout ? Arrival::arrived : Arrival::notYet;
 }
 
-std::optional<std::string> AccessibilityHelper::beforeCaret(const ElementRef& element, std::int64_t count) {
-  if (!accessibility_.attribute(element, attribute::value)) return std::nullopt;
-  const auto location = caret(element);
-  if (!location) return std::nullopt;
-  const auto before = accessibility_.parameterizedAttribute(element, attribute::stringForRange,
-                                                            rangeBefore(*location, count));
-  const auto* found = before ? std::get_if<std::string>(&*before) : nullptr;
-  return found ? std::optional(*found) : std::nullopt;
+// Toolkits agree on the length of what lies in the basic plane, each code point being one; other shortcodes
+// are rare.
+std::optional<std::int64_t> AccessibilityHelper::caretWithout(const std::string& typed) {
+  accessibility_.beginBudget(arrivalBudget);
+  const auto element = focusedElement();
+  const auto now = element ? caret(*element) : std::nullopt;
+  const std::u16string units = text::toUtf16(typed);
+  const bool isPlain = std::ranges::none_of(units, [](char16_t unit) { return (unit & 0xF800) == 0xD800; });
+  if (!now || !isPlain) return std::nullopt;
+  return *now - static_cast<std::int64_t>(units.size());
 }
 
 std::optional<bool> AccessibilityHelper::stands(const std::string& typed, std::int64_t count) {
@@ -136,16 +141,23 @@ std::optional<std::int64_t> AccessibilityHelper::caret(const ElementRef& element
   return range ? std::optional(range->location) : std::nullopt;
 }
 
-std::optional<AccessibilityHelper::Place> AccessibilityHelper::lookFor(const ElementRef& element,
-                                                                       const std::string& typed,
-                                                                       std::int64_t count) {
+std::optional<AccessibilityHelper::Place> AccessibilityHelper::place(const ElementRef& element,
+                                                                     const std::string& typed,
+                                                                     std::int64_t count) {
   const auto location = caret(element);
   if (!location) return std::nullopt;
   const auto before = accessibility_.parameterizedAttribute(element, attribute::stringForRange,
                                                             rangeBefore(*location, count));
   const auto* found = before ? std::get_if<std::string>(&*before) : nullptr;
-  if (!found || found->empty()) return std::nullopt;
-  return Place{*location, text::equals(*found, typed)};
+  if (!found) return std::nullopt;
+  return Place{*location, *found, text::equals(*found, typed)};
+}
+
+std::optional<AccessibilityHelper::Place> AccessibilityHelper::lookFor(const ElementRef& element,
+                                                                       const std::string& typed,
+                                                                       std::int64_t count) {
+  auto found = place(element, typed, count);
+  return found && !found->before.empty() ? found : std::nullopt;
 }
 
 std::optional<AccessibilityHelper::Place> AccessibilityHelper::awaitTyped(const ElementRef& element,

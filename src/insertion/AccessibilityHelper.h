@@ -35,8 +35,12 @@ class AccessibilityHelper {
     busy,    ///< the application does not answer just now
     unknown  ///< it cannot be told
   };
-  /// Whether the text stands right before the caret by now.
-  Arrival arrival(const std::string& text);
+  /// Whether the text stands right before the caret by now, and the caret not where it was without the text:
+  /// the same text may have stood there before.
+  Arrival arrival(const std::string& text, std::optional<std::int64_t> caretWithout);
+  /// Where the caret will be once `typed`, which stands before it, has been erased. None where that cannot be
+  /// told.
+  std::optional<std::int64_t> caretWithout(const std::string& typed);
 
   /// The focused element, when it accepts direct insertion.
   std::optional<ElementRef> focusedTextElement();
@@ -52,14 +56,16 @@ class AccessibilityHelper {
  private:
   std::optional<ElementRef> focusedElement();
   bool hasRole(const ElementRef& element, std::string_view name);
-  std::optional<std::string> beforeCaret(const ElementRef& element, std::int64_t count);
   std::optional<std::int64_t> caret(const ElementRef& element);
   InsertionOutcome replaceBefore(const ElementRef& element, std::int64_t location, std::int64_t count,
                                  const std::string& text);
   struct Place {
     std::int64_t caret = 0;
+    std::string before;          ///< as many characters as were asked for, or all there are
     bool isBehindTyped = false;  ///< else something different stands before it
   };
+  std::optional<Place> place(const ElementRef& element, const std::string& typed, std::int64_t count);
+  /// The same; none also where nothing at all stands before the caret.
   std::optional<Place> lookFor(const ElementRef& element, const std::string& typed, std::int64_t count);
   /// Waits until `typed` stands before the caret, 60 ms at most.
   std::optional<Place> awaitTyped(const ElementRef& element, const std::string& typed, std::int64_t count);

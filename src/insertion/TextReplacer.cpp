@@ -81,24 +81,23 @@ void TextReplacer::lookForTyped(const Job& job, Looks looks) {
 
 void TextReplacer::pasteInstead(const Job& job, InsertionOutcome soFar) {
   log(component, "Falling back to paste method");
-  paste(soFar == InsertionOutcome::erasedOnly ? 0 : job.count, job.text, soFar);
-}
-
-void TextReplacer::paste(std::int64_t count, const std::string& text, InsertionOutcome soFar) {
+  const bool isErased = soFar == InsertionOutcome::erasedOnly;
+  const Pasted pasted{job.text, accessibilityHelper_.caretWithout(isErased ? "" : job.typed)};
   const auto chord = accessibilityHelper_.isTerminal() ? PasteChord::shiftInsert : PasteChord::controlV;
-  pasteHelper_.pasteText(count, text, chord,
-                         [this, soFar, text, alive = std::weak_ptr<char>(alive_)](InsertionOutcome outcome) {
-                           if (alive.expired()) return;
-                           if (outcome == InsertionOutcome::inserted) {
-                             finishOnceArrived(text, {});
-                           } else {
-                             finish(outcome == InsertionOutcome::unchanged ? soFar : outcome);
-                           }
-                         });
+  pasteHelper_.pasteText(
+      isErased ? 0 : job.count, job.text, chord,
+      [this, soFar, pasted, alive = std::weak_ptr<char>(alive_)](InsertionOutcome outcome) {
+        if (alive.expired()) return;
+        if (outcome == InsertionOutcome::inserted) {
+          finishOnceArrived(pasted, {});
+        } else {
+          finish(outcome == InsertionOutcome::unchanged ? soFar : outcome);
+        }
+      });
 }
 
-void TextReplacer::finishOnceArrived(const std::string& text, Looks looks) {
-  const auto arrival = accessibilityHelper_.arrival(text);
+void TextReplacer::finishOnceArrived(const Pasted& pasted, Looks looks) {
+  const auto arrival = accessibilityHelper_.arrival(pasted.text, pasted.caretWithout);
   if (arrival == Arrival::notYet) ++looks.answered;
   if (arrival == Arrival::busy) ++looks.unanswered;
   const bool isWorthWaiting = (arrival == Arrival::notYet || arrival == Arrival::busy) &&
@@ -107,7 +106,7 @@ void TextReplacer::finishOnceArrived(const std::string& text, Looks looks) {
     finish(InsertionOutcome::inserted);
     return;
   }
-  lookAgain(InsertionOutcome::inserted, [this, text, looks] { finishOnceArrived(text, looks); });
+  lookAgain(InsertionOutcome::inserted, [this, pasted, looks] { finishOnceArrived(pasted, looks); });
 }
 
 void TextReplacer::lookAgain(InsertionOutcome soFar, std::function<void()> look) {

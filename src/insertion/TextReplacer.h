@@ -4,6 +4,7 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "insertion/AccessibilityHelper.h"
@@ -39,6 +40,10 @@ class TextReplacer final : public TextInsertion {
     std::int64_t count = 0;  ///< characters to be erased
     std::string text;        ///< with its template variables filled in
   };
+  struct Pasted {
+    std::string text;
+    std::optional<std::int64_t> caretWithout;  ///< where the caret was before the text came
+  };
   /// How often something that does not stand in the document yet has been looked for in vain.
   struct Looks {
     int answered = 0;
@@ -50,9 +55,8 @@ class TextReplacer final : public TextInsertion {
   void runOnceTyped(const Job& job, Looks looks);
   void lookForTyped(const Job& job, Looks looks);
   void pasteInstead(const Job& job, InsertionOutcome soFar);
-  void paste(std::int64_t count, const std::string& text, InsertionOutcome soFar);
   /// Some applications read the pasteboard and go on taking keys before the text stands in the document.
-  void finishOnceArrived(const std::string& text, Looks looks);
+  void finishOnceArrived(const Pasted& pasted, Looks looks);
   void lookAgain(InsertionOutcome soFar, std::function<void()> look);
   void finish(InsertionOutcome outcome);
 

@@ -174,32 +174,44 @@ TEST_F(AccessibilityHelperTest, staysWithinItsBudgetWhileWaiting) {
 }
 
 TEST_F(AccessibilityHelperTest, tellsWhetherATextStandsBeforeTheCaret) {
-  EXPECT_EQ(helper.arrival(":smile"), Arrival::arrived);
-  EXPECT_EQ(helper.arrival(":smil"), Arrival::notYet);
-  EXPECT_EQ(helper.arrival("much more than there is"), Arrival::notYet);
+  EXPECT_EQ(helper.arrival(":smile", {}), Arrival::arrived);
+  EXPECT_EQ(helper.arrival(":smil", {}), Arrival::notYet);
+  EXPECT_EQ(helper.arrival("much more than there is", {}), Arrival::notYet);
   field->type(" cafe\u0301");
-  EXPECT_EQ(helper.arrival("caf\u00E9"), Arrival::arrived);
+  EXPECT_EQ(helper.arrival("caf\u00E9", {}), Arrival::arrived);
   field->setCaret(2);
-  EXPECT_EQ(helper.arrival("caf\u00E9"), Arrival::notYet);
-  EXPECT_EQ(helper.arrival("hi"), Arrival::arrived);
+  EXPECT_EQ(helper.arrival("caf\u00E9", {}), Arrival::notYet);
+  EXPECT_EQ(helper.arrival("hi", {}), Arrival::arrived);
+}
+
+TEST_F(AccessibilityHelperTest, tellsATextFromTheSameBeforeIt) {
+  field->clear();
+  field->type("😄:smile");
+  const auto caretWithout = helper.caretWithout(":smile");
+  ASSERT_EQ(caretWithout, 1);
+  field->setCaret(1);
+  EXPECT_EQ(helper.arrival("😄", caretWithout), Arrival::notYet);
+  field->type("😄");
+  EXPECT_EQ(helper.arrival("😄", caretWithout), Arrival::arrived);
+  EXPECT_EQ(helper.caretWithout("𝄞"), std::nullopt) << "toolkits count it differently";
 }
 
 TEST_F(AccessibilityHelperTest, cannotTellWhereTheTextIsNotReadable) {
   for (const auto name : {attribute::value, attribute::selectedTextRange, attribute::stringForRange}) {
     field->failing = {std::string(name)};
-    EXPECT_EQ(helper.arrival(":smile"), Arrival::unknown) << name;
+    EXPECT_EQ(helper.arrival(":smile", {}), Arrival::unknown) << name;
   }
   field->failing.clear();
   accessibility.callDuration = milliseconds(30);
-  EXPECT_EQ(helper.arrival(":smile"), Arrival::unknown) << "too slow";
+  EXPECT_EQ(helper.arrival(":smile", {}), Arrival::unknown) << "too slow";
   accessibility.busy = true;
-  EXPECT_EQ(helper.arrival(":smile"), Arrival::busy);
+  EXPECT_EQ(helper.arrival(":smile", {}), Arrival::busy);
 }
 
 TEST_F(AccessibilityHelperTest, looksForATextInEveryApplication) {
   workspace.frontmost->bundleIdentifier = "org.mozilla.firefox";
   setRole(*field, role::webArea);
-  EXPECT_EQ(helper.arrival(":smile"), Arrival::arrived);
+  EXPECT_EQ(helper.arrival(":smile", {}), Arrival::arrived);
 }
 
 TEST_F(AccessibilityHelperTest, knowsATerminalByApplicationOrRole) {
