@@ -41,6 +41,8 @@ Desktop::Desktop()
       trustPrompt_([this] { allow(); }),
       popupWindow_([this] { return screens_.space(); }),
       selections_(x11::X11Selections::connect(queue_)),
+      general_(selections_ ? selections_->general() : noPasteboard_, QClipboard::Clipboard),
+      primary_(selections_ ? selections_->primary() : noPasteboard_, QClipboard::Selection),
       x11Workspace_(x11::X11Workspace::connect(queue_, applicationMatcher())),
       workspace_(sessionWorkspace(),
                  {{Permissions::accessibilitySettingsUrl, [this] { askForTrust(); }},
@@ -56,7 +58,7 @@ Desktop::Desktop()
       otherApplications_(queue_, accessibilityOptions()),
       accessibility_(otherApplications_),
       accessibilityHelper_(accessibility_, workspace_, defaults_),
-      pasteHelper_(general(), primary(), keyPoster_, queue_),
+      pasteHelper_(general_, primary_, keyPoster_, queue_),
       textReplacer_(accessibilityHelper_, pasteHelper_, queue_, clock_),
       autocompletePanel_(popupWindow_, screens_, accessibility_, queue_) {
   defaults_.watch(queue_);
@@ -82,7 +84,7 @@ AppDelegate::Services Desktop::services(SnippetStore::Folders folders) {
 }
 
 ui::SettingsServices Desktop::settingsServices(SnippetStore& store) {
-  return {store, defaults_, permissions(), loginItem_, workspace_, general(), queue_, clock_, {}, {}, {}};
+  return {store, defaults_, permissions(), loginItem_, workspace_, general_, queue_, clock_, {}, {}, {}};
 }
 
 UpdaterSeams Desktop::updaterSeams(AppcastSource& source, UpdateUserDriver& driver) {
@@ -103,14 +105,6 @@ atspi::AtspiAccessibility::Options Desktop::accessibilityOptions() {
   options.activeProcess = [this] { return activeWindow_.process(); };
   options.activeWindowOrigin = [this] { return activeWindow_.origin(); };
   return options;
-}
-
-Pasteboard& Desktop::general() {
-  return selections_ ? selections_->general() : static_cast<Pasteboard&>(noPasteboard_);
-}
-
-Pasteboard& Desktop::primary() {
-  return selections_ ? selections_->primary() : static_cast<Pasteboard&>(noPasteboard_);
 }
 
 Workspace& Desktop::sessionWorkspace() {

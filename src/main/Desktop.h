@@ -17,6 +17,7 @@
 #include "platform/freedesktop/TrustRecord.h"
 #include "platform/none/NoPasteboard.h"
 #include "platform/none/NoWorkspace.h"
+#include "platform/qt/OwnSelection.h"
 #include "platform/qt/OwnWindowsAccessibility.h"
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/QtScreens.h"
@@ -58,8 +59,6 @@ class Desktop {
 
  private:
   atspi::AtspiAccessibility::Options accessibilityOptions();
-  Pasteboard& general();
-  Pasteboard& primary();
   Workspace& sessionWorkspace();
   KeyTapState keyTapState();
   KeyGuard keyGuard();
@@ -80,6 +79,8 @@ class Desktop {
   none::NoPasteboard noPasteboard_;
   none::NoWorkspace noWorkspace_;
   std::unique_ptr<x11::X11Selections> selections_;
+  ui::OwnSelection general_;
+  ui::OwnSelection primary_;
   std::unique_ptr<x11::X11Workspace> x11Workspace_;
   x11::ActiveWindowProbe activeWindow_;
   OwnAddresses workspace_;

@@ -29,6 +29,12 @@ class ApplicationTest(unittest.TestCase):
         """The size of the window of this title, once it is there."""
         return wait_for(lambda: self.typist.titled(title), what=f"the window “{title}”").get_geometry()
 
+    def import_snippet(self, trigger, replacement):
+        path = self.session.folder / "mine.json"
+        path.write_text(json.dumps([{"id": "A", "name": "Mine", "trigger": trigger, "replacement": replacement,
+                                     "keywords": [], "category": "Custom", "isBuiltIn": False}]))
+        return self.tessarin.command("--import", path.name, cwd=path.parent).stdout.decode()
+
     def heard(self):
         """What a screen reader is told, line by line."""
         return self.session.run(ROOT / "tests/desktop/screen_reader.py", "tessarin").stdout.decode().splitlines()
@@ -55,9 +61,10 @@ class FirstRun(ApplicationTest):
         wait_for(lambda: self.stored("hasCompletedOnboarding"), what="the welcome to be over")
         wait_for(lambda: not self.typist.titled("Welcome to Tessarin"), what="its window to go")
 
+        self.import_snippet("zqboard", "<{{clipboard}}>")
         with Mousepad(self.session, self.typist) as editor:
-            self.typist.type("a:tada\nb")
-            self.assertEqual(editor.wait_for_document("a🎉b"), "a🎉b")
+            self.typist.type("a:tada\nb:zqboard\n")
+            self.assertEqual(editor.wait_for_document("a🎉b<😄>"), "a🎉b<😄>")
         self.look_at_the_statistics()
         self.assertEqual(self.tessarin.command("--quit").returncode, 0)
         wait_for(lambda: "Event tap stopped" in self.tessarin.log, what="an orderly end")
@@ -65,6 +72,8 @@ class FirstRun(ApplicationTest):
     def try_the_exercise(self):
         self.typist.type(":smile:")
         self.wait_until_heard("😄")
+        self.typist.press("a", "Control_L")
+        self.typist.press("c", "Control_L")
 
     def look_at_the_statistics(self):
         self.tessarin.command("--settings")
@@ -87,11 +96,7 @@ class SecondStart(ApplicationTest):
 
     def test_import_and_export_through_the_running_program(self):
         folder = self.session.folder
-        (folder / "mine.json").write_text(json.dumps([
-            {"id": "A", "name": "Mine", "trigger": "zqmine", "replacement": "it is mine", "keywords": [],
-             "category": "Custom", "isBuiltIn": False}]))
-        answer = self.tessarin.command("--import", "mine.json", cwd=folder)
-        self.assertEqual(answer.stdout.decode().strip(), "Imported 1 snippet")
+        self.assertEqual(self.import_snippet("zqmine", "it is mine").strip(), "Imported 1 snippet")
         with Mousepad(self.session, self.typist) as editor:
             self.typist.type(":zqmine\n")
             self.assertEqual(editor.wait_for_document("it is mine"), "it is mine")

@@ -1,7 +1,6 @@
 #include "ui/settings/PreviewClipboard.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
+#include <QString>
 
 #include "platform/Pasteboard.h"
 
@@ -17,9 +16,6 @@ std::string cut(const QString& text) {
 }  // namespace
 
 std::string PreviewClipboard::text() {
-  // What was copied from a window of ours we would have to hand out ourselves while waiting for it.
-  const QClipboard* own = QGuiApplication::clipboard();
-  if (own->ownsClipboard()) return cut(own->text());
   const std::int64_t now = pasteboard_.changeCount();
   if (readAt_ != now) {
     text_ = cut(QString::fromStdString(pasteboard_.string().value_or("")));
