@@ -30,22 +30,18 @@ TEST(SearchIndex, OrdersByScoreAndUse) {
   index.setUsageCount("cosmos", 12);
   index.setUsageCount("wave", 40);
   EXPECT_THAT(index.search("sm", 8), ElementsAre(0, 1, 2, 5, 3, 4));
-  EXPECT_THAT(index.search("SM", 8), ElementsAre(0, 1, 2, 5, 3, 4));
   EXPECT_THAT(index.search("sm", 2), ElementsAre(0, 1));
-  EXPECT_THAT(index.search("sm", 0), IsEmpty());
-  EXPECT_THAT(index.search("", 8), IsEmpty());
 }
 
 TEST(SearchIndex, CountsSetBeforeTheSnippetCount) {
   SearchIndex index;
   index.setUsageCount("abd", 1);
-  fill(index, {snippet("abc"), snippet("abd")});
-  EXPECT_THAT(index.search("ab", 8), ElementsAre(1, 0));
-  index.clear();
-  EXPECT_EQ(index.size(), 0U);
-  EXPECT_THAT(index.search("ab", 8), IsEmpty());
-  fill(index, {snippet("abc"), snippet("abd")});
-  EXPECT_THAT(index.search("ab", 8), ElementsAre(1, 0));
+  for (int round = 0; round < 2; ++round) {
+    index.clear();
+    EXPECT_THAT(index.search("ab", 8), IsEmpty());
+    fill(index, {snippet("abc"), snippet("abd")});
+    EXPECT_THAT(index.search("ab", 8), ElementsAre(1, 0));
+  }
 }
 
 /// Texts of few letters, so that every tier, tie and overlap comes up.
