@@ -101,13 +101,6 @@ TEST_F(ExpansionTest, ATriggerIsSwallowedOrErasedToo) {
               ElementsAre(Replacement{4, "😄", false, ":smi"}, Replacement{4, "😄", true, ":smi:"}));
 }
 
-TEST_F(ExpansionTest, AnUnusedTriggerPasses) {
-  app.type(":qqq");
-  EXPECT_EQ(app.tap.press(letter(":")), KeyVerdict::pass);
-  EXPECT_THAT(app.insertion.replacements, IsEmpty());
-  EXPECT_THAT(app.app->snippetStore().usageTracker().usageEvents(), IsEmpty());
-}
-
 TEST_F(ExpansionTest, TheTriggerThatOpenedIsTheOneErased) {
   app.type(":smi");
   app.defaults.set(preferences::key::triggerCharacter, "/");

@@ -81,15 +81,15 @@ TEST_F(LaunchTest, RetriesEveryThreeSecondsOnceTrusted) {
   EXPECT_EQ(app.tap.creations, 1);
 }
 
-TEST_F(LaunchTest, RetriesWhileThereIsNoTap) {
+TEST_F(LaunchTest, RetriesWhileThereIsNoTapUntilShutdown) {
   app.tap.isUsable = false;
   launch();
   app.queue.advance(7s);
   EXPECT_EQ(app.tap.creations, 3);
   EXPECT_THAT(app.log.lines, Contains(failed).Times(3));
-  app.tap.isUsable = true;
-  app.queue.advance(3s);
-  EXPECT_TRUE(app.tap.isOn);
+  app.app->applicationWillTerminate();
+  app.queue.advance(10s);
+  EXPECT_EQ(app.tap.creations, 3);
 }
 
 TEST_F(LaunchTest, ShowsTheTrayItemAsThePreferenceSays) {
@@ -114,15 +114,6 @@ TEST_F(LaunchTest, ShutdownEndsKeysAndTimers) {
   app.statusBar.openMenu();
   app.accessibility.focus(std::make_shared<FakeElement>());
   EXPECT_EQ(app.popup.hides, hides);
-}
-
-TEST_F(LaunchTest, ShutdownEndsTheRetrying) {
-  app.accessibility.trusted = false;
-  app.launch();
-  app.app->applicationWillTerminate();
-  app.accessibility.trusted = true;
-  app.queue.advance(10s);
-  EXPECT_EQ(app.tap.creations, 0);
 }
 
 }  // namespace
