@@ -15,7 +15,6 @@ using std::chrono::milliseconds;
 
 PopupContent contentOf(const std::string& query, int rows) {
   PopupContent content;
-  content.triggerCharacter = ":";
   content.query = query;
   for (int i = 0; i < rows; ++i)
     content.rows.push_back({"id" + std::to_string(i), "x", "trigger", "name", false});
