@@ -40,26 +40,17 @@ TEST_F(LaunchTest, TheUpdateServiceComesFirstAndTheOnboardingLast) {
 
 TEST_F(LaunchTest, LacksTheirHooksWithoutHarm) {
   app.defaults.set(preferences::key::hasCompletedOnboarding, false);
-  AppDelegate bare({.eventTap = app.tap,
-                    .accessibility = app.accessibility,
-                    .inputMonitoring = app.monitoring,
-                    .workspace = app.workspace,
-                    .userDefaults = app.defaults,
-                    .mainQueue = app.queue,
-                    .autocompletePanel = app.popup,
-                    .textReplacer = app.insertion,
-                    .statusBar = app.statusBar,
-                    .wallClock = app.clock,
-                    .folders = {.resources = app.folder.path(), .storage = app.folder / "storage"},
-                    .menu = {},
-                    .startUpdateService = nullptr,
-                    .showOnboardingWindow = nullptr});
+  auto services = app.services();
+  services.startUpdateService = nullptr;
+  services.showOnboardingWindow = nullptr;
+  AppDelegate bare(services);
   bare.applicationDidFinishLaunching();
   EXPECT_EQ(app.log.lines.back(), ready);
 }
 
-TEST_F(LaunchTest, StartsTheMonitorAfterOneSecond) {
+TEST_F(LaunchTest, ShowsTheTrayItemAndStartsTheMonitorAfterOneSecond) {
   launch();
+  EXPECT_TRUE(app.statusBar.visible);
   app.queue.advance(999ms);
   EXPECT_EQ(app.tap.creations, 0);
   app.queue.advance(1ms);
@@ -90,15 +81,15 @@ TEST_F(LaunchTest, RetriesEveryThreeSecondsOnceTrusted) {
   EXPECT_EQ(app.tap.creations, 1);
 }
 
-TEST_F(LaunchTest, RetriesWhileThereIsNoTap) {
+TEST_F(LaunchTest, RetriesWhileThereIsNoTapUntilShutdown) {
   app.tap.isUsable = false;
   launch();
   app.queue.advance(7s);
   EXPECT_EQ(app.tap.creations, 3);
   EXPECT_THAT(app.log.lines, Contains(failed).Times(3));
-  app.tap.isUsable = true;
-  app.queue.advance(3s);
-  EXPECT_TRUE(app.tap.isOn);
+  app.app->applicationWillTerminate();
+  app.queue.advance(10s);
+  EXPECT_EQ(app.tap.creations, 3);
 }
 
 TEST_F(LaunchTest, ShowsTheTrayItemAsThePreferenceSays) {
@@ -106,15 +97,10 @@ TEST_F(LaunchTest, ShowsTheTrayItemAsThePreferenceSays) {
   launch();
   EXPECT_FALSE(app.statusBar.visible);
   EXPECT_EQ(app.statusBar.descriptions.size(), 1u) << "made all the same, for when it is wanted";
-  for (const bool isWanted : {true, false, true}) {
+  for (const bool isWanted : {true, false}) {
     app.defaults.set(preferences::key::showMenuBarIcon, isWanted);
     EXPECT_EQ(app.statusBar.visible, isWanted);
   }
-}
-
-TEST_F(LaunchTest, ShowsTheTrayItemWithoutAnyPreference) {
-  launch();
-  EXPECT_TRUE(app.statusBar.visible);
 }
 
 TEST_F(LaunchTest, ShutdownEndsKeysAndTimers) {
@@ -128,15 +114,6 @@ TEST_F(LaunchTest, ShutdownEndsKeysAndTimers) {
   app.statusBar.openMenu();
   app.accessibility.focus(std::make_shared<FakeElement>());
   EXPECT_EQ(app.popup.hides, hides);
-}
-
-TEST_F(LaunchTest, ShutdownEndsTheRetrying) {
-  app.accessibility.trusted = false;
-  app.launch();
-  app.app->applicationWillTerminate();
-  app.accessibility.trusted = true;
-  app.queue.advance(10s);
-  EXPECT_EQ(app.tap.creations, 0);
 }
 
 }  // namespace

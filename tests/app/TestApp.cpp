@@ -37,26 +37,26 @@ TestApp::TestApp() {
 
 TestApp::~TestApp() = default;
 
-AppDelegate& TestApp::create() {
+AppDelegate::Services TestApp::services() {
   const auto hook = [this](const char* name) { return [this, name] { hooksRun.emplace_back(name); }; };
-  if (!app) {
-    app = std::make_unique<AppDelegate>(AppDelegate::Services{
-        .eventTap = tap,
-        .accessibility = accessibility,
-        .inputMonitoring = monitoring,
-        .workspace = workspace,
-        .userDefaults = defaults,
-        .mainQueue = queue,
-        .autocompletePanel = popup,
-        .textReplacer = insertion,
-        .statusBar = statusBar,
-        .wallClock = clock,
-        .folders = {.resources = folder.path(), .storage = folder / "storage"},
-        .menu = {.openSettings = {}, .checkForUpdates = {}, .quit = hook("quit")},
-        .startUpdateService = hook("updates"),
-        .showOnboardingWindow = hook("onboarding"),
-    });
-  }
+  return {.eventTap = tap,
+          .accessibility = accessibility,
+          .inputMonitoring = monitoring,
+          .workspace = workspace,
+          .userDefaults = defaults,
+          .mainQueue = queue,
+          .autocompletePanel = popup,
+          .textReplacer = insertion,
+          .statusBar = statusBar,
+          .wallClock = clock,
+          .folders = {.resources = folder.path(), .storage = folder / "storage"},
+          .menu = {},
+          .startUpdateService = hook("updates"),
+          .showOnboardingWindow = hook("onboarding")};
+}
+
+AppDelegate& TestApp::create() {
+  if (!app) app = std::make_unique<AppDelegate>(services());
   return *app;
 }
 

@@ -33,6 +33,7 @@ class TestApp {
   TestApp(const TestApp&) = delete;
   TestApp& operator=(const TestApp&) = delete;
 
+  AppDelegate::Services services();
   /// Makes the controller, if there is none yet, without launching it.
   AppDelegate& create();
   /// Launches it, and starts the monitor.

@@ -26,28 +26,6 @@ unsigned modeOf(const fs::path& path) {
   return static_cast<unsigned>(fs::status(path).permissions());
 }
 
-/// Lets no file of this process grow beyond a size while it lives: what a full disk does to a write.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(rlim_t bytes) {
-    previousHandler_ = ::signal(SIGXFSZ, SIG_IGN);
-    ::getrlimit(RLIMIT_FSIZE, &previous_);
-    rlimit limit = previous_;
-    limit.rlim_cur = bytes;
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FileSizeLimit() {
-    ::setrlimit(RLIMIT_FSIZE, &previous_);
-    ::signal(SIGXFSZ, previousHandler_);
-  }
-  FileSizeLimit(const FileSizeLimit&) = delete;
-  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
- private:
-  rlimit previous_{};
-  sighandler_t previousHandler_;
-};
-
 TEST(AtomicFile, ReplacesTheContentAndLeavesNothingBeside) {
   for (const Durability durability : {Durability::processEnd, Durability::powerCut}) {
     const TemporaryFolder folder;
@@ -104,10 +82,15 @@ TEST(AtomicFile, RefusesWhatIsNoFile) {
 TEST(AtomicFile, AFailedWriteLeavesTheOldContentAndNothingElse) {
   const TemporaryFolder folder;
   folder.write("a", "old");
-  {
-    const FileSizeLimit limit(1000);
-    EXPECT_THROW(replaceFile(folder / "a", std::string(5000, 'n'), Durability::powerCut), std::system_error);
-  }
+  // No file may grow beyond a thousand bytes: what a full disk does to a write.
+  const auto previousHandler = ::signal(SIGXFSZ, SIG_IGN);
+  rlimit previous{};
+  ::getrlimit(RLIMIT_FSIZE, &previous);
+  const rlimit limit{1000, previous.rlim_max};
+  ::setrlimit(RLIMIT_FSIZE, &limit);
+  EXPECT_THROW(replaceFile(folder / "a", std::string(5000, 'n'), Durability::powerCut), std::system_error);
+  ::setrlimit(RLIMIT_FSIZE, &previous);
+  ::signal(SIGXFSZ, previousHandler);
   EXPECT_EQ(folder.read("a"), "old");
   EXPECT_THAT(folder.names(), ElementsAre("a"));
 }

@@ -1,5 +1,4 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "platform/GuardedEventTap.h"
 #include "support/FakeEventTap.h"
@@ -7,52 +6,36 @@
 namespace tessarin {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-using enum KeyEventKind;
-
-class GuardedEventTapTest : public ::testing::Test {
- protected:
-  GuardedEventTapTest() {
-    tap.create([this](const KeyEvent& event) {
+TEST(GuardedEventTapTest, DeliversWhatTheGuardAllowsAndEndsWhatHasBegun) {
+  using enum KeyEventKind;
+  const std::optional<KeyEventKind> nothing;
+  const struct {
+    KeyGuard guard;
+    KeyAttention attention;
+    KeyVerdict verdict;
+    std::optional<KeyEventKind> delivered;
+  } cases[] = {
+      {KeyGuard::open, KeyAttention::triggerOnly, KeyVerdict::swallow, keyDown},
+      {KeyGuard::open, KeyAttention::everyKey, KeyVerdict::swallow, keyDown},
+      {KeyGuard::shut, KeyAttention::triggerOnly, KeyVerdict::pass, nothing},
+      {KeyGuard::shut, KeyAttention::everyKey, KeyVerdict::pass, disabledByUserInput},
+      {KeyGuard::unsure, KeyAttention::triggerOnly, KeyVerdict::swallow, keyDown},
+      {KeyGuard::unsure, KeyAttention::everyKey, KeyVerdict::pass, disabledByUserInput},
+  };
+  for (const auto& c : cases) {
+    testing::FakeEventTap keyboard;
+    GuardedEventTap tap{keyboard, [&] { return c.guard; }};
+    std::vector<KeyEventKind> delivered;
+    tap.create([&](const KeyEvent& event) {
       delivered.push_back(event.kind);
       return KeyVerdict::swallow;
     });
     tap.setEnabled(true);
+    tap.setAttention(c.attention, ":");
+    SCOPED_TRACE(&c - cases);
+    EXPECT_EQ(keyboard.press({}), c.verdict);
+    EXPECT_EQ(delivered, c.delivered ? std::vector{*c.delivered} : std::vector<KeyEventKind>());
   }
-  std::optional<KeyVerdict> press(KeyAttention attention) {
-    delivered.clear();
-    tap.setAttention(attention, ":");
-    return keyboard.press({});
-  }
-
-  KeyGuard guard = KeyGuard::open;
-  testing::FakeEventTap keyboard;
-  GuardedEventTap tap{keyboard, [this] { return guard; }};
-  std::vector<KeyEventKind> delivered;
-};
-
-TEST_F(GuardedEventTapTest, deliversWhileOpen) {
-  for (const auto attention : {KeyAttention::triggerOnly, KeyAttention::everyKey}) {
-    EXPECT_EQ(press(attention), KeyVerdict::swallow);
-    EXPECT_THAT(delivered, ElementsAre(keyDown));
-  }
-}
-
-TEST_F(GuardedEventTapTest, deliversNothingWhileShutAndEndsWhatHasBegun) {
-  guard = KeyGuard::shut;
-  EXPECT_EQ(press(KeyAttention::triggerOnly), KeyVerdict::pass);
-  EXPECT_THAT(delivered, IsEmpty());
-  EXPECT_EQ(press(KeyAttention::everyKey), KeyVerdict::pass);
-  EXPECT_THAT(delivered, ElementsAre(disabledByUserInput));
-}
-
-TEST_F(GuardedEventTapTest, anUnsureOneLetsBegin) {
-  guard = KeyGuard::unsure;
-  EXPECT_EQ(press(KeyAttention::triggerOnly), KeyVerdict::swallow);
-  EXPECT_THAT(delivered, ElementsAre(keyDown));
-  EXPECT_EQ(press(KeyAttention::everyKey), KeyVerdict::pass);
-  EXPECT_THAT(delivered, ElementsAre(disabledByUserInput));
 }
 
 }  // namespace

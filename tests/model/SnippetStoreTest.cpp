@@ -36,7 +36,6 @@ Snippet mine(const std::string& id, const std::string& trigger) {
 
 std::vector<std::string> triggersOf(const std::vector<Snippet>& snippets) {
   std::vector<std::string> triggers;
-  triggers.reserve(snippets.size());
   for (const Snippet& snippet : snippets) triggers.push_back(snippet.trigger);
   return triggers;
 }
@@ -99,11 +98,9 @@ TEST_F(SnippetStoreTest, EachLoadingStepFailsByItself) {
   };
   for (const auto& c : cases) {
     const TemporaryFolder folder;
-    const std::pair<const char*, const std::optional<std::string>*> files[] = {
-        {"emoji-data.json", &c.emoji}, {"kaomoji-data.json", &c.kaomoji}, {"user-snippets.json", &c.user}};
-    for (const auto& [file, content] : files) {
-      if (*content) folder.write(file, **content);
-    }
+    if (c.emoji) folder.write("emoji-data.json", *c.emoji);
+    if (c.kaomoji) folder.write("kaomoji-data.json", *c.kaomoji);
+    if (c.user) folder.write("user-snippets.json", *c.user);
     log_.lines.clear();
     const SnippetStore store({folder.path(), folder.path()}, clock_);
     ASSERT_EQ(log_.lines.size(), c.log.size());
@@ -182,9 +179,11 @@ TEST_F(SnippetStoreTest, ImportAddsWhatHasANewTrigger) {
             (Snippet{first.id, builtIn.name, "twice", builtIn.replacement, {"word"}, "Custom", false}));
 }
 
-TEST_F(SnippetStoreTest, AnImportThatAddsNothingWritesNothing) {
+TEST_F(SnippetStoreTest, ImportingTheUsersOwnExportWritesNothing) {
   const auto store = makeStoreWithTwo();
+  EXPECT_THROW(store->exportSnippets(folder_ / "missing/export.json"), std::runtime_error);
   store->exportSnippets(folder_ / "export.json");
+  EXPECT_EQ(folder_.read("export.json"), encodeSnippets(store->userSnippets(), JsonStyle::pretty));
   fs::remove(folder_ / userFile);
   EXPECT_EQ(store->importSnippets(folder_ / "export.json"), 0U);
   folder_.write("bad.json", "[1]");
@@ -192,13 +191,6 @@ TEST_F(SnippetStoreTest, AnImportThatAddsNothingWritesNothing) {
   EXPECT_THROW(store->importSnippets(folder_ / "missing.json"), std::runtime_error);
   EXPECT_FALSE(fs::exists(folder_ / userFile));
   EXPECT_EQ(store->userSnippets().size(), 2U);
-}
-
-TEST_F(SnippetStoreTest, ExportWritesTheUsersSnippetsOnly) {
-  const auto store = makeStoreWithTwo();
-  store->exportSnippets(folder_ / "export.json");
-  EXPECT_EQ(folder_.read("export.json"), encodeSnippets(store->userSnippets(), JsonStyle::pretty));
-  EXPECT_THROW(store->exportSnippets(folder_ / "missing/export.json"), std::runtime_error);
 }
 
 TEST_F(SnippetStoreTest, TellsObserversBeforeAndAfterEachChange) {

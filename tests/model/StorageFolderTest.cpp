@@ -22,8 +22,7 @@ TEST(StorageFolder, FollowsTheEnvironment) {
     std::map<std::string, std::string> variables;
     const char* folder;
   } cases[] = {
-      {{{"XDG_DATA_HOME", "/data"}, {"HOME", "/home/u"}}, "/data/Tessarin"},
-      {{{"HOME", "/home/u"}}, "/home/u/.local/share/Tessarin"},
+      {{{"XDG_DATA_HOME", "/data"}}, "/data/Tessarin"},
       {{{"XDG_DATA_HOME", ""}, {"HOME", "/home/u"}}, "/home/u/.local/share/Tessarin"},
       {{{"XDG_DATA_HOME", "data"}, {"HOME", "/home/u"}}, "/home/u/.local/share/Tessarin"},
   };

@@ -15,7 +15,6 @@ using std::chrono::milliseconds;
 
 PopupContent contentOf(const std::string& query, int rows) {
   PopupContent content;
-  content.triggerCharacter = ":";
   content.query = query;
   for (int i = 0; i < rows; ++i)
     content.rows.push_back({"id" + std::to_string(i), "x", "trigger", "name", false});
@@ -30,6 +29,12 @@ class AutocompletePanelTest : public ::testing::Test {
       return std::optional<AttributeValue>(caret);
     };
     accessibility.focus(element);
+  }
+
+  /// Presents a list and does what was put off.
+  void show(const std::string& query) {
+    panel->present(contentOf(query, 2));
+    queue.runReady();
   }
 
   testing::ManualMainQueue queue;
@@ -60,19 +65,21 @@ TEST_F(AutocompletePanelTest, severalPresentsBecomeOne) {
   EXPECT_EQ(surface.shows[0].frame.height, 100);
 }
 
-TEST_F(AutocompletePanelTest, followsTheCaretWithEveryQuery) {
-  panel->present(contentOf("s", 2));
-  queue.runReady();
+TEST_F(AutocompletePanelTest, followsTheCaretWithEveryQueryAndAfterHiding) {
+  show("s");
   caret.x = 310;
-  panel->present(contentOf("sm", 2));
-  queue.runReady();
-  ASSERT_EQ(surface.shows.size(), 2U);
-  EXPECT_EQ(surface.shows[1].frame.x, 310);
+  show("sm");
+  EXPECT_EQ(surface.shows.back().frame.x, 310);
+  panel->hide();
+  EXPECT_FALSE(surface.isShown);
+  caret.x = 500;
+  show("sm");
+  EXPECT_TRUE(surface.isShown);
+  EXPECT_EQ(surface.shows.back().frame.x, 500);
 }
 
 TEST_F(AutocompletePanelTest, aMovedHighlightLeavesTheWindowInPlace) {
-  panel->present(contentOf("s", 2));
-  queue.runReady();
+  show("s");
   const int calls = accessibility.calls;
   caret.x = 500;
   PopupContent moved = contentOf("s", 2);
@@ -87,30 +94,21 @@ TEST_F(AutocompletePanelTest, aMovedHighlightLeavesTheWindowInPlace) {
   EXPECT_EQ(surface.shows[1].frame, surface.shows[0].frame);
 }
 
-TEST_F(AutocompletePanelTest, hidingCancelsWhatWasPutOff) {
+TEST_F(AutocompletePanelTest, hidingCancelsWhatWasPutOffAndSoDoesItsEnd) {
   panel->present(contentOf("s", 2));
   panel->hide();
   EXPECT_FALSE(panel->isVisible());
   queue.runReady();
   EXPECT_TRUE(surface.shows.empty());
   EXPECT_EQ(surface.hides, 0);
-}
-
-TEST_F(AutocompletePanelTest, showsAgainAfterHidingAtTheNewCaret) {
   panel->present(contentOf("s", 2));
+  panel.reset();
   queue.runReady();
-  panel->hide();
-  EXPECT_FALSE(surface.isShown);
-  caret.x = 500;
-  panel->present(contentOf("s", 2));
-  queue.runReady();
-  EXPECT_TRUE(surface.isShown);
-  EXPECT_EQ(surface.shows.back().frame.x, 500);
+  EXPECT_TRUE(surface.shows.empty());
 }
 
 TEST_F(AutocompletePanelTest, aListWithoutRowsHides) {
-  panel->present(contentOf("s", 2));
-  queue.runReady();
+  show("s");
   panel->present(contentOf("sx", 0));
   EXPECT_FALSE(panel->isVisible());
   EXPECT_FALSE(surface.isShown);
@@ -121,17 +119,9 @@ TEST_F(AutocompletePanelTest, aListWithoutRowsHides) {
 TEST_F(AutocompletePanelTest, standsAtThePointerWhenTheCaretIsNotKnown) {
   accessibility.trusted = false;
   screens.mouse = {400, 600};
-  panel->present(contentOf("s", 1));
-  queue.runReady();
+  show("s");
   ASSERT_EQ(surface.shows.size(), 1U);
-  EXPECT_EQ(surface.shows[0].frame, (Rect{408, 492, 320, 100}));
-}
-
-TEST_F(AutocompletePanelTest, workPutOffVanishesWithThePanel) {
-  panel->present(contentOf("s", 2));
-  panel.reset();
-  queue.runReady();
-  EXPECT_TRUE(surface.shows.empty());
+  EXPECT_EQ(surface.shows[0].frame, (Rect{408, 456, 320, 136}));
 }
 
 }  // namespace

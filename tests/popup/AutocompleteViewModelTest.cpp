@@ -23,40 +23,24 @@ std::vector<Snippet> snippets(int count) {
 
 const Snippet wave = snippetOf("wave", "👋");
 
-struct Move {
-  const char* name;
-  int rows;
-  int from;
-  int afterDown;
-  int afterUp;
-};
-
-class SelectionMoves : public ::testing::TestWithParam<Move> {
- protected:
-  void start(AutocompleteViewModel& model) {
-    model.updateResults(snippets(GetParam().rows), "s");
-    for (int i = 0; i < GetParam().from; ++i) model.moveSelectionDown();
-    ASSERT_EQ(model.selectedIndex(), GetParam().from);
+TEST(AutocompleteViewModel, theSelectionWrapsAround) {
+  const struct {
+    int rows;
+    int from;
+    int afterDown;
+    int afterUp;
+  } moves[] = {{3, 0, 1, 2}, {3, 1, 2, 0}, {3, 2, 0, 1}, {1, 0, 0, 0}, {0, 0, 0, -1}};
+  for (const auto& move : moves) {
+    for (const bool isDown : {true, false}) {
+      AutocompleteViewModel model;
+      model.updateResults(snippets(move.rows), "s");
+      for (int i = 0; i < move.from; ++i) model.moveSelectionDown();
+      isDown ? model.moveSelectionDown() : model.moveSelectionUp();
+      EXPECT_EQ(model.selectedIndex(), isDown ? move.afterDown : move.afterUp)
+          << move.rows << " rows, from " << move.from;
+    }
   }
-};
-
-TEST_P(SelectionMoves, wrapAround) {
-  AutocompleteViewModel down;
-  start(down);
-  down.moveSelectionDown();
-  EXPECT_EQ(down.selectedIndex(), GetParam().afterDown);
-
-  AutocompleteViewModel up;
-  start(up);
-  up.moveSelectionUp();
-  EXPECT_EQ(up.selectedIndex(), GetParam().afterUp);
 }
-
-INSTANTIATE_TEST_SUITE_P(Rows, SelectionMoves,
-                         ::testing::Values(Move{"first", 3, 0, 1, 2}, Move{"middle", 3, 1, 2, 0},
-                                           Move{"last", 3, 2, 0, 1}, Move{"only", 1, 0, 0, 0},
-                                           Move{"none", 0, 0, 0, -1}),
-                         [](const auto& move) { return move.param.name; });
 
 TEST(AutocompleteViewModel, resetEmptiesEverything) {
   AutocompleteViewModel model;
@@ -86,22 +70,14 @@ TEST(AutocompleteViewModel, selectsAClickedRow) {
   EXPECT_EQ(model.selectedIndex(), 2);
 }
 
-TEST(SkinTonePicker, stopsAtTheLastVariant) {
+TEST(SkinTonePicker, stopsAtTheLastVariantAndClosesLeftOfTheFirst) {
   AutocompleteViewModel model;
   model.enterSkinToneMode(wave);
-  for (int i = 0; i < 5; ++i) model.moveSkinToneRight();
+  for (int i = 0; i < 6; ++i) model.moveSkinToneRight();
   EXPECT_EQ(model.selectedSkinToneVariant(), "👋🏿");
-  model.moveSkinToneRight();
-  EXPECT_EQ(model.skinToneSelectedIndex(), 5);
-}
-
-TEST(SkinTonePicker, closesLeftOfTheFirstVariant) {
-  AutocompleteViewModel model;
-  model.enterSkinToneMode(wave);
-  model.moveSkinToneRight();
-  model.moveSkinToneLeft();
+  for (int i = 0; i < 5; ++i) model.moveSkinToneLeft();
   EXPECT_TRUE(model.skinToneMode());
-  EXPECT_EQ(model.skinToneSelectedIndex(), 0);
+  EXPECT_EQ(model.selectedSkinToneVariant(), "👋");
   model.moveSkinToneLeft();
   EXPECT_FALSE(model.skinToneMode());
   EXPECT_THAT(model.skinToneVariants(), IsEmpty());
@@ -114,10 +90,10 @@ TEST(SkinTonePicker, aClickHighlightsAVariant) {
   model.enterSkinToneMode(wave);
   model.setSkinToneSelectedIndex(3);
   EXPECT_EQ(model.selectedSkinToneVariant(), "👋🏽");
-  model.setSkinToneSelectedIndex(6);
-  EXPECT_EQ(model.selectedSkinToneVariant(), std::nullopt);
-  model.setSkinToneSelectedIndex(-1);
-  EXPECT_EQ(model.selectedSkinToneVariant(), std::nullopt);
+  for (const int outside : {6, -1}) {
+    model.setSkinToneSelectedIndex(outside);
+    EXPECT_EQ(model.selectedSkinToneVariant(), std::nullopt);
+  }
 }
 
 TEST(AutocompleteViewModel, tellsOfEveryAssignment) {

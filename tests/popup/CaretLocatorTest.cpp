@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <cmath>
 #include <limits>
 
 #include "popup/CaretLocator.h"
@@ -69,54 +70,38 @@ TEST_F(CaretLocatorTest, fallsBackFromElementToWindowToNothing) {
   EXPECT_EQ(locator.caretRect(), std::nullopt);
 }
 
-struct Bounds {
-  const char* name;
-  Rect rect;
-  bool isBelieved;
-};
-
-class CaretLocatorBounds : public CaretLocatorTest, public ::testing::WithParamInterface<Bounds> {};
-
-TEST_P(CaretLocatorBounds, areBelievedWhenTheyCanBeTrue) {
-  bounds = GetParam().rect;
-  EXPECT_EQ(locator.selectionBounds(element).has_value(), GetParam().isBelieved);
+TEST_F(CaretLocatorTest, believesBoundsThatCanBeTrue) {
+  const double infinity = std::numeric_limits<double>::infinity();
+  const Rect believed[] = {
+      {300, 100, 1, 16}, {300, 100, 0, 0}, {0, 100, 1000, 30}, {-5, 790, 10, 20}, {1500, 100, 1, 16}};
+  for (const Rect& rect : believed) {
+    bounds = rect;
+    EXPECT_TRUE(locator.selectionBounds(element)) << rect.x << " " << rect.y;
+  }
+  const Rect impossible[] = {{0, 0, 0, 0},          {-1, -1, -1, -1},        {300, 100, -4, 16},
+                             {300, 100, 21845, 16}, {300, 100, 1, 32767},    {-1.9e9, 22000, 1, 16},
+                             {-20, 100, 10, 16},    {std::nan(""), 1, 1, 1}, {1, infinity, 1, 1}};
+  for (const Rect& rect : impossible) {
+    bounds = rect;
+    EXPECT_FALSE(locator.selectionBounds(element)) << rect.x << " " << rect.y << " " << rect.width;
+  }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Rects, CaretLocatorBounds,
-    ::testing::Values(
-        Bounds{"caret", {300, 100, 1, 16}, true}, Bounds{"zeroSize", {300, 100, 0, 0}, true},
-        Bounds{"selectedLine", {0, 100, 1000, 30}, true}, Bounds{"partlyOffScreen", {-5, 790, 10, 20}, true},
-        Bounds{"secondScreen", {1500, 100, 1, 16}, true}, Bounds{"zero", {0, 0, 0, 0}, false},
-        Bounds{"minusOne", {-1, -1, -1, -1}, false}, Bounds{"negativeWidth", {300, 100, -4, 16}, false},
-        Bounds{"huge", {300, 100, 21845, 16}, false}, Bounds{"tall", {300, 100, 1, 32767}, false},
-        Bounds{"farAway", {-1.9e9, 22000, 1, 16}, false},
-        Bounds{"leftOfAllScreens", {-20, 100, 10, 16}, false},
-        Bounds{"notANumber", {std::numeric_limits<double>::quiet_NaN(), 1, 1, 1}, false},
-        Bounds{"infinite", {1, std::numeric_limits<double>::infinity(), 1, 1}, false}),
-    [](const auto& bounds) { return bounds.param.name; });
-
-struct Pointer {
-  const char* name;
-  Point mouse;  ///< screen coordinates
-  Point inElement;
-  Point inWindow;  ///< both accessibility coordinates
-};
-
-class CaretLocatorPointer : public CaretLocatorTest, public ::testing::WithParamInterface<Pointer> {};
-
-TEST_P(CaretLocatorPointer, isKeptInside) {
-  screens.mouse = GetParam().mouse;
+TEST_F(CaretLocatorTest, keepsThePointerInside) {
+  const struct {
+    Point mouse;  ///< screen coordinates
+    Point inElement;
+    Point inWindow;  ///< both accessibility coordinates
+  } cases[] = {{{300, 500}, {300, 300}, {300, 300}},
+               {{990, 10}, {480, 480}, {830, 660}},
+               {{0, 800}, {100, 200}, {70, 140}}};
   const auto at = [](Point p) { return Rect{p.x, 800 - p.y - 16, 1, 16}; };
-  EXPECT_EQ(locator.elementPointerRect(element), at(GetParam().inElement));
-  EXPECT_EQ(locator.windowPointerRect(accessibility.application), at(GetParam().inWindow));
+  for (const auto& [mouse, inElement, inWindow] : cases) {
+    screens.mouse = mouse;
+    EXPECT_EQ(locator.elementPointerRect(element), at(inElement));
+    EXPECT_EQ(locator.windowPointerRect(accessibility.application), at(inWindow));
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(Places, CaretLocatorPointer,
-                         ::testing::Values(Pointer{"inside", {300, 500}, {300, 300}, {300, 300}},
-                                           Pointer{"lowerRight", {990, 10}, {480, 480}, {830, 660}},
-                                           Pointer{"upperLeft", {0, 800}, {100, 200}, {70, 140}}),
-                         [](const auto& pointer) { return pointer.param.name; });
 
 TEST_F(CaretLocatorTest, insetsOfTheFarEdgesWinInATinyElement) {
   place(*element, {100, 200}, {10, 10});

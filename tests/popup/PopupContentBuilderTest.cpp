@@ -14,12 +14,7 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 Snippet makeSnippet(const std::string& trigger, const std::string& replacement) {
-  Snippet snippet;
-  snippet.id = "id_" + trigger;
-  snippet.name = "name of " + trigger;
-  snippet.trigger = trigger;
-  snippet.replacement = replacement;
-  return snippet;
+  return {"id_" + trigger, "name of " + trigger, trigger, replacement, {}, "", false};
 }
 
 std::vector<std::string> hintKeys(const AutocompleteViewModel& model) {
@@ -61,9 +56,6 @@ TEST_F(PopupContentBuilderTest, HintsAtSkinTonesOnlyWhereThePickerCanOpen) {
   model.exitSkinToneMode();
   model.moveSelectionDown();
   EXPECT_THAT(hintKeys(model), ElementsAre("↑↓", "↵", ":", "esc")) << "the highlighted row has none";
-}
-
-TEST_F(PopupContentBuilderTest, HintsAtNothingWithoutRows) {
   model.updateResults({}, "q");
   EXPECT_THAT(hintKeys(model), IsEmpty());
 }

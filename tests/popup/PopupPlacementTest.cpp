@@ -18,47 +18,39 @@ TEST(PopupPlacement, growsWithTheRowsUpToEight) {
   }
 }
 
-struct Placement {
-  const char* name;
-  std::optional<Rect> caret;
-  Point mouse;
-  Rect frame;  ///< of a popup with one row
-};
-
-class PopupFrame : public ::testing::TestWithParam<Placement> {};
-
-TEST_P(PopupFrame, isBesideTheCaretAndOnItsScreen) {
-  const Placement& placement = GetParam();
-  EXPECT_EQ(popupFrame(1, placement.caret, threeScreens, placement.mouse), placement.frame);
+TEST(PopupPlacement, isBesideTheCaretAndOnItsScreen) {
+  const struct {
+    const char* name;
+    Rect caret;
+    Point corner;  ///< of a popup with one row
+  } cases[] = {
+      {"below", {300, 400, 1, 16}, {300, 296}},
+      {"fits exactly on the right", {680, 400, 1, 16}, {680, 296}},
+      {"near the right edge", {950, 400, 1, 16}, {680, 296}},
+      {"fits exactly below", {300, 154, 1, 16}, {300, 50}},
+      {"near the dock", {300, 153, 1, 16}, {300, 173}},
+      {"left of the visible frame", {-595, 400, 1, 16}, {-580, 296}},
+      {"second screen's right edge", {1990, 700, 1, 16}, {1680, 596}},
+      {"second screen's bottom", {1100, 300, 1, 16}, {1100, 320}},
+      {"on no screen", {1100, 100, 1, 16}, {-320, 120}},
+      {"zero size", {300, 400, 0, 0}, {300, 296}},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(popupFrame(1, c.caret, threeScreens, {500, 400}), (Rect{c.corner.x, c.corner.y, 320, 100}))
+        << c.name;
+  }
 }
 
-constexpr Point anywhere{500, 400};
-
-INSTANTIATE_TEST_SUITE_P(
-    AtCaret, PopupFrame,
-    ::testing::Values(
-        Placement{"below", Rect{300, 400, 1, 16}, anywhere, {300, 296, 320, 100}},
-        Placement{"fitsExactlyOnTheRight", Rect{680, 400, 1, 16}, anywhere, {680, 296, 320, 100}},
-        Placement{"nearTheRightEdge", Rect{950, 400, 1, 16}, anywhere, {680, 296, 320, 100}},
-        Placement{"fitsExactlyBelow", Rect{300, 154, 1, 16}, anywhere, {300, 50, 320, 100}},
-        Placement{"nearTheDock", Rect{300, 153, 1, 16}, anywhere, {300, 173, 320, 100}},
-        Placement{"leftOfTheVisibleFrame", Rect{-595, 400, 1, 16}, anywhere, {-580, 296, 320, 100}},
-        Placement{"secondScreensRightEdge", Rect{1990, 700, 1, 16}, anywhere, {1680, 596, 320, 100}},
-        Placement{"secondScreensBottom", Rect{1100, 300, 1, 16}, anywhere, {1100, 320, 320, 100}},
-        Placement{"onNoScreen", Rect{1100, 100, 1, 16}, anywhere, {-320, 120, 320, 100}},
-        Placement{"zeroSize", Rect{300, 400, 0, 0}, anywhere, {300, 296, 320, 100}}),
-    [](const auto& placement) { return placement.param.name; });
-
-INSTANTIATE_TEST_SUITE_P(
-    AtPointer, PopupFrame,
-    ::testing::Values(Placement{"noCaret", std::nullopt, {500, 400}, {508, 292, 320, 100}},
-                      Placement{"allZeroCaret", Rect{}, {500, 400}, {508, 292, 320, 100}},
-                      Placement{"fitsExactly", std::nullopt, {672, 158}, {680, 50, 320, 100}},
-                      Placement{"nearTheRightEdge", std::nullopt, {673, 400}, {345, 292, 320, 100}},
-                      Placement{"nearTheBottom", std::nullopt, {500, 157}, {508, 177, 320, 100}},
-                      Placement{"inTheCorner", std::nullopt, {990, 60}, {662, 80, 320, 100}},
-                      Placement{"leftOfTheVisibleFrame", std::nullopt, {-599, 400}, {-591, 292, 320, 100}}),
-    [](const auto& placement) { return placement.param.name; });
+TEST(PopupPlacement, isBesideThePointerWithoutACaret) {
+  const std::pair<Point, Point> cases[] = {{{500, 400}, {508, 292}}, {{672, 158}, {680, 50}},
+                                           {{673, 400}, {345, 292}}, {{500, 157}, {508, 177}},
+                                           {{990, 60}, {662, 80}},   {{-599, 400}, {-591, 292}}};
+  for (const auto& [mouse, corner] : cases) {
+    const Rect frame{corner.x, corner.y, 320, 100};
+    EXPECT_EQ(popupFrame(1, std::nullopt, threeScreens, mouse), frame) << mouse.x;
+    EXPECT_EQ(popupFrame(1, Rect{}, threeScreens, mouse), frame) << mouse.x;
+  }
+}
 
 TEST(PopupPlacement, doesWithoutScreens) {
   const ScreenLayout none;
