@@ -103,6 +103,7 @@ atspi::AtspiAccessibility::Options Desktop::accessibilityOptions() {
   options.prompt = [this] { askForTrust(); };
   options.coordinateSpace = [this] { return screens_.space(); };
   options.activeProcess = [this] { return activeWindow_.process(); };
+  options.isInBackground = [this](std::uint32_t process) { return activeWindow_.isInBackground(process); };
   options.activeWindowOrigin = [this] { return activeWindow_.origin(); };
   return options;
 }

@@ -49,6 +49,7 @@ ElementRef AtspiAccessibility::systemWide() {
 
 void AtspiAccessibility::beginBudget(std::chrono::milliseconds budget) {
   channel_.budget().open(budget);
+  inBackground_.clear();
 }
 
 bool AtspiAccessibility::isBusy(const ElementRef& element) {
@@ -89,7 +90,7 @@ std::optional<AttributeValue> AtspiAccessibility::attribute(const ElementRef& el
 
 FocusModel::Focus AtspiAccessibility::focus() {
   FocusModel::Focus current = watcher_.focus();
-  if (current.element) return current;
+  if (current.element) return isInBackground(current.element->bus) ? FocusModel::Focus{} : current;
   FocusModel::Focus lost = watcher_.lostFocus();
   return lost.element && isFrontmost(lost.element->bus) ? lost : current;
 }
@@ -107,6 +108,14 @@ bool AtspiAccessibility::isFrontmost(const std::string& bus) {
   if (!options_.activeProcess) return false;
   const auto process = processOf(bus);
   return process && options_.activeProcess() == process;
+}
+
+bool AtspiAccessibility::isInBackground(const std::string& bus) {
+  if (!options_.isInBackground) return false;
+  const auto [known, isNew] = inBackground_.try_emplace(bus, false);
+  const auto process = isNew ? processOf(bus) : std::nullopt;
+  if (process) known->second = options_.isInBackground(*process);
+  return known->second;
 }
 
 AtspiAccessibility::Value AtspiAccessibility::focusedApplication() {

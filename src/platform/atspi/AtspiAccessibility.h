@@ -37,6 +37,10 @@ class AtspiAccessibility final : public Accessibility {
     /// Process that the active window belongs to, none when that is not known. An application that let the
     /// focus go without another taking it still has it while it is this one.
     std::function<std::optional<std::uint32_t>()> activeProcess;
+    /// Whether a process has windows and the active one is another's: an application that hangs does not say
+    /// that it has lost the focus, and then wakes with it. Processes without windows (of a web page, in a
+    /// sandbox) show in others'.
+    std::function<bool(std::uint32_t process)> isInBackground;
     /// Empty for the environment's.
     std::string sessionBusAddress;
     /// Many times what an application that is awake needs, and still no delay that a user feels.
@@ -68,6 +72,7 @@ class AtspiAccessibility final : public Accessibility {
   void prepare();
   FocusModel::Focus focus();
   bool isFrontmost(const std::string& bus);
+  bool isInBackground(const std::string& bus);
   std::optional<std::uint32_t> processOf(const std::string& bus);
   Value focusedApplication();
   Value ofApplication(const AtspiElement& application, std::string_view name);
@@ -85,6 +90,7 @@ class AtspiAccessibility final : public Accessibility {
   CallChannel channel_;
   std::map<std::string, Toolkit> toolkits_;
   std::map<std::string, std::uint32_t> processes_;
+  std::map<std::string, bool> inBackground_;  ///< since the budget began
   struct Selection {
     ObjectReference object;
     TextRange range;

@@ -27,6 +27,7 @@ ActiveWindowProbe::ActiveWindowProbe(const std::string& display)
   if (xcb_connection_has_error(connection_.get()) != 0) return;
   root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_.get())).data->root;
   activeWindow_ = atom(connection_.get(), "_NET_ACTIVE_WINDOW");
+  clientList_ = atom(connection_.get(), "_NET_CLIENT_LIST");
   frameExtents_ = atom(connection_.get(), "_GTK_FRAME_EXTENTS");
   process_ = atom(connection_.get(), "_NET_WM_PID");
 }
@@ -48,6 +49,32 @@ std::optional<std::uint32_t> ActiveWindowProbe::process() const {
   const auto reply = numbers(connection_.get(), *active, process_, 1);
   if (!reply) return std::nullopt;
   return *static_cast<std::uint32_t*>(xcb_get_property_value(reply.get()));
+}
+
+bool ActiveWindowProbe::isInBackground(std::uint32_t asked) const {
+  const auto active = process();
+  if (!active || *active == asked) return false;
+  std::vector<xcb_get_property_cookie_t> cookies;
+  for (const xcb_window_t window : windows()) {
+    cookies.push_back(xcb_get_property(connection_.get(), 0, window, process_, XCB_ATOM_CARDINAL, 0, 1));
+  }
+  bool hasWindow = false;
+  for (const auto cookie : cookies) {
+    const Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection_.get(), cookie, nullptr));
+    if (!reply || reply->format != 32 || reply->value_len != 1) continue;
+    hasWindow |= *static_cast<std::uint32_t*>(xcb_get_property_value(reply.get())) == asked;
+  }
+  return hasWindow;
+}
+
+std::vector<xcb_window_t> ActiveWindowProbe::windows() const {
+  constexpr std::uint32_t mostWindows = 1024;
+  const auto cookie =
+      xcb_get_property(connection_.get(), 0, root_, clientList_, XCB_ATOM_WINDOW, 0, mostWindows);
+  const Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection_.get(), cookie, nullptr));
+  if (!reply || reply->format != 32) return {};
+  const auto* first = static_cast<const xcb_window_t*>(xcb_get_property_value(reply.get()));
+  return {first, first + reply->value_len};
 }
 
 std::optional<xcb_window_t> ActiveWindowProbe::window() const {

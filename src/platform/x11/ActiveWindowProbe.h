@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "base/Geometry.h"
 #include "platform/x11/Handles.h"
@@ -22,14 +23,19 @@ class ActiveWindowProbe {
   std::optional<Point> origin() const;
   /// The process that it belongs to, as far as it says so.
   std::optional<std::uint32_t> process() const;
+  /// Whether the process has windows, as far as these say so, and the active one is another process's.
+  bool isInBackground(std::uint32_t process) const;
 
  private:
+  std::vector<xcb_window_t> windows() const;
+
   std::optional<xcb_window_t> window() const;
   Point shadow(xcb_window_t window) const;
 
   Connection connection_;
   xcb_window_t root_ = XCB_NONE;
   xcb_atom_t activeWindow_ = XCB_NONE;
+  xcb_atom_t clientList_ = XCB_NONE;
   xcb_atom_t frameExtents_ = XCB_NONE;
   xcb_atom_t process_ = XCB_NONE;
 };

@@ -57,6 +57,7 @@ class AtspiAccessibilityTest : public ::testing::Test {
     AtspiAccessibility::Options options = optionsFor(*session);
     options.isTrusted = [] { return true; };
     options.activeProcess = [this] { return activeProcess; };
+    options.isInBackground = [this](std::uint32_t process) { return process == processInBackground; };
     options.coordinateSpace = [] { return CoordinateSpace(2, 500); };
     options.ownProcess = ownProcess;
     accessibility = std::make_unique<AtspiAccessibility>(queue, options);
@@ -103,6 +104,7 @@ class AtspiAccessibilityTest : public ::testing::Test {
   testing::LogRecorder log;
   ManualMainQueue queue;
   std::optional<std::uint32_t> activeProcess;
+  std::optional<std::uint32_t> processInBackground;
   std::unique_ptr<AtspiAccessibility> accessibility;
   std::unique_ptr<FakeApplication> application;
   ElementRef field;
@@ -382,6 +384,17 @@ TEST_F(AtspiAccessibilityTest, aFocusLetGoByTheActiveProcessIsStillThere) {
   EXPECT_EQ(focusedPath(), FakeApplication::fieldPath);
   application.reset();
   EXPECT_TRUE(eventually([this] { return focusedPath().empty(); }));
+}
+
+TEST_F(AtspiAccessibilityTest, whatHungWhenTheUserWentElsewhereHasNoFocus) {
+  openApplication();
+  ASSERT_EQ(focusedPath(), FakeApplication::fieldPath);
+  processInBackground = static_cast<std::uint32_t>(getpid());
+  accessibility->beginBudget(std::chrono::seconds(5));
+  EXPECT_EQ(focusedPath(), "");
+  processInBackground.reset();
+  accessibility->beginBudget(std::chrono::seconds(5));
+  EXPECT_EQ(focusedPath(), FakeApplication::fieldPath);
 }
 
 TEST_F(AtspiAccessibilityTest, anApplicationsFocusInsteadOfOneLetGoIsNoMove) {
