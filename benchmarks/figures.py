@@ -53,7 +53,7 @@ LIBRARY_LINES = {
 def library_benchmarks():
     rows = []
     for program in sorted(BENCHMARKS.glob("*Benchmark")):
-        done = subprocess.run([program, "--benchmark_format=json"], capture_output=True, text=True, check=True)
+        done = subprocess.run([program, "--benchmark_format=json"], capture_output=True, text=True, errors="replace", check=True)
         rows += json.loads(done.stdout)["benchmarks"]
     for begin, (what, target) in LIBRARY_LINES.items():
         worst = {}
