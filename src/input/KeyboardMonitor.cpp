@@ -80,7 +80,7 @@ bool KeyboardMonitor::swallows(std::int64_t keyCode) const {
 
 bool KeyboardMonitor::swallowCurrentKey() {
   tellAttention();
-  if (swallowNow_ && !swallowNow_()) return false;
+  if (commitSwallow_ && !commitSwallow_()) return false;
   swallowedCurrentKey_ = true;
   return true;
 }
@@ -117,9 +117,9 @@ KeyVerdict KeyboardMonitor::judge(const KeyEvent& event) {
 void KeyboardMonitor::handOver(const std::optional<std::string>& characters, const KeyEvent& event) {
   swallowedCurrentKey_ = false;
   currentKeyInDocument_ = event.isInDocument;
-  swallowNow_ = event.swallowNow;
+  commitSwallow_ = event.commitSwallow;
   if (onKeyEvent) onKeyEvent(characters, event.keyCode, event.flags);
-  swallowNow_ = nullptr;
+  commitSwallow_ = nullptr;
 }
 
 bool KeyboardMonitor::isSecret(const std::optional<std::string>& characters) {

@@ -38,9 +38,9 @@ class KeyboardMonitor {
 
   /// While `onKeyEvent` runs: whether the key, should it be passed, is in the document already.
   bool isCurrentKeyInDocument() const { return currentKeyInDocument_; }
-  /// While `onKeyEvent` runs, for a key that is not in the document: swallows it at once, whatever the rule
-  /// below says, so that the keyboard does not wait for what follows; the attention told last is in force
-  /// from then on. False when that comes too late and the key has been let by.
+  /// While `onKeyEvent` runs, for a key that is not in the document: settles that it is swallowed, whatever
+  /// the rule below says and however long the rest takes; the attention told last is in force from then on.
+  /// False when that comes too late and the key has been let by.
   bool swallowCurrentKey();
   /// The rule as the two flags stand now: Return, Tab, Escape, Up and Down while intercepting, Left and Right
   /// only with `shouldConsumeArrows` as well.
@@ -75,7 +75,7 @@ class KeyboardMonitor {
   bool judging_ = false;
   bool currentKeyInDocument_ = false;
   bool swallowedCurrentKey_ = false;
-  std::function<bool()> swallowNow_;
+  std::function<bool()> commitSwallow_;
   KeyAttention attention_ = KeyAttention::triggerOnly;
   std::string trigger_;
 };

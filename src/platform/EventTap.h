@@ -18,10 +18,11 @@ struct KeyEvent {
   bool isInDocument = false;  ///< whether the key, should it be passed, has reached the document already
   /// How long the judging may take at most before the platform gives up on the answer.
   std::chrono::milliseconds budget{150};
-  /// Swallows the key before the handler returns, for one that goes on to do what cannot be undone. False
-  /// when the platform has given up on the answer and let the key by; nothing must be done then. The next key
-  /// may come at once, so the attention is told before. Absent where the verdict alone counts.
-  std::function<bool()> swallowNow;
+  /// Settles that the key is swallowed, for a handler that goes on to do what cannot be undone: however long
+  /// that takes, the key is not let by. False when it has been already; nothing must be done then. The next
+  /// key may come before the handler returns, so the attention is told first. Absent where the verdict alone
+  /// counts.
+  std::function<bool()> commitSwallow;
 };
 
 enum class KeyVerdict { pass, swallow };

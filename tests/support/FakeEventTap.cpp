@@ -80,7 +80,7 @@ KeyVerdict FakeEventTap::judge(KeyEvent event) {
 
 KeyVerdict FakeEventTap::verdictOf(KeyEvent event) {
   bool isSwallowed = false;
-  event.swallowNow = [&] {
+  event.commitSwallow = [&] {
     if (attention_ != KeyAttention::holdBack) ADD_FAILURE() << "the next key would overtake the insertion";
     return isSwallowed = !givesUp;
   };

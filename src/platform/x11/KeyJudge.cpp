@@ -24,7 +24,7 @@ std::optional<KeyVerdict> KeyJudge::ask(const KeyEvent& event) {
     const auto budget = question->claim();
     if (!budget) return;
     event.budget = *budget;
-    event.swallowNow = [question] { return question->answer(KeyVerdict::swallow); };
+    event.commitSwallow = [question] { return question->commitSwallow(); };
     question->answer(owner->judge(event));
   });
   return question->await();

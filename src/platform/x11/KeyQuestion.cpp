@@ -12,13 +12,20 @@ std::optional<std::chrono::milliseconds> KeyQuestion::claim() {
   return std::max(left, std::chrono::milliseconds(0));
 }
 
-bool KeyQuestion::answer(KeyVerdict verdict) {
+bool KeyQuestion::commitSwallow() {
   const std::lock_guard lock(mutex_);
   if (state_ != State::claimed) return false;
-  state_ = State::answered;
-  verdict_ = verdict;
+  state_ = State::committed;
   changed_.notify_all();
   return true;
+}
+
+void KeyQuestion::answer(KeyVerdict verdict) {
+  const std::lock_guard lock(mutex_);
+  if (state_ != State::claimed && state_ != State::committed) return;
+  verdict_ = state_ == State::committed ? KeyVerdict::swallow : verdict;
+  state_ = State::answered;
+  changed_.notify_all();
 }
 
 void KeyQuestion::cancel() {
@@ -31,7 +38,8 @@ std::optional<KeyVerdict> KeyQuestion::await() {
   std::unique_lock lock(mutex_);
   const auto isOver = [this] { return state_ == State::answered || state_ == State::givenUp; };
   changed_.wait_until(lock, deadline_, isOver);
-  if (state_ == State::claimed) changed_.wait_until(lock, deadline_ + graceTime, isOver);
+  changed_.wait_until(lock, deadline_ + graceTime, [this] { return state_ != State::claimed; });
+  if (state_ == State::committed) return KeyVerdict::swallow;
   if (state_ == State::answered) return verdict_;
   state_ = State::givenUp;
   return std::nullopt;

@@ -25,8 +25,11 @@ class KeyQuestion {
 
   /// Main thread: takes the question. The time left to answer; none when it was given up.
   std::optional<std::chrono::milliseconds> claim();
-  /// Main thread, after `claim`. False when it was given up in the meantime; only the first answer counts.
-  bool answer(KeyVerdict verdict);
+  /// Main thread, after `claim`: the key will be swallowed, whether the answer comes in time or not. False
+  /// when the question was given up in the meantime.
+  bool commitSwallow();
+  /// Main thread, after `claim`.
+  void answer(KeyVerdict verdict);
 
   /// The asking thread: waits. None when it gave up.
   std::optional<KeyVerdict> await();
@@ -34,7 +37,7 @@ class KeyQuestion {
   void cancel();
 
  private:
-  enum class State { asked, claimed, answered, givenUp };
+  enum class State { asked, claimed, committed, answered, givenUp };
 
   const Clock::time_point deadline_;
   std::mutex mutex_;

@@ -62,19 +62,19 @@ TEST_F(X11EventTapTimeOutTest, TellsAHandlerThatItsKeyWasLetBy) {
   onKey = [&](const KeyEvent& event) {
     if (event.text != u"\r") return;
     EXPECT_TRUE(comesBy(":a\n", 5s));
-    swallowed.push_back(event.swallowNow());
+    swallowed.push_back(event.commitSwallow());
   };
   typist->type(":a\n");
   ASSERT_TRUE(queue.runUntil([this] { return timeOuts == 1; }));
   EXPECT_EQ(swallowed, std::vector<bool>{false});
 }
 
-TEST_F(X11EventTapTimeOutTest, DoesNotWaitForAHandlerThatHasSwallowedTheKey) {
+TEST_F(X11EventTapTimeOutTest, DoesNotWaitForAHandlerThatHasSettledTheKey) {
   start();
   onKey = [this](const KeyEvent& event) {
     if (event.text != u"\r") return;
     attend(KeyAttention::holdBack);
-    EXPECT_TRUE(event.swallowNow());
+    EXPECT_TRUE(event.commitSwallow());
     typist->type("b");
     EXPECT_FALSE(comesBy(":ab", 2 * x11::KeyQuestion::answerTime)) << "the next key overtook the handler";
   };
@@ -133,10 +133,15 @@ TEST(KeyQuestion, IsDecidedByWhoeverComesFirst) {
 
   x11::KeyQuestion answered;
   EXPECT_GT(answered.claim().value_or(0ms), 0ms);
-  EXPECT_TRUE(answered.answer(KeyVerdict::swallow));
+  answered.answer(KeyVerdict::swallow);
   answered.cancel();
   EXPECT_EQ(answered.await(), KeyVerdict::swallow);
-  EXPECT_FALSE(answered.answer(KeyVerdict::pass));
+  EXPECT_FALSE(answered.commitSwallow());
+
+  x11::KeyQuestion committed(1ms);
+  committed.claim();
+  EXPECT_TRUE(committed.commitSwallow());
+  EXPECT_EQ(committed.await(), KeyVerdict::swallow) << "though no answer has come";
 }
 
 }  // namespace
