@@ -11,7 +11,11 @@ endif()
 add_library(tessarin_settings INTERFACE)
 target_compile_options(tessarin_settings INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough
-  -Wsuggest-override -Wzero-as-null-pointer-constant)
+  -Wsuggest-override)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # Clang also means the zero that an ordering is compared with.
+  target_compile_options(tessarin_settings INTERFACE -Wzero-as-null-pointer-constant)
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 14)
   # Sums of strings and vectors of them, optimised, are taken for faulty copies there (the compiler's bugs 105651, 105705).
   target_compile_options(tessarin_settings INTERFACE $<$<CONFIG:Release>:-Wno-restrict -Wno-array-bounds>)
