@@ -165,7 +165,7 @@ std::optional<AccessibilityHelper::Place> AccessibilityHelper::awaitTyped(const 
                                                                           std::int64_t count) {
   std::optional<Place> last;
   for (milliseconds waited{0};; waited += waitStep) {
-    const auto place = lookFor(element, typed, count);
+    auto place = lookFor(element, typed, count);
     if (!place) return last;
     last = place;
     if (place->isBehindTyped || waited >= longestWait || !accessibility_.pause(waitStep)) return place;

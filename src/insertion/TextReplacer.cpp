@@ -110,7 +110,7 @@ void TextReplacer::finishOnceArrived(const Pasted& pasted, Looks looks) {
 }
 
 void TextReplacer::lookAgain(InsertionOutcome soFar, std::function<void()> look) {
-  watch_ = std::make_shared<Watch>(soFar);
+  watch_ = std::make_shared<Watch>(Watch{soFar});
   queue_.after(betweenLooks, [look = std::move(look), watch = std::weak_ptr(watch_)] {
     if (!watch.expired()) look();
   });
