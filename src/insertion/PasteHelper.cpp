@@ -35,7 +35,8 @@ void PasteHelper::postBackspaces(std::int64_t count) {
 }
 
 void PasteHelper::stopWaiting() {
-  if (session_) session_->answerOncePosted();
+  if (!session_) return;
+  session_->isChordPosted() ? session_->answerFailure() : finish();
 }
 
 void PasteHelper::finish() {

@@ -36,8 +36,8 @@ class PasteHelper {
   void pasteText(std::int64_t deleteCount, const std::string& text, PasteChord chord,
                  TextInsertion::Completion done);
 
-  /// Answers a paste whose chord has been posted as one that did not get there. The text stays on the
-  /// pasteboard as long as it would have.
+  /// Answers a paste under way as one that did not get there. When its chord has been posted, the text stays
+  /// on the pasteboard as long as it would have; otherwise it is broken off, as it would be pasted elsewhere.
   void stopWaiting();
 
   /// The general pasteboard's plain text as the user knows it, our own being left out.

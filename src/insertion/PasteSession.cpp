@@ -111,10 +111,6 @@ void PasteSession::answerFailure() {
   answer(job_.deleteCount > 0 ? InsertionOutcome::erasedOnly : InsertionOutcome::unchanged);
 }
 
-void PasteSession::answerOncePosted() {
-  if (isChordPosted_) answerFailure();
-}
-
 void PasteSession::answer(InsertionOutcome outcome) {
   if (const auto done = std::exchange(done_, nullptr)) done(outcome);
 }

@@ -40,8 +40,7 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
   void start();
   /// Answers, unless that has been done, that the text did not get there.
   void answerFailure();
-  /// The same, once the chord has been posted; the session goes on.
-  void answerOncePosted();
+  bool isChordPosted() const { return isChordPosted_; }
 
  private:
   void deletionsAreDone();
