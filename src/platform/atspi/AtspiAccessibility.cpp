@@ -72,6 +72,7 @@ void AtspiAccessibility::prepare() {
   if (ConnectionPtr connection = watcher_.takeCallConnection()) {
     toolkits_.clear();
     processes_.clear();
+    kin_ = {};
     channel_.use(std::move(connection));
   }
   if (!channel_.isConnected()) watcher_.requestConnection();
@@ -150,8 +151,7 @@ AtspiAccessibility::Value AtspiAccessibility::windowOf(ObjectReference object) {
 }
 
 AtspiAccessibility::Value AtspiAccessibility::ofObject(const ObjectReference& object, std::string_view name) {
-  if (name == attribute::role) return role(object);
-  if (name == attribute::parent) return atspi::element(RemoteObject(channel_, object).parent());
+  if (name == attribute::role || name == attribute::parent) return kinship(object, name);
   if (name == attribute::value) return valueOf(object);
   if (name == attribute::selectedTextRange) {
     auto text = textOf(object);
@@ -163,6 +163,18 @@ AtspiAccessibility::Value AtspiAccessibility::ofObject(const ObjectReference& ob
   if (!rect) return std::nullopt;
   if (name == attribute::position) return Point{rect->x, rect->y};
   return Size{rect->width, rect->height};
+}
+
+AtspiAccessibility::Value AtspiAccessibility::kinship(const ObjectReference& object, std::string_view name) {
+  const auto focused = focus().element;
+  if (kin_.of != focused) kin_ = {focused, {}};
+  auto key = std::pair(object, std::string(name));
+  if (const auto found = kin_.known.find(key); found != kin_.known.end()) return found->second;
+  const bool isRole = name == attribute::role;
+  Value value = isRole ? role(object) : atspi::element(RemoteObject(channel_, object).parent());
+  // The focused element's own role changes with its states: a password may be shown and hidden.
+  if (value && focused && !(isRole && object == focused)) kin_.known.emplace(std::move(key), *value);
+  return value;
 }
 
 AtspiAccessibility::Value AtspiAccessibility::role(const ObjectReference& object) {

@@ -77,6 +77,8 @@ class AtspiAccessibility final : public Accessibility {
   Value focusedApplication();
   Value ofApplication(const AtspiElement& application, std::string_view name);
   Value ofObject(const ObjectReference& object, std::string_view name);
+  /// Role or parent; of what the focused element lies in they are asked once, until the focus moves.
+  Value kinship(const ObjectReference& object, std::string_view name);
   Value role(const ObjectReference& object);
   Value valueOf(const ObjectReference& object);
   Value windowOf(ObjectReference object);
@@ -91,6 +93,11 @@ class AtspiAccessibility final : public Accessibility {
   std::map<std::string, Toolkit> toolkits_;
   std::map<std::string, std::uint32_t> processes_;
   std::map<std::string, bool> inBackground_;  ///< since the budget began
+  struct Kin {
+    std::optional<ObjectReference> of;  ///< the focused element
+    std::map<std::pair<ObjectReference, std::string>, AttributeValue> known;
+  };
+  Kin kin_;
   struct Selection {
     ObjectReference object;
     TextRange range;

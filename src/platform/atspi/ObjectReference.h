@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <string>
 
 namespace tessarin::atspi {
@@ -11,7 +12,7 @@ inline constexpr const char* nullPath = "/org/a11y/atspi/null";
 struct ObjectReference {
   std::string bus;
   std::string path;
-  bool operator==(const ObjectReference&) const = default;
+  auto operator<=>(const ObjectReference&) const = default;
 };
 
 }  // namespace tessarin::atspi

@@ -256,6 +256,22 @@ TEST_F(AtspiAccessibilityTest, believesNoGarbage) {
   }
 }
 
+TEST_F(AtspiAccessibilityTest, remembersWhatTheFocusedElementLiesInUntilTheFocusMoves) {
+  openApplication();
+  const auto window = readAttribute<ElementRef>(*accessibility, field, attribute::parent);
+  ASSERT_TRUE(window);
+  const auto askTwice = [&](const ElementRef& element, std::string_view name, const char* call) {
+    const int before = application->calls(call);
+    for (int i = 0; i < 2; ++i) EXPECT_TRUE(accessibility->attribute(element, name));
+    return application->calls(call) - before;
+  };
+  EXPECT_EQ(askTwice(field, attribute::parent, "Parent"), 0) << "known already";
+  EXPECT_EQ(askTwice(*window, attribute::role, "GetRole"), 1);
+  EXPECT_EQ(askTwice(field, attribute::role, "GetRole"), 2) << "a password may be shown and hidden";
+  focus(FakeApplication::otherFieldPath);
+  EXPECT_EQ(askTwice(*window, attribute::role, "GetRole"), 1);
+}
+
 TEST_F(AtspiAccessibilityTest, findsTheCaretsRectangleInPoints) {
   openApplication();
   application->answer("GetCharacterExtents", bounds({100, 50, 12, 20}));
