@@ -17,7 +17,7 @@ constexpr milliseconds fromWriteToChord{50};
 constexpr milliseconds shortestLoan{200};  ///< from the chord
 /// Some applications read twice: to see whether there is something to paste, and to paste it.
 constexpr milliseconds settlingOfRead{100};
-constexpr milliseconds longestWait{2000};  ///< for the application to read the text, from the chord
+constexpr milliseconds longestPasteWait{2000};  ///< for the application to read the text, from the chord
 constexpr milliseconds fillingCheck{50};
 
 }  // namespace
@@ -68,7 +68,7 @@ void PasteSession::postPasteKeystroke() {
                                                                : KeyPress{keycode::v, keyflag::control}});
   isChordPosted_ = true;
   after(shortestLoan, &PasteSession::shortestLoanIsOver);
-  after(longestWait, &PasteSession::stopWaiting);
+  after(longestPasteWait, &PasteSession::stopWaiting);
 }
 
 void PasteSession::shortestLoanIsOver() {

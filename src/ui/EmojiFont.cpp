@@ -17,7 +17,7 @@ namespace {
 /// Pixels; of no account for shaping, and for fonts that have outlines instead of pictures.
 constexpr int shapedSize = 16;
 constexpr FT_UInt outlineSize = 128;
-constexpr char16_t emojiSelector = 0xFE0F;
+constexpr char16_t emojiPresentation = 0xFE0F;
 
 struct DestroyPattern {
   void operator()(FcPattern* pattern) const { FcPatternDestroy(pattern); }
@@ -43,7 +43,7 @@ QString findFont() {
 
 /// The font's sequences are written without variation selectors.
 QString withoutSelectors(const QString& text) {
-  return QString(text).remove(emojiSelector);
+  return QString(text).remove(emojiPresentation);
 }
 
 /// The largest of the sizes that the font has pictures in.

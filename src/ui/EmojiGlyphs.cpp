@@ -22,7 +22,7 @@ bool isShort(const QString& text) {
 }
 
 /// Draws the text as one line in the middle of the frame, smaller when it is too wide.
-void drawLine(QPainter& painter, const QRectF& frame, const QString& text, const QFont& font) {
+void drawGlyphLine(QPainter& painter, const QRectF& frame, const QString& text, const QFont& font) {
   QTextLayout layout(text, font);
   layout.beginLayout();
   const QTextLine line = layout.createLine();
@@ -154,7 +154,7 @@ QImage EmojiGlyphs::render(const QString& text, int size, const QColor& color, Q
   } else if (needsTile(text)) {
     drawTile(painter, frame, tileLines(text), color);
   } else if (isShort(text)) {
-    drawLine(painter, frame, text, fonts::system(size));
+    drawGlyphLine(painter, frame, text, fonts::system(size));
   } else {
     drawText(painter, frame, text.simplified(), fonts::system(size));
   }

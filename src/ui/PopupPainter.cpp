@@ -14,8 +14,8 @@ namespace tessarin::ui {
 namespace {
 
 constexpr double headerPadding = 12;
-constexpr double rowPadding = 10;
-constexpr double rowSpacing = 8;
+constexpr double popupRowPadding = 10;
+constexpr double popupRowSpacing = 8;
 constexpr double emojiSide = 28;
 constexpr double highlightInset = 4;
 constexpr double indicatorWidth = 3;
@@ -146,21 +146,21 @@ void PopupPainter::paintRow(QPainter& painter, const QRectF& rect, const PopupCo
     painter.drawRoundedRect(rect.adjusted(highlightInset, 0, -highlightInset, 0), 4, 4);
   }
   const QColor primary = isSelected ? QColor(Qt::white) : theme_.primary;
-  const QRectF emoji(rect.left() + rowPadding, rect.center().y() - emojiSide / 2, emojiSide, emojiSide);
+  const QRectF emoji(rect.left() + popupRowPadding, rect.center().y() - emojiSide / 2, emojiSide, emojiSide);
   const int size = text::characterCount(row.replacement) <= 2 ? 20 : 10;
   glyphs_.draw(painter, emoji, QString::fromStdString(row.replacement), size, primary);
 
-  double right = rect.right() - rowPadding;
+  double right = rect.right() - popupRowPadding;
   if (row.supportsSkinTones) {
     painter.setFont(fonts::system(10));
     painter.setPen(isSelected ? whiteAt(0.6) : theme_.primaryAt(0.275));
-    right = drawRight(painter, rect, right, QStringLiteral("→")) - rowSpacing;
+    right = drawRight(painter, rect, right, QStringLiteral("→")) - popupRowSpacing;
   }
-  double x = emoji.right() + rowSpacing;
+  double x = emoji.right() + popupRowSpacing;
   painter.setFont(fonts::monospaced(13, QFont::Medium));
   painter.setPen(primary);
   const std::string trigger = content.triggerCharacter + row.trigger + content.triggerCharacter;
-  x = drawLeft(painter, rect, x, right - x, QString::fromStdString(trigger)) + rowSpacing;
+  x = drawLeft(painter, rect, x, right - x, QString::fromStdString(trigger)) + popupRowSpacing;
   painter.setFont(fonts::system(12));
   painter.setPen(isSelected ? whiteAt(0.8) : theme_.secondary);
   if (right > x) drawLeft(painter, rect, x, right - x, QString::fromStdString(row.name));

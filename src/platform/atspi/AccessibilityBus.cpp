@@ -7,7 +7,7 @@
 namespace tessarin::atspi {
 namespace {
 
-constexpr std::chrono::milliseconds longestCall{1000};
+constexpr std::chrono::milliseconds longestBusCall{1000};
 
 ObjectReference launcher() {
   return {"org.a11y.Bus", "/org/a11y/bus"};
@@ -24,7 +24,7 @@ void keepEnabled() {
 
 std::optional<std::string> AccessibilityBus::address(DBusConnection* session) {
   const MessagePtr request = methodCall(launcher(), "org.a11y.Bus", "GetAddress");
-  const MessagePtr reply = callAndWait(session, request.get(), longestCall);
+  const MessagePtr reply = callAndWait(session, request.get(), longestBusCall);
   auto address = MessageReader(reply.get()).string();
   return address && !address->empty() ? address : std::nullopt;
 }
@@ -45,7 +45,7 @@ bool AccessibilityBus::enable(const std::string& sessionAddress) {
   dbus_message_iter_open_container(&arguments, DBUS_TYPE_VARIANT, "b", &variant);
   dbus_message_iter_append_basic(&variant, DBUS_TYPE_BOOLEAN, &on);
   dbus_message_iter_close_container(&arguments, &variant);
-  return callAndWait(session.get(), request.get(), longestCall) != nullptr;
+  return callAndWait(session.get(), request.get(), longestBusCall) != nullptr;
 }
 
 }  // namespace tessarin::atspi

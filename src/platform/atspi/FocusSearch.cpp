@@ -12,10 +12,10 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr const char* accessible = "org.a11y.atspi.Accessible";
-constexpr std::chrono::milliseconds longestCall{100};
+constexpr std::chrono::milliseconds longestSearchCall{100};
 constexpr std::chrono::milliseconds longestSearch{1500};
 constexpr int mostObjects = 2000;
-constexpr int farthestWindow = 64;
+constexpr int deepestWindow = 64;
 
 }  // namespace
 
@@ -47,28 +47,28 @@ bool FocusSearch::mayGoOn() {
 
 std::optional<std::uint64_t> FocusSearch::states(const ObjectReference& object) {
   const MessagePtr request = methodCall(object, accessible, "GetState");
-  return readStates(callAndWait(connection_, request.get(), longestCall).get());
+  return readStates(callAndWait(connection_, request.get(), longestSearchCall).get());
 }
 
 std::vector<ObjectReference> FocusSearch::children(const ObjectReference& object) {
   if (!mayGoOn()) return {};
   const MessagePtr request = methodCall(object, accessible, "GetChildren");
-  return readReferences(callAndWait(connection_, request.get(), longestCall).get())
+  return readReferences(callAndWait(connection_, request.get(), longestSearchCall).get())
       .value_or(std::vector<ObjectReference>{});
 }
 
 std::optional<std::uint32_t> FocusSearch::role(const ObjectReference& object) {
   const MessagePtr request = methodCall(object, accessible, "GetRole");
-  return MessageReader(callAndWait(connection_, request.get(), longestCall).get()).uint32();
+  return MessageReader(callAndWait(connection_, request.get(), longestSearchCall).get()).uint32();
 }
 
 std::optional<ObjectReference> FocusSearch::windowOf(ObjectReference element) {
-  for (int step = 0; step < farthestWindow && mayGoOn(); ++step) {
+  for (int step = 0; step < deepestWindow && mayGoOn(); ++step) {
     const auto found = role(element);
     if (!found) return std::nullopt;
     if (isWindow(*found)) return element;
     const MessagePtr request = propertyRead(element, accessible, "Parent");
-    const MessagePtr reply = callAndWait(connection_, request.get(), longestCall);
+    const MessagePtr reply = callAndWait(connection_, request.get(), longestSearchCall);
     auto value = MessageReader(reply.get()).variant();
     auto parent = value ? value->reference() : std::nullopt;
     if (!parent) return std::nullopt;

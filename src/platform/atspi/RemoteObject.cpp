@@ -7,7 +7,7 @@
 namespace tessarin::atspi {
 namespace {
 
-constexpr const char* accessible = "org.a11y.atspi.Accessible";
+constexpr const char* accessibleInterface = "org.a11y.atspi.Accessible";
 constexpr const char* component = "org.a11y.atspi.Component";
 
 std::optional<MessageReader> propertyValue(DBusMessage* reply) {
@@ -28,21 +28,21 @@ MessagePtr RemoteObject::ask(MessagePtr request) {
 }
 
 std::optional<std::uint32_t> RemoteObject::role() {
-  return MessageReader(ask(request(accessible, "GetRole")).get()).uint32();
+  return MessageReader(ask(request(accessibleInterface, "GetRole")).get()).uint32();
 }
 
 std::optional<std::uint64_t> RemoteObject::states() {
-  return readStates(ask(request(accessible, "GetState")).get());
+  return readStates(ask(request(accessibleInterface, "GetState")).get());
 }
 
 std::optional<ObjectReference> RemoteObject::parent() {
-  const MessagePtr reply = ask(propertyRead(object_, accessible, "Parent"));
+  const MessagePtr reply = ask(propertyRead(object_, accessibleInterface, "Parent"));
   auto value = propertyValue(reply.get());
   return value ? value->reference() : std::nullopt;
 }
 
 bool RemoteObject::hasInterface(std::string_view name) {
-  const MessagePtr reply = ask(request(accessible, "GetInterfaces"));
+  const MessagePtr reply = ask(request(accessibleInterface, "GetInterfaces"));
   auto names = MessageReader(reply.get()).array();
   while (names && !names->atEnd()) {
     if (names->string() == name) return true;
@@ -51,7 +51,7 @@ bool RemoteObject::hasInterface(std::string_view name) {
 }
 
 std::string RemoteObject::attribute(std::string_view name) {
-  const MessagePtr reply = ask(request(accessible, "GetAttributes"));
+  const MessagePtr reply = ask(request(accessibleInterface, "GetAttributes"));
   auto entries = MessageReader(reply.get()).array();
   while (entries && !entries->atEnd()) {
     auto entry = entries->dictionaryEntry();

@@ -7,12 +7,12 @@
 namespace tessarin::freedesktop {
 namespace {
 
-constexpr const char* service = "org.fcitx.Fcitx5";
+constexpr const char* fcitxService = "org.fcitx.Fcitx5";
 
 }  // namespace
 
 FcitxInputMethod::FcitxInputMethod(Bus bus) : BusListener(std::move(bus)) {
-  const std::string name = service;
+  const std::string name = fcitxService;
   listenFor("type='signal',sender='org.freedesktop.DBus',member='NameOwnerChanged',arg0='" + name + "'");
   // Its signals to a desktop's panel tell of a change, whatever they say.
   listenFor("type='signal',sender='" + name + "'");
@@ -27,8 +27,8 @@ void FcitxInputMethod::lookAgain() {
 void FcitxInputMethod::askForState() {
   isOutOfDate_ = question_ != 0;
   if (isOutOfDate_) return;
-  question_ = ask(Message(dbus_message_new_method_call(service, "/controller", "org.fcitx.Fcitx.Controller1",
-                                                       "CurrentInputMethod")));
+  question_ = ask(Message(dbus_message_new_method_call(fcitxService, "/controller",
+                                                       "org.fcitx.Fcitx.Controller1", "CurrentInputMethod")));
 }
 
 void FcitxInputMethod::handleSignal(DBusMessage* signal) {

@@ -7,7 +7,7 @@
 namespace tessarin::freedesktop {
 namespace {
 
-constexpr const char* service = "org.freedesktop.IBus";
+constexpr const char* ibusService = "org.freedesktop.IBus";
 constexpr const char* path = "/org/freedesktop/IBus";
 
 /// An engine's description is a structure: its type's name, attachments, and then the engine's name.
@@ -32,9 +32,9 @@ const char* engineName(DBusMessage* description) {
 }  // namespace
 
 IBusEngine::IBusEngine(Bus bus) : BusListener(std::move(bus)) {
-  listenFor("type='signal',interface='" + std::string(service) + "',member='GlobalEngineChanged'");
-  Message question(dbus_message_new_method_call(service, path, DBUS_INTERFACE_PROPERTIES, "Get"));
-  const char* of = service;
+  listenFor("type='signal',interface='" + std::string(ibusService) + "',member='GlobalEngineChanged'");
+  Message question(dbus_message_new_method_call(ibusService, path, DBUS_INTERFACE_PROPERTIES, "Get"));
+  const char* of = ibusService;
   const char* property = "GlobalEngine";
   dbus_message_append_args(question.get(), DBUS_TYPE_STRING, &of, DBUS_TYPE_STRING, &property,
                            DBUS_TYPE_INVALID);
@@ -47,7 +47,7 @@ void IBusEngine::setName(const char* name) {
 
 void IBusEngine::handleSignal(DBusMessage* signal) {
   const char* name = nullptr;
-  if (dbus_message_is_signal(signal, service, "GlobalEngineChanged") == 0) return;
+  if (dbus_message_is_signal(signal, ibusService, "GlobalEngineChanged") == 0) return;
   if (dbus_message_get_args(signal, nullptr, DBUS_TYPE_STRING, &name, DBUS_TYPE_INVALID) == 0) return;
   question_ = 0;
   setName(name);

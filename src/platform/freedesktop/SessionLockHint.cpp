@@ -6,7 +6,7 @@
 namespace tessarin::freedesktop {
 namespace {
 
-constexpr const char* service = "org.freedesktop.login1";
+constexpr const char* logindService = "org.freedesktop.login1";
 /// Stands for the caller's session, or for the user's graphical one where the caller belongs to none, as
 /// programs do that the user's service manager started.
 constexpr const char* session = "/org/freedesktop/login1/session/auto";
@@ -15,19 +15,19 @@ constexpr const char* interface = "org.freedesktop.login1.Session";
 }  // namespace
 
 SessionLockHint::SessionLockHint(Bus bus) : LockSource(std::move(bus)) {
-  const std::string sessions =
-      "type='signal',sender='" + std::string(service) + "',path_namespace='/org/freedesktop/login1/session',";
+  const std::string sessions = "type='signal',sender='" + std::string(logindService) +
+                               "',path_namespace='/org/freedesktop/login1/session',";
   listenFor(sessions + "member='PropertiesChanged',arg0='" + interface + "'");
   for (const char* member : {"Lock", "Unlock"}) {
     listenFor(sessions + "interface='" + interface + "',member='" + member + "'");
   }
   listenFor("type='signal',sender='org.freedesktop.DBus',member='NameOwnerChanged',arg0='" +
-            std::string(service) + "'");
+            std::string(logindService) + "'");
   askForState();
 }
 
 void SessionLockHint::askForState() {
-  Message question(dbus_message_new_method_call(service, session, DBUS_INTERFACE_PROPERTIES, "Get"));
+  Message question(dbus_message_new_method_call(logindService, session, DBUS_INTERFACE_PROPERTIES, "Get"));
   const char* of = interface;
   const char* property = "LockedHint";
   dbus_message_append_args(question.get(), DBUS_TYPE_STRING, &of, DBUS_TYPE_STRING, &property,

@@ -3,12 +3,6 @@
 #include "ui/style/StyledLabel.h"
 
 namespace tessarin::ui {
-namespace {
-
-constexpr int symbolSize = 64;
-constexpr int textPadding = 40;
-
-}  // namespace
 
 DoneStep::DoneStep(QWidget* parent) : StepPage(parent) {
   auto* title = new StyledLabel(tr("You're All Set!"), TextStyle::title);

@@ -10,11 +10,11 @@
 namespace tessarin::ui {
 namespace {
 
-constexpr int symbolSize = 48;
+constexpr int exerciseSymbolSize = 48;
 constexpr int hintSymbolSize = 18;
-constexpr int hintSpacing = 8;
+constexpr int exerciseHintSpacing = 8;
 constexpr int hintPadding = 60;
-constexpr int widestHint = 520 - 2 * hintPadding - hintSymbolSize - hintSpacing;
+constexpr int widestHint = 520 - 2 * hintPadding - hintSymbolSize - exerciseHintSpacing;
 
 }  // namespace
 
@@ -23,7 +23,7 @@ ExerciseStep::ExerciseStep(QWidget* parent)
       task_(new StyledLabel({}, TextStyle::title3, ColorRole::secondary)),
       field_(new QLineEdit) {
   auto* title = new StyledLabel(tr("Try It Out"), TextStyle::title);
-  addSymbol("text-cursor", symbolSize, ColorRole::accent);
+  addSymbol("text-cursor", exerciseSymbolSize, ColorRole::accent);
   add(&title->wrapped().centred());
   add(&task_->wrapped().centred());
   add(makeHints(), hintPadding);
@@ -36,7 +36,7 @@ QWidget* ExerciseStep::makeHints() const {
   auto* centred = new QHBoxLayout(hints);
   centred->setContentsMargins(0, 0, 0, 0);
   auto* list = new QVBoxLayout;
-  list->setSpacing(hintSpacing);
+  list->setSpacing(exerciseHintSpacing);
   addHint(*list, "circle-1", tr("Type the trigger character to start"));
   addHint(*list, "circle-2", tr("Type a shortcode like \"smile\" or \"wave\""));
   addHint(*list, "circle-3", tr("Press Enter or type the trigger again to confirm"));
@@ -52,7 +52,7 @@ void ExerciseStep::addHint(QVBoxLayout& list, const QString& symbol, const QStri
   label->setMinimumWidth(std::min(label->sizeHint().width(), widestHint));
   label->wrapped();
   auto* row = new QHBoxLayout;
-  row->setSpacing(hintSpacing);
+  row->setSpacing(exerciseHintSpacing);
   row->addWidget(new SymbolLabel(symbol, hintSymbolSize, ColorRole::primary));
   row->addWidget(label, 1);
   list.addLayout(row);

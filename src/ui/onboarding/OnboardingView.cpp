@@ -21,7 +21,7 @@ namespace {
 
 constexpr int viewWidth = 520;
 constexpr int viewHeight = 480;
-constexpr int padding = 16;
+constexpr int footerPadding = 16;
 constexpr std::chrono::milliseconds refreshInterval{2000};
 
 }  // namespace
@@ -65,7 +65,7 @@ QWidget* OnboardingView::makeNavigation() {
   connect(next_, &QPushButton::clicked, this, &OnboardingView::goOn);
   auto* bar = new QWidget;
   auto* row = new QHBoxLayout(bar);
-  row->setContentsMargins(padding, padding, padding, padding);
+  row->setContentsMargins(footerPadding, footerPadding, footerPadding, footerPadding);
   row->addWidget(indicator_);
   row->addStretch(1);
   row->addWidget(back_);

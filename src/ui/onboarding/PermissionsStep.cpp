@@ -9,9 +9,9 @@
 namespace tessarin::ui {
 namespace {
 
-constexpr int symbolSize = 22;
+constexpr int permissionSymbolSize = 22;
 constexpr int rowPadding = 16;
-constexpr int rowSpacing = 16;
+constexpr int permissionRowSpacing = 16;
 constexpr int sidePadding = 40;
 
 QWidget* inCard(PermissionRow* row) {
@@ -30,14 +30,14 @@ PermissionsStep::PermissionsStep(QWidget* parent) : StepPage(parent) {
       new StyledLabel(tr("Tessarin needs two permissions to work:"), TextStyle::body, ColorRole::secondary);
   inputMonitoring_ = new PermissionRow(
       {tr("Input Monitoring"), tr("Detects when you type shortcodes"), "xmark-circle-fill", ColorRole::red},
-      symbolSize);
+      permissionSymbolSize);
   accessibility_ = new PermissionRow({tr("Accessibility"), tr("Positions the popup and inserts text"),
                                       "minus-circle-fill", ColorRole::yellow},
-                                     symbolSize);
+                                     permissionSymbolSize);
   auto* rows = new QWidget;
   auto* column = new QVBoxLayout(rows);
   column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(rowSpacing);
+  column->setSpacing(permissionRowSpacing);
   column->addWidget(inCard(inputMonitoring_));
   column->addWidget(inCard(accessibility_));
   add(&title->wrapped().centred());

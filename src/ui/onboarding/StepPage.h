@@ -25,6 +25,10 @@ class StepPage : public ScrollPane {
   QString text() const;
 
  protected:
+  /// Of the first and the last step, which are a symbol and a few lines.
+  static constexpr int symbolSize = 64;
+  static constexpr int textPadding = 40;
+
   /// Puts it below what is there, with `sidePadding` left and right.
   void add(QWidget* widget, int sidePadding = 0);
   void addSymbol(const QString& name, int size, ColorRole color);

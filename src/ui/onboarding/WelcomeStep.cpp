@@ -3,12 +3,6 @@
 #include "ui/style/StyledLabel.h"
 
 namespace tessarin::ui {
-namespace {
-
-constexpr int symbolSize = 64;
-constexpr int textPadding = 40;
-
-}  // namespace
 
 WelcomeStep::WelcomeStep(QWidget* parent)
     : StepPage(parent), subtitle_(new StyledLabel({}, TextStyle::title3, ColorRole::secondary)) {

@@ -15,7 +15,7 @@
 namespace tessarin::ui {
 namespace {
 
-constexpr int spacing = 12;
+constexpr int appListSpacing = 12;
 constexpr int lowestList = 100;
 
 QString trimmedOfBlanks(const QString& text) {
@@ -52,7 +52,7 @@ AppListSettingsTab::AppListSettingsTab(const SettingsServices& services, AppList
   entries_->setAccessibleName(texts.title);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(tabPadding, tabPadding, tabPadding, tabPadding);
-  layout->setSpacing(spacing);
+  layout->setSpacing(appListSpacing);
   layout->addWidget(new StyledLabel(texts.title, TextStyle::headline));
   layout->addWidget(description);
   layout->addWidget(entries_, 1);

@@ -19,7 +19,7 @@ namespace tessarin::ui {
 namespace {
 
 constexpr int iconSize = 20;
-constexpr int rowSpacing = 8;
+constexpr int appRowSpacing = 8;
 
 QLabel* makeIcon(const QIcon& icon) {
   auto* label = new QLabel;
@@ -78,7 +78,7 @@ void AppListView::addRow(const std::string& bundleID) {
   row->setToolTip(identifier);
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(6, 3, 6, 3);
-  layout->setSpacing(rowSpacing);
+  layout->setSpacing(appRowSpacing);
   describe(layout, identifier, installed);
   buttons_ << makeButton(bundleID, installed ? QString::fromStdString(installed->name) : identifier);
   layout->addWidget(buttons_.last());

@@ -12,15 +12,17 @@ namespace {
 
 constexpr int rankWidth = 24;
 constexpr int gap = 8;
-constexpr int sidePadding = 8;
-constexpr int verticalPadding = 4;
+constexpr int mostUsedSidePadding = 8;
+constexpr int mostUsedRowPadding = 4;
 constexpr double currentOpacity = 0.08;
 
 /// The row, from its leading edge on.
 class Row {
  public:
   Row(QPainter& painter, const QStyleOptionViewItem& option)
-      : painter_(painter), option_(option), left_(option.rect.adjusted(sidePadding, 0, -sidePadding, 0)) {}
+      : painter_(painter),
+        option_(option),
+        left_(option.rect.adjusted(mostUsedSidePadding, 0, -mostUsedSidePadding, 0)) {}
 
   void leading(int width, Qt::Alignment alignment, const QFont& font, ColorRole color, const QString& text) {
     draw(QRect(left_.left(), left_.top(), width, left_.height()), alignment, font, color, text);
@@ -74,7 +76,7 @@ void MostUsedDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
 QSize MostUsedDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const {
   const int text = std::max(QFontMetrics(option.font).height(),
                             QFontMetrics(fontOf(TextStyle::monospacedBody, option.font)).height());
-  return {0, text + 2 * verticalPadding};
+  return {0, text + 2 * mostUsedRowPadding};
 }
 
 }  // namespace tessarin::ui

@@ -5,7 +5,7 @@
 namespace tessarin::ui {
 namespace {
 
-constexpr int leastHeight = 100;
+constexpr int leastListHeight = 100;
 
 }  // namespace
 
@@ -15,7 +15,7 @@ MostUsedList::MostUsedList(QWidget* parent) : QListWidget(parent) {
   setEditTriggers(QAbstractItemView::NoEditTriggers);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setUniformItemSizes(true);
-  setMinimumHeight(leastHeight);
+  setMinimumHeight(leastListHeight);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
 }
 

@@ -12,8 +12,8 @@
 namespace tessarin::ui {
 namespace {
 
-constexpr std::chrono::milliseconds refreshInterval{2000};
-constexpr int symbolSize = 20;
+constexpr std::chrono::milliseconds permissionsRefreshInterval{2000};
+constexpr int noticeSymbolSize = 20;
 
 }  // namespace
 
@@ -23,11 +23,11 @@ PermissionsSettingsTab::PermissionsSettingsTab(const SettingsServices& services,
       inputMonitoring_(new PermissionRow(
           {tr("Input Monitoring"), tr("Required — captures keystrokes to detect :shortcodes:"),
            "xmark-circle-fill", ColorRole::red},
-          symbolSize)),
+          noticeSymbolSize)),
       accessibility_(new PermissionRow(
           {tr("Accessibility"), tr("Optional — enables cursor positioning and direct text insertion"),
            "minus-circle-fill", ColorRole::yellow},
-          symbolSize)) {
+          noticeSymbolSize)) {
   auto* note =
       new StyledLabel(tr("Without Accessibility, Tessarin uses clipboard paste as a fallback. The popup will "
                          "appear near the mouse cursor instead of the text caret."),
@@ -50,7 +50,7 @@ PermissionsSettingsTab::PermissionsSettingsTab(const SettingsServices& services,
 void PermissionsSettingsTab::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   refresh();
-  timer_ = services_.mainQueue.repeat(refreshInterval, [this] { refresh(); });
+  timer_ = services_.mainQueue.repeat(permissionsRefreshInterval, [this] { refresh(); });
 }
 
 void PermissionsSettingsTab::hideEvent(QHideEvent* event) {

@@ -12,9 +12,9 @@
 namespace tessarin::ui {
 namespace {
 
-constexpr int leastHeight = 60;
+constexpr int leastEditorHeight = 60;
 constexpr int mostHeight = 160;
-constexpr int radius = 4;
+constexpr int frameRadius = 4;
 constexpr double frameOpacity = 0.15;
 constexpr double placeholderOpacity = 0.5;
 /// Text and placeholder stand this far from the edges.
@@ -93,7 +93,7 @@ void ReplacementEditor::fitHeight() {
     blockBoundingRect(block);
     lines += std::max(1, block.layout()->lineCount());
   }
-  const int height = std::clamp(lines * lineHeight + 2 * verticalInset, leastHeight, mostHeight);
+  const int height = std::clamp(lines * lineHeight + 2 * verticalInset, leastEditorHeight, mostHeight);
   if (height == minimumHeight()) return;
   setFixedHeight(height);
 }
@@ -115,7 +115,7 @@ void ReplacementEditor::paintFrame() {
   painter.setPen(QPen(withOpacity(colorOf(ColorRole::primary, palette()), frameOpacity), frameWidth()));
   painter.setBrush(palette().color(QPalette::Base));
   const double inset = frameWidth() / 2.0;
-  painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), radius, radius);
+  painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), frameRadius, frameRadius);
 }
 
 }  // namespace tessarin::ui

@@ -13,8 +13,8 @@ namespace tessarin::ui {
 namespace {
 
 constexpr int highest = 120;
-constexpr int iconSize = 16;
-constexpr FlowGrid::Spacing spacing{120, 8, 6};
+constexpr int tileIconSize = 16;
+constexpr FlowGrid::Spacing gridSpacing{120, 8, 6};
 
 /// What a button shows leaves the pointer to the button.
 void addPart(QHBoxLayout* label, QLabel* part, int stretch) {
@@ -25,7 +25,7 @@ void addPart(QHBoxLayout* label, QLabel* part, int stretch) {
 }  // namespace
 
 RunningAppsGrid::RunningAppsGrid(std::function<void(const std::string&)> add, QWidget* parent)
-    : ScrollPane(new QWidget, parent), add_(std::move(add)), grid_(new FlowGrid(spacing, widget())) {
+    : ScrollPane(new QWidget, parent), add_(std::move(add)), grid_(new FlowGrid(gridSpacing, widget())) {
   fitHeight();
 }
 
@@ -52,7 +52,7 @@ QWidget* RunningAppsGrid::makeButton(const RunningAppInfo& app) {
   label->setSpacing(4);
   if (!app.icon.isNull()) {
     auto* icon = new QLabel;
-    icon->setPixmap(app.icon.pixmap(iconSize, iconSize));
+    icon->setPixmap(app.icon.pixmap(tileIconSize, tileIconSize));
     addPart(label, icon, 0);
   }
   auto* name = new ShortLabel(1, TextStyle::caption, ColorRole::primary);

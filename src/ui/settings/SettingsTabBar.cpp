@@ -8,15 +8,15 @@
 namespace tessarin::ui {
 namespace {
 
-constexpr int symbolSize = 16;
+constexpr int tabSymbolSize = 16;
 constexpr int sides = 11;
 constexpr int above = 3;
-constexpr int between = 1;
+constexpr int belowSymbol = 1;
 
 }  // namespace
 
 SettingsTabBar::SettingsTabBar(QWidget* parent) : QTabBar(parent) {
-  setIconSize(QSize(symbolSize, symbolSize));
+  setIconSize(QSize(tabSymbolSize, tabSymbolSize));
   setExpanding(false);
   setUsesScrollButtons(true);
 }
@@ -24,7 +24,7 @@ SettingsTabBar::SettingsTabBar(QWidget* parent) : QTabBar(parent) {
 QSize SettingsTabBar::tabSizeHint(int index) const {
   const QFontMetrics metrics(fontOf(TextStyle::subheadline, font()));
   const int text = metrics.horizontalAdvance(tabText(index).remove('&'));
-  return {text + 2 * sides, above + symbolSize + between + metrics.height() + above};
+  return {text + 2 * sides, above + tabSymbolSize + belowSymbol + metrics.height() + above};
 }
 
 void SettingsTabBar::paintEvent(QPaintEvent* /*event*/) {
@@ -49,7 +49,7 @@ void SettingsTabBar::paintEvent(QPaintEvent* /*event*/) {
 
 void SettingsTabBar::paintLabel(QPainter& painter, int index) const {
   const QRect tab = tabRect(index);
-  QRect symbol(0, 0, symbolSize, symbolSize);
+  QRect symbol(0, 0, tabSymbolSize, tabSymbolSize);
   symbol.moveCenter(QPoint(tab.center().x(), 0));
   symbol.moveTop(tab.top() + above);
   tabIcon(index).paint(&painter, symbol);

@@ -21,9 +21,9 @@ namespace tessarin::ui {
 namespace {
 
 constexpr int sheetWidth = 480;
-constexpr int padding = 16;
-constexpr int spacing = 16;
-constexpr int rowSpacing = 8;
+constexpr int editorPadding = 16;
+constexpr int fieldSpacing = 16;
+constexpr int fieldRowSpacing = 8;
 constexpr int blockSpacing = 4;
 constexpr int previewLines = 3;
 /// More than three lines hold.
@@ -62,8 +62,8 @@ SnippetEditorView::SnippetEditorView(const SettingsServices& services, std::opti
   const QString title = editingSnippet_ ? tr("Edit Snippet") : tr("New Snippet");
   setWindowTitle(title);
   auto* stack = new QVBoxLayout(this);
-  stack->setContentsMargins(padding, padding, padding, padding);
-  stack->setSpacing(spacing);
+  stack->setContentsMargins(editorPadding, editorPadding, editorPadding, editorPadding);
+  stack->setSpacing(fieldSpacing);
   stack->addWidget(&(new StyledLabel(title, TextStyle::headline))->centred());
   stack->addLayout(makeForm());
   stack->addLayout(makeReplacementBlock());
@@ -75,7 +75,7 @@ SnippetEditorView::SnippetEditorView(const SettingsServices& services, std::opti
 
 QFormLayout* SnippetEditorView::makeForm() {
   auto* form = new QFormLayout;
-  form->setVerticalSpacing(rowSpacing);
+  form->setVerticalSpacing(fieldRowSpacing);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   const struct {
     QString label;
@@ -113,7 +113,7 @@ QBoxLayout* SnippetEditorView::makeReplacementBlock() {
 QWidget* SnippetEditorView::makePreview() {
   auto* block = makeStack<QVBoxLayout>(blockSpacing);
   auto* row = makeStack<QHBoxLayout>(blockSpacing * 2);
-  previewTrigger_->setMaximumWidth(sheetWidth / 2 - padding);
+  previewTrigger_->setMaximumWidth(sheetWidth / 2 - editorPadding);
   row->addWidget(previewTrigger_, 0, Qt::AlignTop);
   row->addWidget(previewText_, 1, Qt::AlignTop);
   block->addWidget(new StyledLabel(tr("Preview"), TextStyle::caption, ColorRole::secondary));
@@ -123,7 +123,7 @@ QWidget* SnippetEditorView::makePreview() {
 }
 
 QBoxLayout* SnippetEditorView::makeButtons() {
-  auto* row = makeStack<QHBoxLayout>(spacing);
+  auto* row = makeStack<QHBoxLayout>(fieldSpacing);
   row->addWidget(cancel_);
   row->addStretch(1);
   row->addWidget(confirm_);

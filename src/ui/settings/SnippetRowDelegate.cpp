@@ -15,8 +15,8 @@
 namespace tessarin::ui {
 namespace {
 
-constexpr int lineSpacing = 2;
-constexpr int verticalPadding = 6;
+constexpr int snippetLineSpacing = 2;
+constexpr int snippetRowPadding = 6;
 /// The most of the row that the replacement takes from trigger and name.
 constexpr double replacementShare = 0.5;
 
@@ -27,8 +27,8 @@ QColor textColor(const QStyleOptionViewItem& option) {
 }
 
 /// At the side where lines begin in the window; within the line, the text's own direction holds.
-void drawLine(QPainter& painter, const QRect& frame, const QFont& font, const QColor& color,
-              const QString& text) {
+void drawElided(QPainter& painter, const QRect& frame, const QFont& font, const QColor& color,
+                const QString& text) {
   const Qt::LayoutDirection around = painter.layoutDirection();
   const auto side = around == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
   painter.setFont(font);
@@ -58,9 +58,10 @@ const SnippetRowDelegate::Fonts& SnippetRowDelegate::fontsFor(const QFont& base)
 
 QSize SnippetRowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const {
   const Fonts& fonts = fontsFor(option.font);
-  const int lines = QFontMetrics(fonts.trigger).height() + lineSpacing + QFontMetrics(fonts.name).height();
+  const int lines =
+      QFontMetrics(fonts.trigger).height() + snippetLineSpacing + QFontMetrics(fonts.name).height();
   const int height = std::max({lines, QFontMetrics(fonts.replacement).height(), edit_.sizeHint().height()});
-  return {0, height + 2 * verticalPadding};
+  return {0, height + 2 * snippetRowPadding};
 }
 
 void SnippetRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -96,13 +97,13 @@ void SnippetRowDelegate::paintTexts(QPainter& painter, const QStyleOptionViewIte
   lines = QStyle::visualRect(option.direction, frame, lines);
   const int triggerHeight = QFontMetrics(fonts.trigger).height();
   const int nameHeight = QFontMetrics(fonts.name).height();
-  const int top = frame.center().y() - (triggerHeight + lineSpacing + nameHeight) / 2 + 1;
+  const int top = frame.center().y() - (triggerHeight + snippetLineSpacing + nameHeight) / 2 + 1;
   const QRect trigger(lines.left(), top, lines.width(), triggerHeight);
-  const QRect name(lines.left(), trigger.bottom() + 1 + lineSpacing, lines.width(), nameHeight);
-  drawLine(painter, trigger, fonts.trigger, color, index.data(SnippetListModel::triggerRole).toString());
+  const QRect name(lines.left(), trigger.bottom() + 1 + snippetLineSpacing, lines.width(), nameHeight);
+  drawElided(painter, trigger, fonts.trigger, color, index.data(SnippetListModel::triggerRole).toString());
   const double secondaryOpacity = colorOf(ColorRole::secondary, option.palette).alphaF();
-  drawLine(painter, name, fonts.name, withOpacity(color, secondaryOpacity),
-           index.data(SnippetListModel::nameRole).toString());
+  drawElided(painter, name, fonts.name, withOpacity(color, secondaryOpacity),
+             index.data(SnippetListModel::nameRole).toString());
 }
 
 void SnippetRowDelegate::paintButton(QPainter& painter, const QStyleOptionViewItem& option,

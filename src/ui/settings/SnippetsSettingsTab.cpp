@@ -20,8 +20,8 @@
 namespace tessarin::ui {
 namespace {
 
-constexpr int spacing = 12;
-constexpr int lineSpacing = 8;
+constexpr int snippetsSpacing = 12;
+constexpr int emptyStateSpacing = 8;
 constexpr std::chrono::milliseconds messageDuration{3000};
 
 QPushButton* makeButton(const QString& text, const QString& symbol) {
@@ -50,7 +50,7 @@ SnippetsSettingsTab::SnippetsSettingsTab(const SettingsServices& services, Snipp
       emptyState_(makeEmptyState()) {
   auto* stack = new QVBoxLayout(this);
   stack->setContentsMargins(tabPadding, tabPadding, tabPadding, tabPadding);
-  stack->setSpacing(spacing);
+  stack->setSpacing(snippetsSpacing);
   stack->addLayout(makeHeader());
   stack->addWidget(importMessage_);
   stack->addWidget(emptyState_, 1);
@@ -73,7 +73,7 @@ QHBoxLayout* SnippetsSettingsTab::makeHeader() {
 QWidget* SnippetsSettingsTab::makeEmptyState() {
   auto* block = new QWidget;
   auto* lines = new QVBoxLayout(block);
-  lines->setSpacing(lineSpacing);
+  lines->setSpacing(emptyStateSpacing);
   lines->addStretch(1);
   auto* title = new StyledLabel(tr("No custom snippets yet"), TextStyle::body, ColorRole::secondary);
   for (StyledLabel* line : {title, builtInCount_}) lines->addWidget(&line->centred());

@@ -8,7 +8,7 @@ namespace tessarin::ui {
 namespace {
 
 constexpr int lineSpacing = 4;
-constexpr int verticalPadding = 12;
+constexpr int cardPadding = 12;
 
 }  // namespace
 
@@ -16,7 +16,7 @@ StatCard::StatCard(const QString& title, QWidget* parent)
     : Card(parent), title_(title), value_(new StyledLabel({}, TextStyle::figure)) {
   auto* caption = new StyledLabel(title, TextStyle::caption, ColorRole::secondary);
   auto* lines = new QVBoxLayout(this);
-  lines->setContentsMargins(0, verticalPadding, 0, verticalPadding);
+  lines->setContentsMargins(0, cardPadding, 0, cardPadding);
   lines->setSpacing(lineSpacing);
   lines->addWidget(&value_->centred());
   lines->addWidget(&caption->centred());

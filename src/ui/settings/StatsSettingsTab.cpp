@@ -23,12 +23,12 @@ namespace tessarin::ui {
 namespace {
 
 constexpr int partSpacing = 16;
-constexpr int sectionSpacing = 8;
+constexpr int statsSpacing = 8;
 constexpr std::size_t mostUsedCount = 10;
 
 QVBoxLayout* addSection(QVBoxLayout& column, const QString& title) {
   auto* section = new QVBoxLayout;
-  section->setSpacing(sectionSpacing);
+  section->setSpacing(statsSpacing);
   section->addWidget(new StyledLabel(title, TextStyle::subheadline));
   column.addLayout(section);
   return section;

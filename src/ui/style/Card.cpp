@@ -7,7 +7,7 @@
 namespace tessarin::ui {
 namespace {
 
-constexpr double radius = 8;
+constexpr double cardRadius = 8;
 constexpr double opacity = 0.04;
 
 }  // namespace
@@ -17,7 +17,7 @@ void Card::paintEvent(QPaintEvent* /*event*/) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   painter.setBrush(withOpacity(colorOf(ColorRole::primary, palette()), opacity));
-  painter.drawRoundedRect(rect(), radius, radius);
+  painter.drawRoundedRect(rect(), cardRadius, cardRadius);
 }
 
 }  // namespace tessarin::ui

@@ -5,7 +5,7 @@
 namespace tessarin::ui {
 namespace {
 
-constexpr double secondaryOpacity = 0.65;
+constexpr double secondaryTextOpacity = 0.65;
 
 /// White text has to be legible on the accent, whatever the desktop's highlight is.
 QColor accentOf(const QPalette& palette) {
@@ -23,7 +23,7 @@ QColor colorOf(ColorRole role, const QPalette& palette) {
     case ColorRole::primary:
       return primary;
     case ColorRole::secondary:
-      return withOpacity(primary, secondaryOpacity);
+      return withOpacity(primary, secondaryTextOpacity);
     case ColorRole::accent:
       return accentOf(palette);
     case ColorRole::green:

@@ -9,7 +9,7 @@ namespace {
 
 /// Some twenty pages of text.
 constexpr qsizetype maximumLength = 65536;
-constexpr qsizetype maximumDepth = 12;
+constexpr qsizetype maximumListDepth = 12;
 constexpr qsizetype longestTag = 2000;
 
 const QStringList& containers() {
@@ -75,7 +75,7 @@ class NotesFilter {
     if (tag == u"p" || breaks().contains(tag)) html_ += u"<p>";
     if (tag == u"td" || tag == u"th") html_ += u' ';
     if (tag == u"li" && isInList()) html_ += u"<li>";
-    if (!containers().contains(tag) || open_.size() == maximumDepth) return;
+    if (!containers().contains(tag) || open_.size() == maximumListDepth) return;
     const QString link = tag == u"a" ? linkOf(attributes) : QString();
     if (tag == u"a" && link.isEmpty()) return;
     html_ += "<" + tag + link + ">";

@@ -10,7 +10,7 @@ namespace tessarin::ui {
 namespace {
 
 constexpr int margin = 20;
-constexpr int symbolSize = 48;
+constexpr int applicationSymbolSize = 48;
 constexpr int textWidth = 320;
 
 }  // namespace
@@ -24,7 +24,7 @@ UpdateDialog::UpdateDialog(const QString& headline, const QString& text)
   outer->setSpacing(margin);
   auto* row = new QHBoxLayout;
   row->setSpacing(margin);
-  row->addWidget(new SymbolLabel("text-cursor", symbolSize, ColorRole::accent), 0, Qt::AlignTop);
+  row->addWidget(new SymbolLabel("text-cursor", applicationSymbolSize, ColorRole::accent), 0, Qt::AlignTop);
   row->addLayout(content_, 1);
   outer->addLayout(row, 1);
   outer->addWidget(buttons_);

@@ -47,7 +47,7 @@ constexpr FailureText failureTexts[] = {
      QT_TRANSLATE_NOOP("tessarin::ui::UpdateWindows", "The list of updates cannot be read.")},
 };
 
-const char* textOf(UpdateFailure failure) {
+const char* failureText(UpdateFailure failure) {
   for (const FailureText& known : failureTexts) {
     if (known.failure == failure) return known.text;
   }
@@ -85,7 +85,7 @@ void UpdateWindows::showUpToDate(const std::string& currentVersion) {
 
 void UpdateWindows::showFailure(UpdateFailure failure) {
   auto dialog =
-      std::make_unique<MessageDialog>(tr("Tessarin could not look for updates"), tr(textOf(failure)));
+      std::make_unique<MessageDialog>(tr("Tessarin could not look for updates"), tr(failureText(failure)));
   show<MessageDialog>(std::move(dialog), Manner::inFront, [](MessageDialog&) {});
 }
 
