@@ -13,7 +13,7 @@ import threading
 import time
 
 ROOT = pathlib.Path(__file__).resolve().parents[1]
-sys.path.insert(0, str(ROOT / "tests/desktop"))
+sys.path.insert(0, str(ROOT / "tools/desktop"))
 
 import gi  # noqa: E402
 from editors import Featherpad, GnomeTextEditor, Mousepad  # noqa: E402

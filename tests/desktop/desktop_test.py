@@ -2,7 +2,10 @@
 
 import json
 import pathlib
+import sys
 import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools/desktop"))
 
 from session import Session, Tessarin, wait_for
 from typist import Typist

@@ -3,7 +3,10 @@
 
 import json
 import pathlib
+import sys
 import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools/desktop"))
 
 from editors import Mousepad
 from session import ROOT, Session, Tessarin, wait_for

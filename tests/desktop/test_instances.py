@@ -8,7 +8,10 @@ import pathlib
 import random
 import shutil
 import signal
+import sys
 import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools/desktop"))
 
 from session import PROGRAM, Session, Tessarin, wait_for
 

@@ -5,10 +5,13 @@ import json
 import os
 import pathlib
 import signal
+import sys
 import unittest
 
 from Xlib import X, display
 from Xlib.protocol import event
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools/desktop"))
 
 from editors import Mousepad
 from session import PROGRAM, Session, Tessarin, wait_for

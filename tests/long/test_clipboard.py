@@ -7,7 +7,8 @@ import random
 import sys
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "desktop"))
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path[:0] = [str(ROOT / folder) for folder in ("tests/desktop", "tools/desktop")]
 
 from desktop_test import DesktopTest
 from editors import Mousepad, Xterm, clipboard, set_clipboard

@@ -13,7 +13,7 @@ import threading
 import time
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "desktop"))
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools/desktop"))
 
 from editors import ALL, Firefox
 from session import Session, Tessarin

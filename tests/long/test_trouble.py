@@ -8,7 +8,8 @@ import sys
 import time
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "desktop"))
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path[:0] = [str(ROOT / folder) for folder in ("tests/desktop", "tools/desktop")]
 
 from desktop_test import DesktopTest
 from editors import Featherpad, GnomeTextEditor, Mousepad, Xterm, clipboard, set_clipboard

@@ -8,7 +8,7 @@ import unittest
 
 from package import PACKAGE, ROOT, Unpacked, output, project_version, run
 
-sys.path.insert(0, str(ROOT / "tests/desktop"))
+sys.path.insert(0, str(ROOT / "tools/desktop"))
 
 from session import Session, Tessarin, wait_for  # noqa: E402
 
