@@ -16,16 +16,39 @@ bool CallChannel::isConnected() const {
 }
 
 Answer CallChannel::call(MessagePtr request) {
-  const std::string bus = dbus_message_get_destination(request.get());
-  const auto longest = budget_.allowance(longestCall_);
-  if (!isConnected() || longest == CallBudget::Duration::zero() || owesAnswer(bus)) return {};
-  DBusPendingCall* sent = nullptr;
-  if (!dbus_connection_send_with_reply(connection_.get(), request.get(), &sent, DBUS_TIMEOUT_INFINITE) ||
-      sent == nullptr) {
-    return {};
+  std::vector<MessagePtr> requests;
+  requests.push_back(std::move(request));
+  return std::move(callAll(std::move(requests)).front());
+}
+
+std::vector<Answer> CallChannel::callAll(std::vector<MessagePtr> requests) {
+  std::vector<Answer> answers(requests.size());
+  const std::string bus = dbus_message_get_destination(requests.front().get());
+  if (!isConnected() || budget_.allowance(longestCall_) == CallBudget::Duration::zero() || owesAnswer(bus)) {
+    return answers;
   }
-  PendingCallPtr pending(sent);
-  if (wait(pending.get(), longest)) return answered(pending.get());
+  std::vector<PendingCallPtr> sent;
+  sent.reserve(requests.size());
+  for (const MessagePtr& request : requests) sent.push_back(send(request.get()));
+  auto longest = longestCall_;
+  for (std::size_t i = 0; i < sent.size(); ++i) {
+    if (!sent[i]) continue;
+    answers[i] = await(std::move(sent[i]), bus, longest);
+    // Answers come in order: who is late with one is not waited for again.
+    if (answers[i].kind == Answer::Kind::unanswered) longest = {};
+  }
+  return answers;
+}
+
+PendingCallPtr CallChannel::send(DBusMessage* request) {
+  DBusPendingCall* sent = nullptr;
+  if (!dbus_connection_send_with_reply(connection_.get(), request, &sent, DBUS_TIMEOUT_INFINITE))
+    sent = nullptr;
+  return PendingCallPtr(sent);
+}
+
+Answer CallChannel::await(PendingCallPtr pending, const std::string& bus, std::chrono::milliseconds longest) {
+  if (wait(pending.get(), budget_.allowance(longest))) return answered(pending.get());
   owed_[bus] = std::move(pending);
   return {Answer::Kind::unanswered, nullptr};
 }

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "platform/atspi/CallBudget.h"
 #include "platform/atspi/DBusHandles.h"
@@ -33,6 +34,8 @@ class CallChannel {
   CallBudget& budget() { return budget_; }
 
   Answer call(MessagePtr request);
+  /// The same for several calls to one application, all sent before the first answer is waited for.
+  std::vector<Answer> callAll(std::vector<MessagePtr> requests);
   /// Goes on waiting for the answer that the application owes us. `unanswered` when it still does not come,
   /// `notSent` when it owes none.
   Answer awaitOwed(const std::string& bus);
@@ -41,6 +44,9 @@ class CallChannel {
   bool owesAnswer(const std::string& bus);
 
  private:
+  /// Null when it could not be sent.
+  PendingCallPtr send(DBusMessage* request);
+  Answer await(PendingCallPtr pending, const std::string& bus, std::chrono::milliseconds longest);
   void takeIn();
   bool wait(DBusPendingCall* pending, CallBudget::Duration longest);
   static Answer answered(DBusPendingCall* pending);

@@ -1,6 +1,9 @@
 #include "platform/atspi/RemoteObject.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
+#include <vector>
 
 #include "platform/atspi/Messages.h"
 
@@ -25,6 +28,13 @@ MessagePtr RemoteObject::request(const char* interface, const char* method) cons
 
 MessagePtr RemoteObject::ask(MessagePtr request) {
   return channel_.call(std::move(request)).reply;
+}
+
+void RemoteObject::replaceByReplies(std::span<MessagePtr> requests) {
+  std::vector<MessagePtr> moved(std::make_move_iterator(requests.begin()),
+                                std::make_move_iterator(requests.end()));
+  std::vector<Answer> answers = channel_.callAll(std::move(moved));
+  std::ranges::transform(answers, requests.begin(), [](Answer& answer) { return std::move(answer.reply); });
 }
 
 std::optional<std::uint32_t> RemoteObject::role() {

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "base/Geometry.h"
 #include "platform/atspi/CallChannel.h"
@@ -32,6 +35,15 @@ class RemoteObject {
  protected:
   MessagePtr request(const char* interface, const char* method) const;
   MessagePtr ask(MessagePtr request);
+  /// Asks several things at once; the answers come in the same order.
+  template <class... Requests>
+  std::array<MessagePtr, sizeof...(Requests)> askAll(Requests... requests) {
+    std::array<MessagePtr, sizeof...(Requests)> all{std::move(requests)...};
+    replaceByReplies(all);
+    return all;
+  }
+
+  void replaceByReplies(std::span<MessagePtr> requests);
 
   CallChannel& channel_;
   const ObjectReference object_;

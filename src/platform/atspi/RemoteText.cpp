@@ -34,6 +34,11 @@ bool canBeSent(const std::string& text) {
   return text.find('\0') == std::string::npos && dbus_validate_utf8(text.c_str(), nullptr);
 }
 
+std::optional<Rect> rectOf(DBusMessage* reply) {
+  MessageReader reader(reply);
+  return readRect(reader);
+}
+
 bool saysYes(const Answer& answer) {
   return answer.kind == Answer::Kind::replied && MessageReader(answer.reply.get()).boolean() == true;
 }
@@ -44,10 +49,12 @@ RemoteText::RemoteText(CallChannel& channel, ObjectReference object, Toolkit too
     : RemoteObject(channel, std::move(object)), toolkit_(toolkit) {}
 
 std::optional<TextRange> RemoteText::selectedRange() {
-  const auto caret = intProperty(textInterface, "CaretOffset");
+  const auto [offset, count] =
+      askAll(propertyRead(object_, textInterface, "CaretOffset"), request(textInterface, "GetNSelections"));
+  auto value = MessageReader(offset.get()).variant();
+  const auto caret = value ? value->int32() : std::nullopt;
   if (!caret || *caret < 0) return std::nullopt;
   const TextRange atCaret{*caret, 0};
-  const MessagePtr count = ask(request(textInterface, "GetNSelections"));
   if (MessageReader(count.get()).int32().value_or(0) < 1) return atCaret;
   MessagePtr question = request(textInterface, "GetSelection");
   append(question.get(), std::int64_t{0});
@@ -83,11 +90,15 @@ std::optional<RemoteText::Stretch> RemoteText::stretch(const TextRange& range) {
   return std::nullopt;
 }
 
-std::optional<std::string> RemoteText::text(std::int64_t start, std::int64_t end) {
+MessagePtr RemoteText::textRequest(std::int64_t start, std::int64_t end) const {
   MessagePtr question = request(textInterface, "GetText");
   append(question.get(), start);
   append(question.get(), end);
-  const MessagePtr reply = ask(std::move(question));
+  return question;
+}
+
+std::optional<std::string> RemoteText::text(std::int64_t start, std::int64_t end) {
+  const MessagePtr reply = ask(textRequest(start, end));
   auto text = MessageReader(reply.get()).string();
   if (text && toolkit_.pads) text = withoutPadding(*text);
   // An application that answers less or more than was asked for, or counts otherwise than its toolkit does,
@@ -99,32 +110,37 @@ std::optional<std::string> RemoteText::text(std::int64_t start, std::int64_t end
 std::optional<Rect> RemoteText::caretBounds(const TextRange& range) {
   const std::int64_t position = range.location + range.length;
   if (range.length < 0 || position < 0 || position > lastPosition) return std::nullopt;
-  auto bounds = characterExtents(position);
-  if (!bounds && position > 0) bounds = afterCharacter(position - 1);
+  std::optional<Rect> bounds;
+  if (position == 0) {
+    const MessagePtr reply = ask(extentsRequest(position));
+    bounds = rectOf(reply.get());
+  } else {
+    const auto [at, before, letter] =
+        askAll(extentsRequest(position), extentsRequest(position - 1), textRequest(position - 1, position));
+    bounds = rectOf(at.get());
+    if (!bounds) bounds = behind(rectOf(before.get()), MessageReader(letter.get()).string());
+  }
   if (bounds) bounds->width = 1;
   return bounds;
 }
 
-std::optional<Rect> RemoteText::characterExtents(std::int64_t position) {
+MessagePtr RemoteText::extentsRequest(std::int64_t position) const {
   MessagePtr question = request(textInterface, "GetCharacterExtents");
   append(question.get(), position);
   const dbus_uint32_t origin = toolkit_.isWindowRelative ? 1 : 0;
   dbus_message_append_args(question.get(), DBUS_TYPE_UINT32, &origin, DBUS_TYPE_INVALID);
-  const MessagePtr reply = ask(std::move(question));
-  MessageReader reader(reply.get());
-  return readRect(reader);
+  return question;
 }
 
-std::optional<Rect> RemoteText::afterCharacter(std::int64_t position) {
-  auto bounds = characterExtents(position);
-  if (!bounds) return std::nullopt;
-  if (text(position, position + 1) == "\n") {
+std::optional<Rect> RemoteText::behind(std::optional<Rect> letter, const std::optional<std::string>& text) {
+  if (!letter) return std::nullopt;
+  if (text == "\n") {
     const auto whole = extents(toolkit_.isWindowRelative);
     if (!whole) return std::nullopt;
-    return Rect{whole->x, bounds->y + bounds->height, 0, bounds->height};
+    return Rect{whole->x, letter->y + letter->height, 0, letter->height};
   }
-  bounds->x += bounds->width;
-  return bounds;
+  letter->x += letter->width;
+  return letter;
 }
 
 AccessibilityStatus RemoteText::replace(const TextRange& range, const std::string& text) {

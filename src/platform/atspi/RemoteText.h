@@ -36,8 +36,10 @@ class RemoteText : public RemoteObject {
 
   std::optional<Stretch> stretch(const TextRange& range);
   std::optional<std::string> text(std::int64_t start, std::int64_t end);
-  std::optional<Rect> characterExtents(std::int64_t position);
-  std::optional<Rect> afterCharacter(std::int64_t position);
+  MessagePtr textRequest(std::int64_t start, std::int64_t end) const;
+  MessagePtr extentsRequest(std::int64_t position) const;
+  /// Where the caret stands behind a letter: no rectangle is to be had where there is no character.
+  std::optional<Rect> behind(std::optional<Rect> letter, const std::optional<std::string>& text);
   AccessibilityStatus erase(const Stretch& stretch);
   AccessibilityStatus insert(std::int64_t position, const std::string& text);
   void placeCaret(std::int64_t position);
