@@ -33,6 +33,17 @@ CoordinateSpace spaceFor(const std::vector<Rect>& frames) {
   return {scale, frames.empty() ? 0 : frames.front().height / scale};
 }
 
+std::vector<Screen> screensOf(const monitors::Desktop& desktop) {
+  const CoordinateSpace points = spaceFor(desktop.frames);
+  std::vector<Screen> found;
+  found.reserve(desktop.frames.size());
+  for (const Rect& frame : desktop.frames) {
+    found.push_back({points.flipped(points.toPoints(frame)),
+                     points.flipped(points.toPoints(visiblePart(frame, desktop.workArea)))});
+  }
+  return found;
+}
+
 std::vector<Screen> screensOfQt() {
   std::vector<Screen> found;
   if (QGuiApplication::screens().isEmpty()) return found;
@@ -48,26 +59,17 @@ std::vector<Screen> screensOfQt() {
 
 std::vector<Screen> QtScreens::screens() {
   const auto x = qtConnection();
-  if (!x) return screensOfQt();
-  const auto frames = monitors::frames(*x);
-  const auto workArea = monitors::workArea(*x);
-  const CoordinateSpace points = spaceFor(frames);
-  std::vector<Screen> found;
-  found.reserve(frames.size());
-  for (const Rect& frame : frames) {
-    found.push_back({points.flipped(points.toPoints(frame)),
-                     points.flipped(points.toPoints(visiblePart(frame, workArea)))});
-  }
-  return found;
+  return x ? screensOf(monitors::desktop(*x)) : screensOfQt();
 }
 
 std::optional<Screen> QtScreens::mainScreen() {
-  const auto all = screens();
-  if (all.empty()) return std::nullopt;
   const auto x = qtConnection();
-  const auto centre = x ? monitors::activeWindowCentre(*x) : std::nullopt;
+  const auto desktop = x ? monitors::desktop(*x) : monitors::Desktop();
+  const auto all = x ? screensOf(desktop) : screensOfQt();
+  if (all.empty()) return std::nullopt;
+  const auto centre = desktop.activeWindow ? monitors::centreOf(*x, *desktop.activeWindow) : std::nullopt;
   if (!centre) return all.front();
-  const CoordinateSpace points = space();
+  const CoordinateSpace points = spaceFor(desktop.frames);
   const Rect spot = points.flipped(points.toPoints({centre->x, centre->y, 0, 0}));
   const auto found = std::ranges::find_if(all, [&](const Screen& screen) {
     return screen.frame.contains({spot.x, spot.y});
@@ -84,7 +86,7 @@ Point QtScreens::mouseLocation() {
 }
 
 CoordinateSpace QtScreens::space() const {
-  if (const auto x = qtConnection()) return spaceFor(monitors::frames(*x));
+  if (const auto x = qtConnection()) return spaceFor(monitors::desktop(*x).frames);
   const QScreen* primary = QGuiApplication::primaryScreen();
   return {qGuiApp->devicePixelRatio(), primary == nullptr ? 0.0 : primary->geometry().height()};
 }

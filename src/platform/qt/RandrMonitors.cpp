@@ -50,18 +50,16 @@ std::vector<Rect> wholeRoot(const QtConnection& x) {
   return {{0, 0, static_cast<double>(root->width), static_cast<double>(root->height)}};
 }
 
-bool hasRandr(const QtConnection& x) {
+std::optional<xcb_randr_get_monitors_cookie_t> askForMonitors(const QtConnection& x) {
   const auto* extension = xcb_get_extension_data(x.connection, &xcb_randr_id);
-  return extension != nullptr && extension->present != 0;
+  if (extension == nullptr || extension->present == 0) return std::nullopt;
+  return xcb_randr_get_monitors(x.connection, x.root, 1);
 }
 
-}  // namespace
-
-std::vector<Rect> frames(const QtConnection& x) {
-  if (!hasRandr(x)) return wholeRoot(x);
+std::vector<Rect> framesFrom(const QtConnection& x, xcb_randr_get_monitors_cookie_t asked) {
   const Owned<xcb_randr_get_monitors_reply_t> reply(
-      xcb_randr_get_monitors_reply(x.connection, xcb_randr_get_monitors(x.connection, x.root, 1), nullptr));
-  if (!reply) return wholeRoot(x);
+      xcb_randr_get_monitors_reply(x.connection, asked, nullptr));
+  if (!reply) return {};
   std::vector<Rect> found;
   for (auto i = xcb_randr_get_monitors_monitors_iterator(reply.get()); i.rem > 0;
        xcb_randr_monitor_info_next(&i)) {
@@ -69,14 +67,11 @@ std::vector<Rect> frames(const QtConnection& x) {
                      static_cast<double>(i.data->width), static_cast<double>(i.data->height)};
     found.insert(i.data->primary != 0 ? found.begin() : found.end(), frame);
   }
-  return found.empty() ? wholeRoot(x) : found;
+  return found;
 }
 
-std::optional<Rect> workArea(const QtConnection& x) {
-  const auto areasAsked = ask(x, atomsOf(x).workArea);
-  const auto desktopAsked = ask(x, atomsOf(x).currentDesktop);
-  const auto areas = answer(x, areasAsked);
-  const auto desktop = answer(x, desktopAsked);
+std::optional<Rect> workAreaOf(const std::vector<std::uint32_t>& areas,
+                               const std::vector<std::uint32_t>& desktop) {
   std::size_t first = desktop.empty() ? 0 : std::size_t{4} * desktop.front();
   if (first + 4 > areas.size()) first = 0;
   if (areas.size() < 4) return std::nullopt;
@@ -86,11 +81,26 @@ std::optional<Rect> workArea(const QtConnection& x) {
   return Rect{number(0), number(1), number(2), number(3)};
 }
 
-std::optional<Point> activeWindowCentre(const QtConnection& x) {
-  const auto window = answer(x, ask(x, atomsOf(x).activeWindow));
-  if (window.empty() || window.front() == XCB_NONE) return std::nullopt;
-  const auto translated = xcb_translate_coordinates(x.connection, window.front(), x.root, 0, 0);
-  const auto geometry = geometryOf(x, window.front());
+}  // namespace
+
+Desktop desktop(const QtConnection& x) {
+  const auto monitors = askForMonitors(x);
+  const auto areas = ask(x, atomsOf(x).workArea);
+  const auto current = ask(x, atomsOf(x).currentDesktop);
+  const auto active = ask(x, atomsOf(x).activeWindow);
+  Desktop found;
+  if (monitors) found.frames = framesFrom(x, *monitors);
+  if (found.frames.empty()) found.frames = wholeRoot(x);
+  const auto areaNumbers = answer(x, areas);
+  found.workArea = workAreaOf(areaNumbers, answer(x, current));
+  const auto window = answer(x, active);
+  if (!window.empty() && window.front() != XCB_NONE) found.activeWindow = window.front();
+  return found;
+}
+
+std::optional<Point> centreOf(const QtConnection& x, xcb_window_t window) {
+  const auto translated = xcb_translate_coordinates(x.connection, window, x.root, 0, 0);
+  const auto geometry = geometryOf(x, window);
   const Owned<xcb_translate_coordinates_reply_t> origin(
       xcb_translate_coordinates_reply(x.connection, translated, nullptr));
   if (!geometry || !origin) return std::nullopt;
