@@ -95,6 +95,8 @@ class Layouts(DesktopTest):
             replaced = self.tessarin.log.count("[TextReplacer]")
             self.play(["a:smi"])
             wait_for(self.typist.popup, what="the popup")
+            # Programs read a key by the layout of the time when they come to it.
+            wait_for(editor.is_at_rest, what="the letters to have been read")
             with self.layout("us", "dvorak"):
                 self.play(["le\nb ", EXPANSIONS])
                 wait_for(lambda: self.tessarin.log.count("[TextReplacer]") == replaced + 4, what="the insertions")

@@ -29,7 +29,7 @@ class Editor:
         self._child = self.session.start(*self.command, self.path)
         self._window = wait_for(lambda: self._new_active_window(before), 30, f"the window of {self.command[0]}")
         self._wait_until_it_takes_keys()
-        wait_for(self._has_come_to_rest, 30, f"{self.command[0]} to come to rest")
+        wait_for(self.is_at_rest, 30, f"{self.command[0]} to come to rest")
         return self
 
     def __exit__(self, *_):
@@ -45,8 +45,8 @@ class Editor:
         wait_for(self._probe_arrived, 30, f"{self.command[0]} to take keys")
         self.typist.press("End", "Control_L")  # a first save can move the caret
 
-    def _has_come_to_rest(self, seconds=0.2):
-        """Whether starting up is over: a program that still works moves its focus about."""
+    def is_at_rest(self, seconds=0.2):
+        """Whether it has done all it was told: a program that still works moves its focus about."""
         before = self._clock_ticks()
         time.sleep(seconds)
         return self._clock_ticks() - before <= 2
