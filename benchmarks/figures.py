@@ -65,7 +65,8 @@ def library_benchmarks():
 
 
 class PopupWatch:
-    """Waits for the popup's window to be drawn into, by damage reports of the X server."""
+    """Waits until the popup's window shows its picture: its header is looked at after each damage report of the X
+    server. Mapping reports damage too, before anything is drawn."""
 
     def __init__(self, session, typist):
         self.display = display.Display(session.env["DISPLAY"])
@@ -75,19 +76,18 @@ class PopupWatch:
         self.display.sync()
         self._typist = typist
         self._watched = None
+        self._picture = None
 
     def wait(self, seconds=2.0):
-        """Time at which the popup is mapped and has been drawn; needs the window to have been seen once."""
+        """Time at which the popup shows the picture that it showed when it was adopted."""
         deadline = time.monotonic() + seconds
-        mapped = drawn = False
+        mapped = False
         while time.monotonic() < deadline:
             while self.display.pending_events():
                 event = self.display.next_event()
-                if event.type == X.MapNotify and event.window.id == self._watched:
+                if event.type == X.MapNotify and event.window.id == self._watched.id:
                     mapped = True
-                elif event.type == self.display.extension_event.DamageNotify and mapped:
-                    drawn = True
-                if mapped and drawn:
+                elif event.type == self.display.extension_event.DamageNotify and mapped and self._header() == self._picture:
                     return time.monotonic()
             select.select([self.display.fileno()], [], [], deadline - time.monotonic())
         return None
@@ -98,11 +98,16 @@ class PopupWatch:
             attributes = child.get_attributes()
             name = child.get_wm_class()
             if attributes.override_redirect and attributes.map_state == X.IsViewable and name and "tessarin" in name[1].lower():
-                self._watched = child.id
+                self._watched = child
+                time.sleep(0.3)
+                self._picture = self._header()
                 child.damage_create(damage.DamageReportRawRectangles)
                 self.display.sync()
                 return
         raise RuntimeError("no popup to watch")
+
+    def _header(self):
+        return self._watched.get_image(16, 4, 288, 20, X.ZPixmap, 0xFFFFFFFF).data
 
     def clear(self):
         self.display.sync()
