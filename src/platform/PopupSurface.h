@@ -12,6 +12,9 @@ class PopupSurface {
  public:
   virtual ~PopupSurface() = default;
 
+  /// Called before the caret is looked for: while the application is still busy with the key, the picture can
+  /// be painted.
+  virtual void prepare(const PopupContent& content) = 0;
   /// `frame` in screen coordinates, points.
   virtual void show(const PopupContent& content, const Rect& frame) = 0;
   virtual void hide() = 0;

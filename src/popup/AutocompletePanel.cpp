@@ -42,7 +42,10 @@ void AutocompletePanel::onVariantClicked(std::function<void(int index)> callback
 
 void AutocompletePanel::showPresented() {
   if (!isSameListAsShown()) {
-    showNearCaret(locator_.caretRect());
+    // The application, which the caret is asked of, is busy with the key meanwhile.
+    surface_.prepare(presented_);
+    const ScreenLayout layout = ScreenLayout::read(screens_);
+    place(locator_.caretRect(layout), layout);
     return;
   }
   shown_->content = presented_;
@@ -50,13 +53,18 @@ void AutocompletePanel::showPresented() {
 }
 
 void AutocompletePanel::showNearCaret(const std::optional<Rect>& caret) {
+  place(caret, ScreenLayout::read(screens_));
+}
+
+void AutocompletePanel::place(const std::optional<Rect>& caret, const ScreenLayout& layout) {
   if (presented_.rows.empty()) {
     hide();
     return;
   }
   isVisible_ = true;
-  const Rect frame = popupFrame(static_cast<int>(presented_.rows.size()), caret, ScreenLayout::read(screens_),
-                                screens_.mouseLocation());
+  const bool isAtCaret = caret && *caret != Rect{};
+  const Point mouse = isAtCaret ? Point{} : screens_.mouseLocation();
+  const Rect frame = popupFrame(static_cast<int>(presented_.rows.size()), caret, layout, mouse);
   shown_ = Shown{presented_, frame};
   surface_.show(presented_, frame);
 }

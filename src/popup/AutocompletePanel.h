@@ -39,6 +39,7 @@ class AutocompletePanel final : public PopupPresenter {
     Rect frame;
   };
   void showPresented();
+  void place(const std::optional<Rect>& caret, const ScreenLayout& layout);
   bool isSameListAsShown() const;
 
   PopupSurface& surface_;

@@ -33,7 +33,7 @@ bool isCredible(const Rect& rect, const ScreenLayout& layout) {
 
 }  // namespace
 
-std::optional<Rect> CaretLocator::caretRect() {
+std::optional<Rect> CaretLocator::caretRect(const ScreenLayout& layout) {
   if (!accessibility_.isTrusted()) return std::nullopt;
   accessibility_.beginBudget(locatingBudget);
   const auto application =
@@ -42,49 +42,46 @@ std::optional<Rect> CaretLocator::caretRect() {
   const auto element = readAttribute<ElementRef>(accessibility_, *application, attribute::focusedElement);
   if (!element) return std::nullopt;
 
-  if (const auto rect = selectionBounds(*element)) return rect;
-  if (const auto rect = elementPointerRect(*element)) return rect;
-  return windowPointerRect(*application);
+  if (const auto rect = selectionBounds(*element, layout)) return rect;
+  if (const auto rect = elementPointerRect(*element, layout)) return rect;
+  return windowPointerRect(*application, layout);
 }
 
-std::optional<Rect> CaretLocator::selectionBounds(const ElementRef& element) {
+std::optional<Rect> CaretLocator::selectionBounds(const ElementRef& element, const ScreenLayout& layout) {
   const auto range = readAttribute<TextRange>(accessibility_, element, attribute::selectedTextRange);
   if (!range) return std::nullopt;
   const auto bounds = accessibility_.parameterizedAttribute(element, attribute::boundsForRange, *range);
   const Rect* rect = bounds ? std::get_if<Rect>(&*bounds) : nullptr;
   if (!rect) return std::nullopt;
 
-  const ScreenLayout layout = ScreenLayout::read(screens_);
   const Rect onScreen = layout.toScreenCoordinates(*rect);
   return isCredible(onScreen, layout) ? std::optional(onScreen) : std::nullopt;
 }
 
-std::optional<Rect> CaretLocator::elementPointerRect(const ElementRef& element) {
-  return pointerRectWithin(element, {0, 0, 20, 20});
+std::optional<Rect> CaretLocator::elementPointerRect(const ElementRef& element, const ScreenLayout& layout) {
+  return pointerRectWithin(element, {0, 0, 20, 20}, layout);
 }
 
-std::optional<Rect> CaretLocator::windowPointerRect(const ElementRef& application) {
+std::optional<Rect> CaretLocator::windowPointerRect(const ElementRef& application,
+                                                    const ScreenLayout& layout) {
   const auto window = readAttribute<ElementRef>(accessibility_, application, attribute::focusedWindow);
-  return window ? pointerRectWithin(*window, {20, 40, 20, 40}) : std::nullopt;
+  return window ? pointerRectWithin(*window, {20, 40, 20, 40}, layout) : std::nullopt;
 }
 
-std::optional<Rect> CaretLocator::pointerRectWithin(const ElementRef& element, const Insets& insets) {
+std::optional<Rect> CaretLocator::pointerRectWithin(const ElementRef& element, const Insets& insets,
+                                                    const ScreenLayout& layout) {
   const auto origin = readAttribute<Point>(accessibility_, element, attribute::position);
   const auto size = readAttribute<Size>(accessibility_, element, attribute::size);
   if (!origin || !size) return std::nullopt;
 
   const Point mouse = screens_.mouseLocation();
-  const double mouseDown = ScreenLayout::read(screens_).primaryHeight() - mouse.y;
+  const double mouseDown = layout.primaryHeight() - mouse.y;
   // The right and bottom insets come last: they win when the element is smaller than both.
   const double x =
       std::min(origin->x + size->width - insets.right, std::max(mouse.x, origin->x + insets.left));
   const double y =
       std::min(origin->y + size->height - insets.bottom, std::max(mouseDown, origin->y + insets.top));
-  return toScreenCoordinates({x, y, syntheticCaret.width, syntheticCaret.height});
-}
-
-Rect CaretLocator::toScreenCoordinates(const Rect& rect) {
-  return ScreenLayout::read(screens_).toScreenCoordinates(rect);
+  return layout.toScreenCoordinates({x, y, syntheticCaret.width, syntheticCaret.height});
 }
 
 }  // namespace tessarin

@@ -19,23 +19,21 @@ class CaretLocator {
 
   /// The caret, or else a place near the pointer within the focused element or the focused window. Takes
   /// 50 ms at most.
-  std::optional<Rect> caretRect();
+  std::optional<Rect> caretRect(const ScreenLayout& layout);
 
   /// What the element itself says of its selection, if that can be true.
-  std::optional<Rect> selectionBounds(const ElementRef& element);
+  std::optional<Rect> selectionBounds(const ElementRef& element, const ScreenLayout& layout);
   /// The pointer, moved into the element.
-  std::optional<Rect> elementPointerRect(const ElementRef& element);
+  std::optional<Rect> elementPointerRect(const ElementRef& element, const ScreenLayout& layout);
   /// The pointer, moved well into the application's focused window.
-  std::optional<Rect> windowPointerRect(const ElementRef& application);
-
-  /// From accessibility to screen coordinates.
-  Rect toScreenCoordinates(const Rect& rect);
+  std::optional<Rect> windowPointerRect(const ElementRef& application, const ScreenLayout& layout);
 
  private:
   struct Insets {
     double left, top, right, bottom;
   };
-  std::optional<Rect> pointerRectWithin(const ElementRef& element, const Insets& insets);
+  std::optional<Rect> pointerRectWithin(const ElementRef& element, const Insets& insets,
+                                        const ScreenLayout& layout);
 
   Accessibility& accessibility_;
   Screens& screens_;

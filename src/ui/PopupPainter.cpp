@@ -27,10 +27,15 @@ double pixelRatioOf(const QPainter& painter) {
 /// Draws one line, vertically centred, from x on, and answers where it ended.
 double drawLeft(QPainter& painter, const QRectF& band, double x, double maxWidth, const QString& text) {
   const QFontMetricsF metrics(painter.font());
-  const QString shown = metrics.elidedText(text, Qt::ElideRight, maxWidth);
+  QString shown = text;
+  double width = metrics.horizontalAdvance(shown);
+  if (width > maxWidth) {
+    shown = metrics.elidedText(text, Qt::ElideRight, maxWidth);
+    width = metrics.horizontalAdvance(shown);
+  }
   painter.drawText(QRectF(x, band.top(), maxWidth, band.height()),
                    Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine, shown);
-  return x + std::min(maxWidth, std::ceil(metrics.horizontalAdvance(shown)));
+  return x + std::min(maxWidth, std::ceil(width));
 }
 
 /// Draws one line that ends at `right`, and answers where it began.

@@ -18,6 +18,7 @@ struct PopupView {
   double scroll = 0;              ///< of the list, in points
   std::optional<int> hoveredRow;  ///< the row under the pointer
   bool isTranslucent = false;     ///< what lies behind may shine through; else the card is opaque
+  bool operator==(const PopupView&) const = default;
 };
 
 /// Paints the popup into any painter, in points from the painter's origin.
@@ -25,6 +26,8 @@ class PopupPainter {
  public:
   explicit PopupPainter(const QPalette& palette) : theme_(palette) {}
   void setPalette(const QPalette& palette) { theme_ = PopupTheme(palette); }
+  /// The card's colour, opaque: what lies behind the card's edge where nothing blends it with the screen.
+  QColor ground() const { return theme_.card; }
   /// Gives back memory while nothing is shown.
   void rest() { glyphs_.rest(); }
 

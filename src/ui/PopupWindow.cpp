@@ -1,7 +1,6 @@
 #include "ui/PopupWindow.h"
 
 #include <QEasingCurve>
-#include <QImage>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
@@ -44,11 +43,29 @@ void PopupWindow::warmUp() {
   if (isVisible()) return;
   const PopupContent content{
       ":", "a", {{"", "😀", "a", "a", true}, {"", "👍🏽", "a", "a", true}}, 0, false, {}, 0, {{"↵", "a"}}};
-  QImage image(PopupLayout::sizeFor(2).toSize(), QImage::Format_ARGB32_Premultiplied);
-  image.setDevicePixelRatio(devicePixelRatioF());
-  QPainter painter(&image);
-  painter_.paint(painter, content, PopupLayout(content, PopupLayout::sizeFor(2)), {});
+  paint(content, PopupLayout(content, PopupLayout::sizeFor(2)), {});
   painter_.rest();
+}
+
+QImage PopupWindow::paint(const PopupContent& content, const PopupLayout& layout, const PopupView& view) {
+  const double ratio = devicePixelRatioF();
+  QImage image((layout.size() * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+  image.setDevicePixelRatio(ratio);
+  image.fill(view.isTranslucent ? Qt::transparent : painter_.ground());
+  QPainter painter(&image);
+  painter_.paint(painter, content, layout, view);
+  return image;
+}
+
+void PopupWindow::prepare(const PopupContent& content) {
+  const PopupLayout layout(content, PopupLayout::sizeFor(static_cast<int>(content.rows.size())));
+  const PopupView view{layout.scrollCentring(content.selectedIndex), {}, isTranslucent_};
+  picture_ = Picture{content, view, paint(content, layout, view)};
+}
+
+bool PopupWindow::isPainted() const {
+  return picture_ && picture_->content == content_ && picture_->view == view() &&
+         picture_->image.size() == (layout_.size() * devicePixelRatioF()).toSize();
 }
 
 void PopupWindow::show(const PopupContent& content, const Rect& frame) {
@@ -65,6 +82,7 @@ void PopupWindow::hide() {
   hoveredRow_.reset();
   pressed_ = {};
   content_ = {};
+  picture_.reset();
   painter_.rest();
   isUntold_ = false;
   tellAssistants();
@@ -105,6 +123,7 @@ void PopupWindow::showAt(const Rect& frame) {
   if (isVisible()) return;
   setVisible(true);
   native.setGeometry(pixels);  // showing has put Qt's rounded place back
+  if (isPainted()) native.draw(picture_->image);
 }
 
 void PopupWindow::setScroll(double scroll) {
@@ -122,7 +141,7 @@ PopupWindow::Target PopupWindow::targetAt(QPointF point) const {
 
 void PopupWindow::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter_.paint(painter, content_, layout_, {scroll_, hoveredRow_, isTranslucent_});
+  painter.drawImage(0, 0, isPainted() ? picture_->image : paint(content_, layout_, view()));
   if (std::exchange(isUntold_, false)) tellAssistants();
 }
 
@@ -170,7 +189,10 @@ void PopupWindow::wheelEvent(QWheelEvent* event) {
 
 void PopupWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange) painter_.setPalette(palette());
+  if (event->type() == QEvent::PaletteChange) {
+    picture_.reset();
+    painter_.setPalette(palette());
+  }
 }
 
 }  // namespace tessarin::ui

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QVariantAnimation>
 #include <QWidget>
 #include <cstdint>
@@ -21,6 +22,7 @@ class PopupWindow final : public QWidget, public PopupSurface {
   using Space = std::function<CoordinateSpace()>;
   explicit PopupWindow(Space space);
 
+  void prepare(const PopupContent& content) override;
   void show(const PopupContent& content, const Rect& frame) override;
   void hide() override;
   void onRowClicked(std::function<void(int index)> callback) override { rowClicked_ = std::move(callback); }
@@ -52,6 +54,15 @@ class PopupWindow final : public QWidget, public PopupSurface {
     std::optional<int> variant;
     bool operator==(const Target&) const = default;
   };
+  /// Painted ahead, of use as long as that is what the window shows.
+  struct Picture {
+    PopupContent content;
+    PopupView view;
+    QImage image;
+  };
+  PopupView view() const { return {scroll_, hoveredRow_, isTranslucent_}; }
+  QImage paint(const PopupContent& content, const PopupLayout& layout, const PopupView& view);
+  bool isPainted() const;
   Target targetAt(QPointF point) const;
   /// Opens the fonts once, so that the first popup is as quick as the others.
   void warmUp();
@@ -64,6 +75,7 @@ class PopupWindow final : public QWidget, public PopupSurface {
 
   Space space_;
   PopupPainter painter_;
+  std::optional<Picture> picture_;
   PopupContent content_;
   PopupLayout layout_;
   std::optional<Rect> frame_;  ///< as shown, screen coordinates

@@ -53,6 +53,7 @@ TEST_F(AutocompletePanelTest, answersTheKeyBeforeItAsksForTheCaret) {
   EXPECT_TRUE(surface.shows.empty());
   queue.runReady();
   ASSERT_EQ(surface.shows.size(), 1U);
+  EXPECT_EQ(surface.prepared, contentOf("s", 2));
   EXPECT_EQ(surface.shows[0].frame, (Rect{300, 1080 - 116 - 136 - 4, 320, 136}));
 }
 

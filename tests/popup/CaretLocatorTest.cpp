@@ -34,6 +34,8 @@ class CaretLocatorTest : public ::testing::Test {
     element.attributes[std::string(attribute::size)] = size;
   }
 
+  ScreenLayout layout() { return ScreenLayout::read(screens); }
+
   testing::FakeAccessibility accessibility;
   testing::FakeScreens screens;
   std::shared_ptr<FakeElement> element = std::make_shared<FakeElement>();
@@ -44,30 +46,30 @@ class CaretLocatorTest : public ::testing::Test {
 };
 
 TEST_F(CaretLocatorTest, asksTheElementFirst) {
-  EXPECT_EQ(locator.caretRect(), (Rect{300, 684, 1, 16}));
+  EXPECT_EQ(locator.caretRect(layout()), (Rect{300, 684, 1, 16}));
   EXPECT_EQ(askedFor, (TextRange{7, 0}));
 }
 
 TEST_F(CaretLocatorTest, knowsNothingWithoutTrust) {
   accessibility.trusted = false;
-  EXPECT_EQ(locator.caretRect(), std::nullopt);
+  EXPECT_EQ(locator.caretRect(layout()), std::nullopt);
   EXPECT_EQ(accessibility.calls, 0);
 }
 
 TEST_F(CaretLocatorTest, givesUpWithinItsBudget) {
   accessibility.callDuration = milliseconds(20);
-  EXPECT_EQ(locator.caretRect(), std::nullopt);
+  EXPECT_EQ(locator.caretRect(layout()), std::nullopt);
   EXPECT_LE(accessibility.elapsed(), milliseconds(50));
 }
 
 TEST_F(CaretLocatorTest, fallsBackFromElementToWindowToNothing) {
   screens.mouse = {600, 500};
   bounds = std::nullopt;
-  EXPECT_EQ(locator.caretRect(), (Rect{480, 484, 1, 16})) << "within the element";
+  EXPECT_EQ(locator.caretRect(layout()), (Rect{480, 484, 1, 16})) << "within the element";
   element->failing.insert(std::string(attribute::size));
-  EXPECT_EQ(locator.caretRect(), (Rect{600, 484, 1, 16})) << "within the window";
+  EXPECT_EQ(locator.caretRect(layout()), (Rect{600, 484, 1, 16})) << "within the window";
   window->failing.insert(std::string(attribute::position));
-  EXPECT_EQ(locator.caretRect(), std::nullopt);
+  EXPECT_EQ(locator.caretRect(layout()), std::nullopt);
 }
 
 TEST_F(CaretLocatorTest, believesBoundsThatCanBeTrue) {
@@ -76,14 +78,14 @@ TEST_F(CaretLocatorTest, believesBoundsThatCanBeTrue) {
       {300, 100, 1, 16}, {300, 100, 0, 0}, {0, 100, 1000, 30}, {-5, 790, 10, 20}, {1500, 100, 1, 16}};
   for (const Rect& rect : believed) {
     bounds = rect;
-    EXPECT_TRUE(locator.selectionBounds(element)) << rect.x << " " << rect.y;
+    EXPECT_TRUE(locator.selectionBounds(element, layout())) << rect.x << " " << rect.y;
   }
   const Rect impossible[] = {{0, 0, 0, 0},          {-1, -1, -1, -1},        {300, 100, -4, 16},
                              {300, 100, 21845, 16}, {300, 100, 1, 32767},    {-1.9e9, 22000, 1, 16},
                              {-20, 100, 10, 16},    {std::nan(""), 1, 1, 1}, {1, infinity, 1, 1}};
   for (const Rect& rect : impossible) {
     bounds = rect;
-    EXPECT_FALSE(locator.selectionBounds(element)) << rect.x << " " << rect.y << " " << rect.width;
+    EXPECT_FALSE(locator.selectionBounds(element, layout())) << rect.x << " " << rect.y << " " << rect.width;
   }
 }
 
@@ -98,15 +100,15 @@ TEST_F(CaretLocatorTest, keepsThePointerInside) {
   const auto at = [](Point p) { return Rect{p.x, 800 - p.y - 16, 1, 16}; };
   for (const auto& [mouse, inElement, inWindow] : cases) {
     screens.mouse = mouse;
-    EXPECT_EQ(locator.elementPointerRect(element), at(inElement));
-    EXPECT_EQ(locator.windowPointerRect(accessibility.application), at(inWindow));
+    EXPECT_EQ(locator.elementPointerRect(element, layout()), at(inElement));
+    EXPECT_EQ(locator.windowPointerRect(accessibility.application, layout()), at(inWindow));
   }
 }
 
 TEST_F(CaretLocatorTest, insetsOfTheFarEdgesWinInATinyElement) {
   place(*element, {100, 200}, {10, 10});
   screens.mouse = {300, 300};
-  EXPECT_EQ(locator.elementPointerRect(element), (Rect{90, 800 - 190 - 16, 1, 16}));
+  EXPECT_EQ(locator.elementPointerRect(element, layout()), (Rect{90, 800 - 190 - 16, 1, 16}));
 }
 
 }  // namespace

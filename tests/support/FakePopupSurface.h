@@ -16,6 +16,7 @@ class FakePopupSurface final : public PopupSurface {
     Rect frame;
   };
 
+  void prepare(const PopupContent& content) override { prepared = content; }
   void show(const PopupContent& content, const Rect& frame) override {
     shows.push_back({content, frame});
     isShown = true;
@@ -27,6 +28,7 @@ class FakePopupSurface final : public PopupSurface {
   void onRowClicked(std::function<void(int)> callback) override { clickRow = std::move(callback); }
   void onVariantClicked(std::function<void(int)> callback) override { clickVariant = std::move(callback); }
 
+  PopupContent prepared;
   std::vector<Shown> shows;
   int hides = 0;
   bool isShown = false;

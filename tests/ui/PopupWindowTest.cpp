@@ -79,6 +79,23 @@ TEST_F(PopupWindowTest, GlidesToTheSelectedRowButOpensThere) {
   EXPECT_TRUE(becomes([this] { return window.scroll() == 0; }));
 }
 
+TEST_F(PopupWindowTest, PaintedAheadShowsTheSame) {
+  const auto picture = [this] { return window.grab().toImage(); };
+  const PopupContent before = popupWithRows(3, 1);
+  const PopupContent after = popupWithRows(3, 2);
+  show(before);
+  const QImage first = picture();
+  show(after);
+  const QImage second = picture();
+  ASSERT_NE(first, second);
+  window.prepare(before);
+  EXPECT_EQ(picture(), second) << "not shown yet";
+  show(before);
+  EXPECT_EQ(picture(), first);
+  show(after);
+  EXPECT_EQ(picture(), second) << "something else was shown than was painted";
+}
+
 TEST_F(PopupWindowTest, ThePointerTintsTheRowBelowIt) {
   show(popupWithRows(3));
   const QPoint spot(7, static_cast<int>(layout.row(1, 0).center().y()));

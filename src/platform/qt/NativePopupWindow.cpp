@@ -3,10 +3,13 @@
 #include <xcb/shape.h>
 
 #include <QGuiApplication>
+#include <QImage>
 #include <QScreen>
 #include <QWidget>
+#include <QWindow>
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <memory>
 #include <string>
@@ -98,6 +101,28 @@ void NativePopupWindow::setRounded(bool isRounded, double radius) const {
                                   static_cast<int>(std::lround(window_.height() * ratio)), radius);
   xcb_shape_rectangles(x->connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, XCB_CLIP_ORDERING_YX_BANDED,
                        window, 0, 0, static_cast<std::uint32_t>(shape.size()), shape.data());
+}
+
+void NativePopupWindow::draw(const QImage& picture) const {
+  const auto x = qtConnection();
+  if (!x || xcb_get_setup(x->connection)->image_byte_order != XCB_IMAGE_ORDER_LSB_FIRST) return;
+  const auto window = static_cast<xcb_window_t>(window_.winId());
+  const bool hasAlpha = window_.windowHandle()->format().alphaBufferSize() > 0;
+  const auto bytesPerLine = static_cast<std::uint32_t>(picture.bytesPerLine());
+  constexpr std::uint32_t requestBytes = 32;
+  const std::uint32_t mostBytes = 4 * xcb_get_maximum_request_length(x->connection) - requestBytes;
+  const int mostLines = static_cast<int>(mostBytes / bytesPerLine);
+  const xcb_gcontext_t context = xcb_generate_id(x->connection);
+  xcb_create_gc(x->connection, context, window, 0, nullptr);
+  for (int y = 0; y < picture.height(); y += mostLines) {
+    const int lines = std::min(mostLines, picture.height() - y);
+    xcb_put_image(x->connection, XCB_IMAGE_FORMAT_Z_PIXMAP, window, context,
+                  static_cast<std::uint16_t>(picture.width()), static_cast<std::uint16_t>(lines), 0,
+                  static_cast<std::int16_t>(y), 0, hasAlpha ? 32 : 24,
+                  static_cast<std::uint32_t>(lines) * bytesPerLine, picture.constScanLine(y));
+  }
+  xcb_free_gc(x->connection, context);
+  xcb_flush(x->connection);
 }
 
 }  // namespace tessarin::ui

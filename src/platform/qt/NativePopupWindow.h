@@ -2,6 +2,7 @@
 
 #include "base/Geometry.h"
 
+class QImage;
 class QWidget;
 
 namespace tessarin::ui {
@@ -20,6 +21,9 @@ class NativePopupWindow {
   void setGeometry(const Rect& pixels) const;
   /// Cuts the corners off, or undoes it. `radius` in native pixels.
   void setRounded(bool isRounded, double radius) const;
+  /// Puts the picture, in native pixels, into the shown window at once, instead of when Qt has heard from the
+  /// server that it may.
+  void draw(const QImage& picture) const;
 
  private:
   QWidget& window_;
