@@ -15,9 +15,10 @@ from typist import Typist
 
 class ApplicationTest(unittest.TestCase):
     preferences = {}
+    window_manager = ("openbox", "--sm-disable")
 
     def setUp(self):
-        self.session = self.enterContext(Session())
+        self.session = self.enterContext(Session(window_manager=self.window_manager))
         self.preferences_path = pathlib.Path(self.session.env["XDG_CONFIG_HOME"]) / "tessarin/preferences.json"
         self.preferences_path.parent.mkdir(parents=True)
         self.preferences_path.write_text(json.dumps(self.preferences))
@@ -87,6 +88,24 @@ class FirstRun(ApplicationTest):
         for _ in range(2):
             self.typist.press("Tab", "Control_L")
         self.wait_until_heard("Usage Statistics", ":tada:", ":smile:")
+
+
+class FocusIsGuarded(ApplicationTest):
+    """Under a window manager that lets no program take the focus from where the user types."""
+
+    preferences = {"hasCompletedOnboarding": True}
+    window_manager = ("metacity",)
+
+    def test_a_second_start_brings_up_the_settings_all_the_same(self):
+        with Mousepad(self.session, self.typist):
+            editor = self.typist.active_window()
+            for _ in range(2):
+                self.typist.type("a")
+                self.tessarin.command()
+                wait_for(lambda: getattr(self.typist.titled("Tessarin Settings"), "id", None) == self.typist.active_window(),
+                         what="the settings to be in front")
+                self.session.run("xdotool", "windowactivate", str(editor))
+                wait_for(lambda: self.typist.active_window() == editor, what="the editor to be back")
 
 
 class SecondStart(ApplicationTest):

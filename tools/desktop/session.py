@@ -29,8 +29,9 @@ def wait_for(condition, seconds=10.0, what="a condition"):
 class Session:
     """Everything it starts, it ends, by process id; everything it writes goes with its folder."""
 
-    def __init__(self, screen="1280x800x24", scale=1.0):
+    def __init__(self, screen="1280x800x24", scale=1.0, window_manager=("openbox", "--sm-disable")):
         self._screen = screen
+        self._window_manager = window_manager
         self._scale = scale
         self._children = []
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tessarin-desktop-"))
@@ -129,7 +130,7 @@ class Session:
                  what="the accessibility bus")
 
     def _start_window_manager(self):
-        self.start("openbox", "--sm-disable")
+        self.start(*self._window_manager)
         wait_for(lambda: b"window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK", check=False).stdout,
                  what="the window manager")
 

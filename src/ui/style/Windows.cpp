@@ -5,6 +5,8 @@
 #include <QScreen>
 #include <QWidget>
 
+#include "platform/qt/WindowActivation.h"
+
 namespace tessarin::ui {
 
 void centreOnScreen(QWidget& window) {
@@ -21,6 +23,7 @@ void bringToFront(QWidget& window) {
   window.show();
   window.raise();
   window.activateWindow();
+  requestActivation(window);
 }
 
 }  // namespace tessarin::ui
