@@ -104,7 +104,7 @@ atspi::AtspiAccessibility::Options Desktop::accessibilityOptions() {
   options.coordinateSpace = [this] { return screens_.space(); };
   options.activeProcess = [this] { return activeWindow_.process(); };
   options.isInBackground = [this](std::uint32_t process) { return activeWindow_.isInBackground(process); };
-  options.activeWindowOrigin = [this] { return activeWindow_.origin(); };
+  options.activeWindowFrame = [this] { return activeWindow_.frame(); };
   return options;
 }
 

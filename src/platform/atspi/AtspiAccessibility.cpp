@@ -5,6 +5,7 @@
 
 #include "platform/atspi/Messages.h"
 #include "platform/atspi/Roles.h"
+#include "platform/atspi/WindowScale.h"
 
 namespace tessarin::atspi {
 namespace {
@@ -134,15 +135,15 @@ AtspiAccessibility::Value AtspiAccessibility::ofApplication(const AtspiElement& 
   if (name == attribute::focusedElement) return hasElement ? atspi::element(focus.element) : std::nullopt;
   if (name != attribute::focusedWindow) return std::nullopt;
   if (focus.window && focus.window->bus == bus) return atspi::element(focus.window);
-  return hasElement ? windowOf(*focus.element) : std::nullopt;
+  return hasElement ? atspi::element(windowOf(*focus.element)) : std::nullopt;
 }
 
-AtspiAccessibility::Value AtspiAccessibility::windowOf(ObjectReference object) {
+std::optional<ObjectReference> AtspiAccessibility::windowOf(ObjectReference object) {
   for (int step = 0; step < farthestWindow; ++step) {
     RemoteObject remote(channel_, object);
     const auto role = remote.role();
     if (!role) return std::nullopt;
-    if (isWindow(*role)) return atspi::element(object);
+    if (isWindow(*role)) return object;
     auto parent = remote.parent();
     if (!parent) return std::nullopt;
     object = *std::move(parent);
@@ -165,15 +166,20 @@ AtspiAccessibility::Value AtspiAccessibility::ofObject(const ObjectReference& ob
   return Size{rect->width, rect->height};
 }
 
-AtspiAccessibility::Value AtspiAccessibility::kinship(const ObjectReference& object, std::string_view name) {
+AtspiAccessibility::Kin& AtspiAccessibility::kin() {
   const auto focused = focus().element;
-  if (kin_.of != focused) kin_ = {focused, {}};
+  if (kin_.of != focused) kin_ = {focused, {}, {}};
+  return kin_;
+}
+
+AtspiAccessibility::Value AtspiAccessibility::kinship(const ObjectReference& object, std::string_view name) {
+  auto& [focused, known, scale] = kin();
   auto key = std::pair(object, std::string(name));
-  if (const auto found = kin_.known.find(key); found != kin_.known.end()) return found->second;
+  if (const auto found = known.find(key); found != known.end()) return found->second;
   const bool isRole = name == attribute::role;
   Value value = isRole ? role(object) : atspi::element(RemoteObject(channel_, object).parent());
   // The focused element's own role changes with its states: a password may be shown and hidden.
-  if (value && focused && !(isRole && object == focused)) kin_.known.emplace(std::move(key), *value);
+  if (value && focused && !(isRole && object == focused)) known.emplace(std::move(key), *value);
   return value;
 }
 
@@ -217,22 +223,36 @@ std::optional<RemoteText> AtspiAccessibility::textOf(const ObjectReference& obje
   return std::optional<RemoteText>(std::in_place, channel_, object, *counts);
 }
 
-std::optional<Rect> AtspiAccessibility::toPoints(const Rect& pixels, bool isWindowRelative) {
-  Rect onScreen = pixels;
+std::optional<Rect> AtspiAccessibility::toPoints(const Rect& units, const ObjectReference& object,
+                                                 bool isWindowRelative) {
+  std::optional<Rect> frame;
+  if ((isWindowRelative || !kin().scale) && options_.activeWindowFrame) frame = options_.activeWindowFrame();
+  if (isWindowRelative && !frame) return std::nullopt;
+  const double scale = frame ? scaleOf(object, *frame, isWindowRelative) : kin().scale.value_or(1);
+  Rect onScreen{units.x * scale, units.y * scale, units.width * scale, units.height * scale};
   if (isWindowRelative) {
-    const auto origin = options_.activeWindowOrigin ? options_.activeWindowOrigin() : std::nullopt;
-    if (!origin) return std::nullopt;
-    onScreen.x += origin->x;
-    onScreen.y += origin->y;
+    onScreen.x += frame->x;
+    onScreen.y += frame->y;
   }
   return options_.coordinateSpace ? options_.coordinateSpace().toPoints(onScreen) : onScreen;
+}
+
+double AtspiAccessibility::scaleOf(const ObjectReference& object, const Rect& frame, bool isWindowRelative) {
+  if (const auto known = kin().scale) return *known;
+  const auto active = focus().window;
+  const auto window = active && active->bus == object.bus ? active : windowOf(object);
+  const auto extents = window ? RemoteObject(channel_, *window).extents(isWindowRelative) : std::nullopt;
+  if (!extents) return 1;
+  const double scale = pixelsPerUnit({frame.width, frame.height}, {extents->width, extents->height});
+  if (kin().of) kin_.scale = scale;
+  return scale;
 }
 
 std::optional<Rect> AtspiAccessibility::extents(const ObjectReference& object) {
   const auto counts = toolkit(object.bus);
   if (!counts) return std::nullopt;
-  const auto pixels = RemoteObject(channel_, object).extents(counts->isWindowRelative);
-  return pixels ? toPoints(*pixels, counts->isWindowRelative) : std::nullopt;
+  const auto units = RemoteObject(channel_, object).extents(counts->isWindowRelative);
+  return units ? toPoints(*units, object, counts->isWindowRelative) : std::nullopt;
 }
 
 std::optional<AttributeValue> AtspiAccessibility::parameterizedAttribute(const ElementRef& element,
@@ -249,8 +269,9 @@ std::optional<AttributeValue> AtspiAccessibility::parameterizedAttribute(const E
     auto string = text->string(*range);
     return string ? Value(*std::move(string)) : std::nullopt;
   }
-  const auto pixels = text->caretBounds(*range);
-  const auto points = pixels ? toPoints(*pixels, text->toolkit().isWindowRelative) : std::nullopt;
+  const auto units = text->caretBounds(*range);
+  const auto points =
+      units ? toPoints(*units, asked->object(), text->toolkit().isWindowRelative) : std::nullopt;
   return points ? Value(*points) : std::nullopt;
 }
 

@@ -31,9 +31,10 @@ class AtspiAccessibility final : public Accessibility {
     std::function<void()> prompt;
     /// Asked at every rectangle, for its scale.
     std::function<CoordinateSpace()> coordinateSpace;
-    /// Top left of the active window's visible frame on the screen, in pixels. Some applications (GTK 4) know
-    /// rectangles relative to their window only; without this they have none.
-    std::function<std::optional<Point>()> activeWindowOrigin;
+    /// The active window's visible frame on the screen, in pixels. Its size tells the scale that an
+    /// application counts with. Some (GTK 4) know rectangles relative to their window only; without this they
+    /// have none.
+    std::function<std::optional<Rect>()> activeWindowFrame;
     /// Process that the active window belongs to, none when that is not known. An application that let the
     /// focus go without another taking it still has it while it is this one.
     std::function<std::optional<std::uint32_t>()> activeProcess;
@@ -81,9 +82,10 @@ class AtspiAccessibility final : public Accessibility {
   Value kinship(const ObjectReference& object, std::string_view name);
   Value role(const ObjectReference& object);
   Value valueOf(const ObjectReference& object);
-  Value windowOf(ObjectReference object);
+  std::optional<ObjectReference> windowOf(ObjectReference object);
   /// None without the origin that window-relative rectangles need.
-  std::optional<Rect> toPoints(const Rect& pixels, bool isWindowRelative);
+  std::optional<Rect> toPoints(const Rect& units, const ObjectReference& object, bool isWindowRelative);
+  double scaleOf(const ObjectReference& object, const Rect& frame, bool isWindowRelative);
   std::optional<Rect> extents(const ObjectReference& object);
   std::optional<Toolkit> toolkit(const std::string& bus);
   std::optional<RemoteText> textOf(const ObjectReference& object);
@@ -96,7 +98,10 @@ class AtspiAccessibility final : public Accessibility {
   struct Kin {
     std::optional<ObjectReference> of;  ///< the focused element
     std::map<std::pair<ObjectReference, std::string>, AttributeValue> known;
+    std::optional<double> scale;  ///< pixels a unit of its window
   };
+  /// As remembered of what has the focus now.
+  Kin& kin();
   Kin kin_;
   struct Selection {
     ObjectReference object;

@@ -1,5 +1,6 @@
 #include "platform/x11/ActiveWindowProbe.h"
 
+#include <algorithm>
 #include <cstring>
 #include <string_view>
 
@@ -32,15 +33,18 @@ ActiveWindowProbe::ActiveWindowProbe(const std::string& display)
   process_ = atom(connection_.get(), "_NET_WM_PID");
 }
 
-std::optional<Point> ActiveWindowProbe::origin() const {
+std::optional<Rect> ActiveWindowProbe::frame() const {
   const auto active = window();
   if (!active) return std::nullopt;
-  const auto cookie = xcb_translate_coordinates(connection_.get(), *active, root_, 0, 0);
-  const Owned<xcb_translate_coordinates_reply_t> reply(
-      xcb_translate_coordinates_reply(connection_.get(), cookie, nullptr));
-  if (!reply) return std::nullopt;
-  const Point inside = shadow(*active);
-  return Point{reply->dst_x + inside.x, reply->dst_y + inside.y};
+  const auto translated = xcb_translate_coordinates(connection_.get(), *active, root_, 0, 0);
+  const auto asked = xcb_get_geometry(connection_.get(), *active);
+  const Owned<xcb_translate_coordinates_reply_t> origin(
+      xcb_translate_coordinates_reply(connection_.get(), translated, nullptr));
+  const Owned<xcb_get_geometry_reply_t> size(xcb_get_geometry_reply(connection_.get(), asked, nullptr));
+  if (!origin || !size) return std::nullopt;
+  const auto [left, right, top, bottom] = shadow(*active);
+  return Rect{origin->dst_x + left, origin->dst_y + top, size->width - left - right,
+              size->height - top - bottom};
 }
 
 std::optional<std::uint32_t> ActiveWindowProbe::process() const {
@@ -85,11 +89,13 @@ std::optional<xcb_window_t> ActiveWindowProbe::window() const {
   return window == XCB_NONE ? std::nullopt : std::optional(window);
 }
 
-Point ActiveWindowProbe::shadow(xcb_window_t window) const {
+std::array<double, 4> ActiveWindowProbe::shadow(xcb_window_t window) const {
   const auto reply = numbers(connection_.get(), window, frameExtents_, 4);
   if (!reply) return {};
   const auto* extents = static_cast<std::uint32_t*>(xcb_get_property_value(reply.get()));
-  return {static_cast<double>(extents[0]), static_cast<double>(extents[2])};
+  std::array<double, 4> widths{};
+  std::copy_n(extents, widths.size(), widths.begin());
+  return widths;
 }
 
 }  // namespace tessarin::x11

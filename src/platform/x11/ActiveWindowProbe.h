@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <memory>
 #include <optional>
 #include <string>
@@ -18,9 +19,9 @@ class ActiveWindowProbe {
   /// window.
   explicit ActiveWindowProbe(const std::string& display = {});
 
-  /// Top left of what is seen of it, in pixels on the screen: a shadow that the application draws around its
-  /// window, and a frame that the window manager draws, are left out.
-  std::optional<Point> origin() const;
+  /// What is seen of it, in pixels on the screen: a shadow that the application draws around its window, and
+  /// a frame that the window manager draws, are left out.
+  std::optional<Rect> frame() const;
   /// The process that it belongs to, as far as it says so.
   std::optional<std::uint32_t> process() const;
   /// Whether the process has windows, as far as these say so, and the active one is another process's.
@@ -30,7 +31,8 @@ class ActiveWindowProbe {
   std::vector<xcb_window_t> windows() const;
 
   std::optional<xcb_window_t> window() const;
-  Point shadow(xcb_window_t window) const;
+  /// Widths at the left, right, top and bottom.
+  std::array<double, 4> shadow(xcb_window_t window) const;
 
   Connection connection_;
   xcb_window_t root_ = XCB_NONE;

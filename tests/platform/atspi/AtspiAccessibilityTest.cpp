@@ -59,6 +59,7 @@ class AtspiAccessibilityTest : public ::testing::Test {
     options.activeProcess = [this] { return activeProcess; };
     options.isInBackground = [this](std::uint32_t process) { return process == processInBackground; };
     options.coordinateSpace = [] { return CoordinateSpace(2, 500); };
+    options.activeWindowFrame = [this] { return windowFrame; };
     options.ownProcess = ownProcess;
     accessibility = std::make_unique<AtspiAccessibility>(queue, options);
   }
@@ -104,6 +105,7 @@ class AtspiAccessibilityTest : public ::testing::Test {
   testing::LogRecorder log;
   ManualMainQueue queue;
   std::optional<std::uint32_t> activeProcess;
+  std::optional<Rect> windowFrame;
   std::optional<std::uint32_t> processInBackground;
   std::unique_ptr<AtspiAccessibility> accessibility;
   std::unique_ptr<FakeApplication> application;
@@ -286,6 +288,29 @@ TEST_F(AtspiAccessibilityTest, findsTheCaretsRectangleInPoints) {
       << "at the start of the next line";
   EXPECT_EQ(read(attribute::position), AttributeValue(Point{15, 20}));
   EXPECT_EQ(read(attribute::size), AttributeValue(Size{150, 100}));
+}
+
+TEST_F(AtspiAccessibilityTest, scalesWhatTheToolkitScales) {
+  struct Case {
+    const char* name;
+    Rect frame;  ///< of the window on the screen, pixels
+    Rect caret;  ///< points: the tests' screen has two pixels a point
+  };
+  const Case cases[] = {
+      {"twice as large as the toolkit says", {200, 100, 800, 600}, {100, 50, 1, 20}},
+      {"half as large again, with a title above", {200, 100, 600, 420}, {75, 37.5, 0.75, 15}},
+      {"the same size", {200, 100, 400, 300}, {50, 25, 0.5, 10}},
+      {"another window", {200, 100, 1000, 300}, {50, 25, 0.5, 10}},
+  };
+  for (const auto& [name, frame, caret] : cases) {
+    SCOPED_TRACE(name);
+    windowFrame = frame;
+    openApplication();
+    application->answer("GetExtents", extents({7, 9, 400, 300}));
+    application->answer("GetCharacterExtents", bounds({100, 50, 12, 20}));
+    EXPECT_EQ(read(attribute::boundsForRange, {3, 0}), AttributeValue(caret));
+    application.reset();
+  }
 }
 
 TEST_F(AtspiAccessibilityTest, saysExactlyWhatAReplacementDid) {

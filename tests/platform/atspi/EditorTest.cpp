@@ -46,7 +46,7 @@ class EditorTest : public ::testing::Test {
     AtspiAccessibility::Options options;
     options.isTrusted = [] { return true; };
     options.coordinateSpace = [] { return CoordinateSpace(1, 1024); };
-    options.activeWindowOrigin = [this] { return windowOrigin; };
+    options.activeWindowFrame = [this] { return windowFrame; };
     options.sessionBusAddress = session.busAddress();
     options.longestCall = longestCall;
     accessibility = std::make_unique<AtspiAccessibility>(queue, options);
@@ -102,7 +102,7 @@ class EditorTest : public ::testing::Test {
   PrivateSession session{display->variable()};
   ManualMainQueue queue;
   std::unique_ptr<AtspiAccessibility> accessibility;
-  std::optional<Point> windowOrigin;
+  std::optional<Rect> windowFrame;
   int files = 0;
 };
 
@@ -166,7 +166,7 @@ TEST_P(EachEditorTest, replacesInTheMiddleByTextOfManyUnits) {
 }
 
 TEST_P(EachEditorTest, tellsWhereTheCaretIs) {
-  if (std::string(GetParam().name) == "gtk4") windowOrigin = Point{0, 0};
+  if (std::string(GetParam().name) == "gtk4") windowFrame = Rect{};
   ASSERT_NO_FATAL_FAILURE(open("one two"));
   const ElementRef element = focusedElement();
   std::vector<double> milliseconds;
