@@ -6,6 +6,17 @@
 #include "popup/ScreenLayout.h"
 
 namespace tessarin {
+namespace {
+
+/// Between two questions to an application that is busy.
+constexpr std::chrono::milliseconds lookInterval{25};
+/// For a popup that is not on screen yet, which a person hardly reads sooner, and for word of where the focus
+/// is.
+constexpr std::chrono::milliseconds longestDelay{300};
+/// For one that stands at the wrong place.
+constexpr std::chrono::milliseconds longestLook{2000};
+
+}  // namespace
 
 AutocompletePanel::AutocompletePanel(PopupSurface& surface, Screens& screens, Accessibility& accessibility,
                                      MainQueue& queue)
@@ -17,7 +28,9 @@ void AutocompletePanel::present(const PopupContent& content) {
     return;
   }
   presented_ = content;
-  isVisible_ = true;
+  ++presents_;
+  presentedAt_ = queue_.now();
+  if (!std::exchange(isVisible_, true)) openedAt_ = presentedAt_;
   if (std::exchange(isShowScheduled_, true)) return;
   queue_.async([this, alive = std::weak_ptr<char>(alive_)] {
     if (alive.expired()) return;
@@ -29,6 +42,7 @@ void AutocompletePanel::present(const PopupContent& content) {
 void AutocompletePanel::hide() {
   isVisible_ = false;
   presented_ = {};
+  caret_.reset();
   if (std::exchange(shown_, std::nullopt)) surface_.hide();
 }
 
@@ -44,12 +58,28 @@ void AutocompletePanel::showPresented() {
   if (!isSameListAsShown()) {
     // The application, which the caret is asked of, is busy with the key meanwhile.
     surface_.prepare(presented_);
-    const ScreenLayout layout = ScreenLayout::read(screens_);
-    place(locator_.caretRect(layout), layout);
+    locate();
     return;
   }
   shown_->content = presented_;
   surface_.show(presented_, shown_->frame);
+}
+
+void AutocompletePanel::locate() {
+  const ScreenLayout layout = ScreenLayout::read(screens_);
+  const auto found = locator_.caretRect(layout);
+  const bool isDue = !found && locator_.isAnswerDue();
+  if (!isDue) caret_ = found;
+  if (!found && queue_.now() - presentedAt_ < (isDue ? longestLook : longestDelay)) locateAgainSoon();
+  const bool mayWait = isDue && !shown_ && queue_.now() - openedAt_ < longestDelay;
+  if (mayWait || (!found && isSameListAsShown())) return;
+  place(caret_, layout);
+}
+
+void AutocompletePanel::locateAgainSoon() {
+  queue_.after(lookInterval, [this, presented = presents_, alive = std::weak_ptr<char>(alive_)] {
+    if (!alive.expired() && isVisible_ && presented == presents_) locate();
+  });
 }
 
 void AutocompletePanel::showNearCaret(const std::optional<Rect>& caret) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -39,6 +41,9 @@ class AutocompletePanel final : public PopupPresenter {
     Rect frame;
   };
   void showPresented();
+  /// An application that is too busy to say where its caret is gets a while before the popup opens without.
+  void locate();
+  void locateAgainSoon();
   void place(const std::optional<Rect>& caret, const ScreenLayout& layout);
   bool isSameListAsShown() const;
 
@@ -51,6 +56,10 @@ class AutocompletePanel final : public PopupPresenter {
   bool isVisible_ = false;
   bool isShowScheduled_ = false;
   std::optional<Shown> shown_;
+  std::optional<Rect> caret_;  ///< where it was found last
+  std::uint64_t presents_ = 0;
+  std::chrono::steady_clock::time_point openedAt_;
+  std::chrono::steady_clock::time_point presentedAt_;
   std::shared_ptr<char> alive_ = std::make_shared<char>();
 };
 

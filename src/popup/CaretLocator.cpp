@@ -34,6 +34,7 @@ bool isCredible(const Rect& rect, const ScreenLayout& layout) {
 }  // namespace
 
 std::optional<Rect> CaretLocator::caretRect(const ScreenLayout& layout) {
+  asked_.reset();
   if (!accessibility_.isTrusted()) return std::nullopt;
   accessibility_.beginBudget(locatingBudget);
   const auto application =
@@ -41,6 +42,7 @@ std::optional<Rect> CaretLocator::caretRect(const ScreenLayout& layout) {
   if (!application) return std::nullopt;
   const auto element = readAttribute<ElementRef>(accessibility_, *application, attribute::focusedElement);
   if (!element) return std::nullopt;
+  asked_ = *element;
 
   if (const auto rect = selectionBounds(*element, layout)) return rect;
   if (const auto rect = elementPointerRect(*element, layout)) return rect;

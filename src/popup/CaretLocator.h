@@ -20,6 +20,8 @@ class CaretLocator {
   /// The caret, or else a place near the pointer within the focused element or the focused window. Takes
   /// 50 ms at most.
   std::optional<Rect> caretRect(const ScreenLayout& layout);
+  /// Whether the application that was asked last has not come to the answer yet; later it may know.
+  bool isAnswerDue() const { return asked_ && accessibility_.isBusy(asked_); }
 
   /// What the element itself says of its selection, if that can be true.
   std::optional<Rect> selectionBounds(const ElementRef& element, const ScreenLayout& layout);
@@ -37,6 +39,7 @@ class CaretLocator {
 
   Accessibility& accessibility_;
   Screens& screens_;
+  ElementRef asked_;
 };
 
 }  // namespace tessarin

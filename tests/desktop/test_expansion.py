@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 """Expansion in real programs: typed through XTest, read back from the saved document."""
 
+import contextlib
 import json
 import re
 import time
@@ -8,7 +9,8 @@ import unittest
 
 from desktop_test import DesktopTest
 from editors import ALL, Featherpad, Firefox, GnomeTextEditor, Mousepad, Xterm, clipboard, set_clipboard
-from session import wait_for
+from session import Session, Tessarin, wait_for
+from typist import Typist
 
 
 def key(name, *modifiers):
@@ -104,6 +106,25 @@ class Templates(DesktopTest):
             self.play([" :today\n"])
             wait_for(lambda: re.search(r" \d+/\d+/\d+$", editor.document()), what="the date")
         self.session.stop(owner)
+
+
+class HighResolution(unittest.TestCase):
+    """Toolkits that draw twice as large also say twice too small where things are."""
+
+    def test_the_popup_opens_at_the_caret(self):
+        for program in Mousepad, GnomeTextEditor:
+            with self.subTest(program=program.__name__), Session("2560x1600x24", scale=2.0) as session, \
+                 contextlib.closing(Typist(session)) as typist, Tessarin(session):
+                session.env |= {"GDK_SCALE": "2", "GDK_DPI_SCALE": "0.5"}
+                typist.move_pointer(0, 0)
+                with program(session, typist):
+                    left, top, width, height = typist.active_frame()
+
+                    def is_near_the_first_line():
+                        x, y, *_ = typist.popup() or (0, 0)
+                        return left < x < left + width / 2 and top < y < top + height / 2
+                    typist.type("there :wav")
+                    wait_for(is_near_the_first_line, what="the popup at the caret")
 
 
 class HeldKeys(DesktopTest):

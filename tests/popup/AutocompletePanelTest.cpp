@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <utility>
 
 #include "popup/AutocompletePanel.h"
 #include "support/FakeAccessibility.h"
@@ -77,6 +78,47 @@ TEST_F(AutocompletePanelTest, followsTheCaretWithEveryQueryAndAfterHiding) {
   show("sm");
   EXPECT_TRUE(surface.isShown);
   EXPECT_EQ(surface.shows.back().frame.x, 500);
+}
+
+TEST_F(AutocompletePanelTest, givesABusyApplicationTimeToSayWhereItsCaretIs) {
+  const auto bounds = std::exchange(element->parameterized, {});
+  accessibility.busy = true;
+  show("s");
+  EXPECT_TRUE(panel->isVisible());
+  EXPECT_TRUE(surface.shows.empty()) << "not yet";
+  queue.advance(milliseconds(100));
+  element->parameterized = bounds;
+  accessibility.busy = false;
+  queue.advance(milliseconds(25));
+  ASSERT_EQ(surface.shows.size(), 1U);
+  EXPECT_EQ(surface.shows[0].frame.x, 300);
+
+  element->parameterized.clear();
+  accessibility.busy = true;
+  show("sm");
+  ASSERT_EQ(surface.shows.size(), 2U) << "a new list does not wait";
+  EXPECT_EQ(surface.shows[1].frame.x, 300);
+  panel->hide();
+  show("x");
+  queue.advance(milliseconds(299));
+  EXPECT_FALSE(surface.isShown);
+  queue.advance(milliseconds(26));
+  EXPECT_TRUE(surface.isShown) << "beside the pointer";
+  queue.advance(milliseconds(5000));
+  EXPECT_EQ(queue.pending(), 0U);
+}
+
+TEST_F(AutocompletePanelTest, followsTheFocusThatIsKnownLateOnly) {
+  accessibility.focus(nullptr);
+  show("s");
+  ASSERT_EQ(surface.shows.size(), 1U) << "beside the pointer";
+  queue.advance(milliseconds(50));
+  EXPECT_EQ(surface.shows.size(), 1U);
+  accessibility.focus(element);
+  queue.advance(milliseconds(25));
+  ASSERT_EQ(surface.shows.size(), 2U);
+  EXPECT_EQ(surface.shows[1].frame.x, 300);
+  EXPECT_EQ(queue.pending(), 0U);
 }
 
 TEST_F(AutocompletePanelTest, aMovedHighlightLeavesTheWindowInPlace) {
