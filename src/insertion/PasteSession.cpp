@@ -19,6 +19,8 @@ constexpr milliseconds shortestLoan{200};  ///< from the chord
 constexpr milliseconds settlingOfRead{100};
 constexpr milliseconds longestPasteWait{2000};  ///< for the application to read the text, from the chord
 constexpr milliseconds fillingCheck{50};
+/// The chord would paste what the user had copied, where the text is not there yet.
+constexpr milliseconds writeCheck{20};
 
 }  // namespace
 
@@ -55,7 +57,18 @@ void PasteSession::writeWhenPossible() {
   }
   for (PasteboardLoan* loan : tools_.loans) loan->write(job_.text);
   isWritten_ = true;
-  after(fromWriteToChord, &PasteSession::postPasteKeystroke);
+  after(fromWriteToChord, &PasteSession::pasteWhenWritten);
+}
+
+void PasteSession::pasteWhenWritten() {
+  if (std::ranges::all_of(tools_.loans, [](PasteboardLoan* loan) { return loan->isInPlace(); })) {
+    postPasteKeystroke();
+  } else if (writeChecksLeft_-- > 0) {
+    after(writeCheck, &PasteSession::pasteWhenWritten);
+  } else {
+    isShortestLoanOver_ = true;
+    stopWaiting();
+  }
 }
 
 void PasteSession::postPasteKeystroke() {

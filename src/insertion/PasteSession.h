@@ -46,6 +46,7 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
   void deletionsAreDone();
   void saveContents();
   void writeWhenPossible();
+  void pasteWhenWritten();
   void postPasteKeystroke();
   void shortestLoanIsOver();
   void textWasRead();
@@ -62,6 +63,7 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
   bool areDeletionsDone_ = false;
   bool areAllAsked_ = false;
   bool isWritten_ = false;
+  int writeChecksLeft_ = 100;
   bool isChordPosted_ = false;
   bool isShortestLoanOver_ = false;
   int unsettledReads_ = 0;

@@ -29,8 +29,17 @@ bool PasteboardLoan::isCurrent() const {
 
 void PasteboardLoan::write(const std::string& text) {
   pasteboard_.writeText(text);
-  lastCount_ = pasteboard_.changeCount();
   isWritten_ = true;
+  isInPlace_ = false;
+  isInPlace();
+}
+
+bool PasteboardLoan::isInPlace() {
+  if (!isInPlace_) {
+    isInPlace_ = pasteboard_.isWriteDone();
+    lastCount_ = pasteboard_.changeCount();
+  }
+  return isInPlace_;
 }
 
 bool PasteboardLoan::isStillFilling() const {

@@ -25,6 +25,8 @@ class PasteboardLoan {
   bool isCurrent() const;
   /// Only after `ready`.
   void write(const std::string& text);
+  /// Whether the text is there; asked until it is, where the write took longer.
+  bool isInPlace();
   /// Whether the pasteboard holds our text, and nothing can be put back without loss yet.
   bool isStillFilling() const;
   /// Ends the loan at once. Does nothing when there is none.
@@ -42,6 +44,7 @@ class PasteboardLoan {
   std::shared_ptr<const PasteboardSnapshot> saved_;
   std::int64_t lastCount_ = 0;  ///< the change count that was ours, or that was saved
   bool isWritten_ = false;
+  bool isInPlace_ = false;
   std::shared_ptr<char> request_;  ///< lives as long as an answer to the last `save` is wanted
 };
 

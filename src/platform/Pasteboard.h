@@ -40,6 +40,9 @@ class Pasteboard {
   virtual void writeText(const std::string& text) = 0;
   /// Clears and writes all items; an empty list leaves the pasteboard empty.
   virtual void write(const std::vector<PasteboardItem>& items) = 0;
+  /// Whether what was written last is there. False for a moment where something holds up the whole server:
+  /// the write is on its way then.
+  virtual bool isWriteDone() const { return true; }
   /// Grows whenever anybody, we included, changes the contents.
   virtual std::int64_t changeCount() const = 0;
   /// Whether the application that had the focus when the paste chord was sent has read, to its end, what

@@ -115,6 +115,28 @@ TEST_F(PasteHelperTest, doesNotTakeAReadBeforeTheChordForThePaste) {
   EXPECT_TRUE(isRestored());
 }
 
+TEST_F(PasteHelperTest, doesNotPasteBeforeTheTextIsThere) {
+  general.isHeldUp = true;
+  paste(0, "x");
+  queue.advance(milliseconds(100 + 500));
+  EXPECT_THAT(keys.posted, IsEmpty()) << "would paste what the user had copied";
+  general.carryOutHeldWrite();
+  queue.advance(milliseconds(20));
+  EXPECT_THAT(keys.posted, SizeIs(1));
+  EXPECT_EQ(general.readByApplication(), "x");
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
+  queue.advance(milliseconds(200));
+  EXPECT_TRUE(isRestored());
+}
+
+TEST_F(PasteHelperTest, givesUpOnAServerThatStaysHeldUp) {
+  general.isHeldUp = true;
+  paste(1, "x");
+  queue.advance(milliseconds(5000));
+  EXPECT_THAT(keys.posted, SizeIs(1)) << "the backspace";
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::erasedOnly));
+}
+
 TEST_F(PasteHelperTest, givesUpAfterTwoSeconds) {
   paste(1, "x");
   queue.advance(milliseconds(120 + 1999));

@@ -25,7 +25,16 @@ void FakePasteboard::snapshot(SnapshotReady ready) {
 
 void FakePasteboard::writeText(const std::string& text) {
   writtenTexts.push_back(text);
+  if (isHeldUp) {
+    heldWrite = text;
+    return;
+  }
   change({{"UTF8_STRING", text}}, true);
+}
+
+void FakePasteboard::carryOutHeldWrite() {
+  isHeldUp = false;
+  if (const auto text = std::exchange(heldWrite, std::nullopt)) change({{"UTF8_STRING", *text}}, true);
 }
 
 void FakePasteboard::write(const std::vector<PasteboardItem>& items) {

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,7 @@ class FakePasteboard final : public Pasteboard {
   void snapshot(SnapshotReady ready) override;
   void writeText(const std::string& text) override;
   void write(const std::vector<PasteboardItem>& items) override;
+  bool isWriteDone() const override { return !heldWrite; }
   std::int64_t changeCount() const override { return changeCount_; }
   bool hasBeenRead() const override { return hasBeenRead_; }
   void onRead(std::function<void()> callback) override { onRead_ = std::move(callback); }
@@ -39,6 +41,11 @@ class FakePasteboard final : public Pasteboard {
   std::chrono::milliseconds readyAfter{0};
   std::chrono::milliseconds completeAfter{0};
   std::vector<PasteboardItem> lateItems;
+
+  /// While the server is held up, texts are not written but kept here; `carryOutHeldWrite` ends that.
+  bool isHeldUp = false;
+  std::optional<std::string> heldWrite;
+  void carryOutHeldWrite();
 
   int snapshots = 0;
   int stringReads = 0;

@@ -23,6 +23,7 @@ class OwnSelection final : public Pasteboard {
   void snapshot(SnapshotReady ready) override { pasteboard_.snapshot(std::move(ready)); }
   void writeText(const std::string& text) override { pasteboard_.writeText(text); }
   void write(const std::vector<PasteboardItem>& items) override { pasteboard_.write(items); }
+  bool isWriteDone() const override { return pasteboard_.isWriteDone(); }
   std::int64_t changeCount() const override { return pasteboard_.changeCount(); }
   bool hasBeenRead() const override { return pasteboard_.hasBeenRead(); }
   void onRead(std::function<void()> callback) override { pasteboard_.onRead(std::move(callback)); }

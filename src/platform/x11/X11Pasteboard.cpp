@@ -99,10 +99,12 @@ void X11Pasteboard::write(const std::vector<PasteboardItem>& items) {
 }
 
 void X11Pasteboard::runWrite(std::function<void(SelectionChannel&)> work) {
+  ++*writesUnderWay_;
   const bool done = thread_.call(
-      [&thread = thread_, channel = channel_, work = std::move(work)] {
+      [&thread = thread_, channel = channel_, work = std::move(work), underWay = writesUnderWay_] {
         work(*channel);
         thread.handleEvents();  // what others did before is counted by now
+        --*underWay;
       },
       writePatience);
   if (!done) log("Pasteboard", "the X server did not answer in time");

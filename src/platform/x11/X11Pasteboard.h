@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <memory>
 
 #include "platform/Pasteboard.h"
@@ -22,9 +23,11 @@ class X11Pasteboard final : public Pasteboard {
 
   std::optional<std::string> string() override;
   void snapshot(SnapshotReady ready) override;
-  /// Returns when the selection has been taken: a paste chord posted afterwards finds the text.
+  /// Returns when the selection has been taken, so that a paste chord posted afterwards finds the text, or
+  /// after 200 ms.
   void writeText(const std::string& text) override;
   void write(const std::vector<PasteboardItem>& items) override;
+  bool isWriteDone() const override { return writesUnderWay_->load() == 0; }
   std::int64_t changeCount() const override;
   bool hasBeenRead() const override;
   void onRead(std::function<void()> callback) override;
@@ -39,6 +42,7 @@ class X11Pasteboard final : public Pasteboard {
   XThread& thread_;
   std::shared_ptr<SelectionChannel> channel_;
   std::shared_ptr<ReadState> read_;
+  std::shared_ptr<std::atomic<int>> writesUnderWay_ = std::make_shared<std::atomic<int>>(0);
 };
 
 }  // namespace tessarin::x11
