@@ -15,7 +15,7 @@
 namespace tessarin {
 namespace {
 
-constexpr const char* component = "Tessarin";
+constexpr const char* appComponent = "Tessarin";
 
 }  // namespace
 
@@ -51,7 +51,7 @@ void AppDelegate::applicationDidFinishLaunching() {
   observeDesktop();
   if (!permissions_.isAccessibilityGranted()) permissions_.promptForAccessibility();
   showOnboardingIfNeeded();
-  log(component, "App launched and ready");
+  log(appComponent, "App launched and ready");
 }
 
 void AppDelegate::installPanelHandlers() {
@@ -91,12 +91,12 @@ void AppDelegate::showOnboardingIfNeeded() {
 void AppDelegate::startKeyboardMonitor() {
   if (isTerminated_) return;
   if (!keyboardMonitor_.start()) {
-    log(component, "Keyboard monitor failed to start — will retry when permission is granted");
+    log(appComponent, "Keyboard monitor failed to start — will retry when permission is granted");
     startPermissionRetryTimer();
     return;
   }
   permissionRetryTimer_.reset();
-  log(component, "Keyboard monitor started successfully");
+  log(appComponent, "Keyboard monitor started successfully");
 }
 
 void AppDelegate::startPermissionRetryTimer() {
@@ -193,7 +193,7 @@ bool AppDelegate::beginInsertionByKey() {
   beginInsertion();
   if (keyboardMonitor_.isCurrentKeyInDocument() || keyboardMonitor_.swallowCurrentKey()) return true;
   --insertionsUnderWay_;
-  log(component, "The confirming key was answered too late and confirms nothing");
+  log(appComponent, "The confirming key was answered too late and confirms nothing");
   return false;
 }
 

@@ -50,18 +50,18 @@ mode_t modeOf(const fs::path& file) {
 }
 
 /// A new file beside the target; removed again unless it takes the target's place.
-class Replacement {
+class FileReplacement {
  public:
-  explicit Replacement(const fs::path& target) : target_(target) {
+  explicit FileReplacement(const fs::path& target) : target_(target) {
     name_ = (target.parent_path() / replacementName).string();
     file_ = FileDescriptor(::mkostemp(name_.data(), O_CLOEXEC));
     if (!file_) fail(errno, target_);
   }
-  ~Replacement() {
+  ~FileReplacement() {
     if (!done_ && file_) ::unlink(name_.c_str());
   }
-  Replacement(const Replacement&) = delete;
-  Replacement& operator=(const Replacement&) = delete;
+  FileReplacement(const FileReplacement&) = delete;
+  FileReplacement& operator=(const FileReplacement&) = delete;
 
   void write(std::string_view content) {
     while (!content.empty()) {
@@ -111,7 +111,7 @@ bool isAbandoned(const fs::path& file, fs::file_time_type before) {
 void replaceFile(const fs::path& path, std::string_view content, Durability durability) {
   const fs::path target = behindLinks(path);
   const mode_t mode = modeOf(target);
-  Replacement replacement(target);
+  FileReplacement replacement(target);
   replacement.write(content);
   replacement.setMode(mode);
   if (durability == Durability::powerCut) replacement.flush();

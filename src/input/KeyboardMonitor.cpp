@@ -9,7 +9,7 @@
 namespace tessarin {
 namespace {
 
-constexpr const char* component = "KeyboardMonitor";
+constexpr const char* monitorComponent = "KeyboardMonitor";
 
 std::optional<std::string> charactersOf(const KeyEvent& event) {
   if (event.text.empty()) return std::nullopt;
@@ -25,19 +25,19 @@ KeyboardMonitor::~KeyboardMonitor() {
 bool KeyboardMonitor::start() {
   if (hasTap_) return true;
   if (!accessibility_.isTrusted()) {
-    log(component, "No Accessibility permission — requesting");
+    log(monitorComponent, "No Accessibility permission — requesting");
     accessibility_.prompt();
     return false;
   }
   if (!tap_.create([this](const KeyEvent& event) { return handle(event); })) {
-    log(component, "Failed to create event tap — check Accessibility permission");
+    log(monitorComponent, "Failed to create event tap — check Accessibility permission");
     return false;
   }
   hasTap_ = true;
   tellAttention();
   tap_.setEnabled(true);
   healthCheckTimer_ = mainQueue_.repeat(healthCheckInterval, [this] { checkHealth(); });
-  log(component, "Event tap started (.defaultTap)");
+  log(monitorComponent, "Event tap started (.defaultTap)");
   return true;
 }
 
@@ -48,7 +48,7 @@ void KeyboardMonitor::stop() {
     tap_.setEnabled(false);
     tap_.destroy();
   }
-  log(component, "Event tap stopped");
+  log(monitorComponent, "Event tap stopped");
 }
 
 void KeyboardMonitor::setAttention(KeyAttention attention, const std::string& trigger) {
@@ -137,7 +137,7 @@ void KeyboardMonitor::revive() {
 
 void KeyboardMonitor::checkHealth() {
   if (!hasTap_ || tap_.isEnabled()) return;
-  log(component, "Re-enabling disabled event tap");
+  log(monitorComponent, "Re-enabling disabled event tap");
   tap_.setEnabled(true);
   if (onInterrupted) onInterrupted();
 }

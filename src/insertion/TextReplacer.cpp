@@ -10,7 +10,7 @@
 namespace tessarin {
 namespace {
 
-constexpr std::string_view component = "TextReplacer";
+constexpr std::string_view replacerComponent = "TextReplacer";
 constexpr std::chrono::milliseconds betweenLooks{5};
 /// While the application answers: it may have turned the text into something else. Input methods and slow
 /// editors were seen to take half of this time.
@@ -49,7 +49,7 @@ void TextReplacer::run(const Job& job) {
   const auto outcome = accessibilityHelper_.insertText(job.typed, job.count, job.text);
   switch (outcome) {
     case InsertionOutcome::inserted:
-      log(component, "Replaced via Accessibility API");
+      log(replacerComponent, "Replaced via Accessibility API");
       return finish(outcome);
     case InsertionOutcome::differs:
       return runOnceTyped(job, {});
@@ -69,7 +69,7 @@ void TextReplacer::lookForTyped(const Job& job, Looks looks) {
   ++(stands ? looks.answered : looks.unanswered);
   if (looks.answered == looksAtAnswers) {
     // The application has corrected or completed the shortcode: erasing would take away other text.
-    log(component, "Something else stands before the caret, and is left alone");
+    log(replacerComponent, "Something else stands before the caret, and is left alone");
     return finish(InsertionOutcome::differs);
   }
   if (looks.unanswered == looksAtSilence) {
@@ -80,7 +80,7 @@ void TextReplacer::lookForTyped(const Job& job, Looks looks) {
 }
 
 void TextReplacer::pasteInstead(const Job& job, InsertionOutcome soFar) {
-  log(component, "Falling back to paste method");
+  log(replacerComponent, "Falling back to paste method");
   const bool isErased = soFar == InsertionOutcome::erasedOnly;
   const Pasted pasted{job.text, accessibilityHelper_.caretWithout(isErased ? "" : job.typed)};
   const auto chord = accessibilityHelper_.isTerminal() ? PasteChord::shiftInsert : PasteChord::controlV;

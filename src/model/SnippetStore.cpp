@@ -14,7 +14,7 @@
 namespace tessarin {
 namespace {
 
-constexpr const char* component = "SnippetStore";
+constexpr const char* storeComponent = "SnippetStore";
 
 std::vector<Snippet> toSnippets(const std::vector<EmojiData>& records, const std::string& idPrefix) {
   std::vector<Snippet> snippets;
@@ -24,7 +24,7 @@ std::vector<Snippet> toSnippets(const std::vector<EmojiData>& records, const std
 }
 
 void logLoaded(std::size_t count, const std::string& what) {
-  log(component, "Loaded " + std::to_string(count) + " " + what);
+  log(storeComponent, "Loaded " + std::to_string(count) + " " + what);
 }
 
 }  // namespace
@@ -32,8 +32,9 @@ void logLoaded(std::size_t count, const std::string& what) {
 SnippetStore::SnippetStore(Folders folders, const WallClock& clock, LocalCalendar calendar)
     : folders_(std::move(folders)),
       usageTracker_(folders_.storage, clock, calendar),
-      userFile_({component, "user snippets", folders_.storage / "user-snippets.json", Durability::powerCut},
-                clock, std::move(calendar)) {
+      userFile_(
+          {storeComponent, "user snippets", folders_.storage / "user-snippets.json", Durability::powerCut},
+          clock, std::move(calendar)) {
   loadBuiltInEmojis();
   loadBuiltInKaomoji();
   loadUserSnippets();
@@ -49,13 +50,13 @@ bool SnippetStore::loadBuiltIns(const char* source, std::vector<Snippet>& loaded
   try {
     const auto content = readFileIfPresent(folders_.resources / name);
     if (!content) {
-      log(component, name + " not found in bundle");
+      log(storeComponent, name + " not found in bundle");
       return false;
     }
     loaded = toSnippets(decodeEmojiData(*content), std::string(source) + "_");
     return true;
   } catch (const std::exception& error) {
-    log(component, "Failed to load " + std::string(source) + " data: " + error.what());
+    log(storeComponent, "Failed to load " + std::string(source) + " data: " + error.what());
     return false;
   }
 }
@@ -120,7 +121,7 @@ void SnippetStore::saveWhatIsMissing() {
 void SnippetStore::saveSnippetsIfMissing() {
   if (!userFile_.isMissing()) return;
   saveUserSnippets();
-  if (!saveFailure()) log(component, "Saved the user snippets again, which were missing from the disk");
+  if (!saveFailure()) log(storeComponent, "Saved the user snippets again, which were missing from the disk");
 }
 
 void SnippetStore::change(const std::function<void()>& apply) {

@@ -8,7 +8,7 @@
 namespace tessarin::ui {
 namespace {
 
-constexpr double divider = 1;
+constexpr double dividerHeight = 1;
 constexpr double pickerPaddingX = 12;
 constexpr double pickerPaddingY = 6;
 constexpr double variantSpacing = 4;
@@ -33,13 +33,13 @@ PopupLayout::PopupLayout(const PopupContent& content, QSizeF size)
       rowCount_(static_cast<int>(content.rows.size())),
       variantCount_(content.skinToneMode ? static_cast<int>(content.skinToneVariants.size()) : 0) {
   const Bands bands = bandsFor(content);
-  const double footerHeight = rowCount_ > 0 ? bands.footer + divider : 0;
+  const double footerHeight = rowCount_ > 0 ? bands.footer + dividerHeight : 0;
   list_ = QRectF(0, 0, size.width(), size.height() - footerHeight);
   placeHeader(!content.query.empty(), bands.header);
   if (content.skinToneMode) placePicker();
   if (rowCount_ == 0) return;
   dividers_.push_back(list_.bottom());
-  footer_ = QRectF(0, list_.bottom() + divider, size.width(), bands.footer);
+  footer_ = QRectF(0, list_.bottom() + dividerHeight, size.width(), bands.footer);
 }
 
 QSizeF PopupLayout::sizeFor(int rowCount) {
@@ -50,16 +50,16 @@ void PopupLayout::placeHeader(bool isShown, double height) {
   if (!isShown) return;
   header_ = QRectF(0, 0, size_.width(), height);
   dividers_.push_back(height);
-  list_.setTop(height + divider);
+  list_.setTop(height + dividerHeight);
 }
 
 void PopupLayout::placePicker() {
   const double height = std::min(variantSide + 2 * pickerPaddingY, list_.height());
   picker_ = QRectF(0, list_.top(), size_.width(), height);
   // Where the list has no room left, the footer's divider ends the picker.
-  const bool hasList = list_.bottom() - picker_.bottom() > divider;
+  const bool hasList = list_.bottom() - picker_.bottom() > dividerHeight;
   if (hasList) dividers_.push_back(picker_.bottom());
-  list_.setTop(hasList ? picker_.bottom() + divider : list_.bottom());
+  list_.setTop(hasList ? picker_.bottom() + dividerHeight : list_.bottom());
 }
 
 QRectF PopupLayout::row(int index, double scroll) const {

@@ -8,7 +8,7 @@ namespace tessarin::freedesktop {
 namespace {
 
 constexpr const char* ibusService = "org.freedesktop.IBus";
-constexpr const char* path = "/org/freedesktop/IBus";
+constexpr const char* ibusPath = "/org/freedesktop/IBus";
 
 /// An engine's description is a structure: its type's name, attachments, and then the engine's name.
 const char* engineName(DBusMessage* description) {
@@ -33,7 +33,7 @@ const char* engineName(DBusMessage* description) {
 
 IBusEngine::IBusEngine(Bus bus) : BusListener(std::move(bus)) {
   listenFor("type='signal',interface='" + std::string(ibusService) + "',member='GlobalEngineChanged'");
-  Message question(dbus_message_new_method_call(ibusService, path, DBUS_INTERFACE_PROPERTIES, "Get"));
+  Message question(dbus_message_new_method_call(ibusService, ibusPath, DBUS_INTERFACE_PROPERTIES, "Get"));
   const char* of = ibusService;
   const char* property = "GlobalEngine";
   dbus_message_append_args(question.get(), DBUS_TYPE_STRING, &of, DBUS_TYPE_STRING, &property,

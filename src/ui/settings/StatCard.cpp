@@ -8,7 +8,7 @@ namespace tessarin::ui {
 namespace {
 
 constexpr int lineSpacing = 4;
-constexpr int cardPadding = 12;
+constexpr int statCardPadding = 12;
 
 }  // namespace
 
@@ -16,7 +16,7 @@ StatCard::StatCard(const QString& title, QWidget* parent)
     : Card(parent), title_(title), value_(new StyledLabel({}, TextStyle::figure)) {
   auto* caption = new StyledLabel(title, TextStyle::caption, ColorRole::secondary);
   auto* lines = new QVBoxLayout(this);
-  lines->setContentsMargins(0, cardPadding, 0, cardPadding);
+  lines->setContentsMargins(0, statCardPadding, 0, statCardPadding);
   lines->setSpacing(lineSpacing);
   lines->addWidget(&value_->centred());
   lines->addWidget(&caption->centred());
