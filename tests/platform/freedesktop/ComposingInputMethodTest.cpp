@@ -18,8 +18,6 @@ namespace {
 using freedesktop::ComposingInputMethod;
 using State = ComposingInputMethod::State;
 
-constexpr const char* noBus = "unix:path=/nonexistent/bus";
-
 /// A service with an engine in use.
 class Engines : public BusService {
  public:
@@ -145,14 +143,8 @@ struct Row {
 
 TEST_F(ComposingInputMethodTest, KnowsTheEnginesOfIBus) {
   leaveAddress(daemon.address());
-  for (const auto& [engine, composes] : {Row{"xkb:us::eng", false},
-                                         {"anthy", true},
-                                         {"libpinyin", true},
-                                         {"xkb:fr:oss:fra", false},
-                                         {"m17n:vi:telex", true},
-                                         {"", false},
-                                         {"hangul", true},
-                                         {"xkb:jp::jpn", false}}) {
+  for (const auto& [engine, composes] :
+       {Row{"xkb:us::eng", false}, {"anthy", true}, {"m17n:vi:telex", true}, {"", false}}) {
     IBus ibus(daemon.address(), engine);
     connect(session.address());
     ASSERT_TRUE(eventually([&] { return ibus.questions() > 0; }));
@@ -165,12 +157,7 @@ TEST_F(ComposingInputMethodTest, KnowsTheEnginesOfIBus) {
 }
 
 TEST_F(ComposingInputMethodTest, KnowsTheInputMethodsOfFcitx) {
-  for (const auto& [engine, composes] : {Row{"pinyin", true},
-                                         {"keyboard-us", false},
-                                         {"anthy", true},
-                                         {"", false},
-                                         {"unikey", true},
-                                         {"keyboard-fr-oss", false}}) {
+  for (const auto& [engine, composes] : {Row{"pinyin", true}, {"keyboard-us", false}, {"", false}}) {
     Fcitx fcitx(session.address(), engine);
     connect(session.address());
     ASSERT_TRUE(eventually([&] { return fcitx.questions() > 0; }));
@@ -227,13 +214,6 @@ TEST_F(ComposingInputMethodTest, OneThatHangsIsAskedOnce) {
   { const IBus ibus(daemon.address(), "anthy"); }
   EXPECT_EQ(fcitx.questions(), before + 1);
   method.reset();  // and it is not waited for
-}
-
-TEST_F(ComposingInputMethodTest, ComposesNothingWithoutABus) {
-  leaveAddress(noBus);
-  connect(noBus);
-  method->lookAgain();
-  EXPECT_TRUE(becomes(State::no));
 }
 
 }  // namespace

@@ -12,18 +12,12 @@ using freedesktop::TrustRecord;
 using ::testing::IsEmpty;
 using ::testing::Not;
 
-TEST(TrustRecord, IsNotThereUntilTheUserAnswers) {
-  const TemporaryFolder folder;
-  const TrustRecord record(folder / "tessarin");
-  EXPECT_EQ(record.answer(), std::nullopt);
-  EXPECT_FALSE(record.isTrusted());
-  EXPECT_THAT(folder.names(), IsEmpty());
-}
-
 TEST(TrustRecord, FollowsTheLastAnswerAlsoOfAnotherProcess) {
   const TemporaryFolder folder;
   const TrustRecord running(folder / "tessarin");
   const TrustRecord commandLine(folder / "tessarin");
+  EXPECT_EQ(running.answer(), std::nullopt);
+  EXPECT_FALSE(running.isTrusted());
   EXPECT_TRUE(commandLine.allow());
   EXPECT_TRUE(running.isTrusted());
   EXPECT_TRUE(commandLine.disallow());
