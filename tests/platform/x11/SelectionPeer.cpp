@@ -6,10 +6,10 @@
 #include <cstring>
 #include <stdexcept>
 
+#include "support/Eventually.h"
+
 namespace tessarin::testing {
 namespace {
-
-constexpr std::chrono::seconds patience{10};
 
 x11::XThread& running(const std::unique_ptr<x11::XThread>& thread) {
   if (!thread) throw std::runtime_error("no display");
@@ -34,61 +34,43 @@ SelectionPeer::~SelectionPeer() {
   thread_->stop();
 }
 
+void SelectionPeer::call(const std::function<void()>& work) {
+  thread_->call(work, std::chrono::seconds(10));
+}
+
 void SelectionPeer::own(const std::string& selection, std::vector<PasteboardItem> items, Manner manner) {
-  thread_->call(
-      [&] {
-        items_ = std::move(items);
-        manner_ = manner;
-        const auto time = thread_->serverTime(window_);
-        xcb_set_selection_owner(thread_->connection(), window_, atoms_.atom(selection), time);
-        thread_->serverTime(window_);
-      },
-      patience);
+  call([&] {
+    items_ = std::move(items);
+    manner_ = manner;
+    const auto time = thread_->serverTime(window_);
+    xcb_set_selection_owner(thread_->connection(), window_, atoms_.atom(selection), time);
+    thread_->serverTime(window_);
+  });
 }
 
 void SelectionPeer::setPieceSize(std::size_t size) {
-  thread_->call([&] { pieceSize_ = size; }, patience);
+  call([&] { pieceSize_ = size; });
 }
 
 void SelectionPeer::becomePrompt() {
-  thread_->call(
-      [&] {
-        manner_ = Manner::prompt;
-        for (const auto& request : unanswered_) answer(request);
-        unanswered_.clear();
-      },
-      patience);
-}
-
-std::size_t SelectionPeer::requests() {
-  std::size_t count = 0;
-  thread_->call([&] { count = requests_.size(); }, patience);
-  return count;
+  call([&] {
+    manner_ = Manner::prompt;
+    for (const auto& request : unanswered_) answer(request);
+    unanswered_.clear();
+  });
 }
 
 std::vector<std::string> SelectionPeer::requestedTargets() {
   std::vector<std::string> names;
-  thread_->call(
-      [&] {
-        for (const auto& request : requests_) names.push_back(atoms_.name(request.target));
-      },
-      patience);
+  call([&] { names = requestedTargets_; });
   return names;
 }
 
-std::string SelectionPeer::lastReadType() {
-  std::string name;
-  thread_->call([&] { name = atoms_.name(lastReadType_); }, patience);
-  return name;
-}
-
 void SelectionPeer::takeFocus() {
-  thread_->call(
-      [&] {
-        xcb_set_input_focus(thread_->connection(), XCB_INPUT_FOCUS_PARENT, window_, XCB_CURRENT_TIME);
-        thread_->serverTime(window_);
-      },
-      patience);
+  call([&] {
+    xcb_set_input_focus(thread_->connection(), XCB_INPUT_FOCUS_PARENT, window_, XCB_CURRENT_TIME);
+    thread_->serverTime(window_);
+  });
 }
 
 void SelectionPeer::handle(const xcb_generic_event_t& event) {
@@ -96,14 +78,15 @@ void SelectionPeer::handle(const xcb_generic_event_t& event) {
   if (type == XCB_SELECTION_REQUEST) {
     handleRequest(reinterpret_cast<const xcb_selection_request_event_t&>(event));
   } else if (type == XCB_SELECTION_NOTIFY) {
-    handleNotify(reinterpret_cast<const xcb_selection_notify_event_t&>(event));
+    reading_.property = reinterpret_cast<const xcb_selection_notify_event_t&>(event).property;
+    takeProperty();
   } else if (type == XCB_PROPERTY_NOTIFY) {
     const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
     if (change.window != window_) {
       if (change.state == XCB_PROPERTY_DELETE) sendNextPiece(change.window, change.atom);
-    } else if (reading_ && reading_->isIncremental && change.state == XCB_PROPERTY_NEW_VALUE &&
-               change.atom == reading_->property) {
-      takeProperty(change.atom);
+    } else if (reading_.isIncremental && change.state == XCB_PROPERTY_NEW_VALUE &&
+               change.atom == reading_.property) {
+      takeProperty();
     }
   }
 }
@@ -111,7 +94,7 @@ void SelectionPeer::handle(const xcb_generic_event_t& event) {
 // Owning
 
 void SelectionPeer::handleRequest(const xcb_selection_request_event_t& request) {
-  requests_.push_back(request);
+  requestedTargets_.push_back(atoms_.name(request.target));
   const bool asksWhat = request.target == atoms_.atom("TARGETS");
   const bool answers = manner_ == Manner::prompt || manner_ == Manner::noTargets ||
                        manner_ == Manner::leavesMidway || (manner_ == Manner::onlyTargets && asksWhat);
@@ -188,29 +171,29 @@ void SelectionPeer::notify(const xcb_selection_request_event_t& request, bool an
 
 // Reading
 
-std::shared_ptr<SelectionPeer::Reading> SelectionPeer::startReading(const std::string& selection,
-                                                                    const std::string& target, int pieces) {
-  auto reading = std::make_shared<Reading>();
-  reading->piecesLeft = pieces;
-  thread_->post([this, reading, selection, target] {
-    reading_ = reading;
+std::optional<std::string> SelectionPeer::read(const std::string& selection, const std::string& target,
+                                               int pieces) {
+  call([&] {
+    reading_ = {.piecesLeft = pieces};
     xcb_convert_selection(thread_->connection(), window_, atoms_.atom(selection), atoms_.atom(target),
                           atoms_.atom("PEER_DATA"), XCB_CURRENT_TIME);
   });
-  return reading;
+  std::optional<std::string> data;
+  eventually([&] {
+    bool isOver = false;
+    call([&] {
+      isOver = reading_.isDone || reading_.piecesLeft == 0;
+      if (isOver) data = reading_.data;
+    });
+    return isOver;
+  });
+  return data;
 }
 
-std::optional<std::string> SelectionPeer::read(const std::string& selection, const std::string& target) {
-  const auto reading = startReading(selection, target, -1);
-  std::unique_lock lock(reading->mutex);
-  reading->changed.wait_for(lock, patience, [&] { return reading->isDone; });
-  return reading->isDone ? reading->data : std::nullopt;
-}
-
-void SelectionPeer::readPieces(const std::string& selection, const std::string& target, int pieces) {
-  const auto reading = startReading(selection, target, pieces);
-  std::unique_lock lock(reading->mutex);
-  reading->changed.wait_for(lock, patience, [&] { return reading->piecesLeft == 0; });
+std::string SelectionPeer::lastReadType() {
+  std::string name;
+  call([&] { name = atoms_.name(reading_.type); });
+  return name;
 }
 
 std::vector<std::string> SelectionPeer::targets(const std::string& selection) {
@@ -219,77 +202,28 @@ std::vector<std::string> SelectionPeer::targets(const std::string& selection) {
   std::vector<xcb_atom_t> atoms(data->size() / 4);
   std::memcpy(atoms.data(), data->data(), atoms.size() * 4);
   std::vector<std::string> names;
-  thread_->call([&] { names = atoms_.names(atoms); }, patience);
+  call([&] { names = atoms_.names(atoms); });
   return names;
 }
 
-std::map<std::string, std::string> SelectionPeer::readMultiple(const std::string& selection,
-                                                               const std::vector<std::string>& targets) {
-  thread_->call(
-      [&] {
-        std::vector<xcb_atom_t> pairs;
-        for (const auto& target : targets) {
-          pairs.push_back(atoms_.atom(target));
-          pairs.push_back(atoms_.atom("PEER_" + target));
-        }
-        xcb_change_property(thread_->connection(), XCB_PROP_MODE_REPLACE, window_, atoms_.atom("PEER_DATA"),
-                            atoms_.atom("ATOM_PAIR"), 32, static_cast<std::uint32_t>(pairs.size()),
-                            pairs.data());
-      },
-      patience);
-  const auto pairs = read(selection, "MULTIPLE");
-  std::map<std::string, std::string> values;
-  thread_->call(
-      [&] {
-        for (std::size_t i = 0; pairs && i < pairs->size() / 8; ++i) {
-          xcb_atom_t property = XCB_ATOM_NONE;
-          std::memcpy(&property, pairs->data() + i * 8 + 4, 4);
-          if (property != XCB_ATOM_NONE) values[targets[i]] = takenProperty(property);
-        }
-      },
-      patience);
-  return values;
-}
-
-std::string SelectionPeer::takenProperty(xcb_atom_t property) {
-  const x11::Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-      thread_->connection(),
-      xcb_get_property(thread_->connection(), 1, window_, property, XCB_GET_PROPERTY_TYPE_ANY, 0, 0x1fffffff),
-      nullptr));
-  return {static_cast<const char*>(xcb_get_property_value(reply.get())),
-          static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
-}
-
-void SelectionPeer::handleNotify(const xcb_selection_notify_event_t& event) {
-  if (!reading_) return;
-  if (event.property == XCB_ATOM_NONE) {
-    const std::lock_guard lock(reading_->mutex);
-    reading_->isDone = true;
-    reading_->changed.notify_all();
-    return;
-  }
-  reading_->property = event.property;
-  takeProperty(event.property);
-}
-
-void SelectionPeer::takeProperty(xcb_atom_t property) {
+void SelectionPeer::takeProperty() {
+  if (reading_.piecesLeft == 0) return;
+  reading_.isDone = reading_.property == XCB_ATOM_NONE;
+  if (reading_.isDone) return;
   const auto connection = thread_->connection();
-  if (reading_->piecesLeft == 0) return;
   const x11::Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-      connection, xcb_get_property(connection, 1, window_, property, 0, 0, 0x1fffffff), nullptr));
+      connection, xcb_get_property(connection, 1, window_, reading_.property, 0, 0, 0x1fffffff), nullptr));
   if (!reply) return;
-  const std::lock_guard lock(reading_->mutex);
   if (reply->type == atoms_.atom("INCR")) {
-    reading_->isIncremental = true;
+    reading_.isIncremental = true;
     return;
   }
   const auto length = static_cast<std::size_t>(xcb_get_property_value_length(reply.get()));
-  lastReadType_ = reply->type;
-  if (!reading_->data) reading_->data.emplace();
-  reading_->data->append(static_cast<const char*>(xcb_get_property_value(reply.get())), length);
-  reading_->isDone = !reading_->isIncremental || length == 0;
-  if (reading_->piecesLeft > 0) --reading_->piecesLeft;
-  reading_->changed.notify_all();
+  reading_.type = reply->type;
+  if (!reading_.data) reading_.data.emplace();
+  reading_.data->append(static_cast<const char*>(xcb_get_property_value(reply.get())), length);
+  reading_.isDone = !reading_.isIncremental || length == 0;
+  if (reading_.piecesLeft > 0) --reading_.piecesLeft;
 }
 
 }  // namespace tessarin::testing

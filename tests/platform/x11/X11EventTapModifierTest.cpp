@@ -22,19 +22,6 @@ INSTANTIATE_TEST_SUITE_P(Keyboards, X11EventTapModifierTest,
                            return param.param == Typist::Keyboard::real ? "Real" : "Synthetic";
                          });
 
-TEST_P(X11EventTapModifierTest, PostsWithoutTheShiftThatTheUserHolds) {
-  startPasting();
-  typist->type(":ab");
-  typist->press(XKB_KEY_Shift_L);
-  typist->tap(XKB_KEY_semicolon);
-  expectDocument("😀");
-  typist->tap(XKB_KEY_c);
-  expectDocument("😀C");
-  typist->release(XKB_KEY_Shift_L);
-  typist->tap(XKB_KEY_d);
-  expectDocument("😀Cd");
-}
-
 TEST_P(X11EventTapModifierTest, KeepsWhatEachKeyWasTypedWith) {
   startPasting();
   for (int i = 0; i < 20; ++i) {
@@ -108,17 +95,6 @@ TEST_P(X11EventTapModifierTest, RestoresCapsLockAndGroup) {
   typist->switchGroup(0);
   typist->type("d");
   expectDocument("Abйцd");
-}
-
-TEST_P(X11EventTapModifierTest, TypesKeptChordsAsChords) {
-  startPasting();
-  holdBack();
-  typist->press(XKB_KEY_Control_L);
-  typist->tap(XKB_KEY_s);
-  typist->release(XKB_KEY_Control_L);
-  typist->tap(XKB_KEY_a);
-  attend(KeyAttention::triggerOnly);
-  expectDocument("<Control-s>a");
 }
 
 TEST_P(X11EventTapModifierTest, TellsChordsFromLevels) {

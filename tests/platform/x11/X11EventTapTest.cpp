@@ -110,12 +110,6 @@ TEST_F(X11EventTapTest, LeavesAWindowManagerItsCombinations) {
     }
     return got == 1;
   }));
-  typist->press(XKB_KEY_Control_L);
-  typist->tap(XKB_KEY_o);
-  typist->release(XKB_KEY_Control_L);
-  expectDocument(":oO<Control-o>");
-  ASSERT_EQ(seen.size(), 4U);
-  EXPECT_EQ(seen[3].flags, keyflag::control);
 }
 
 TEST_F(X11EventTapTest, HoldsEveryKeyBehindTheTriggerAtAnySpeed) {
@@ -146,20 +140,6 @@ TEST_F(X11EventTapTest, KeepsOrderUnderAWindowManagerThatOwnsCombinations) {
   for (int i = 0; i < 20; ++i) typist->type("a:eEdDrR\nE ");
   expectDocument(repeated("a😀E ", 20));
   EXPECT_EQ(insertions, 70);
-}
-
-TEST_F(X11EventTapTest, LetsTheWindowManagerComeAndGo) {
-  start();
-  typist->type(":e\n");
-  expectDocument("😀");
-  display.startWindowManager();
-  document->takeFocus();
-  typist->type(":e\ne");
-  expectDocument("😀😀e");
-  display.stopWindowManager();
-  document->takeFocus();
-  typist->type(":e\ne");
-  expectDocument("😀😀e😀e");
 }
 
 TEST_F(X11EventTapTest, SwallowsAKeyThatOverlapsOthers) {
@@ -196,21 +176,6 @@ TEST_F(X11EventTapTest, KeepsOverlappingKeysInOrderBehindAPaste) {
     typist->type("dc");
     expectDocument("😀cdcdc");
   }
-}
-
-TEST_F(X11EventTapTest, SeesAndPassesAutoRepeat) {
-  start();
-  ASSERT_EQ(display.run({"xset", "r", "rate", "120", "100"}), 0);
-  typist->type(":ab");
-  typist->press(XKB_KEY_o);
-  ASSERT_TRUE(queue.runUntil([this] { return seen.size() >= 10; }));
-  typist->release(XKB_KEY_o);
-  typist->sync();
-  queue.runUntil([this] { return document->text().size() == seen.size(); });
-  expectDocument(":ab" + std::string(seen.size() - 3, 'o'));
-  typist->press(XKB_KEY_BackSpace);
-  ASSERT_TRUE(queue.runUntil([this] { return document->text().size() <= 2; }));
-  typist->release(XKB_KEY_BackSpace);
 }
 
 TEST_F(X11EventTapTest, KeepsAutoRepeatBehindAnInsertion) {

@@ -83,13 +83,6 @@ TEST_F(X11EventTapTimeOutTest, DoesNotWaitForAHandlerThatHasSettledTheKey) {
   EXPECT_EQ(timeOuts, 0);
 }
 
-TEST_F(X11EventTapTimeOutTest, GivesUpOnAHandlerThatHangs) {
-  start();
-  onKey = [this](const KeyEvent&) { EXPECT_TRUE(comesBy(":a", 5s)); };
-  typist->type(":a");
-  EXPECT_TRUE(queue.runUntil([this] { return timeOuts == 1; }));
-}
-
 TEST_F(X11EventTapTimeOutTest, AShortHangCostsTheShortcodeInHandAndNothingElse) {
   start();
   // A main thread that is busy elsewhere, and one that is busy with the key: away until the next trigger
@@ -123,25 +116,6 @@ TEST_F(X11EventTapTimeOutTest, GivesTheKeyboardBackWhenAnInsertionNeverEnds) {
   queue.runUntil([this] { return timeOuts == 1; });
   EXPECT_EQ(timeOuts, 1);
   ASSERT_TRUE(queue.runUntil([this] { return document->text().ends_with('C'); }));
-}
-
-TEST(KeyQuestion, IsDecidedByWhoeverComesFirst) {
-  x11::KeyQuestion givenUp;
-  givenUp.cancel();
-  EXPECT_EQ(givenUp.await(), std::nullopt);
-  EXPECT_EQ(givenUp.claim(), std::nullopt);
-
-  x11::KeyQuestion answered;
-  EXPECT_GT(answered.claim().value_or(0ms), 0ms);
-  answered.answer(KeyVerdict::swallow);
-  answered.cancel();
-  EXPECT_EQ(answered.await(), KeyVerdict::swallow);
-  EXPECT_FALSE(answered.commitSwallow());
-
-  x11::KeyQuestion committed(1ms);
-  committed.claim();
-  EXPECT_TRUE(committed.commitSwallow());
-  EXPECT_EQ(committed.await(), KeyVerdict::swallow) << "though no answer has come";
 }
 
 }  // namespace
