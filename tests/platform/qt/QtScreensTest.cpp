@@ -66,12 +66,6 @@ class QtScreensTest : public ::testing::Test {
   QtScreens& screens = monitors.screens();
 };
 
-TEST_F(QtScreensTest, ASingleMonitorIsTheWholeDisplay) {
-  const Screen whole{{0, 0, 1280, 1024}, {0, 0, 1280, 1024}};
-  EXPECT_THAT(screens.screens(), ElementsAre(whole));
-  EXPECT_EQ(screens.mainScreen(), whole);
-}
-
 TEST_F(QtScreensTest, PanelsAreLessThanTheVisibleFrame) {
   monitors.layOut();
   client.setRootNumbers("_NET_CURRENT_DESKTOP", {1});
