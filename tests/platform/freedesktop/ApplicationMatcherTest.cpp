@@ -82,13 +82,6 @@ INSTANTIATE_TEST_SUITE_P(
         Match{"ListedTerminal", {"", "kitty", "kitty", ""}, "net.kovidgoyal.kitty", true}),
     [](const auto& tested) { return tested.param.name; });
 
-TEST_F(ApplicationMatcherTest, LeavesAnAmbiguousNameAlone) {
-  install("org.one.Notes", entry("One"));
-  EXPECT_EQ(identifierOf({"", "notes", "", ""}), "org.one.Notes");
-  install("org.two.Notes", entry("Two"));
-  EXPECT_EQ(identifierOf({"", "notes", "", ""}), "notes");
-}
-
 TEST_F(ApplicationMatcherTest, NoticesWhatIsInstalledAndRemovedLater) {
   EXPECT_EQ(identifierOf({"", "Foo", "", ""}), "Foo");
   install("foo", entry("Foo"));

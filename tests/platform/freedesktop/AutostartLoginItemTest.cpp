@@ -121,14 +121,6 @@ TEST(AutostartLoginItem, JudgesAnEntryAsTheDesktopDoes) {
   }
 }
 
-TEST(AutostartLoginItem, IsOffOnceTheProgramIsGone) {
-  Home home;
-  AutostartLoginItem item = home.makeItem();
-  ASSERT_EQ(item.registerItem(), std::nullopt);
-  std::filesystem::remove(home.program());
-  EXPECT_FALSE(item.isEnabled());
-}
-
 TEST(AutostartLoginItem, RegisteringMendsWhatTheUserSwitchedOff) {
   for (const char* keys : {"X-GNOME-Autostart-enabled=false\n", "OnlyShowIn=KDE;\n", "TryExec=missing\n"}) {
     SCOPED_TRACE(keys);

@@ -67,14 +67,6 @@ Environment environment(const std::map<std::string, std::string>& variables) {
   };
 }
 
-TEST(BaseFolders, FollowTheEnvironment) {
-  EXPECT_EQ(freedesktop::configFolder(environment({{"HOME", "/h"}})), "/h/.config/tessarin");
-  EXPECT_EQ(freedesktop::configFolder(environment({{"HOME", "/h"}, {"XDG_CONFIG_HOME", "/c"}})),
-            "/c/tessarin");
-  EXPECT_EQ(freedesktop::configFolder(environment({{"HOME", "/h"}, {"XDG_CONFIG_HOME", "c"}})),
-            "/h/.config/tessarin");
-}
-
 TEST(BaseFolders, TheUsersApplicationsComeFirstAndNoneTwice) {
   EXPECT_THAT(
       freedesktop::applicationFolders(

@@ -30,12 +30,6 @@ TEST_F(FolderLockTest, makesTheFolderAndHoldsItToItsEnd) {
   EXPECT_TRUE(FolderLock::acquire(folder)) << "the file that stays behind locks nothing";
 }
 
-TEST_F(FolderLockTest, aFolderThatCannotBeWrittenCountsAsHeld) {
-  parent.write("share", "a file where the folder should be");
-  EXPECT_TRUE(FolderLock::acquire(folder));
-  EXPECT_THAT(log.lines, ElementsAre(StartsWith("[Tessarin] The data folder cannot be locked: ")));
-}
-
 TEST_F(FolderLockTest, followsNoLinkToAnotherFile) {
   std::filesystem::create_directories(folder);
   parent.write("precious", "");

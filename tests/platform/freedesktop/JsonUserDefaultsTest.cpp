@@ -80,16 +80,6 @@ TEST_F(JsonUserDefaultsTest, AnEarlierUnreadableFileIsNotOverwritten) {
   EXPECT_EQ(folder.read("preferences.json.unreadable-2"), "second");
 }
 
-TEST_F(JsonUserDefaultsTest, AValueThatJsonCannotHoldStaysInMemory) {
-  LogRecorder log;
-  JsonUserDefaults defaults(file);
-  defaults.set("triggerCharacter", "\xff");
-  defaults.set("flag", true);
-  EXPECT_EQ(defaults.string("triggerCharacter"), "\xff");
-  EXPECT_THAT(log.lines, ElementsAre(HasSubstr("in memory only: triggerCharacter")));
-  EXPECT_EQ(content(), "{\n  \"flag\": true\n}\n");
-}
-
 TEST_F(JsonUserDefaultsTest, SettingOneKeyKeepsWhatAnotherProgramWroteMeanwhile) {
   JsonUserDefaults defaults(file);
   defaults.set("text", "ours");
@@ -170,16 +160,6 @@ TEST_F(WatchedPreferences, FollowAFolderThatIsRemovedOrMovedAwayAndMadeAnew) {
     EXPECT_TRUE(waitFor([&] { return defaults.string("text") == "other"; }));
     log.lines.clear();
   }
-}
-
-TEST_F(WatchedPreferences, FollowALink) {
-  fs::create_directory(folder / "dotfiles");
-  folder.write("dotfiles/ours.json", "{}");
-  fs::create_symlink("dotfiles/ours.json", file);
-  JsonUserDefaults defaults(file);
-  defaults.watch(queue);
-  folder.write("dotfiles/ours.json", R"({"text": "a"})");
-  EXPECT_TRUE(waitFor([&] { return defaults.string("text") == "a"; }));
 }
 
 }  // namespace

@@ -1,16 +1,12 @@
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/freedesktop/TrustRecord.h"
-#include "support/LogRecorder.h"
 #include "support/TemporaryFolder.h"
 
 namespace tessarin::testing {
 namespace {
 
 using freedesktop::TrustRecord;
-using ::testing::IsEmpty;
-using ::testing::Not;
 
 TEST(TrustRecord, FollowsTheLastAnswerAlsoOfAnotherProcess) {
   const TemporaryFolder folder;
@@ -34,14 +30,6 @@ TEST(TrustRecord, AnythingButAPlainYesIsNoPermission) {
     folder.write("trust", content);
     EXPECT_FALSE(record.isTrusted()) << content;
   }
-}
-
-TEST(TrustRecord, SaysWhenItCannotBeKept) {
-  const TemporaryFolder folder;
-  folder.write("blocked", "");
-  LogRecorder log;
-  EXPECT_FALSE(TrustRecord(folder / "blocked").allow());
-  EXPECT_THAT(log.lines, Not(IsEmpty()));
 }
 
 }  // namespace
