@@ -61,18 +61,6 @@ TEST_P(X11EventTapModifierTest, LeavesNoModifierBehind) {
   expectDocument("AbCdEf");
 }
 
-TEST_P(X11EventTapModifierTest, DoesNotPressAgainWhatWasLetGo) {
-  startPasting();
-  holdBack();
-  typist->press(XKB_KEY_Shift_L);
-  typist->type("12");
-  typist->release(XKB_KEY_Shift_L);
-  attend(KeyAttention::triggerOnly);
-  expectDocument("!@");
-  typist->tap(XKB_KEY_a);
-  expectDocument("!@a");
-}
-
 TEST_P(X11EventTapModifierTest, RestoresCapsLockAndGroup) {
   insertion = Insertion::paste;
   start({"us,ru", "-option", "grp:menu_toggle"});
