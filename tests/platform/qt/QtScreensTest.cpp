@@ -79,12 +79,6 @@ TEST_F(QtScreensTest, PanelsAreLessThanTheVisibleFrame) {
   EXPECT_EQ(screens.screens()[1].visibleFrame, found[1].frame) << "a work area that leaves nothing of it";
 }
 
-TEST_F(QtScreensTest, AWindowThatHasGoneIsOnNoScreen) {
-  monitors.layOut();
-  client.setRootNumbers("_NET_ACTIVE_WINDOW", {1});
-  EXPECT_EQ(screens.mainScreen(), screens.screens().at(0));
-}
-
 }  // namespace
 }  // namespace tessarin::ui
 
