@@ -102,10 +102,6 @@ struct Editor {
   std::vector<std::string> command;
 };
 
-void PrintTo(const Editor& editor, std::ostream* out) {
-  *out << editor.name;
-}
-
 class EachEditorTest : public EditorTest, public ::testing::WithParamInterface<Editor> {
  protected:
   /// Starts the editor on a text and puts the caret at its end.
@@ -159,15 +155,11 @@ TEST_P(EachEditorTest, tellsWhereTheCaretIs) {
   EXPECT_LT(caretBounds.x, position->x + 200);
 }
 
-TEST_P(EachEditorTest, isFoundWhenItHadTheFocusBeforeUs) {
+TEST_P(EachEditorTest, isFoundWhenItHadTheFocusBeforeUsAndLosesItToAWindowThatIsNotAccessible) {
   ASSERT_NO_FATAL_FAILURE(open("text"));
   openAccessibility();
   EXPECT_TRUE(eventually([this] { return hasValue(); }));
   EXPECT_EQ(before(100), "text");
-}
-
-TEST_P(EachEditorTest, losesTheFocusToAWindowThatIsNotAccessible) {
-  ASSERT_NO_FATAL_FAILURE(open("text"));
   const ChildProcess terminal = session.start({"xterm"});
   EXPECT_TRUE(eventually([this] { return focusedElement() == nullptr; }));
 }

@@ -24,13 +24,10 @@ class Home {
     for (const char* name : {"bin", "config", "system/autostart"}) {
       std::filesystem::create_directories(folder / name);
     }
-    install("tessarin");
+    folder.write("bin/tessarin", "");
+    std::filesystem::permissions(folder / "bin/tessarin", std::filesystem::perms::owner_all);
   }
 
-  void install(const std::string& name) {
-    folder.write("bin/" + name, "");
-    std::filesystem::permissions(folder / ("bin/" + name), std::filesystem::perms::owner_all);
-  }
   void writeOwn(const std::string& content) {
     std::filesystem::create_directories(folder / "config/autostart");
     folder.write(own, content);
@@ -38,18 +35,17 @@ class Home {
   void writeForEverybody(const std::string& content) { folder.write(everybodys, content); }
   std::string content() const { return folder.read(own); }
   bool hasOwn() const { return std::filesystem::exists(folder / own); }
-  std::string program() const { return folder / "bin/tessarin"; }
-
-  AutostartLoginItem makeItem(const std::string& desktops = "ubuntu:GNOME") const {
+  AutostartLoginItem makeItem() const {
     const std::map<std::string, std::string> variables = {
         {"XDG_CONFIG_HOME", folder / "config"},
         {"XDG_CONFIG_DIRS", "relative:" + (folder / "system").string()},
-        {"XDG_CURRENT_DESKTOP", desktops},
+        {"XDG_CURRENT_DESKTOP", "ubuntu:GNOME"},
         {"PATH", folder / "bin"}};
-    return AutostartLoginItem(program(), [variables](const std::string& name) -> std::optional<std::string> {
+    const auto environment = [variables](const std::string& name) -> std::optional<std::string> {
       const auto found = variables.find(name);
       return found == variables.end() ? std::nullopt : std::optional(found->second);
-    });
+    };
+    return AutostartLoginItem(folder / "bin/tessarin", environment);
   }
 
   TemporaryFolder folder;

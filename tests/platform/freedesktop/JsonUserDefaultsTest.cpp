@@ -50,26 +50,24 @@ TEST_F(JsonUserDefaultsTest, KeepsWhatItDoesNotKnow) {
   EXPECT_EQ(text, R"({"other":{"a":[1,2.5,null]},"showMenuBarIcon":false})");
 }
 
-class MalformedPreferences : public JsonUserDefaultsTest,
-                             public ::testing::WithParamInterface<const char*> {};
-
-TEST_P(MalformedPreferences, AreLoggedOnceAndMovedAsideBeforeTheFirstWrite) {
-  write(GetParam());
-  LogRecorder log;
-  JsonUserDefaults defaults(file);
-  EXPECT_EQ(defaults.string("triggerCharacter"), std::nullopt);
-  EXPECT_THAT(log.lines, ElementsAre(StartsWith("[UserDefaults] Failed to load preferences: ")));
-  EXPECT_EQ(content(), GetParam());
-  defaults.set("triggerCharacter", "/");
-  defaults.set("triggerCharacter", ";");
-  EXPECT_THAT(folder.names(), ElementsAre("preferences.json", "preferences.json.unreadable"));
-  EXPECT_EQ(folder.read("preferences.json.unreadable"), GetParam());
-  EXPECT_EQ(JsonUserDefaults(file).string("triggerCharacter"), ";");
+TEST_F(JsonUserDefaultsTest, AMalformedFileIsLoggedOnceAndMovedAsideBeforeTheFirstWrite) {
+  for (const char* malformed :
+       {"", "[]", "{\"triggerCharacter\": \";\"", "{\"triggerCharacter\": \"\xff\"}"}) {
+    SCOPED_TRACE(malformed);
+    fs::remove(folder / "preferences.json.unreadable");
+    write(malformed);
+    LogRecorder log;
+    JsonUserDefaults defaults(file);
+    EXPECT_EQ(defaults.string("triggerCharacter"), std::nullopt);
+    EXPECT_THAT(log.lines, ElementsAre(StartsWith("[UserDefaults] Failed to load preferences: ")));
+    EXPECT_EQ(content(), malformed);
+    defaults.set("triggerCharacter", "/");
+    defaults.set("triggerCharacter", ";");
+    EXPECT_THAT(folder.names(), ElementsAre("preferences.json", "preferences.json.unreadable"));
+    EXPECT_EQ(folder.read("preferences.json.unreadable"), malformed);
+    EXPECT_EQ(JsonUserDefaults(file).string("triggerCharacter"), ";");
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(Contents, MalformedPreferences,
-                         ::testing::Values("", "[]", "{\"triggerCharacter\": \";\"",
-                                           "{\"triggerCharacter\": \"\xff\"}"));
 
 TEST_F(JsonUserDefaultsTest, AnEarlierUnreadableFileIsNotOverwritten) {
   folder.write("preferences.json.unreadable", "first");

@@ -3,7 +3,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QTextEdit>
 #include <memory>
 #include <string>
@@ -174,13 +173,6 @@ TEST_F(OwnWindows, AreNotWrittenToWhereTextIsReadOnly) {
   EXPECT_EQ(edit->text(), "abc");
 }
 
-TEST_F(OwnWindows, HaveElementsWithoutText) {
-  auto* button = new QPushButton("Allow", &window);
-  ASSERT_TRUE(showFocused(window, *button));
-  EXPECT_EQ(read<std::string>(focused(), attribute::role), role::unknown);
-  EXPECT_EQ(read<std::string>(focused(), attribute::value), std::nullopt);
-}
-
 TEST_F(OwnWindows, ReplaceInTheCaretsParagraphSoThatItCanBeUndone) {
   auto* edit = new QTextEdit(&window);
   edit->setPlainText("one\ntwo:x");
@@ -218,11 +210,9 @@ using OtherApplications = World;
 
 TEST_F(OtherApplications, AreAskedWhileNoWindowOfOursIsActive) {
   const auto element = std::make_shared<FakeElement>();
-  element->attributes["AXRole"] = std::string(role::textArea);
   element->parameterized["AXStringForRange"] = [](const AttributeValue&) { return std::string("theirs"); };
   others.focus(element);
   ASSERT_EQ(focused(), element);
-  EXPECT_EQ(read<std::string>(focused(), attribute::role), role::textArea);
   EXPECT_EQ(string(focused(), {0, 6}), "theirs");
   EXPECT_EQ(replace(focused(), {0, 6}, "x"), AccessibilityStatus::success);
   EXPECT_EQ(others.writes.size(), 2U);
