@@ -160,22 +160,18 @@ TEST(AutostartLoginItem, UnregisteringLeavesWhatIsNotOurs) {
 }
 
 TEST(DesktopEntryText, QuotesAnArgumentAndEscapesAValue) {
-  struct Case {
-    const char* path;
-    const char* exec;  // as it stands in the file
-  };
-  const Case cases[] = {
+  const std::pair<const char*, const char*> cases[] = {
       {"/usr/bin/tessarin", "/usr/bin/tessarin"},
       {"/opt/100%/tessarin", "/opt/100%%/tessarin"},
       {"/opt/$HOME`x`\"y\"", R"("/opt/\\$HOME\\`x\\`\\"y\\"")"},
       {"/opt/a\nb\tc", R"("/opt/a\nb\tc")"},
       {"/opt/ä;(x)~", "\"/opt/ä;(x)~\""},
   };
-  for (const Case& c : cases) {
+  for (const auto& [path, exec] : cases) {
     DesktopEntryText text;
-    text.set("Exec", freedesktop::quotedArgument(c.path));
-    EXPECT_EQ(text.content(), "[Desktop Entry]\nExec=" + std::string(c.exec) + "\n");
-    EXPECT_EQ(DesktopEntryText(text.content()).value("Exec"), freedesktop::quotedArgument(c.path));
+    text.set("Exec", freedesktop::quotedArgument(path));
+    EXPECT_EQ(text.content(), "[Desktop Entry]\nExec=" + std::string(exec) + "\n");
+    EXPECT_EQ(DesktopEntryText(text.content()).value("Exec"), freedesktop::quotedArgument(path));
   }
 }
 

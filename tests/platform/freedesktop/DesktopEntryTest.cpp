@@ -1,7 +1,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/freedesktop/BaseFolders.h"
 #include "platform/freedesktop/DesktopEntry.h"
 
 namespace tessarin::testing {
@@ -57,23 +56,6 @@ TEST(DesktopEntry, IsNotReadFromAnythingElse) {
        {"", "Type=Application\nName=No group\n", "[Desktop Entry]\nType=Link\nName=Link\n",
         "[Desktop Entry]\nType=Application\n", "[Desktop Entry]\n=\n["})
     EXPECT_FALSE(parseDesktopEntry(content, {})) << content;
-}
-
-Environment environment(const std::map<std::string, std::string>& variables) {
-  return [variables](const std::string& name) -> std::optional<std::string> {
-    const auto found = variables.find(name);
-    if (found == variables.end()) return std::nullopt;
-    return found->second;
-  };
-}
-
-TEST(BaseFolders, TheUsersApplicationsComeFirstAndNoneTwice) {
-  EXPECT_THAT(
-      freedesktop::applicationFolders(
-          environment({{"HOME", "/h"}, {"XDG_DATA_DIRS", "/a/:relative:/var/lib/flatpak/exports/share:/a"}})),
-      ElementsAre(
-          "/h/.local/share/applications", "/a/applications", "/var/lib/flatpak/exports/share/applications",
-          "/h/.local/share/flatpak/exports/share/applications", "/var/lib/snapd/desktop/applications"));
 }
 
 }  // namespace

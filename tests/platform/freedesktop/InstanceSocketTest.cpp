@@ -96,13 +96,5 @@ TEST_F(InstanceSocketTest, AClientThatSpeaksTooSlowlyIsNotHeardOut) {
   slow.join();
 }
 
-TEST_F(InstanceSocketTest, AClientThatHangsUpIsForgotten) {
-  const auto socket = InstanceSocket::listen("/data/one");
-  ASSERT_TRUE(socket);
-  std::thread client([] { requestOfRunningInstance("/data/one", std::string(20000, 'x')); });
-  EXPECT_EQ(served(*socket), "");
-  client.join();
-}
-
 }  // namespace
 }  // namespace tessarin::freedesktop

@@ -83,6 +83,34 @@ TEST_F(X11EventTapTest, SeesAndHoldsNothingButTheTriggerWhileIdle) {
   EXPECT_EQ(seen[0].flags, keyflag::shift);
 }
 
+TEST_F(X11EventTapTest, LeavesAWindowManagerItsCombinations) {
+  start();
+  // It reserves a combination with the letter o and then says that it manages the display.
+  const x11::Connection other(xcb_connect(display.name().c_str(), nullptr));
+  const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(other.get())).data->root;
+  xcb_grab_key(other.get(), 0, root, XCB_MOD_MASK_4, 32, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+  const x11::Owned<xcb_intern_atom_reply_t> check(xcb_intern_atom_reply(
+      other.get(), xcb_intern_atom(other.get(), 0, 24, "_NET_SUPPORTING_WM_CHECK"), nullptr));
+  xcb_change_property(other.get(), XCB_PROP_MODE_REPLACE, root, check->atom, XCB_ATOM_WINDOW, 32, 1, &root);
+  xcb_flush(other.get());
+  typist->type("a");
+  expectDocument("a");
+  document->clear();
+  typist->type(":oO");
+  expectDocument(":oO");
+  typist->press(XKB_KEY_Super_L);
+  typist->tap(XKB_KEY_o);
+  typist->release(XKB_KEY_Super_L);
+  typist->sync();
+  int got = 0;
+  EXPECT_TRUE(queue.runUntil([&] {
+    while (const x11::Owned<xcb_generic_event_t> event{xcb_poll_for_event(other.get())}) {
+      got += event->response_type == XCB_KEY_PRESS ? 1 : 0;
+    }
+    return got == 1;
+  }));
+}
+
 TEST_F(X11EventTapTest, HoldsEveryKeyOfEitherKeyboardAtAnySpeed) {
   start();
   for (const auto& [device, how] : manners) {
