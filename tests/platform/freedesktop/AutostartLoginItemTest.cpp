@@ -24,13 +24,10 @@ class Home {
     for (const char* name : {"bin", "config", "system/autostart"}) {
       std::filesystem::create_directories(folder / name);
     }
-    install("tessarin");
+    folder.write("bin/tessarin", "");
+    std::filesystem::permissions(folder / "bin/tessarin", std::filesystem::perms::owner_all);
   }
 
-  void install(const std::string& name) {
-    folder.write("bin/" + name, "");
-    std::filesystem::permissions(folder / ("bin/" + name), std::filesystem::perms::owner_all);
-  }
   void writeOwn(const std::string& content) {
     std::filesystem::create_directories(folder / "config/autostart");
     folder.write(own, content);
@@ -38,18 +35,17 @@ class Home {
   void writeForEverybody(const std::string& content) { folder.write(everybodys, content); }
   std::string content() const { return folder.read(own); }
   bool hasOwn() const { return std::filesystem::exists(folder / own); }
-  std::string program() const { return folder / "bin/tessarin"; }
-
-  AutostartLoginItem makeItem(const std::string& desktops = "ubuntu:GNOME") const {
+  AutostartLoginItem makeItem() const {
     const std::map<std::string, std::string> variables = {
         {"XDG_CONFIG_HOME", folder / "config"},
         {"XDG_CONFIG_DIRS", "relative:" + (folder / "system").string()},
-        {"XDG_CURRENT_DESKTOP", desktops},
+        {"XDG_CURRENT_DESKTOP", "ubuntu:GNOME"},
         {"PATH", folder / "bin"}};
-    return AutostartLoginItem(program(), [variables](const std::string& name) -> std::optional<std::string> {
+    const auto environment = [variables](const std::string& name) -> std::optional<std::string> {
       const auto found = variables.find(name);
       return found == variables.end() ? std::nullopt : std::optional(found->second);
-    });
+    };
+    return AutostartLoginItem(folder / "bin/tessarin", environment);
   }
 
   TemporaryFolder folder;
@@ -99,18 +95,13 @@ TEST(AutostartLoginItem, JudgesAnEntryAsTheDesktopDoes) {
   };
   const Case cases[] = {
       {"", true},
-      {"Hidden=false\n", true},
       {"Hidden=true\n", false},
       {"X-GNOME-Autostart-enabled=false\n", false},
-      {"X-GNOME-Autostart-enabled = true \n", true},
       {"OnlyShowIn=KDE;GNOME;\n", true},
       {"OnlyShowIn=KDE;\n", false},
-      {"OnlyShowIn=\n", false},
-      {"NotShowIn=KDE;\n", true},
       {"NotShowIn=ubuntu\n", false},
       {"TryExec=tessarin\n", true},
       {"TryExec=missing\n", false},
-      {"TryExec=/missing/tessarin\n", false},
       {"# Hidden=true\n[Desktop Action hide]\nHidden=true\n", true},
   };
   for (const Case& c : cases) {
@@ -126,26 +117,8 @@ TEST(AutostartLoginItem, JudgesAnEntryAsTheDesktopDoes) {
   }
 }
 
-TEST(AutostartLoginItem, AnEntryWithNothingToStartStartsNothing) {
-  for (const char* content : {"", "[Desktop Entry]\nType=Application\n", "Exec=tessarin\n"}) {
-    Home home;
-    home.writeForEverybody(entry);
-    home.writeOwn(content);
-    EXPECT_FALSE(home.makeItem().isEnabled()) << content;
-  }
-}
-
-TEST(AutostartLoginItem, IsOffOnceTheProgramIsGone) {
-  Home home;
-  AutostartLoginItem item = home.makeItem();
-  ASSERT_EQ(item.registerItem(), std::nullopt);
-  std::filesystem::remove(home.program());
-  EXPECT_FALSE(item.isEnabled());
-}
-
 TEST(AutostartLoginItem, RegisteringMendsWhatTheUserSwitchedOff) {
-  for (const char* keys : {"Hidden=true\n", "X-GNOME-Autostart-enabled=false\n", "OnlyShowIn=KDE;\n",
-                           "NotShowIn=GNOME;\n", "TryExec=missing\n"}) {
+  for (const char* keys : {"X-GNOME-Autostart-enabled=false\n", "OnlyShowIn=KDE;\n", "TryExec=missing\n"}) {
     SCOPED_TRACE(keys);
     Home home;
     home.writeOwn(entry + "X-Delay=5\n" + keys + "\n[Desktop Action new]\nName=New\n");
@@ -168,13 +141,10 @@ TEST(AutostartLoginItem, UnregisteringLeavesWhatIsNotOurs) {
       {"ours alone", "[Desktop Entry]\nType=Application\nExec=x\nHidden=false\n", nullptr, nullptr},
       {"with a foreign key", "[Desktop Entry]\nExec=x\nX-Delay=5\n", nullptr,
        "[Desktop Entry]\nExec=x\nX-Delay=5\nHidden=true\n"},
-      {"with a comment", "# mine\n[Desktop Entry]\nExec=x\n", nullptr,
-       "# mine\n[Desktop Entry]\nExec=x\nHidden=true\n"},
       {"everybody's too", "[Desktop Entry]\nExec=x\n", "[Desktop Entry]\nExec=x\n",
        "[Desktop Entry]\nExec=x\nHidden=true\n"},
       {"everybody's alone", nullptr, "[Desktop Entry]\nExec=x\n",
        "[Desktop Entry]\nType=Application\nName=Tessarin\nHidden=true\n"},
-      {"none", nullptr, nullptr, nullptr},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.description);
@@ -190,29 +160,18 @@ TEST(AutostartLoginItem, UnregisteringLeavesWhatIsNotOurs) {
 }
 
 TEST(DesktopEntryText, QuotesAnArgumentAndEscapesAValue) {
-  struct Case {
-    const char* path;
-    const char* exec;  // as it stands in the file
-  };
-  const Case cases[] = {
+  const std::pair<const char*, const char*> cases[] = {
       {"/usr/bin/tessarin", "/usr/bin/tessarin"},
-      {"/opt/my apps/tessarin", "\"/opt/my apps/tessarin\""},
       {"/opt/100%/tessarin", "/opt/100%%/tessarin"},
       {"/opt/$HOME`x`\"y\"", R"("/opt/\\$HOME\\`x\\`\\"y\\"")"},
-      {R"(/opt/a\b)", R"("/opt/a\\\\b")"},
       {"/opt/a\nb\tc", R"("/opt/a\nb\tc")"},
       {"/opt/ä;(x)~", "\"/opt/ä;(x)~\""},
   };
-  for (const Case& c : cases) {
+  for (const auto& [path, exec] : cases) {
     DesktopEntryText text;
-    text.set("Exec", freedesktop::quotedArgument(c.path));
-    EXPECT_EQ(text.content(), "[Desktop Entry]\nExec=" + std::string(c.exec) + "\n");
-    EXPECT_EQ(DesktopEntryText(text.content()).value("Exec"), freedesktop::quotedArgument(c.path));
-  }
-  for (const char* value : {" leading", "trailing ", " ", "in between", "", "\\s", "a\rb"}) {
-    DesktopEntryText text;
-    text.set("Name", value);
-    EXPECT_EQ(DesktopEntryText(text.content()).value("Name"), value);
+    text.set("Exec", freedesktop::quotedArgument(path));
+    EXPECT_EQ(text.content(), "[Desktop Entry]\nExec=" + std::string(exec) + "\n");
+    EXPECT_EQ(DesktopEntryText(text.content()).value("Exec"), freedesktop::quotedArgument(path));
   }
 }
 

@@ -18,101 +18,76 @@ namespace {
 using freedesktop::ComposingInputMethod;
 using State = ComposingInputMethod::State;
 
-constexpr const char* noBus = "unix:path=/nonexistent/bus";
+enum class Kind { ibus, fcitx };
 
-/// A service with an engine in use.
-class Engines : public BusService {
+/// The daemon of an input method with an engine in use.
+class Daemon final : public BusService {
  public:
-  Engines(const std::string& address, const std::string& name, std::string engine)
-      : BusService(address, name), engine_(std::move(engine)) {}
+  Daemon(Kind kind, const std::string& address, std::string engine)
+      : BusService(address, kind == Kind::ibus ? "org.freedesktop.IBus" : "org.fcitx.Fcitx5"),
+        kind_(kind),
+        engine_(std::move(engine)) {
+    start();
+  }
+  ~Daemon() override { stop(); }
 
   /// Changes without a word.
   void use(const std::string& engine) {
     const std::scoped_lock lock(mutex_);
     engine_ = engine;
   }
+  void tellChange() {
+    DBusMessage* signal =
+        kind_ == Kind::ibus
+            ? dbus_message_new_signal("/org/freedesktop/IBus", "org.freedesktop.IBus", "GlobalEngineChanged")
+            : dbus_message_new_signal("/kimpanel", "org.kde.kimpanel.inputmethod", "Enable");
+    const char* name = engine_.c_str();
+    dbus_message_append_args(signal, DBUS_TYPE_STRING, &name, DBUS_TYPE_INVALID);
+    send(signal);
+  }
   int questions() const { return questions_; }
-
- protected:
-  std::string engine() {
-    const std::scoped_lock lock(mutex_);
-    return engine_;
-  }
-  std::atomic<int> questions_ = 0;
-
- private:
-  std::mutex mutex_;
-  std::string engine_;
-};
-
-class Fcitx final : public Engines {
- public:
-  Fcitx(const std::string& address, const std::string& engine)
-      : Engines(address, "org.fcitx.Fcitx5", engine) {
-    start();
-  }
-  ~Fcitx() override { stop(); }
-  void tellPanel() { send(dbus_message_new_signal("/kimpanel", "org.kde.kimpanel.inputmethod", "Enable")); }
   std::atomic<bool> isHanging = false;
 
  private:
   DBusMessage* answer(DBusMessage* question) override {
-    if (dbus_message_has_member(question, "CurrentInputMethod") == 0) return nullptr;
+    const char* member = kind_ == Kind::ibus ? "Get" : "CurrentInputMethod";
+    if (dbus_message_has_member(question, member) == 0) return nullptr;
     ++questions_;
     if (isHanging) return nullptr;
+    const std::scoped_lock lock(mutex_);
+    if (kind_ == Kind::ibus && engine_.empty()) {
+      return dbus_message_new_error(question, DBUS_ERROR_FAILED, "No global engine.");
+    }
     DBusMessage* reply = dbus_message_new_method_return(question);
-    const std::string name = engine();
-    const char* text = name.c_str();
-    dbus_message_append_args(reply, DBUS_TYPE_STRING, &text, DBUS_TYPE_INVALID);
+    const char* name = engine_.c_str();
+    if (kind_ == Kind::ibus) {
+      appendDescription(reply, name);
+    } else {
+      dbus_message_append_args(reply, DBUS_TYPE_STRING, &name, DBUS_TYPE_INVALID);
+    }
     return reply;
   }
-};
-
-class IBus final : public Engines {
- public:
-  IBus(const std::string& address, const std::string& engine)
-      : Engines(address, "org.freedesktop.IBus", engine) {
-    start();
-  }
-  ~IBus() override { stop(); }
-
-  void switchTo(const std::string& engine) {
-    use(engine);
-    DBusMessage* signal =
-        dbus_message_new_signal("/org/freedesktop/IBus", "org.freedesktop.IBus", "GlobalEngineChanged");
-    const char* text = engine.c_str();
-    dbus_message_append_args(signal, DBUS_TYPE_STRING, &text, DBUS_TYPE_INVALID);
-    send(signal);
-  }
-
- private:
-  DBusMessage* answer(DBusMessage* question) override {
-    if (dbus_message_has_member(question, "Get") == 0) return nullptr;
-    ++questions_;
-    const std::string name = engine();
-    if (name.empty()) return dbus_message_new_error(question, DBUS_ERROR_FAILED, "No global engine.");
-    DBusMessage* reply = dbus_message_new_method_return(question);
+  static void appendDescription(DBusMessage* reply, const char* name) {
+    const char* type = "IBusEngineDesc";
     DBusMessageIter levels[5];
     dbus_message_iter_init_append(reply, &levels[0]);
     dbus_message_iter_open_container(&levels[0], DBUS_TYPE_VARIANT, "v", &levels[1]);
     dbus_message_iter_open_container(&levels[1], DBUS_TYPE_VARIANT, "(sa{sv}ss)", &levels[2]);
     dbus_message_iter_open_container(&levels[2], DBUS_TYPE_STRUCT, nullptr, &levels[3]);
-    appendDescription(levels[3], name);
+    dbus_message_iter_append_basic(&levels[3], DBUS_TYPE_STRING, static_cast<const void*>(&type));
+    dbus_message_iter_open_container(&levels[3], DBUS_TYPE_ARRAY, "{sv}", &levels[4]);
+    dbus_message_iter_close_container(&levels[3], &levels[4]);
+    dbus_message_iter_append_basic(&levels[3], DBUS_TYPE_STRING, static_cast<const void*>(&name));
+    dbus_message_iter_append_basic(&levels[3], DBUS_TYPE_STRING, static_cast<const void*>(&type));
     for (int level = 2; level >= 0; --level) {
       dbus_message_iter_close_container(&levels[level], &levels[level + 1]);
     }
-    return reply;
   }
-  static void appendDescription(DBusMessageIter& fields, const std::string& name) {
-    const char* type = "IBusEngineDesc";
-    const char* text = name.c_str();
-    DBusMessageIter attachments;
-    dbus_message_iter_append_basic(&fields, DBUS_TYPE_STRING, static_cast<const void*>(&type));
-    dbus_message_iter_open_container(&fields, DBUS_TYPE_ARRAY, "{sv}", &attachments);
-    dbus_message_iter_close_container(&fields, &attachments);
-    dbus_message_iter_append_basic(&fields, DBUS_TYPE_STRING, static_cast<const void*>(&text));
-    dbus_message_iter_append_basic(&fields, DBUS_TYPE_STRING, static_cast<const void*>(&type));
-  }
+
+  Kind kind_;
+  std::atomic<int> questions_ = 0;
+  std::mutex mutex_;
+  std::string engine_;
 };
 
 class ComposingInputMethodTest : public ::testing::Test {
@@ -138,62 +113,47 @@ class ComposingInputMethodTest : public ::testing::Test {
   std::unique_ptr<ComposingInputMethod> method;
 };
 
-struct Row {
-  const char* engine;
-  bool composes;
-};
-
-TEST_F(ComposingInputMethodTest, KnowsTheEnginesOfIBus) {
+TEST_F(ComposingInputMethodTest, KnowsTheEngines) {
+  struct Row {
+    Kind kind;
+    const char* engine;
+    bool composes;
+  };
+  const Row rows[] = {{Kind::ibus, "xkb:us::eng", false},
+                      {Kind::ibus, "anthy", true},
+                      {Kind::ibus, "m17n:vi:telex", true},
+                      {Kind::ibus, "", false},
+                      {Kind::fcitx, "pinyin", true},
+                      {Kind::fcitx, "keyboard-us", false},
+                      {Kind::fcitx, "", false}};
   leaveAddress(daemon.address());
-  for (const auto& [engine, composes] : {Row{"xkb:us::eng", false},
-                                         {"anthy", true},
-                                         {"libpinyin", true},
-                                         {"xkb:fr:oss:fra", false},
-                                         {"m17n:vi:telex", true},
-                                         {"", false},
-                                         {"hangul", true},
-                                         {"xkb:jp::jpn", false}}) {
-    IBus ibus(daemon.address(), engine);
+  for (const auto& [kind, engine, composes] : rows) {
+    SCOPED_TRACE(engine);
+    const bool isIBus = kind == Kind::ibus;
+    const State yes = isIBus ? State::yes : State::lastTime;
+    Daemon asked(kind, isIBus ? daemon.address() : session.address(), engine);
     connect(session.address());
-    ASSERT_TRUE(eventually([&] { return ibus.questions() > 0; }));
-    EXPECT_TRUE(becomes(composes ? State::yes : State::no)) << "at the start: " << engine;
-    ibus.switchTo(composes ? "xkb:us::eng" : "anthy");
-    EXPECT_TRUE(becomes(composes ? State::no : State::yes));
-    ibus.switchTo(engine);
-    EXPECT_TRUE(becomes(composes ? State::yes : State::no)) << "switched to: " << engine;
-  }
-}
-
-TEST_F(ComposingInputMethodTest, KnowsTheInputMethodsOfFcitx) {
-  for (const auto& [engine, composes] : {Row{"pinyin", true},
-                                         {"keyboard-us", false},
-                                         {"anthy", true},
-                                         {"", false},
-                                         {"unikey", true},
-                                         {"keyboard-fr-oss", false}}) {
-    Fcitx fcitx(session.address(), engine);
-    connect(session.address());
-    ASSERT_TRUE(eventually([&] { return fcitx.questions() > 0; }));
-    EXPECT_TRUE(becomes(composes ? State::lastTime : State::no)) << engine;
-    fcitx.use(composes ? "keyboard-us" : "pinyin");
-    method->lookAgain();
-    EXPECT_TRUE(becomes(composes ? State::no : State::lastTime)) << "after: " << engine;
-    fcitx.use(engine);
-    fcitx.tellPanel();
-    EXPECT_TRUE(becomes(composes ? State::lastTime : State::no)) << "told the panel: " << engine;
+    ASSERT_TRUE(eventually([&] { return asked.questions() > 0; }));
+    EXPECT_TRUE(becomes(composes ? yes : State::no)) << "at the start";
+    asked.use(!composes ? "anthy" : isIBus ? "xkb:us::eng" : "keyboard-us");
+    asked.tellChange();
+    EXPECT_TRUE(becomes(composes ? State::no : yes)) << "told of another";
+    asked.use(engine);
+    isIBus ? asked.tellChange() : method->lookAgain();
+    EXPECT_TRUE(becomes(composes ? yes : State::no)) << "and back";
   }
 }
 
 TEST_F(ComposingInputMethodTest, ServicesComeAndGo) {
   connect(session.address());
   for (int round = 1; round <= 2; ++round) {
-    std::optional<Fcitx> fcitx(std::in_place, session.address(), "pinyin");
+    std::optional<Daemon> fcitx(std::in_place, Kind::fcitx, session.address(), "pinyin");
     EXPECT_TRUE(becomes(State::lastTime));
     fcitx.reset();
     EXPECT_TRUE(becomes(State::no));
 
     PrivateBus later;
-    const IBus ibus(later.address(), "anthy");
+    const Daemon ibus(Kind::ibus, later.address(), "anthy");
     leaveAddress(later.address());
     method->lookAgain();
     EXPECT_TRUE(becomes(State::yes)) << "a daemon that came later";
@@ -206,7 +166,7 @@ TEST_F(ComposingInputMethodTest, GoesToTheDaemonThatWroteLast) {
   // Fcitx leaves the address of the session's bus, which stays when it goes.
   leaveAddress(session.address());
   connect(session.address());
-  const IBus ibus(daemon.address(), "anthy");
+  const Daemon ibus(Kind::ibus, daemon.address(), "anthy");
   leaveAddress(daemon.address());
   EXPECT_TRUE(becomes(State::yes)) << "without being asked";
   leaveAddress("");
@@ -214,7 +174,7 @@ TEST_F(ComposingInputMethodTest, GoesToTheDaemonThatWroteLast) {
 }
 
 TEST_F(ComposingInputMethodTest, OneThatHangsIsAskedOnce) {
-  Fcitx fcitx(session.address(), "pinyin");
+  Daemon fcitx(Kind::fcitx, session.address(), "pinyin");
   connect(session.address());
   ASSERT_TRUE(becomes(State::lastTime));
   fcitx.isHanging = true;
@@ -224,16 +184,9 @@ TEST_F(ComposingInputMethodTest, OneThatHangsIsAskedOnce) {
     std::this_thread::yield();
   }
   EXPECT_TRUE(eventually([&] { return fcitx.questions() == before + 1; }));
-  { const IBus ibus(daemon.address(), "anthy"); }
+  { const Daemon ibus(Kind::ibus, daemon.address(), "anthy"); }
   EXPECT_EQ(fcitx.questions(), before + 1);
   method.reset();  // and it is not waited for
-}
-
-TEST_F(ComposingInputMethodTest, ComposesNothingWithoutABus) {
-  leaveAddress(noBus);
-  connect(noBus);
-  method->lookAgain();
-  EXPECT_TRUE(becomes(State::no));
 }
 
 }  // namespace

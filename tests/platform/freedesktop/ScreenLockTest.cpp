@@ -15,138 +15,68 @@ using freedesktop::ScreenLock;
 
 constexpr const char* noBus = "unix:path=/nonexistent/bus";
 
-/// A locker that says whether it covers the screen.
+constexpr const char* sessionList = "org.freedesktop.login1";
+
+/// A service that says whether the screen is locked: a locker, or the list of sessions with one in it.
 class Locker final : public BusService {
  public:
-  Locker(const std::string& address, const std::string& name, bool isActive)
-      : BusService(address, name), name_(name), isActive_(isActive) {
+  Locker(const std::string& address, const std::string& name, bool isLocked)
+      : BusService(address, name), name_(name), isLocked_(isLocked) {
     start();
   }
   ~Locker() override { stop(); }
 
-  void tell(bool isActive) {
-    isActive_ = isActive;
-    DBusMessage* signal = dbus_message_new_signal("/locker", name_.c_str(), "ActiveChanged");
-    const dbus_bool_t value = isActive ? 1 : 0;
-    dbus_message_append_args(signal, DBUS_TYPE_BOOLEAN, &value, DBUS_TYPE_INVALID);
-    send(signal);
-  }
-
- private:
-  DBusMessage* answer(DBusMessage* question) override {
-    if (dbus_message_has_member(question, "GetActive") == 0) return nullptr;
-    DBusMessage* reply = dbus_message_new_method_return(question);
-    const dbus_bool_t value = isActive_ ? 1 : 0;
-    dbus_message_append_args(reply, DBUS_TYPE_BOOLEAN, &value, DBUS_TYPE_INVALID);
-    return reply;
-  }
-
-  std::string name_;
-  std::atomic<bool> isActive_;
-};
-
-/// The list of sessions, with one in it.
-class Sessions final : public BusService {
- public:
-  Sessions(const std::string& address, bool isLocked)
-      : BusService(address, "org.freedesktop.login1"), isLocked_(isLocked) {
-    start();
-  }
-  ~Sessions() override { stop(); }
-
-  void mark(bool isLocked) {
+  void tell(bool isLocked) {
     isLocked_ = isLocked;
-    DBusMessage* signal = dbus_message_new_signal(path, DBUS_INTERFACE_PROPERTIES, "PropertiesChanged");
+    const dbus_bool_t value = isLocked ? 1 : 0;
     const char* interface = "org.freedesktop.login1.Session";
-    dbus_message_append_args(signal, DBUS_TYPE_STRING, &interface, DBUS_TYPE_INVALID);
+    DBusMessage* signal = nullptr;
+    if (name_ == sessionList) {
+      signal = dbus_message_new_signal("/org/freedesktop/login1/session/_31", DBUS_INTERFACE_PROPERTIES,
+                                       "PropertiesChanged");
+      dbus_message_append_args(signal, DBUS_TYPE_STRING, &interface, DBUS_TYPE_INVALID);
+    } else {
+      signal = dbus_message_new_signal("/locker", name_.c_str(), "ActiveChanged");
+      dbus_message_append_args(signal, DBUS_TYPE_BOOLEAN, &value, DBUS_TYPE_INVALID);
+    }
     send(signal);
   }
-  void requestLock() { send(dbus_message_new_signal(path, "org.freedesktop.login1.Session", "Lock")); }
-  int questions() const { return questions_; }
 
  private:
-  static constexpr const char* path = "/org/freedesktop/login1/session/_31";
-
-  DBusMessage* answer(DBusMessage* question) override {
+  static bool asksForTheMark(DBusMessage* question) {
     const char* interface = nullptr;
     const char* property = nullptr;
-    const bool isKnown = dbus_message_has_path(question, "/org/freedesktop/login1/session/auto") != 0 &&
-                         dbus_message_get_args(question, nullptr, DBUS_TYPE_STRING, &interface,
-                                               DBUS_TYPE_STRING, &property, DBUS_TYPE_INVALID) != 0 &&
-                         std::string(property) == "LockedHint";
-    if (!isKnown) return nullptr;
-    ++questions_;
+    return dbus_message_has_path(question, "/org/freedesktop/login1/session/auto") != 0 &&
+           dbus_message_get_args(question, nullptr, DBUS_TYPE_STRING, &interface, DBUS_TYPE_STRING, &property,
+                                 DBUS_TYPE_INVALID) != 0 &&
+           std::string(property) == "LockedHint";
+  }
+  DBusMessage* answer(DBusMessage* question) override {
+    const bool isMark = name_ == sessionList;
+    if (isMark ? !asksForTheMark(question) : dbus_message_has_member(question, "GetActive") == 0)
+      return nullptr;
     DBusMessage* reply = dbus_message_new_method_return(question);
     DBusMessageIter arguments;
     DBusMessageIter variant;
     const dbus_bool_t value = isLocked_ ? 1 : 0;
     dbus_message_iter_init_append(reply, &arguments);
-    dbus_message_iter_open_container(&arguments, DBUS_TYPE_VARIANT, "b", &variant);
-    dbus_message_iter_append_basic(&variant, DBUS_TYPE_BOOLEAN, &value);
-    dbus_message_iter_close_container(&arguments, &variant);
+    if (isMark) dbus_message_iter_open_container(&arguments, DBUS_TYPE_VARIANT, "b", &variant);
+    dbus_message_iter_append_basic(isMark ? &variant : &arguments, DBUS_TYPE_BOOLEAN, &value);
+    if (isMark) dbus_message_iter_close_container(&arguments, &variant);
     return reply;
   }
 
+  std::string name_;
   std::atomic<bool> isLocked_;
-  std::atomic<int> questions_ = 0;
 };
 
-class ScreenLockTest : public ::testing::TestWithParam<const char*> {
- protected:
-  bool becomes(bool isLocked) {
-    return eventually([&] { return lock->isLocked() == isLocked; });
-  }
-  PrivateBus bus;
-  std::unique_ptr<ScreenLock> lock = ScreenLock::connect(bus.address(), noBus);
+/// A service on the system's bus or on the session's.
+struct Place {
+  const char* service;
+  bool isOnSystemBus;
 };
 
-TEST_P(ScreenLockTest, FollowsTheLocker) {
-  ASSERT_TRUE(lock);
-  EXPECT_FALSE(lock->isLocked());
-  Locker locker(bus.address(), GetParam(), false);
-  locker.tell(true);
-  EXPECT_TRUE(becomes(true));
-  locker.tell(false);
-  EXPECT_TRUE(becomes(false));
-}
-
-TEST_P(ScreenLockTest, KnowsALockerThatIsActiveAlready) {
-  const Locker locker(bus.address(), GetParam(), true);
-  const auto later = ScreenLock::connect(bus.address(), noBus);
-  EXPECT_TRUE(eventually([&] { return later->isLocked(); }));
-  EXPECT_TRUE(becomes(true)) << "it came after the one that was there";
-}
-
-TEST_P(ScreenLockTest, ALockerThatHasEndedCoversNothing) {
-  {
-    Locker locker(bus.address(), GetParam(), true);
-    EXPECT_TRUE(becomes(true));
-  }
-  EXPECT_TRUE(becomes(false));
-}
-
-INSTANTIATE_TEST_SUITE_P(Services, ScreenLockTest,
-                         ::testing::Values("org.freedesktop.ScreenSaver", "org.gnome.ScreenSaver"));
-
-TEST_F(ScreenLockTest, OneOfSeveralIsEnough) {
-  Locker first(bus.address(), "org.freedesktop.ScreenSaver", true);
-  Locker second(bus.address(), "org.gnome.ScreenSaver", true);
-  EXPECT_TRUE(becomes(true));
-  first.tell(false);
-  second.tell(true);
-  EXPECT_TRUE(becomes(true));
-  second.tell(false);
-  EXPECT_TRUE(becomes(false));
-}
-
-TEST_F(ScreenLockTest, NothingIsLockedWhenTheBusHasGone) {
-  Locker locker(bus.address(), "org.gnome.ScreenSaver", true);
-  EXPECT_TRUE(becomes(true));
-  bus.stop();
-  EXPECT_TRUE(becomes(false));
-}
-
-class SessionLockTest : public ::testing::Test {
+class ScreenLockTest : public ::testing::TestWithParam<Place> {
  protected:
   bool becomes(bool isLocked) {
     return eventually([&] { return lock->isLocked() == isLocked; });
@@ -156,48 +86,40 @@ class SessionLockTest : public ::testing::Test {
   std::unique_ptr<ScreenLock> lock = ScreenLock::connect(session.address(), system.address());
 };
 
-TEST_F(SessionLockTest, FollowsTheMarkOfTheSession) {
-  Sessions sessions(system.address(), true);
-  EXPECT_TRUE(becomes(true)) << "marked already when the list appeared";
-  sessions.mark(false);
-  EXPECT_TRUE(becomes(false));
-  sessions.mark(true);
-  EXPECT_TRUE(becomes(true));
-}
-
-TEST_F(SessionLockTest, ARequestToLockOnlyMakesItLook) {
-  Sessions sessions(system.address(), false);
-  ASSERT_TRUE(eventually([&] { return sessions.questions() > 0; }));
-  const int before = sessions.questions();
-  sessions.requestLock();
-  EXPECT_TRUE(eventually([&] { return sessions.questions() > before; }));
+TEST_P(ScreenLockTest, FollowsTheService) {
+  ASSERT_TRUE(lock);
   EXPECT_FALSE(lock->isLocked());
+  {
+    const auto& [service, isOnSystemBus] = GetParam();
+    const std::string bus = isOnSystemBus ? system.address() : session.address();
+    Locker locker(bus, service, true);
+    EXPECT_TRUE(becomes(true)) << "it came after the one that was there";
+    const auto later = isOnSystemBus ? ScreenLock::connect(noBus, bus) : ScreenLock::connect(bus, noBus);
+    ASSERT_TRUE(later) << "either bus is enough";
+    EXPECT_TRUE(eventually([&] { return later->isLocked(); })) << "it is locked already";
+    locker.tell(false);
+    EXPECT_TRUE(becomes(false));
+    locker.tell(true);
+    EXPECT_TRUE(becomes(true));
+  }
+  EXPECT_TRUE(becomes(false)) << "a locker that has ended covers nothing";
 }
 
-TEST_F(SessionLockTest, EitherBusIsEnough) {
-  Sessions sessions(system.address(), true);
+INSTANTIATE_TEST_SUITE_P(Services, ScreenLockTest,
+                         ::testing::Values(Place{"org.freedesktop.ScreenSaver", false},
+                                           Place{"org.gnome.ScreenSaver", false}, Place{sessionList, true}));
+
+TEST_F(ScreenLockTest, OneOfSeveralIsEnoughUntilItsBusHasGone) {
+  Locker list(system.address(), sessionList, true);
   EXPECT_TRUE(becomes(true));
+  const Locker locker(session.address(), "org.gnome.ScreenSaver", true);
   const auto alone = ScreenLock::connect(noBus, system.address());
-  ASSERT_TRUE(alone);
   EXPECT_TRUE(eventually([&] { return alone->isLocked(); }));
-  Locker locker(session.address(), "org.gnome.ScreenSaver", true);
-  sessions.mark(false);
+  list.tell(false);
   EXPECT_TRUE(eventually([&] { return !alone->isLocked(); }));
   EXPECT_TRUE(becomes(true)) << "the locker still covers it";
   session.stop();
   EXPECT_TRUE(becomes(false));
-}
-
-TEST_F(SessionLockTest, NothingIsLockedWhenTheListHasGone) {
-  {
-    const Sessions sessions(system.address(), true);
-    EXPECT_TRUE(becomes(true));
-  }
-  EXPECT_TRUE(becomes(false));
-}
-
-TEST(ScreenLock, AnswersThatThereIsNoBus) {
-  EXPECT_EQ(ScreenLock::connect(noBus, noBus), nullptr);
 }
 
 }  // namespace

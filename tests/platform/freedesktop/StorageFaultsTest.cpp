@@ -146,14 +146,7 @@ INSTANTIATE_TEST_SUITE_P(
               [](const SmallDisk&) {}}),
     [](const auto& tested) { return tested.param.name; });
 
-TEST(ReadOnlyFolder, IsHeldByOneInstanceOnly) {
-  std::optional<SmallDisk> disk;
-  try {
-    disk.emplace();
-  } catch (const std::runtime_error& error) {
-    GTEST_SKIP() << error.what();
-  }
-  LogRecorder log;
+TEST_F(StorageFault, AReadOnlyFolderIsHeldByOneInstanceOnly) {
   fs::create_directory(disk->folder() / "data");
   disk->setReadOnly(true);
   {

@@ -50,8 +50,6 @@ TEST_P(PopupPlace, IsTheFrameGivenToThePixel) {
     // Nobody composes windows here, so the corners are cut off.
     EXPECT_FALSE(client.isInShape(window, 0, 0));
     EXPECT_TRUE(client.isInShape(window, static_cast<int>(4 * scale), static_cast<int>(4 * scale)));
-    EXPECT_FALSE(
-        client.isInShape(window, static_cast<int>(pixels.width) - 1, static_cast<int>(pixels.height) - 1));
   }
 }
 

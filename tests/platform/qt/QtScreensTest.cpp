@@ -66,12 +66,6 @@ class QtScreensTest : public ::testing::Test {
   QtScreens& screens = monitors.screens();
 };
 
-TEST_F(QtScreensTest, ASingleMonitorIsTheWholeDisplay) {
-  const Screen whole{{0, 0, 1280, 1024}, {0, 0, 1280, 1024}};
-  EXPECT_THAT(screens.screens(), ElementsAre(whole));
-  EXPECT_EQ(screens.mainScreen(), whole);
-}
-
 TEST_F(QtScreensTest, PanelsAreLessThanTheVisibleFrame) {
   monitors.layOut();
   client.setRootNumbers("_NET_CURRENT_DESKTOP", {1});
@@ -83,12 +77,6 @@ TEST_F(QtScreensTest, PanelsAreLessThanTheVisibleFrame) {
   client.setRootNumbers("_NET_CURRENT_DESKTOP", {});
   client.setRootNumbers("_NET_WORKAREA", {640, 100, 640, 924});
   EXPECT_EQ(screens.screens()[1].visibleFrame, found[1].frame) << "a work area that leaves nothing of it";
-}
-
-TEST_F(QtScreensTest, AWindowThatHasGoneIsOnNoScreen) {
-  monitors.layOut();
-  client.setRootNumbers("_NET_ACTIVE_WINDOW", {1});
-  EXPECT_EQ(screens.mainScreen(), screens.screens().at(0));
 }
 
 }  // namespace

@@ -33,8 +33,7 @@ DocumentWindow::DocumentWindow(const std::string& display)
   layout_ = x11::KeyboardLayout::read(c);
   const xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(c)).data;
   window_ = xcb_generate_id(c);
-  const std::uint32_t values[] = {
-      1, XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE | XCB_EVENT_MASK_FOCUS_CHANGE};
+  const std::uint32_t values[] = {1, XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_FOCUS_CHANGE};
   xcb_create_window(c, XCB_COPY_FROM_PARENT, window_, screen->root, 0, 0, 100, 100, 0,
                     XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
                     XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values);
@@ -60,7 +59,6 @@ void DocumentWindow::take(const xcb_generic_event_t& event) {
   const auto& key = reinterpret_cast<const xcb_key_press_event_t&>(event);
   if (type == xkbEvent_) layout_ = x11::KeyboardLayout::read(connection_.get());
   if (type == XCB_KEY_PRESS) takePress(x11::TypedKey::of(key.detail, key.state));
-  if (type == XCB_KEY_RELEASE) ++releases_;
   if (type == XCB_FOCUS_OUT &&
       reinterpret_cast<const xcb_focus_out_event_t&>(event).mode == XCB_NOTIFY_MODE_GRAB) {
     ++grabs_;

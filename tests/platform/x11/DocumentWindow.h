@@ -24,7 +24,6 @@ class DocumentWindow {
   void clear() { text_.clear(); }
 
   int presses() const { return presses_; }
-  int releases() const { return releases_; }
   /// How often a grab took the keyboard away from the window.
   int grabs() const { return grabs_; }
   int pastes() const { return pastes_; }
@@ -42,7 +41,6 @@ class DocumentWindow {
   std::uint8_t xkbEvent_ = 0;
   std::string text_;
   int presses_ = 0;
-  int releases_ = 0;
   int pastes_ = 0;
   int grabs_ = 0;
 };

@@ -30,7 +30,6 @@ std::uint8_t realKeyboard(xcb_connection_t* connection) {
 
 xkb_keysym_t symbolOf(char32_t c) {
   if (c == '\n') return XKB_KEY_Return;
-  if (c == '\b') return XKB_KEY_BackSpace;
   return xkb_utf32_to_keysym(c);
 }
 

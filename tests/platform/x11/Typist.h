@@ -19,7 +19,7 @@ class Typist {
 
   explicit Typist(const std::string& display, Keyboard keyboard = Keyboard::synthetic);
 
-  /// Each character with the modifiers that it needs; "\n" is Return, "\b" BackSpace.
+  /// Each character with the modifiers that it needs; "\n" is Return.
   void type(const std::string& text);
   void tap(xkb_keysym_t symbol);
   void press(xkb_keysym_t symbol);

@@ -1,7 +1,6 @@
 #include <xkbcommon/xkbcommon-keysyms.h>
 
 #include "TapFixture.h"
-#include "platform/KeyCodes.h"
 
 namespace tessarin::testing {
 namespace {
@@ -70,45 +69,6 @@ TEST_F(X11EventTapLayoutTest, SendsNoEventForModifiersLocksAndMediaKeys) {
   typist->type("a");
   ASSERT_TRUE(queue.runUntil([this] { return seen.size() >= 2; }));
   EXPECT_EQ(seen[1].text, u"a");
-}
-
-struct NamedKey {
-  xkb_keysym_t symbol;
-  std::int64_t code;
-};
-
-TEST_F(X11EventTapLayoutTest, NamesTheKeysThatMeanSomething) {
-  start();
-  const NamedKey keys[] = {
-      {XKB_KEY_Return, 36}, {XKB_KEY_Tab, 48},     {XKB_KEY_space, 49},    {XKB_KEY_BackSpace, 51},
-      {XKB_KEY_Escape, 53}, {XKB_KEY_Delete, 117}, {XKB_KEY_Left, 123},    {XKB_KEY_Right, 124},
-      {XKB_KEY_Down, 125},  {XKB_KEY_Up, 126},     {XKB_KEY_KP_Enter, -1}, {XKB_KEY_F5, -1},
-  };
-  tap->destroy();
-  ASSERT_TRUE(tap->create([this](const KeyEvent& event) {
-    seen.push_back(event);
-    return KeyVerdict::swallow;
-  }));
-  attend(KeyAttention::everyKey);
-  tap->setEnabled(true);
-  ASSERT_TRUE(queue.runUntil([this] {
-    if (!seen.empty()) return true;
-    typist->type("a");
-    typist->sync();
-    return false;
-  }));
-  typist->sync();
-  queue.runUntil([] { return false; }, std::chrono::milliseconds(50));
-  for (const NamedKey& key : keys) {
-    seen.clear();
-    typist->tap(key.symbol);
-    ASSERT_TRUE(queue.runUntil([this] { return seen.size() == 1; }));
-    if (key.code < 0) {
-      EXPECT_GE(seen[0].keyCode, keycode::other);
-    } else {
-      EXPECT_EQ(seen[0].keyCode, key.code);
-    }
-  }
 }
 
 }  // namespace
