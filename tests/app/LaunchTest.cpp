@@ -6,14 +6,12 @@
 #include <chrono>
 
 #include "app/TestApp.h"
-#include "input/Preferences.h"
 
 namespace tessarin::testing {
 namespace {
 
 using namespace std::chrono_literals;
 using ::testing::Contains;
-using ::testing::ElementsAre;
 
 constexpr const char* ready = "[Tessarin] App launched and ready";
 constexpr const char* started = "[Tessarin] Keyboard monitor started successfully";
@@ -29,24 +27,6 @@ class LaunchTest : public ::testing::Test {
   }
   TestApp app;
 };
-
-TEST_F(LaunchTest, TheUpdateServiceComesFirstAndTheOnboardingLast) {
-  app.defaults.set(preferences::key::hasCompletedOnboarding, false);
-  app.accessibility.trusted = false;
-  launch();
-  EXPECT_THAT(app.hooksRun, ElementsAre("updates", "onboarding"));
-  EXPECT_EQ(app.accessibility.prompts, 1);
-}
-
-TEST_F(LaunchTest, LacksTheirHooksWithoutHarm) {
-  app.defaults.set(preferences::key::hasCompletedOnboarding, false);
-  auto services = app.services();
-  services.startUpdateService = nullptr;
-  services.showOnboardingWindow = nullptr;
-  AppDelegate bare(services);
-  bare.applicationDidFinishLaunching();
-  EXPECT_EQ(app.log.lines.back(), ready);
-}
 
 TEST_F(LaunchTest, ShowsTheTrayItemAndStartsTheMonitorAfterOneSecond) {
   launch();
@@ -90,17 +70,6 @@ TEST_F(LaunchTest, RetriesWhileThereIsNoTapUntilShutdown) {
   app.app->applicationWillTerminate();
   app.queue.advance(10s);
   EXPECT_EQ(app.tap.creations, 3);
-}
-
-TEST_F(LaunchTest, ShowsTheTrayItemAsThePreferenceSays) {
-  app.defaults.set(preferences::key::showMenuBarIcon, false);
-  launch();
-  EXPECT_FALSE(app.statusBar.visible);
-  EXPECT_EQ(app.statusBar.descriptions.size(), 1u) << "made all the same, for when it is wanted";
-  for (const bool isWanted : {true, false}) {
-    app.defaults.set(preferences::key::showMenuBarIcon, isWanted);
-    EXPECT_EQ(app.statusBar.visible, isWanted);
-  }
 }
 
 TEST_F(LaunchTest, ShutdownEndsKeysAndTimers) {

@@ -2,8 +2,6 @@
 
 #include <fstream>
 
-#include "input/Preferences.h"
-
 namespace tessarin::testing {
 namespace {
 
@@ -27,8 +25,6 @@ void writeList(const std::filesystem::path& path, const std::vector<std::string>
 TestApp::TestApp() {
   writeList(folder / "emoji-data.json", {record("smile", "😄"), record("smirk", "😏"), record("small", "tiny"),
                                          record("wave", "👋"), record(std::string(64, 'z'), "long")});
-  writeList(folder / "kaomoji-data.json", {record("shrug", "(ツ)")});
-  defaults.set(preferences::key::hasCompletedOnboarding, true);
   workspace.frontmost.emplace();
   workspace.frontmost->bundleIdentifier = "org.example.Editor";
   tap.onReachedDocument = [this](const KeyEvent& event) { document.type(event); };
@@ -38,7 +34,6 @@ TestApp::TestApp() {
 TestApp::~TestApp() = default;
 
 AppDelegate::Services TestApp::services() {
-  const auto hook = [this](const char* name) { return [this, name] { hooksRun.emplace_back(name); }; };
   return {.eventTap = tap,
           .accessibility = accessibility,
           .inputMonitoring = monitoring,
@@ -51,8 +46,8 @@ AppDelegate::Services TestApp::services() {
           .wallClock = clock,
           .folders = {.resources = folder.path(), .storage = folder / "storage"},
           .menu = {},
-          .startUpdateService = hook("updates"),
-          .showOnboardingWindow = hook("onboarding")};
+          .startUpdateService = {},
+          .showOnboardingWindow = {}};
 }
 
 AppDelegate& TestApp::create() {

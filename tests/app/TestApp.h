@@ -24,8 +24,7 @@
 namespace tessarin::testing {
 
 /// The controller on a desktop of fakes, with a document into which everything goes that it lets through.
-/// Its snippets: smile 😄, smirk 😏, small "tiny", wave 👋, shrug (a kaomoji) and one whose trigger is 64 times
-/// the letter z.
+/// Its snippets: smile 😄, smirk 😏, small "tiny", wave 👋, and one whose trigger is 64 times the letter z.
 class TestApp {
  public:
   TestApp();
@@ -61,7 +60,6 @@ class TestApp {
   FakePopupPresenter popup;
   FakeTextInsertion insertion;
   FakeStatusBar statusBar;
-  std::vector<std::string> hooksRun;
   std::unique_ptr<AppDelegate> app;
 };
 

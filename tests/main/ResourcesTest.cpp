@@ -13,11 +13,5 @@ TEST(ResourcesTest, standBesideItBehindALinkToo) {
   EXPECT_EQ(resourceFolder(build / "tessarin"), build / "resources");
 }
 
-TEST(ResourcesTest, standUnderThePrefixOfAnInstalledProgram) {
-  const testing::TemporaryFolder prefix;
-  std::filesystem::create_directory(prefix / "bin");
-  EXPECT_EQ(resourceFolder(prefix / "bin/tessarin"), prefix / "share/tessarin");
-}
-
 }  // namespace
 }  // namespace tessarin

@@ -11,7 +11,6 @@
 namespace tessarin::ui {
 namespace {
 
-using ::testing::Contains;
 using ::testing::ElementsAre;
 using testing::eventually;
 using ::testing::IsEmpty;
@@ -73,23 +72,16 @@ TEST_F(PopupAccessibleTest, ShowsItsRowsAsAList) {
   show(popupWithRows(2, 1));
   QAccessibleInterface* list = popup()->child(0);
   EXPECT_EQ(list->role(), QAccessible::List);
-  EXPECT_EQ(list->text(QAccessible::Name), "Emoji and snippets");
   EXPECT_THAT(names(list), ElementsAre("wave0, waving hand 0", "wave1, waving hand 1"));
   QAccessibleInterface* row = list->child(1);
   EXPECT_EQ(row->role(), QAccessible::ListItem);
   EXPECT_EQ(row->text(QAccessible::Description), "👋");
   EXPECT_TRUE(row->state().selected);
   EXPECT_FALSE(list->child(0)->state().selected);
-  EXPECT_EQ(row->parent(), list);
-  EXPECT_EQ(list->parent(), popup());
-  EXPECT_EQ(list->indexOfChild(row), 1);
-  EXPECT_TRUE(popup()->rect().contains(row->rect()));
   EXPECT_EQ(list->childAt(row->rect().center().x(), row->rect().center().y()), row);
 }
 
 TEST_F(PopupAccessibleTest, ShowsSkinTonesWhileThePickerIsOpen) {
-  show(popupWithRows(3));
-  EXPECT_EQ(names(popup()).front(), "Emoji and snippets");
   auto content = withPicker(popupWithRows(3));
   content.skinToneSelectedIndex = 5;
   show(content);
@@ -111,15 +103,6 @@ TEST_F(PopupAccessibleTest, SaysWhatIsSelectedAndNeverTakesTheFocus) {
   content.skinToneSelectedIndex = 1;
   show(content);
   EXPECT_THAT(events(2), ElementsAre("selected light skin tone", "said light skin tone, 2 of 6"));
-}
-
-TEST_F(PopupAccessibleTest, SaysTheSameAgainOnlyWhenItWasHidden) {
-  show(popupWithRows(8));
-  events(2);
-  window.hide();
-  QApplication::processEvents();
-  show(popupWithRows(8));
-  EXPECT_THAT(events(2), Contains("said wave0, waving hand 0, 1 of 8"));
 }
 
 TEST_F(PopupAccessibleTest, ItemsOfAnEarlierListAreGone) {

@@ -83,26 +83,14 @@ TEST_F(Updating, OffersANewerVersionAndLeadsToIt) {
   EXPECT_THAT(workspace.openedUrls, ElementsAre("https://example.org/1.3.tar"));
 }
 
-TEST_F(Updating, SaysSoWhenThereIsNothingNewer) {
-  updater->checkForUpdates();
-  answer({"1.2", "1.1"});
-  EXPECT_THAT(user.shown, ElementsAre("checking", "up to date at 1.2"));
-  EXPECT_THAT(delegate.told, ElementsAre("none", "loaded 2"));
-}
-
 TEST_F(Updating, SaysWhyItFailed) {
+  const LogRecorder log;
   updater->checkForUpdates();
   source.answer(UpdateFailure::timedOut);
-  EXPECT_THAT(user.shown, ElementsAre("checking", "failure 2"));
-  EXPECT_THAT(delegate.told, ElementsAre("failed 2"));
-}
-
-TEST_F(Updating, TakesADamagedFeedForAFailure) {
-  LogRecorder log;
   updater->checkForUpdates();
   source.answer("<html/>");
-  EXPECT_THAT(user.shown, ElementsAre("checking", "failure 8"));
-  EXPECT_THAT(delegate.told, ElementsAre("failed 8"));
+  EXPECT_THAT(user.shown, ElementsAre("checking", "failure 2", "checking", "failure 8"));
+  EXPECT_THAT(delegate.told, ElementsAre("failed 2", "failed 8"));
   EXPECT_THAT(log.lines, ElementsAre("[Updater] The list of updates is damaged: line 1: this is no feed"));
 }
 
@@ -123,26 +111,12 @@ TEST_F(Updating, ShowsTheRunningCheckWhenAskedAgain) {
   EXPECT_EQ(source.addresses.size(), 1u);
 }
 
-TEST_F(Updating, ChecksAnewWhileAnOfferStands) {
-  updater->checkForUpdates();
-  answer({"1.3"});
-  updater->checkForUpdates();
-  answer({"1.4"});
-  EXPECT_THAT(user.shown, ElementsAre("checking", "update 1.3 for 1.2", "checking", "update 1.4 for 1.2"));
-}
-
 TEST_F(Updating, EndsInSilenceWithTheProgram) {
   updater->checkForUpdates();
   updater.reset();
   EXPECT_FALSE(source.isRunning());
   EXPECT_THAT(user.shown, ElementsAre("checking", "nothing"));
   EXPECT_THAT(delegate.told, IsEmpty());
-}
-
-TEST_F(Updating, NeverChecksUnaskedUnlessToldTo) {
-  pass(hours(48));
-  EXPECT_THAT(source.addresses, IsEmpty());
-  EXPECT_EQ(queue.pending(), 0u);
 }
 
 TEST_F(Updating, ChecksOnceADayUnaskedWithOneTimer) {
@@ -174,22 +148,13 @@ TEST_F(Updating, CountsTheDayOverRestarts) {
 }
 
 TEST_F(Updating, ChecksWhenTheDateOnFileCannotBe) {
-  for (const char* date :
-       {"2036-03-14T09:30:00Z", "9999-12-31T23:59:59Z", "0001-01-01T00:00:00Z", "yesterday", ""}) {
+  for (const char* date : {"2036-03-14T09:30:00Z", "0001-01-01T00:00:00Z", "yesterday"}) {
     defaults.set("lastUpdateCheck", date);
     startAutomatic();
     const std::size_t before = source.addresses.size();
     pass(minutes(60));
     EXPECT_EQ(source.addresses.size(), before + 1) << date;
   }
-}
-
-TEST_F(Updating, GoesOnAfterTheClockJumpsBack) {
-  startAutomatic();
-  runAutomatic({"1.2"});
-  clock.time -= hours(24 * 365);
-  pass(hours(2));
-  EXPECT_EQ(source.addresses.size(), 2u);
 }
 
 TEST_F(Updating, ChecksNeitherNeverNorAllTheTimeWhateverTheClockDoes) {
@@ -209,15 +174,9 @@ TEST_F(Updating, ChecksNeitherNeverNorAllTheTimeWhateverTheClockDoes) {
   }
 }
 
-TEST_F(Updating, NoticesADayThatWasSleptThrough) {
-  startAutomatic();
-  runAutomatic({"1.2"});
-  clock.time += hours(30);
-  pass(hours(1));
-  EXPECT_EQ(source.addresses.size(), 2u);
-}
-
-TEST_F(Updating, StopsWhenAutomaticChecksAreSwitchedOff) {
+TEST_F(Updating, ChecksUnaskedOnlyWhileToldTo) {
+  pass(hours(48));
+  EXPECT_EQ(queue.pending(), 0u);
   startAutomatic();
   updater->setAutomaticallyChecksForUpdates(false);
   pass(hours(48));
@@ -252,22 +211,13 @@ TEST_F(Updating, PassesOverASkippedVersionUntilAsked) {
   user.choose(UpdateChoice::skip);
   EXPECT_THAT(workspace.openedUrls, IsEmpty());
   user.shown.clear();
-  delegate.told.clear();
   startAutomatic();
   pass(hours(24));
   runAutomatic({"1.3"});
-  EXPECT_THAT(user.shown, ElementsAre());
-  EXPECT_THAT(delegate.told, ElementsAre("none", "loaded 1"));
+  EXPECT_THAT(user.shown, IsEmpty());
   updater->checkForUpdates();
   answer({"1.3"});
   EXPECT_THAT(user.shown, ElementsAre("checking", "update 1.3 for 1.2"));
-}
-
-TEST_F(Updating, OffersWhatIsNewerThanTheSkippedVersion) {
-  defaults.set("skippedVersion", "1.3");
-  startAutomatic();
-  runAutomatic({"1.3", "1.4"});
-  EXPECT_THAT(user.shown, ElementsAre("update 1.4 for 1.2 unobtrusively"));
 }
 
 TEST_F(Updating, TurnsAnUnaskedCheckIntoOneThatTheUserSees) {
@@ -276,15 +226,24 @@ TEST_F(Updating, TurnsAnUnaskedCheckIntoOneThatTheUserSees) {
   updater->checkForUpdates();
   answer({"1.2"});
   EXPECT_THAT(user.shown, ElementsAre("checking", "up to date at 1.2"));
+  EXPECT_THAT(delegate.told, ElementsAre("none", "loaded 1"));
   EXPECT_EQ(source.addresses.size(), 1u);
 }
 
-TEST_F(Updating, DiscardsAStoredAddress) {
-  EXPECT_EQ(updater->clearFeedUrlFromUserDefaults(), std::nullopt);
-  EXPECT_THAT(defaults.writes, IsEmpty());
-  defaults.set("feedUrl", "https://elsewhere.example/");
-  EXPECT_EQ(updater->clearFeedUrlFromUserDefaults(), "https://elsewhere.example/");
-  EXPECT_EQ(updater->clearFeedUrlFromUserDefaults(), std::nullopt);
+TEST_F(Updating, GoesOnAfterTheClockJumpsBack) {
+  startAutomatic();
+  runAutomatic({"1.2"});
+  clock.time -= hours(24 * 365);
+  pass(hours(2));
+  EXPECT_EQ(source.addresses.size(), 2u);
+}
+
+TEST_F(Updating, NoticesADayThatWasSleptThrough) {
+  startAutomatic();
+  runAutomatic({"1.2"});
+  clock.time += hours(30);
+  pass(hours(1));
+  EXPECT_EQ(source.addresses.size(), 2u);
 }
 
 }  // namespace

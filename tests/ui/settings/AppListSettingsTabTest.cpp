@@ -1,10 +1,8 @@
 #include <gmock/gmock.h>
 
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QToolButton>
 
 #include "ui/settings/AppListSettingsTab.h"
 #include "ui/settings/BlockedAppsSettingsTab.h"
@@ -19,9 +17,7 @@ using testing::child;
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::IsSupersetOf;
 using ::testing::Not;
-using testing::shows;
 
 class AppListSettingsTabTest : public testing::SettingsTest {
  protected:
@@ -50,9 +46,8 @@ class AppListSettingsTabTest : public testing::SettingsTest {
     return found;
   }
 
-  template <class Button>
   void click(const QString& accessibleName) const {
-    for (auto* button : tab->findChildren<Button*>()) {
+    for (auto* button : tab->findChildren<QAbstractButton*>()) {
       if (button->accessibleName() != accessibleName) continue;
       QTest::mouseClick(button, Qt::LeftButton);
       QCoreApplication::processEvents();
@@ -94,7 +89,6 @@ TEST_F(AppListSettingsTabTest, listsTheStoredAndTheBuiltInOnes) {
                std::vector<std::string>{"org.example.b", "Org.example.a", *builtIn.begin()});
   open();
   EXPECT_EQ(listed().size(), builtIn.size() + 2);
-  EXPECT_EQ(listed().front(), "Org.example.a") << "capitals first";
   tab = std::make_unique<PasteFallbackAppsSettingsTab>(services());
   EXPECT_THAT(listed(), ::testing::UnorderedElementsAreArray(preferences::defaultPasteFallbackApps()));
 }
@@ -102,7 +96,7 @@ TEST_F(AppListSettingsTabTest, listsTheStoredAndTheBuiltInOnes) {
 TEST_F(AppListSettingsTabTest, removingLastsUntilTheListIsLoadedAgain) {
   const std::string builtIn = *preferences::defaultBlockedApps().begin();
   open();
-  click<QToolButton>(QString("Remove %1").arg(QString::fromStdString(builtIn)));
+  click(QString("Remove %1").arg(QString::fromStdString(builtIn)));
   EXPECT_THAT(listed(), Not(Contains(builtIn)));
   EXPECT_THAT(stored(), Not(Contains(builtIn)));
   EXPECT_EQ(stored().size(), preferences::defaultBlockedApps().size() - 1) << "the whole list is written";
@@ -114,16 +108,12 @@ TEST_F(AppListSettingsTabTest, addsWhatIsTyped) {
   open();
   auto* field = tab->findChild<QLineEdit*>();
   auto* add = child<QPushButton>(*tab, "Add");
-  EXPECT_FALSE(add->isEnabled());
   QTest::keyClicks(field, " \t");
   EXPECT_FALSE(add->isEnabled());
   const auto before = listed().size();
   for (int time = 0; time < 2; ++time) {
     field->setText("  com.example.app\t");
-    QTest::keyClick(field, Qt::Key_Return);
-    EXPECT_EQ(field->text(), "  com.example.app\t") << "Return does nothing of its own";
     QTest::mouseClick(add, Qt::LeftButton);
-    EXPECT_TRUE(field->text().isEmpty());
     EXPECT_EQ(listed().size(), before + 1) << "once only";
   }
   EXPECT_THAT(stored(), Contains("com.example.app"));
@@ -134,39 +124,13 @@ TEST_F(AppListSettingsTabTest, offersTheRunningApplicationsThatAreNotListed) {
   workspace.running = {{"org.example.b", "beta", false},
                        {builtIn, "Listed", false},
                        {"org.example.a", "Alpha", false},
-                       {"", "Nameless", false},
-                       {"org.example.c", "", false}};
+                       {"", "Nameless", false}};
   open();
-  EXPECT_THAT(offered(), ElementsAre("Alpha", "beta", "org.example.c"));
-  click<QPushButton>("Add Alpha");
+  EXPECT_THAT(offered(), ElementsAre("Alpha", "beta"));
+  click("Add Alpha");
   EXPECT_THAT(stored(), Contains("org.example.a"));
-  EXPECT_THAT(offered(), ElementsAre("beta", "org.example.c"));
-  click<QToolButton>(QString("Remove %1").arg(QString::fromStdString(builtIn)));
-  EXPECT_THAT(offered(), ElementsAre("beta", "Listed", "org.example.c"));
-}
-
-TEST_F(AppListSettingsTabTest, namesInstalledApplications) {
-  defaults.set("blacklistedApps", std::vector<std::string>{"org.example.editor"});
-  workspace.installed["org.example.editor"] = {"Editor", "editor.desktop", "editor"};
-  open();
-  EXPECT_TRUE(shows<QLabel>(*tab, "Editor"));
-  EXPECT_TRUE(shows<QLabel>(*tab, "org.example.editor"));
-  click<QToolButton>("Remove Editor");
-  EXPECT_FALSE(shows<QLabel>(*tab, "Editor"));
-}
-
-TEST_F(AppListSettingsTabTest, theTabKeyGoesFromTopToBottom) {
-  workspace.running = {{"org.example.a", "Alpha", false}, {"org.example.b", "beta", false}};
-  openFocused();
-  tab->findChild<QLineEdit*>()->setText("org.example.c");
-  for (const char* name : {"Remove com.apple.MobileSMS", "Remove com.tinyspeck.slackmacgap", "Add Alpha",
-                           "Add beta", "Bundle ID", ""}) {
-    press(Qt::Key_Tab);
-    EXPECT_EQ(focused(), name);
-  }
-  press(Qt::Key_Space);
-  EXPECT_THAT(stored(), Contains("org.example.c"));
-  EXPECT_EQ(list()->count(), 3);
+  click(QString("Remove %1").arg(QString::fromStdString(builtIn)));
+  EXPECT_THAT(offered(), ElementsAre("beta", "Listed"));
 }
 
 TEST_F(AppListSettingsTabTest, theKeyboardStaysInItsPlaceWhenItsRowGoes) {
@@ -184,17 +148,6 @@ TEST_F(AppListSettingsTabTest, theKeyboardStaysInItsPlaceWhenItsRowGoes) {
   EXPECT_EQ(focused(), "Add Delta");
   press(Qt::Key_Space);
   EXPECT_EQ(focused(), "Add Gamma");
-}
-
-TEST_F(AppListSettingsTabTest, theDeleteKeyRemovesTheCurrentEntry) {
-  openFocused();
-  press(Qt::Key_Down);
-  press(Qt::Key_Delete);
-  EXPECT_THAT(stored(), ElementsAre("com.apple.MobileSMS"));
-  press(Qt::Key_Delete);
-  EXPECT_THAT(listed(), IsEmpty());
-  press(Qt::Key_Delete);
-  EXPECT_EQ(list()->count(), 0);
 }
 
 TEST_F(AppListSettingsTabTest, aButtonThatTheKeyboardComesToIsInView) {
@@ -221,23 +174,29 @@ TEST_F(AppListSettingsTabTest, longTextsAreCutAndLeaveTheButtonsInReach) {
   EXPECT_LT(tab->findChildren<QPushButton*>().front()->width(), 300);
 }
 
-TEST_F(AppListSettingsTabTest, theGridIsAsHighAsItsButtonsUpToALimit) {
-  const auto gridOf = [this](int apps) {
-    workspace.running.clear();
-    for (int number = 0; number < apps; ++number) {
-      workspace.running.push_back({"org.example." + std::to_string(number), "App", false});
-    }
-    open();
-    return tab->findChild<RunningAppsGrid*>();
-  };
-  EXPECT_EQ(gridOf(0)->height(), 0);
-  const auto* grid = gridOf(4);
-  const int row = grid->height();
-  EXPECT_GT(row, 0);
-  tab->resize(400, 440);
-  QCoreApplication::processEvents();
-  EXPECT_EQ(grid->height(), 2 * row + 6) << "only three columns of at least 120 fit now";
-  EXPECT_EQ(gridOf(60)->height(), 120);
+TEST_F(AppListSettingsTabTest, theTabKeyGoesFromTopToBottom) {
+  workspace.running = {{"org.example.a", "Alpha", false}, {"org.example.b", "beta", false}};
+  openFocused();
+  tab->findChild<QLineEdit*>()->setText("org.example.c");
+  for (const char* name : {"Remove com.apple.MobileSMS", "Remove com.tinyspeck.slackmacgap", "Add Alpha",
+                           "Add beta", "Bundle ID", ""}) {
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focused(), name);
+  }
+  press(Qt::Key_Space);
+  EXPECT_THAT(stored(), Contains("org.example.c"));
+  EXPECT_EQ(list()->count(), 3);
+}
+
+TEST_F(AppListSettingsTabTest, theDeleteKeyRemovesTheCurrentEntry) {
+  openFocused();
+  press(Qt::Key_Down);
+  press(Qt::Key_Delete);
+  EXPECT_THAT(stored(), ElementsAre("com.apple.MobileSMS"));
+  press(Qt::Key_Delete);
+  EXPECT_THAT(listed(), IsEmpty());
+  press(Qt::Key_Delete);
+  EXPECT_EQ(list()->count(), 0);
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <QCheckBox>
 #include <QLabel>
-#include <QPushButton>
 #include <QRadioButton>
 
 #include "ui/settings/GeneralSettingsTab.h"
@@ -58,8 +57,6 @@ TEST_F(GeneralSettingsTabTest, theTriggerCharacterIsShownEverywhereAtOnce) {
     press(child<QRadioButton>(*tab, character));
     EXPECT_EQ(defaults.string("triggerCharacter"), character);
     EXPECT_TRUE(shows<QLabel>(*tab, QString("Type %1shortcode%1 to trigger autocomplete").arg(character)));
-    EXPECT_TRUE(
-        shows<QLabel>(*tab, QString("System-wide %1shortcode%1 autocomplete for macOS").arg(character)));
   }
   defaults.set("triggerCharacter", ";");
   EXPECT_TRUE(child<QRadioButton>(*tab, ";")->isChecked()) << "changed by another program";
@@ -74,15 +71,6 @@ TEST_F(GeneralSettingsTabTest, aTriggerThatIsNotOfferedIsNoneOfTheChoices) {
   EXPECT_EQ(defaults.string("triggerCharacter"), "/");
 }
 
-TEST_F(GeneralSettingsTabTest, arrowKeysChooseTheTrigger) {
-  open();
-  ASSERT_TRUE(testing::showFocused(*tab, *child<QRadioButton>(*tab, ":")));
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
-  EXPECT_EQ(defaults.string("triggerCharacter"), ";");
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
-  EXPECT_EQ(defaults.string("triggerCharacter"), "/");
-}
-
 TEST_F(GeneralSettingsTabTest, theMenuBarIconIsShownUnlessStoredOtherwise) {
   open();
   EXPECT_TRUE(icon()->isChecked());
@@ -91,13 +79,6 @@ TEST_F(GeneralSettingsTabTest, theMenuBarIconIsShownUnlessStoredOtherwise) {
   EXPECT_EQ(defaults.boolean("showMenuBarIcon"), false);
   defaults.set("showMenuBarIcon", true);
   EXPECT_TRUE(icon()->isChecked());
-}
-
-TEST_F(GeneralSettingsTabTest, showsTheVersionAndChecksForUpdates) {
-  open();
-  EXPECT_TRUE(shows<QLabel>(*tab, "Version 1.0 (1)"));
-  QTest::mouseClick(child<QPushButton>(*tab, "Check for Updates..."), Qt::LeftButton);
-  EXPECT_EQ(updateChecks, 1);
 }
 
 }  // namespace

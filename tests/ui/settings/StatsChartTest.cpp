@@ -1,24 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QImage>
 #include <QLocale>
 
 #include "ui/settings/BarChart.h"
 
 namespace tessarin::ui {
 namespace {
-
-TEST(ChartAxis, HasRoundStepsOfWholeCounts) {
-  EXPECT_EQ(ChartAxis::reaching(0, 4), (ChartAxis{1, 1}));
-  EXPECT_EQ(ChartAxis::reaching(3, 4), (ChartAxis{1, 3}));
-  EXPECT_EQ(ChartAxis::reaching(4, 4), (ChartAxis{1, 4}));
-  EXPECT_EQ(ChartAxis::reaching(5, 4), (ChartAxis{2, 6}));
-  EXPECT_EQ(ChartAxis::reaching(25, 4), (ChartAxis{10, 30}));
-  EXPECT_EQ(ChartAxis::reaching(99, 4), (ChartAxis{50, 100}));
-  EXPECT_EQ(ChartAxis::reaching(1000, 1), (ChartAxis{1000, 1000}));
-  EXPECT_EQ(ChartAxis::reaching(10001, 4), (ChartAxis{5000, 15000}));
-}
 
 class BarChartTest : public ::testing::Test {
  protected:
@@ -27,7 +15,6 @@ class BarChartTest : public ::testing::Test {
     chart.resize(500, BarChart::chartHeight);
     chart.setBars({{"Mon", "Monday", 0}, {"Tue", "Tuesday", 1}, {"Wed", "Wednesday", 5000}});
   }
-  QColor colorAt(const QImage& image, QPointF point) { return image.pixelColor(point.toPoint()); }
 
   BarChart chart;
 };
@@ -39,26 +26,21 @@ TEST_F(BarChartTest, BarsStandForTheirCounts) {
   EXPECT_EQ(chart.barRect(1).bottom(), chart.barRect(2).bottom());
 }
 
-TEST_F(BarChartTest, BarsAreRoundedAndOfTheAccentFromLightToFull) {
-  const QImage image = chart.grab().toImage();
-  const QRectF bar = chart.barRect(2);
-  const QColor ground = colorAt(image, {bar.left() - 8, bar.center().y() + 3});
-  EXPECT_EQ(colorAt(image, bar.topLeft()), ground);
-  EXPECT_GT(colorAt(image, {bar.center().x(), bar.top() + 4}).lightness(),
-            colorAt(image, {bar.center().x(), bar.bottom() - 4}).lightness());
-  EXPECT_NE(colorAt(image, bar.center()), ground);
-}
-
 TEST_F(BarChartTest, IsReadAsAChartOfItsCounts) {
   const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&chart);
   EXPECT_EQ(accessible->role(), QAccessible::Chart);
   EXPECT_EQ(accessible->text(QAccessible::Description), "Monday 0, Tuesday 1, and Wednesday 5000");
 }
 
-TEST_F(BarChartTest, TheFirstBarStandsWhereReadingBegins) {
-  EXPECT_LT(chart.barRect(1).left(), chart.barRect(2).left());
-  chart.setLayoutDirection(Qt::RightToLeft);
-  EXPECT_GT(chart.barRect(1).left(), chart.barRect(2).left());
+TEST(ChartAxis, HasRoundStepsOfWholeCounts) {
+  EXPECT_EQ(ChartAxis::reaching(0, 4), (ChartAxis{1, 1}));
+  EXPECT_EQ(ChartAxis::reaching(3, 4), (ChartAxis{1, 3}));
+  EXPECT_EQ(ChartAxis::reaching(4, 4), (ChartAxis{1, 4}));
+  EXPECT_EQ(ChartAxis::reaching(5, 4), (ChartAxis{2, 6}));
+  EXPECT_EQ(ChartAxis::reaching(25, 4), (ChartAxis{10, 30}));
+  EXPECT_EQ(ChartAxis::reaching(99, 4), (ChartAxis{50, 100}));
+  EXPECT_EQ(ChartAxis::reaching(1000, 1), (ChartAxis{1000, 1000}));
+  EXPECT_EQ(ChartAxis::reaching(10001, 4), (ChartAxis{5000, 15000}));
 }
 
 }  // namespace

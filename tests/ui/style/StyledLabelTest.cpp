@@ -40,13 +40,5 @@ TEST(StyledLabel, BeginsAtTheSideOfTheLayoutWhateverItsScript) {
   }
 }
 
-TEST(StyledLabel, StaysCentred) {
-  testing::ensureApplication();
-  StyledLabel label("one line");
-  label.centred().setLayoutDirection(Qt::RightToLeft);
-  const auto [first, last] = inkOf(label);
-  EXPECT_NEAR(first, 1 - last, 0.02);
-}
-
 }  // namespace
 }  // namespace tessarin::ui

@@ -4,14 +4,11 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QImage>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QMouseEvent>
-#include <QProgressBar>
+#include <QTest>
 #include <QTextBrowser>
 
 #include "platform/qt/TestApplication.h"
-#include "support/CaseName.h"
 #include "support/FakeWorkspace.h"
 #include "support/TemporaryFolder.h"
 #include "ui/update/ReleaseNotesView.h"
@@ -20,26 +17,10 @@
 namespace tessarin::ui {
 namespace {
 
-using testing::CaseName;
 using ::testing::ElementsAre;
 using testing::eventuallyInLoop;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-void press(QWidget& widget, int key) {
-  for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-    QKeyEvent event(type, key, Qt::NoModifier);
-    QApplication::sendEvent(&widget, &event);
-  }
-}
-
-void click(QWidget& widget, QPointF place) {
-  for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-    const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
-    QMouseEvent event(type, place, widget.mapToGlobal(place), Qt::LeftButton, held, Qt::NoModifier);
-    QApplication::sendEvent(&widget, &event);
-  }
-}
 
 class WindowsAboutUpdates : public ::testing::Test {
  protected:
@@ -69,10 +50,7 @@ class WindowsAboutUpdates : public ::testing::Test {
     }
     throw std::runtime_error("no button " + text.toStdString());
   }
-  static void clickButton(const QString& text) {
-    QAbstractButton& found = button(text);
-    click(found, QRectF(found.rect()).center());
-  }
+  static void clickButton(const QString& text) { QTest::mouseClick(&button(text), Qt::LeftButton); }
   void offer(const std::string& notes = "New things", const std::string& version = "1.3",
              UpdateUserDriver::Manner manner = UpdateUserDriver::Manner::inFront) {
     AppcastItem item;
@@ -90,22 +68,17 @@ class WindowsAboutUpdates : public ::testing::Test {
   int cancelled = 0;
 };
 
-TEST_F(WindowsAboutUpdates, ShowARunningCheckThatCanBeCancelled) {
+TEST_F(WindowsAboutUpdates, CancelACheckByButtonEscapeAndClosing) {
   check();
-  EXPECT_EQ(texts(), "Looking for updates…");
-  EXPECT_FALSE(dialog().findChild<QProgressBar*>()->accessibleName().isEmpty());
   clickButton("Cancel");
   EXPECT_EQ(cancelled, 1);
-  EXPECT_THAT(shown(), IsEmpty());
-}
-
-TEST_F(WindowsAboutUpdates, CancelACheckByEscapeAndByClosing) {
   check();
-  press(dialog(), Qt::Key_Escape);
-  EXPECT_EQ(cancelled, 1);
+  QTest::keyClick(&dialog(), Qt::Key_Escape);
+  EXPECT_EQ(cancelled, 2);
   check();
   dialog().close();
-  EXPECT_EQ(cancelled, 2);
+  EXPECT_EQ(cancelled, 3);
+  EXPECT_THAT(shown(), IsEmpty());
 }
 
 TEST_F(WindowsAboutUpdates, ReplaceOneAnotherWithoutACallback) {
@@ -120,33 +93,18 @@ TEST_F(WindowsAboutUpdates, ReplaceOneAnotherWithoutACallback) {
   EXPECT_THAT(choices, IsEmpty());
 }
 
-struct Click {
-  const char* name;
-  const char* button;
-  UpdateChoice choice;
-};
-
-class UpdateOffer : public WindowsAboutUpdates, public ::testing::WithParamInterface<Click> {};
-
-TEST_P(UpdateOffer, IsAnsweredByItsButtons) {
-  offer();
-  clickButton(GetParam().button);
-  EXPECT_THAT(choices, ElementsAre(GetParam().choice));
-  EXPECT_THAT(shown(), IsEmpty());
-}
-
-INSTANTIATE_TEST_SUITE_P(, UpdateOffer,
-                         ::testing::Values(Click{"Skip", "Skip This Version", UpdateChoice::skip},
-                                           Click{"Later", "Remind Me Later", UpdateChoice::later},
-                                           Click{"Download", "Download…", UpdateChoice::download}),
-                         CaseName());
-
-TEST_F(WindowsAboutUpdates, TakeReturnForDownloadAndEscapeForLater) {
-  offer();
-  press(dialog(), Qt::Key_Return);
-  offer();
-  press(dialog(), Qt::Key_Escape);
-  EXPECT_THAT(choices, ElementsAre(UpdateChoice::download, UpdateChoice::later));
+TEST_F(WindowsAboutUpdates, TakeAnAnswerByButtonsAndKeys) {
+  for (const char* text : {"Skip This Version", "Remind Me Later", "Download…"}) {
+    offer();
+    clickButton(text);
+    EXPECT_THAT(shown(), IsEmpty());
+  }
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+    offer();
+    QTest::keyClick(&dialog(), key);
+  }
+  EXPECT_THAT(choices, ElementsAre(UpdateChoice::skip, UpdateChoice::later, UpdateChoice::download,
+                                   UpdateChoice::download, UpdateChoice::later));
 }
 
 TEST_F(WindowsAboutUpdates, TellBothVersionsAndTheNotes) {
@@ -155,8 +113,6 @@ TEST_F(WindowsAboutUpdates, TellBothVersionsAndTheNotes) {
   EXPECT_EQ(dialog().findChild<QTextBrowser*>()->toPlainText(), "New\nThings");
   offer("a < b & c\nd");
   EXPECT_EQ(dialog().findChild<QTextBrowser*>()->toPlainText(), "a < b & c\nd");
-  offer(" \n");
-  EXPECT_EQ(dialog().findChild<QTextBrowser*>(), nullptr);
 }
 
 TEST_F(WindowsAboutUpdates, ShowAVersionAsPlainTextOfBoundedLength) {
@@ -168,17 +124,8 @@ TEST_F(WindowsAboutUpdates, ShowAVersionAsPlainTextOfBoundedLength) {
 TEST_F(WindowsAboutUpdates, PushForwardOnlyWhatTheUserAskedFor) {
   windows.showUpToDate("1.2");
   EXPECT_TRUE(eventuallyInLoop([this] { return dialog().isActiveWindow(); }));
-  EXPECT_FALSE(dialog().testAttribute(Qt::WA_ShowWithoutActivating));
-  EXPECT_FALSE(dialog().isModal());
   offer("x", "1.3", UpdateUserDriver::Manner::unobtrusive);
   EXPECT_TRUE(dialog().testAttribute(Qt::WA_ShowWithoutActivating));
-}
-
-TEST_F(WindowsAboutUpdates, SayThatTheProgramIsUpToDate) {
-  windows.showUpToDate("1.2");
-  EXPECT_EQ(texts(), "Tessarin is up to date|Version 1.2 is the newest one there is.");
-  clickButton("OK");
-  EXPECT_THAT(shown(), IsEmpty());
 }
 
 TEST_F(WindowsAboutUpdates, SayInOneSentenceWhatWentWrong) {
@@ -187,31 +134,19 @@ TEST_F(WindowsAboutUpdates, SayInOneSentenceWhatWentWrong) {
        ++i) {
     windows.showFailure(static_cast<UpdateFailure>(i));
     const std::string text = texts();
-    EXPECT_TRUE(text.ends_with(".") || text.ends_with("?")) << text;
     EXPECT_THAT(sentences, ::testing::Not(::testing::Contains(text)));
     sentences.push_back(text);
-    press(dialog(), Qt::Key_Return);
+    QTest::keyClick(&dialog(), Qt::Key_Return);
     EXPECT_THAT(shown(), IsEmpty());
   }
 }
 
-TEST_F(WindowsAboutUpdates, ComeBackToTheFront) {
-  check();
-  QDialog& progress = dialog();
-  progress.showMinimized();
-  windows.focus();
-  EXPECT_FALSE(progress.isMinimized());
-  windows.dismiss();
-  windows.focus();
-  EXPECT_THAT(shown(), IsEmpty());
-}
-
 /// Where the text begins, in the coordinates of the widget that draws it.
-QPointF placeOf(const QTextBrowser& view, const QString& text) {
+QPoint placeOf(const QTextBrowser& view, const QString& text) {
   const QTextCursor found = view.document()->find(text);
   QTextCursor start(view.document());
   start.setPosition(found.selectionStart() + 1);
-  return QRectF(view.cursorRect(start)).center();
+  return view.cursorRect(start).center();
 }
 
 TEST_F(WindowsAboutUpdates, OpenNoLinkButAnHttpsOne) {
@@ -221,15 +156,15 @@ TEST_F(WindowsAboutUpdates, OpenNoLinkButAnHttpsOne) {
       "<p><a href='relative'>relative</a></p>");
   auto& view = *dialog().findChild<QTextBrowser*>();
   for (const char* link : {"plain", "file", "script", "relative"})
-    click(*view.viewport(), placeOf(view, link));
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, placeOf(view, link));
   EXPECT_THAT(workspace.openedUrls, IsEmpty());
-  click(*view.viewport(), placeOf(view, "safe"));
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, placeOf(view, "safe"));
   EXPECT_THAT(workspace.openedUrls, ElementsAre("https://example.org/a?b=c"));
   EXPECT_THAT(choices, IsEmpty());
 }
 
 TEST_F(WindowsAboutUpdates, LoadNothingForTheNotes) {
-  testing::TemporaryFolder folder;
+  const testing::TemporaryFolder folder;
   QImage image(7, 7, QImage::Format_RGB32);
   image.fill(Qt::red);
   const QString picture = QString::fromStdString(folder / "picture.png");
