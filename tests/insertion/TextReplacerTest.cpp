@@ -209,28 +209,10 @@ INSTANTIATE_TEST_SUITE_P(
                                 target.failing.insert(std::string(attribute::value));
                               },
                               never, milliseconds(1995)},
-                      Arrival{"nothingFocused",
-                              [](auto& accessibility, auto&) {
-                                accessibility.application->failing.insert(
-                                    std::string(attribute::focusedElement));
-                              },
-                              never, milliseconds(0)},
+
                       Arrival{"notTrusted", [](auto& accessibility, auto&) { accessibility.trusted = false; },
                               never, milliseconds(0)}),
     [](const auto& arrival) { return arrival.param.name; });
-
-TEST_F(TextReplacerTest, theNextOneWaitsUntilTheTextStands) {
-  refuseDirectInsertion();
-  replace("first");
-  replace("second");
-  queue.advance(milliseconds(220));
-  general.readByApplication();
-  queue.advance(milliseconds(100));
-  EXPECT_EQ(countOf(keycode::deleteBackward), 6U);
-  field->type("first");
-  queue.advance(milliseconds(5));
-  EXPECT_EQ(countOf(keycode::deleteBackward), 12U);
-}
 
 TEST_F(TextReplacerTest, doesNotEraseTwice) {
   field->type("a:smile");
@@ -250,63 +232,37 @@ TEST_F(TextReplacerTest, fillsInTemplateVariablesOnceForBothMethods) {
   EXPECT_EQ(field->document(), "<user's>");
 
   refuseDirectInsertion();
-  replace("<{{clipboard}}>");
-  EXPECT_EQ(general.stringReads, 2) << "once a replacement";
-  queue.advance(milliseconds(220));
-  EXPECT_EQ(paste(), "<user's>");
-}
-
-TEST_F(TextReplacerTest, theClipboardVariableIsTheUsersWhileOurTextIsOnThePasteboard) {
-  refuseDirectInsertion();
-  replace("first");
-  queue.advance(milliseconds(220));
-  paste();
-  EXPECT_TRUE(general.isOurText());
-  replace("<{{clipboard}}>");
-  queue.advance(milliseconds(220));
-  EXPECT_EQ(paste(), "<user's>");
+  for (const char* whose : {"the user's", "ours"}) {
+    replace("<{{clipboard}}>");
+    queue.advance(milliseconds(220));
+    EXPECT_EQ(paste(), "<user's>") << "on the pasteboard: " << whose;
+  }
+  EXPECT_EQ(general.stringReads, 2) << "once a replacement that can read it";
 }
 
 TEST_F(TextReplacerTest, replacementsWaitForTheirTurn) {
   refuseDirectInsertion();
-  replace("first");
-  replace("second");
-  replace("third");
-  for (const char* text : {"first", "second", "third"}) {
-    EXPECT_THAT(log.lines, SizeIs(outcomes.size() + 1)) << "one at a time";
-    queue.advance(milliseconds(220));
-    EXPECT_EQ(paste(), text);
-  }
-  EXPECT_THAT(outcomes, SizeIs(3));
-  EXPECT_EQ(countOf(keycode::deleteBackward), 18U);
-  queue.advance(milliseconds(200));
-  EXPECT_EQ(general.contents(), (std::vector<PasteboardItem>{{"UTF8_STRING", "user's"}}));
-}
-
-TEST_F(TextReplacerTest, oneAskedForByADoneCallbackWaitsForThoseBeforeIt) {
-  refuseDirectInsertion();
   replace("first", [this](InsertionOutcome) { replace("third"); });
   replace("second");
+  std::size_t erased = 0;
   for (const char* text : {"first", "second", "third"}) {
     queue.advance(milliseconds(220));
-    EXPECT_EQ(paste(), text);
+    EXPECT_EQ(general.readByApplication(), text);
+    queue.advance(milliseconds(100));
+    erased += 6;
+    EXPECT_EQ(countOf(keycode::deleteBackward), erased) << "the text does not stand there yet";
+    field->type(text);
+    queue.advance(milliseconds(5));
   }
+  EXPECT_THAT(outcomes, SizeIs(2));
+  queue.advance(milliseconds(200));
+  EXPECT_EQ(general.contents(), (std::vector<PasteboardItem>{{"UTF8_STRING", "user's"}}));
 }
 
 TEST_F(TextReplacerTest, mayGoAwayWithinADoneCallback) {
   field->type(":smile");
   replace("😀", [this](InsertionOutcome) { replacer.reset(); });
   EXPECT_FALSE(replacer.has_value());
-}
-
-TEST_F(TextReplacerTest, goesOnAfterAnApplicationThatIgnoresThePaste) {
-  refuseDirectInsertion();
-  replace("first");
-  replace("second");
-  queue.advance(milliseconds(2220));
-  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::erasedOnly));
-  queue.advance(milliseconds(220));
-  EXPECT_EQ(paste(), "second");
 }
 
 }  // namespace
