@@ -63,16 +63,6 @@ TEST(ShippedData, IsCompleteAndHasNothingTwice) {
   }
 }
 
-TEST(ShippedData, SortsEmojiIntoTheNineGroups) {
-  std::vector<std::string> groups;
-  for (const Snippet& s : emoji()) {
-    if (groups.empty() || groups.back() != s.category) groups.push_back(s.category);
-  }
-  EXPECT_EQ(groups, (std::vector<std::string>{"Smileys & Emotion", "People & Body", "Animals & Nature",
-                                              "Food & Drink", "Travel & Places", "Activities", "Objects",
-                                              "Symbols", "Flags"}));
-}
-
 /// Emoji style is asked for exactly where a character would else be shown as plain text.
 bool isFullyQualified(const std::u16string& text) {
   std::vector<UChar32> scalars;
@@ -123,10 +113,6 @@ TEST(ShippedData, IsFoundByWhatUsersType) {
   for (std::string query, replacement; known >> query >> replacement;) expectFirst(query, replacement);
   expectFirst("shruggie", "¯\\_(ツ)_/¯");
   expectFirst("tableflip", "(╯°□°)╯︵ ┻━┻");
-  expectFirst("lenny", "( ͡° ͜ʖ ͡°)");
-  expectFirst("disapproval", "ಠ_ಠ");
-  const auto shrugs = index.search("shrug", 2);
-  EXPECT_EQ(all[shrugs.at(1)].replacement, "¯\\_(ツ)_/¯");
 }
 
 }  // namespace
