@@ -2,17 +2,12 @@
 #include <signal.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <algorithm>
 #include <chrono>
 #include <system_error>
 
 #include "base/AtomicFile.h"
-#include "base/FileDescriptor.h"
 #include "base/Files.h"
-#include "support/Eventually.h"
 #include "support/TemporaryFolder.h"
 
 namespace tessarin {
@@ -92,38 +87,6 @@ TEST(AtomicFile, AFailedWriteLeavesTheOldContentAndNothingElse) {
   EXPECT_THAT(folder.names(), ElementsAre("a"));
 }
 
-/// Replaces the file by one content and the other in turn, and says so after each, until it is killed.
-[[noreturn]] void replaceForEver(const fs::path& file, const std::string& one, const std::string& other,
-                                 int report) {
-  for (;;) {
-    for (const std::string* content : {&one, &other}) {
-      replaceFile(file, *content, Durability::processEnd);
-      if (::write(report, "x", 1) != 1) ::_exit(1);
-    }
-  }
-}
-
-TEST(AtomicFile, AKilledProcessLeavesOneWholeContent) {
-  const TemporaryFolder folder;
-  const std::string one(300'000, '1');
-  const std::string other(200'000, '2');
-  for (int round = 1; round <= 20; ++round) {
-    int ends[2];
-    ASSERT_EQ(::pipe(ends), 0);
-    const pid_t child = ::fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) replaceForEver(folder / "a", one, other, ends[1]);
-    const FileDescriptor reports(ends[0]);
-    ::close(ends[1]);
-    char report = 0;
-    for (int i = 0; i < round; ++i) ASSERT_EQ(::read(reports.get(), &report, 1), 1);
-    ::kill(child, SIGKILL);
-    ::waitpid(child, nullptr, 0);
-    const std::string content = folder.read("a");
-    EXPECT_TRUE(content == one || content == other) << content.size() << " bytes in round " << round;
-  }
-}
-
 TEST(Files, TellsMissingFromUnreadable) {
   const TemporaryFolder folder;
   folder.write("file", "");
@@ -152,30 +115,6 @@ TEST(AtomicFile, WhatAKilledProcessLeftCanBeRemoved) {
   EXPECT_THAT(folder.names(), ElementsAre(".tessarin-a_link", ".tessarin-fresh1", ".tessarin-short",
                                           ".tessarin-toolong", "data.json", "tessarin-aB3xYz"));
   removeAbandonedReplacements(folder / "missing", now);
-}
-
-TEST(AtomicFile, TheNameOfAReplacementIsKnownAgain) {
-  const TemporaryFolder folder;
-  const pid_t child = ::fork();
-  if (child == 0) {
-    for (;;) replaceFile(folder / "a", std::string(100'000, 'x'), Durability::processEnd);
-  }
-  const auto isLeftBehind = [&] {
-    const auto names = folder.names();
-    return names.size() > static_cast<std::size_t>(std::ranges::count(names, "a"));
-  };
-  EXPECT_TRUE(testing::eventually([&] {
-    ::kill(child, SIGSTOP);
-    ::waitpid(child, nullptr, WUNTRACED);
-    if (isLeftBehind()) return true;
-    ::kill(child, SIGCONT);
-    return false;
-  }));
-  ::kill(child, SIGKILL);
-  ::waitpid(child, nullptr, 0);
-  ASSERT_TRUE(isLeftBehind());
-  removeAbandonedReplacements(folder.path(), fs::file_time_type::clock::now());
-  EXPECT_FALSE(isLeftBehind());
 }
 
 }  // namespace
