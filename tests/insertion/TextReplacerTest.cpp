@@ -170,49 +170,35 @@ TEST_F(TextReplacerTest, pastesByShiftInsertInATerminal) {
   EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted)) << "at once: its text cannot be read";
 }
 
-/// How the target of a paste shows the text that it has read.
-struct Arrival {
-  const char* name;
-  void (*arrange)(testing::FakeAccessibility&, testing::FakeTextField&);
-  milliseconds standsAfter;  ///< counted from the reading
-  milliseconds answeredAfter;
-};
-
-class TextReplacerArrival : public TextReplacerTest, public ::testing::WithParamInterface<Arrival> {};
-
-TEST_P(TextReplacerArrival, isWaitedForAsFarAsItCanBeTold) {
-  GetParam().arrange(accessibility, *field);
+TEST_F(TextReplacerTest, waitsForTheArrivalAsFarAsItCanBeTold) {
+  constexpr milliseconds never{9999};
+  const struct {
+    bool hangs;
+    milliseconds standsAfter;  ///< counted from the reading
+    milliseconds answeredAfter;
+  } cases[] = {{false, milliseconds(3), milliseconds(5)},
+               {false, milliseconds(111), milliseconds(115)},
+               {false, never, milliseconds(495)},
+               {true, never, milliseconds(1995)}};
   refuseDirectInsertion();
-  testing::ManualMainQueue::Clock::time_point answered;
-  replace("😀", [&](InsertionOutcome outcome) {
-    answered = queue.now();
-    outcomes.push_back(outcome);
-  });
-  queue.advance(milliseconds(220));
-  const auto read = queue.now();
-  queue.after(GetParam().standsAfter, [this] { field->type("😀"); });
-  general.readByApplication();
-  queue.advance(milliseconds(3000));
-  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
-  EXPECT_EQ(answered - read, GetParam().answeredAfter);
+  for (const auto& c : cases) {
+    accessibility.focus(field = testing::FakeTextField::create());
+    accessibility.busy = c.hangs;
+    if (c.hangs) field->failing.insert(std::string(attribute::value));
+    testing::ManualMainQueue::Clock::time_point answered;
+    replace("😀", [&](InsertionOutcome outcome) {
+      answered = queue.now();
+      outcomes.push_back(outcome);
+    });
+    queue.advance(milliseconds(220));
+    const auto read = queue.now();
+    queue.after(c.standsAfter, [this] { field->type("😀"); });
+    general.readByApplication();
+    queue.advance(never);
+    EXPECT_EQ(outcomes.back(), InsertionOutcome::inserted);
+    EXPECT_EQ(answered - read, c.answeredAfter);
+  }
 }
-
-constexpr milliseconds never{9999};
-INSTANTIATE_TEST_SUITE_P(
-    Targets, TextReplacerArrival,
-    ::testing::Values(Arrival{"soon", [](auto&, auto&) {}, milliseconds(3), milliseconds(5)},
-                      Arrival{"late", [](auto&, auto&) {}, milliseconds(111), milliseconds(115)},
-                      Arrival{"asSomethingElse", [](auto&, auto&) {}, never, milliseconds(495)},
-                      Arrival{"inAHungApplication",
-                              [](auto& accessibility, auto& target) {
-                                accessibility.busy = true;
-                                target.failing.insert(std::string(attribute::value));
-                              },
-                              never, milliseconds(1995)},
-
-                      Arrival{"notTrusted", [](auto& accessibility, auto&) { accessibility.trusted = false; },
-                              never, milliseconds(0)}),
-    [](const auto& arrival) { return arrival.param.name; });
 
 TEST_F(TextReplacerTest, doesNotEraseTwice) {
   field->type("a:smile");
