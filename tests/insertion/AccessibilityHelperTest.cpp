@@ -103,20 +103,6 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"tooSlow", [](Test& test) { test.accessibility.callDuration = milliseconds(30); }}),
     [](const auto& refusal) { return refusal.param.name; });
 
-TEST_F(AccessibilityHelperTest, leavesAloneWhatIsNotTheShortcode) {
-  for (const char* text : {"hi ☺", "hi :smile ", "hi :smil)"}) {
-    accessibility.focus(field = FakeTextField::create());
-    field->type(text);
-    EXPECT_EQ(insert(), InsertionOutcome::differs) << text;
-    EXPECT_EQ(field->document(), text);
-    EXPECT_EQ(helper.stands(":smile", 6), false);
-  }
-  field->type(":smile");
-  EXPECT_EQ(helper.stands(":smile", 6), true);
-  field->setCaret(0);
-  EXPECT_EQ(helper.stands(":smile", 6), std::nullopt) << "an element that does not tell of its text";
-}
-
 TEST_F(AccessibilityHelperTest, waitsForLettersOnTheirWay) {
   field->type(" :wa");
   accessibility.at(milliseconds(20), [this] { field->type("v"); });
