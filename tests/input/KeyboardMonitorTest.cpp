@@ -141,17 +141,19 @@ TEST_F(KeyboardMonitorTest, StartsAndStopsOnceThereIsTrustAndATap) {
 
 TEST_F(KeyboardMonitorTest, ADisabledTapIsEnabledAndReported) {
   monitor->start();
-  tap.disable(KeyEventKind::disabledByTimeout);
-  EXPECT_TRUE(tap.isOn);
-  EXPECT_EQ(interruptions, 1);
+  for (const auto kind : {KeyEventKind::disabledByTimeout, KeyEventKind::disabledByUserInput}) {
+    tap.disable(kind);
+    EXPECT_TRUE(tap.isOn);
+  }
+  EXPECT_EQ(interruptions, 2);
   EXPECT_THAT(heard, IsEmpty());
   tap.isOn = false;
   queue.advance(5000ms);
   EXPECT_TRUE(tap.isOn) << "though nobody said so";
-  EXPECT_EQ(interruptions, 2);
+  EXPECT_EQ(interruptions, 3);
   EXPECT_EQ(log.lines.back(), "[KeyboardMonitor] Re-enabling disabled event tap");
   queue.advance(20s);
-  EXPECT_EQ(interruptions, 2) << "nothing more while the tap is on";
+  EXPECT_EQ(interruptions, 3) << "nothing more while the tap is on";
 }
 
 TEST_F(KeyboardMonitorTest, TellsTheTapOnceTheKeyIsJudged) {
