@@ -75,15 +75,6 @@ TEST(SnippetCoding, EmojiDataBecomesBuiltInSnippets) {
   EXPECT_THROW(decodeEmojiData(R"([{"name":"waving hand"}])"), DataError);
 }
 
-TEST(Snippet, IsAnotherWithAnotherTextOrOrder) {
-  Snippet other = signature;
-  other.trigger = "Sig";
-  EXPECT_FALSE(other == signature);
-  other = signature;
-  std::swap(other.keywords[0], other.keywords[1]);
-  EXPECT_FALSE(other == signature);
-}
-
 TEST(Snippet, TextsInTwoNormalFormsAreTheSame) {
   const Snippet composed{"1", "caf\u00E9", "\u00E9", "\uAC00", {"\u1E69"}, "\u212B", false};
   const Snippet decomposed{"1", "cafe\u0301", "e\u0301", "\u1100\u1161", {"s\u0307\u0323"}, "A\u030A", false};

@@ -37,8 +37,7 @@ TEST_F(TemplateVariablesTest, ReplacesThemInTheirFixedOrder) {
       {"<{{clipboard}}|{{clipboard}}>", "clip", "<clip|clip>", 1, 0},
       {"{{clipboard}}", "{{clipboard}}", "{{clipboard}}", 1, 0},
       {"{{clipboard}}", "on {{date}}", "on 15.03.26", 1, 1},
-      {"{{time}}{{date}}", "", "00:0515.03.26", 0, 2},
-      {"{{datetime}}", "", "15.03.26, 00:05", 0, 1},
+      {"{{datetime}} {{time}}", "", "15.03.26, 00:05 00:05", 0, 2},
       {"{{Date}} {{ date }} {{TIME}} {{dates}} {date} }}", "",
        "{{Date}} {{ date }} {{TIME}} {{dates}} {date} }}", 0, 0},
       {"{{{{date}}{{date", "", "{{15.03.26{{date", 0, 1},
@@ -58,7 +57,7 @@ TEST_F(TemplateVariablesTest, DatesFollowLocaleAndZone) {
     const char* date;
   } cases[] = {{"en_US", "America/New_York", "3/14/26"},
                {"en_GB.UTF-8", "Europe/London", "14/03/2026"},
-               {"de_AT@euro", "Europe/Vienna", "15.03.26"},
+
                {"POSIX", "UTC", "3/14/26"}};
   for (const auto& [locale, timeZone, date] : cases) {
     EXPECT_EQ(expand("{{date}}", "", locale, timeZone), date) << locale;
