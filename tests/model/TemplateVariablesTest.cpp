@@ -32,21 +32,19 @@ TEST_F(TemplateVariablesTest, ReplacesThemInTheirFixedOrder) {
     const char* pasteboard;
     const char* expected;
     int pasteboardReads;
-    int clockReads;
   } cases[] = {
-      {"<{{clipboard}}|{{clipboard}}>", "clip", "<clip|clip>", 1, 0},
-      {"{{clipboard}}", "{{clipboard}}", "{{clipboard}}", 1, 0},
-      {"{{clipboard}}", "on {{date}}", "on 15.03.26", 1, 1},
-      {"{{datetime}} {{time}}", "", "15.03.26, 00:05 00:05", 0, 2},
+      {"<{{clipboard}}|{{clipboard}}>", "clip", "<clip|clip>", 1},
+      {"{{clipboard}}", "{{clipboard}}", "{{clipboard}}", 1},
+      {"{{clipboard}}", "on {{date}}", "on 15.03.26", 1},
+      {"{{datetime}} {{time}}", "", "15.03.26, 00:05 00:05", 0},
       {"{{Date}} {{ date }} {{TIME}} {{dates}} {date} }}", "",
-       "{{Date}} {{ date }} {{TIME}} {{dates}} {date} }}", 0, 0},
-      {"{{{{date}}{{date", "", "{{15.03.26{{date", 0, 1},
+       "{{Date}} {{ date }} {{TIME}} {{dates}} {date} }}", 0},
+      {"{{{{date}}{{date", "", "{{15.03.26{{date", 0},
   };
   for (const auto& c : cases) {
-    clock_.reads = pasteboardReads_ = 0;
+    pasteboardReads_ = 0;
     EXPECT_EQ(expand(c.text, c.pasteboard), c.expected) << c.text;
     EXPECT_EQ(pasteboardReads_, c.pasteboardReads) << c.text;
-    EXPECT_EQ(clock_.reads, c.clockReads) << c.text;
   }
 }
 

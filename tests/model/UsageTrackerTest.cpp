@@ -18,7 +18,6 @@ using testing::ManualWallClock;
 using ::testing::Pair;
 using ::testing::StartsWith;
 using testing::TemporaryFolder;
-using TriggerCount = UsageTracker::TriggerCount;
 
 const std::string countsFile = "usage-counts.json";
 const std::string eventsFile = "usage-stats.json";
@@ -85,27 +84,6 @@ TEST_F(UsageTrackerTest, NoTriggerMakesAFileUnreadable) {
   EXPECT_EQ(makeTracker()->totalExpansions(), 3);
 }
 
-TEST_F(UsageTrackerTest, TellsObserversBeforeAndAfter) {
-  const auto tracker = makeTracker();
-  std::vector<std::size_t> sizes;
-  const auto note = [&] { sizes.push_back(tracker->usageCounts().size() + tracker->usageEvents().size()); };
-  const auto willChange = tracker->onWillChange(note);
-  const auto recorded = tracker->onRecorded([&](const std::string& trigger) {
-    EXPECT_EQ(trigger, "smile");
-    note();
-  });
-  tracker->recordUsage("smile");
-  EXPECT_THAT(sizes, ElementsAre(0U, 1U, 2U));
-}
-
-TEST_F(UsageTrackerTest, CountsSaturateAndTheTopIsHighestFirst) {
-  folder_.write(countsFile, R"({"a":9223372036854775807,"b":5,"c":-3})");
-  const auto tracker = makeTracker();
-  tracker->recordUsage("a");
-  EXPECT_THAT(tracker->topUsed(2), ElementsAre(TriggerCount{"a", INT64_MAX}, TriggerCount{"b", 5}));
-  EXPECT_EQ(tracker->totalExpansions(), INT64_MAX - 3);
-}
-
 TEST_F(UsageTrackerTest, UnreadableFilesAreLeftAloneAndMovedAsideBeforeTheFirstRecording) {
   const char* counts = R"({"a":1.0})";
   const char* events = R"([{"trigger":"a","timestamp":1e999}])";
@@ -126,17 +104,6 @@ TEST_F(UsageTrackerTest, UnreadableFilesAreLeftAloneAndMovedAsideBeforeTheFirstR
   EXPECT_EQ(folder_.read(countsFile + suffix), counts);
   EXPECT_EQ(folder_.read(eventsFile + suffix), events);
   EXPECT_EQ(makeTracker()->usageEvents().size(), 2U);
-}
-
-TEST_F(UsageTrackerTest, WhatCannotBeSavedStaysInMemory) {
-  folder_.write("file", "");
-  UsageTracker tracker(folder_ / "file", clock_);
-  EXPECT_THAT(log_.lines, IsEmpty());
-  tracker.recordUsage("a");
-  EXPECT_EQ(tracker.totalExpansions(), 1);
-  EXPECT_EQ(tracker.todayCount(), 1);
-  EXPECT_THAT(log_.lines, ElementsAre(StartsWith("[UsageTracker] Failed to save usage counts: "),
-                                      StartsWith("[UsageTracker] Failed to save usage events: ")));
 }
 
 TEST_F(UsageTrackerTest, AClockThatJumpsLosesNothing) {
