@@ -123,18 +123,5 @@ TEST(TriggerDetector, DropsTheSixtyFifthLetter) {
   EXPECT_EQ(recorder.events.back(), "~" + full.substr(1));
 }
 
-TEST(TriggerDetector, FollowsThePreferenceFromTheNextKeyOn) {
-  FakeUserDefaults defaults;
-  Recorder recorder(defaults);
-  recorder.press(keyStream(":a"));
-  defaults.set(preferences::key::triggerCharacter, "/");
-  recorder.press(keyStream("/"));
-  EXPECT_THAT(recorder.events, ElementsAre("~", "~a", "!a"));
-  recorder.press(keyStream(":"));
-  EXPECT_EQ(recorder.detector.state(), idle);
-  recorder.press(keyStream("/"));
-  EXPECT_EQ(recorder.detector.state(), collecting(""));
-}
-
 }  // namespace
 }  // namespace tessarin::testing
