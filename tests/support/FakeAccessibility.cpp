@@ -41,7 +41,7 @@ std::optional<AttributeValue> FakeAccessibility::parameterizedAttribute(const El
 AccessibilityStatus FakeAccessibility::setAttribute(const ElementRef& element, std::string_view name,
                                                     const AttributeValue& value) {
   const FakeElement* found = answering(element, name);
-  writes.push_back({element.get(), std::string(name), value});
+  writes.emplace_back(name);
   if (!found) return AccessibilityStatus::failure;
   const auto writer = found->writers.find(name);
   return writer != found->writers.end() ? writer->second(value) : AccessibilityStatus::success;

@@ -30,12 +30,6 @@ class FakeElement : public AccessibilityElement {
 /// budget that is kept.
 class FakeAccessibility final : public Accessibility {
  public:
-  struct Write {
-    const AccessibilityElement* element;
-    std::string name;
-    AttributeValue value;
-  };
-
   FakeAccessibility();
 
   bool isTrusted() override { return trusted; }
@@ -64,7 +58,7 @@ class FakeAccessibility final : public Accessibility {
   int prompts = 0;
   std::chrono::milliseconds callDuration{0};  ///< what every call takes
   std::vector<std::chrono::milliseconds> budgets;
-  std::vector<Write> writes;
+  std::vector<std::string> writes;  ///< names of the attributes
   int calls = 0;
 
   std::shared_ptr<FakeElement> system = std::make_shared<FakeElement>();
