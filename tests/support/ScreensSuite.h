@@ -21,6 +21,8 @@ class ScreensSuite : public ::testing::Test {
 TYPED_TEST_SUITE_P(ScreensSuite);
 
 TYPED_TEST_P(ScreensSuite, KnowsMonitorsFocusAndPointer) {
+  this->world.movePointer({300, 824});
+  EXPECT_EQ(this->screens().mouseLocation(), (Point{300, 824}));
   this->world.layOut();
   const auto found = this->screens().screens();
   ASSERT_EQ(found.size(), 2U);
@@ -32,8 +34,6 @@ TYPED_TEST_P(ScreensSuite, KnowsMonitorsFocusAndPointer) {
   EXPECT_EQ(this->screens().mainScreen(), found[1]);
   this->world.focus(0);
   EXPECT_EQ(this->screens().mainScreen(), found[0]);
-  this->world.movePointer({300, 824});
-  EXPECT_EQ(this->screens().mouseLocation(), (Point{300, 824}));
 }
 
 REGISTER_TYPED_TEST_SUITE_P(ScreensSuite, KnowsMonitorsFocusAndPointer);
