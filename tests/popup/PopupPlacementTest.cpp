@@ -48,14 +48,5 @@ TEST(PopupPlacement, doesWithoutScreens) {
   EXPECT_EQ(popupFrame(1, std::nullopt, none, {5000, 10}), (Rect{5008, -98, 320, 100}));
 }
 
-TEST(ScreenLayout, findsTheScreenOfAPoint) {
-  EXPECT_EQ(threeScreens.screenContaining({0, 0}), primary);
-  EXPECT_EQ(threeScreens.screenContaining({999.5, 799.5}), primary);
-  EXPECT_EQ(threeScreens.screenContaining({1000, 300}), onTheRight);
-  EXPECT_EQ(threeScreens.screenContaining({500, 10}), primary) << "behind the dock";
-  EXPECT_EQ(threeScreens.screenContaining({5000, 5000}), onTheLeft) << "the main screen";
-  EXPECT_EQ(ScreenLayout{}.screenContaining({0, 0}), std::nullopt);
-}
-
 }  // namespace
 }  // namespace tessarin
