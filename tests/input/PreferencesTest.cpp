@@ -10,8 +10,8 @@
 namespace tessarin::testing {
 namespace {
 
-using ::testing::IsSupersetOf;
 using ::testing::SizeIs;
+using ::testing::UnorderedElementsAre;
 using Apps = std::vector<std::string>;
 
 TEST(Preferences, TheTriggerIsTheFirstCharacterStored) {
@@ -24,25 +24,19 @@ TEST(Preferences, TheTriggerIsTheFirstCharacterStored) {
   }
 }
 
-TEST(Preferences, BuiltInApplicationsAreAlwaysListed) {
-  FakeUserDefaults defaults;
-  EXPECT_THAT(preferences::effectiveBlockedApps(defaults), SizeIs(2));
-  EXPECT_THAT(preferences::effectivePasteFallbackApps(defaults), SizeIs(16));
-  defaults.set(preferences::key::blacklistedApps, Apps{"org.example.Chat"});
-  EXPECT_THAT(preferences::effectiveBlockedApps(defaults),
-              IsSupersetOf({"com.apple.MobileSMS", "com.tinyspeck.slackmacgap", "org.example.Chat"}));
-  EXPECT_TRUE(preferences::isPasteFallbackApp(defaults, "net.kovidgoyal.kitty"));
-}
-
-TEST(Preferences, StoredApplicationsAreComparedExactly) {
+TEST(Preferences, StoredApplicationsJoinTheBuiltInOnes) {
   FakeUserDefaults defaults;
   defaults.set(preferences::key::blacklistedApps, Apps{"org.example.Chat"});
   defaults.set(preferences::key::pasteFallbackApps, Apps{"org.example.Shell"});
+  EXPECT_THAT(preferences::effectiveBlockedApps(defaults),
+              UnorderedElementsAre("com.apple.MobileSMS", "com.tinyspeck.slackmacgap", "org.example.Chat"));
+  EXPECT_THAT(preferences::effectivePasteFallbackApps(defaults), SizeIs(17));
   EXPECT_TRUE(preferences::isBlockedApp(defaults, "org.example.Chat"));
-  for (const char* other : {"org.example.chat", "com.apple.mobilesms", "org.example.Shell"}) {
+  EXPECT_TRUE(preferences::isPasteFallbackApp(defaults, "net.kovidgoyal.kitty"));
+  EXPECT_TRUE(preferences::isPasteFallbackApp(defaults, "org.example.Shell"));
+  for (const char* other : {"org.example.chat", "org.example.Shell"}) {
     EXPECT_FALSE(preferences::isBlockedApp(defaults, other)) << other;
   }
-  EXPECT_TRUE(preferences::isPasteFallbackApp(defaults, "org.example.Shell"));
 }
 
 }  // namespace

@@ -150,15 +150,6 @@ TEST_F(AutocompletePanelTest, hidingCancelsWhatWasPutOffAndSoDoesItsEnd) {
   EXPECT_TRUE(surface.shows.empty());
 }
 
-TEST_F(AutocompletePanelTest, aListWithoutRowsHides) {
-  show("s");
-  panel->present(contentOf("sx", 0));
-  EXPECT_FALSE(panel->isVisible());
-  EXPECT_FALSE(surface.isShown);
-  panel->showNearCaret(caret);
-  EXPECT_FALSE(surface.isShown);
-}
-
 TEST_F(AutocompletePanelTest, standsAtThePointerWhenTheCaretIsNotKnown) {
   accessibility.trusted = false;
   screens.mouse = {400, 600};

@@ -18,14 +18,10 @@ std::vector<std::string> charactersOf(std::string text) {
 
 }  // namespace
 
-std::shared_ptr<FakeTextField> FakeTextField::create() {
-  return std::shared_ptr<FakeTextField>(new FakeTextField());
-}
-
 FakeTextField::FakeTextField() {
   attributes[std::string(attribute::role)] = std::string(role::textArea);
   attributes[std::string(attribute::value)] = std::string();
-  showCaret();
+  setCaret(0);
   parameterized[std::string(attribute::stringForRange)] = [this](const AttributeValue& range) {
     return textIn(std::get<TextRange>(range));
   };
@@ -46,7 +42,7 @@ void FakeTextField::type(const std::string& text) {
 
 void FakeTextField::setCaret(std::size_t position) {
   caret_ = position;
-  showCaret();
+  attributes[std::string(attribute::selectedTextRange)] = TextRange{static_cast<std::int64_t>(caret_), 0};
 }
 
 std::string FakeTextField::document() const {
@@ -55,16 +51,11 @@ std::string FakeTextField::document() const {
   return whole;
 }
 
-void FakeTextField::showCaret() {
-  attributes[std::string(attribute::selectedTextRange)] = TextRange{static_cast<std::int64_t>(caret_), 0};
-}
-
 std::optional<AttributeValue> FakeTextField::textIn(const TextRange& range) const {
   if (range.location < 0) return std::nullopt;
   std::string found;
-  const std::int64_t end = range.location + range.length;
-  for (std::int64_t i = range.location; i < end; ++i) {
-    found += characters_.at(static_cast<std::size_t>(i));
+  for (std::int64_t i = 0; i < range.length; ++i) {
+    found += characters_.at(static_cast<std::size_t>(range.location + i));
   }
   return found;
 }

@@ -13,7 +13,9 @@ namespace tessarin::testing {
 /// A focused text field with a document behind it. Positions count characters.
 class FakeTextField : public FakeElement {
  public:
-  static std::shared_ptr<FakeTextField> create();
+  static std::shared_ptr<FakeTextField> create() {
+    return std::shared_ptr<FakeTextField>(new FakeTextField());
+  }
 
   /// Types characters at the caret.
   void type(const std::string& text);
@@ -27,7 +29,7 @@ class FakeTextField : public FakeElement {
 
  private:
   FakeTextField();
-  void showCaret();
+
   std::optional<AttributeValue> textIn(const TextRange& range) const;
   void erase(const TextRange& range);
   AccessibilityStatus replaceSelection(const std::string& text);

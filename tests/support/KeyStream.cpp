@@ -5,24 +5,6 @@
 #include "text/Graphemes.h"
 
 namespace tessarin::testing {
-namespace {
-
-struct NamedKey {
-  std::int64_t keyCode;
-  const char* text;
-};
-
-const NamedKey* namedKey(const std::string& symbol) {
-  static const std::map<std::string, NamedKey> keys = {
-      {"⏎", {keycode::returnKey, "\r"}}, {"⇥", {keycode::tab, "\t"}},  {"⌫", {keycode::deleteBackward, "\b"}},
-      {"⎋", {keycode::escape, "\x1b"}},  {" ", {keycode::space, " "}}, {"←", {keycode::left, ""}},
-      {"→", {keycode::right, ""}},       {"↑", {keycode::up, ""}},     {"↓", {keycode::down, ""}},
-  };
-  const auto found = keys.find(symbol);
-  return found == keys.end() ? nullptr : &found->second;
-}
-
-}  // namespace
 
 KeyEvent key(std::int64_t keyCode, std::string_view text, std::uint64_t flags) {
   KeyEvent event;
@@ -37,11 +19,20 @@ KeyEvent letter(std::string_view text, std::uint64_t flags) {
 }
 
 std::vector<KeyEvent> keyStream(std::string_view keys) {
+  static const std::map<std::string, KeyEvent> named = {{"⏎", key(keycode::returnKey, "\r")},
+                                                        {"⇥", key(keycode::tab, "\t")},
+                                                        {"⌫", key(keycode::deleteBackward, "\b")},
+                                                        {"⎋", key(keycode::escape, "\x1b")},
+                                                        {" ", key(keycode::space, " ")},
+                                                        {"←", key(keycode::left)},
+                                                        {"→", key(keycode::right)},
+                                                        {"↑", key(keycode::up)},
+                                                        {"↓", key(keycode::down)}};
   std::vector<KeyEvent> events;
   while (!keys.empty()) {
     const std::string symbol = text::firstCharacter(keys);
-    const NamedKey* named = namedKey(symbol);
-    events.push_back(named ? key(named->keyCode, named->text) : letter(symbol));
+    const auto found = named.find(symbol);
+    events.push_back(found != named.end() ? found->second : letter(symbol));
     keys.remove_prefix(symbol.size());
   }
   return events;

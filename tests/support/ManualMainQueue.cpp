@@ -39,20 +39,13 @@ std::shared_ptr<ManualMainQueue::Job> ManualMainQueue::takeNext(Clock::time_poin
   return job;
 }
 
-bool ManualMainQueue::runNext(Clock::time_point limit) {
-  const auto job = takeNext(limit);
-  if (job) job->work();
-  return job != nullptr;
-}
-
 void ManualMainQueue::runReady() {
   advance(std::chrono::milliseconds(0));
 }
 
 void ManualMainQueue::advance(std::chrono::milliseconds duration) {
   const auto limit = now_ + duration;
-  while (runNext(limit)) {
-  }
+  while (const auto job = takeNext(limit)) job->work();
   const std::lock_guard lock(state_->mutex);
   now_ = limit;
 }

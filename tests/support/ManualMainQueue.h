@@ -41,7 +41,6 @@ class ManualMainQueue final : public MainQueue {
   };
 
   void add(std::chrono::milliseconds delay, std::shared_ptr<Job> job);
-  bool runNext(Clock::time_point limit);
   std::shared_ptr<Job> takeNext(Clock::time_point limit);
 
   std::shared_ptr<State> state_ = std::make_shared<State>();

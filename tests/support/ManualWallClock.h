@@ -6,7 +6,7 @@
 
 namespace tessarin::testing {
 
-/// A time of day that stands still until it is set; counts how often it was read.
+/// A time of day that stands still until it is set.
 class ManualWallClock final : public WallClock {
  public:
   explicit ManualWallClock(TimePoint start = utc(2026, 3, 14, 9, 30, 0)) : time(start) {}
@@ -18,13 +18,9 @@ class ManualWallClock final : public WallClock {
            hours(hour) + minutes(minute) + seconds(second);
   }
 
-  TimePoint now() const override {
-    ++reads;
-    return time;
-  }
+  TimePoint now() const override { return time; }
 
   TimePoint time;
-  mutable int reads = 0;
 };
 
 }  // namespace tessarin::testing

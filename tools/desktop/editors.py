@@ -41,8 +41,7 @@ class Editor:
         return active if active in self.typist.client_windows() - before else None
 
     def _wait_until_it_takes_keys(self):
-        self.typist.type("q")
-        wait_for(self._probe_arrived, 30, f"{self.command[0]} to take keys")
+        wait_for(self._takes_a_key, 30, f"{self.command[0]} to take keys")
         self.typist.press("End", "Control_L")  # a first save can move the caret
 
     def is_at_rest(self, seconds=0.2):
@@ -55,9 +54,12 @@ class Editor:
         fields = pathlib.Path(f"/proc/{self.pid}/stat").read_text().rpartition(")")[2].split()
         return int(fields[11]) + int(fields[12])
 
-    def _probe_arrived(self):
+    def _takes_a_key(self):
+        """A key that comes before the document is loaded can be lost, so each attempt types anew."""
+        self.typist.press("a", "Control_L")
+        self.typist.type("q")
         self.save()
-        return self.path.read_text().startswith("q")
+        return self.path.read_text().removesuffix("\n") == "q"
 
     @property
     def pid(self):

@@ -1,6 +1,7 @@
 #include "support/desktop/ChildProcess.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -36,8 +37,11 @@ std::vector<char*> fullEnvironment(const std::vector<std::string>& own) {
   return result;
 }
 
+constexpr int announcementFd = 3;
+constexpr int startUpMilliseconds = 30'000;
+
 pid_t spawn(const std::vector<std::string>& command, const std::vector<std::string>& environment,
-            int inheritedFd) {
+            int announcements) {
   std::vector<char*> arguments = pointers(command);
   arguments.push_back(nullptr);
   const std::vector<char*> variables = fullEnvironment(environment);
@@ -46,7 +50,8 @@ pid_t spawn(const std::vector<std::string>& command, const std::vector<std::stri
   if (pid == 0) {
     // Between fork and exec only calls that are safe beside other threads.
     prctl(PR_SET_PDEATHSIG, SIGTERM);
-    if (inheritedFd >= 0) fcntl(inheritedFd, F_SETFD, 0);
+    if (announcements >= 0) dup2(announcements, announcementFd);
+    if (announcements == announcementFd) fcntl(announcementFd, F_SETFD, 0);
     const int null = open("/dev/null", O_RDWR);
     dup2(null, STDIN_FILENO);
     dup2(null, STDOUT_FILENO);
@@ -60,8 +65,18 @@ pid_t spawn(const std::vector<std::string>& command, const std::vector<std::stri
 }  // namespace
 
 ChildProcess::ChildProcess(const std::vector<std::string>& command,
-                           const std::vector<std::string>& environment, int inheritedFd)
-    : pid_(spawn(command, environment, inheritedFd)) {}
+                           const std::vector<std::string>& environment, std::string* announcement) {
+  int ends[2] = {-1, -1};
+  if (announcement != nullptr && pipe2(ends, O_CLOEXEC) != 0) throw std::runtime_error("no pipe");
+  pid_ = spawn(command, environment, ends[1]);
+  if (announcement == nullptr) return;
+  close(ends[1]);
+  pollfd waiting{ends[0], POLLIN, 0};
+  for (char c = 0; poll(&waiting, 1, startUpMilliseconds) > 0 && read(ends[0], &c, 1) == 1 && c != '\n';) {
+    *announcement += c;
+  }
+  close(ends[0]);
+}
 
 ChildProcess& ChildProcess::operator=(ChildProcess&& other) noexcept {
   if (this != &other) {

@@ -14,10 +14,11 @@ class ChildProcess {
  public:
   ChildProcess() = default;
   /// `command`: the program, found on the PATH, and its arguments. `environment`: NAME=value entries that
-  /// replace or join our own. `inheritedFd`: stays open in the child under the same number; -1 for none.
-  /// Throws std::runtime_error when no process can be made.
+  /// replace or join our own. `announcement`: gets the first line that the program writes to its descriptor
+  /// 3, which is waited for; empty when none comes. Throws std::runtime_error when no process can be made.
   explicit ChildProcess(const std::vector<std::string>& command,
-                        const std::vector<std::string>& environment = {}, int inheritedFd = -1);
+                        const std::vector<std::string>& environment = {},
+                        std::string* announcement = nullptr);
   ChildProcess(ChildProcess&& other) noexcept : pid_(std::exchange(other.pid_, -1)) {}
   ChildProcess& operator=(ChildProcess&& other) noexcept;
   ~ChildProcess() { stop(); }

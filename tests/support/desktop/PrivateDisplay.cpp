@@ -1,49 +1,20 @@
 #include "support/desktop/PrivateDisplay.h"
 
-#include <fcntl.h>
-#include <poll.h>
-#include <unistd.h>
-
-#include <chrono>
-#include <memory>
 #include <stdexcept>
 
 #include "support/Eventually.h"
 #include "support/desktop/XClient.h"
 
 namespace tessarin::testing {
-namespace {
-
-using Clock = std::chrono::steady_clock;
-constexpr auto startUpTime = std::chrono::seconds(30);
-
-std::string readLine(int fd) {
-  std::string line;
-  const auto deadline = Clock::now() + startUpTime;
-  while (Clock::now() < deadline) {
-    pollfd waiting{fd, POLLIN, 0};
-    if (poll(&waiting, 1, 1000) <= 0) continue;
-    char c = 0;
-    if (read(fd, &c, 1) != 1) break;
-    if (c == '\n') return line;
-    line += c;
-  }
-  throw std::runtime_error("no X server came up");
-}
-
-}  // namespace
 
 PrivateDisplay::PrivateDisplay(const std::string& geometry, const std::vector<std::string>& arguments) {
-  int ends[2];
-  if (pipe2(ends, O_CLOEXEC) != 0) throw std::runtime_error("no pipe");
-  std::vector<std::string> command{"Xvfb",      "-displayfd", std::to_string(ends[1]),
-                                   "-screen",   "0",          geometry,
-                                   "-nolisten", "tcp",        "-noreset"};
+  std::vector<std::string> command{"Xvfb",   "-displayfd", "3",   "-screen", "0",
+                                   geometry, "-nolisten",  "tcp", "-noreset"};
   command.insert(command.end(), arguments.begin(), arguments.end());
-  server_ = ChildProcess(command, {}, ends[1]);
-  close(ends[1]);
-  const std::unique_ptr<int, void (*)(int*)> closing(&ends[0], [](int* fd) { close(*fd); });
-  name_ = ":" + readLine(ends[0]);
+  std::string number;
+  server_ = ChildProcess(command, {}, &number);
+  if (number.empty()) throw std::runtime_error("no X server came up");
+  name_ = ":" + number;
 }
 
 void PrivateDisplay::startWindowManager() {
