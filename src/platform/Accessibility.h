@@ -99,7 +99,8 @@ class Accessibility {
 
   /// Starts the account of one key: from now on all calls and pauses together take at most this long.
   virtual void beginBudget(std::chrono::milliseconds budget) = 0;
-  /// Whether the element's application has been asked something that it has not answered yet.
+  /// Whether the element's application has been asked something that it has not answered yet; of
+  /// `systemWide`, whether the focused element is being looked for.
   virtual bool isBusy(const ElementRef& element) = 0;
   /// Gives the application a moment to go on with its work. False when the budget does not allow it.
   virtual bool pause(std::chrono::milliseconds duration) = 0;

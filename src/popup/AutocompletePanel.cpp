@@ -10,11 +10,12 @@ namespace {
 
 /// Between two questions to an application that is busy.
 constexpr std::chrono::milliseconds lookInterval{25};
-/// For a popup that is not on screen yet, which a person hardly reads sooner, and for word of where the focus
-/// is.
+/// For a popup that is not on screen yet: a person hardly reads it sooner.
 constexpr std::chrono::milliseconds longestDelay{300};
-/// For one that stands at the wrong place.
+/// For one that stands at the wrong place. Applications that are only starting take this long to tell of the
+/// focus; looking becomes rarer, as most that do not tell at once never will.
 constexpr std::chrono::milliseconds longestLook{2000};
+constexpr std::chrono::milliseconds rareLookInterval{100};
 
 }  // namespace
 
@@ -70,16 +71,19 @@ void AutocompletePanel::locate() {
   const auto found = locator_.caretRect(layout);
   const bool isDue = !found && locator_.isAnswerDue();
   if (!isDue) caret_ = found;
-  if (!found && queue_.now() - presentedAt_ < (isDue ? longestLook : longestDelay)) locateAgainSoon();
+  if (!found) locateAgainSoon();
   const bool mayWait = isDue && !shown_ && queue_.now() - openedAt_ < longestDelay;
   if (mayWait || (!found && isSameListAsShown())) return;
   place(caret_, layout);
 }
 
 void AutocompletePanel::locateAgainSoon() {
-  queue_.after(lookInterval, [this, presented = presents_, alive = std::weak_ptr<char>(alive_)] {
-    if (!alive.expired() && isVisible_ && presented == presents_) locate();
-  });
+  const auto waited = queue_.now() - presentedAt_;
+  if (waited >= longestLook) return;
+  queue_.after(waited < longestDelay ? lookInterval : rareLookInterval,
+               [this, presented = presents_, alive = std::weak_ptr<char>(alive_)] {
+                 if (!alive.expired() && isVisible_ && presented == presents_) locate();
+               });
 }
 
 void AutocompletePanel::showNearCaret(const std::optional<Rect>& caret) {

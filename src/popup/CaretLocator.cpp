@@ -37,8 +37,8 @@ std::optional<Rect> CaretLocator::caretRect(const ScreenLayout& layout) {
   asked_.reset();
   if (!accessibility_.isTrusted()) return std::nullopt;
   accessibility_.beginBudget(locatingBudget);
-  const auto application =
-      readAttribute<ElementRef>(accessibility_, accessibility_.systemWide(), attribute::focusedApplication);
+  asked_ = accessibility_.systemWide();
+  const auto application = readAttribute<ElementRef>(accessibility_, asked_, attribute::focusedApplication);
   if (!application) return std::nullopt;
   const auto element = readAttribute<ElementRef>(accessibility_, *application, attribute::focusedElement);
   if (!element) return std::nullopt;

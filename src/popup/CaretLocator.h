@@ -20,7 +20,8 @@ class CaretLocator {
   /// The caret, or else a place near the pointer within the focused element or the focused window. Takes
   /// 50 ms at most.
   std::optional<Rect> caretRect(const ScreenLayout& layout);
-  /// Whether the application that was asked last has not come to the answer yet; later it may know.
+  /// Whether the application that was asked last has not come to the answer yet, or which element of it has
+  /// the focus is not known yet; later it may be.
   bool isAnswerDue() const { return asked_ && accessibility_.isBusy(asked_); }
 
   /// What the element itself says of its selection, if that can be true.

@@ -109,13 +109,17 @@ TEST_F(AutocompletePanelTest, givesABusyApplicationTimeToSayWhereItsCaretIs) {
 }
 
 TEST_F(AutocompletePanelTest, followsTheFocusThatIsKnownLateOnly) {
-  accessibility.focus(nullptr);
+  accessibility.application->attributes.erase(std::string(attribute::focusedElement));
+  accessibility.busy = true;
   show("s");
+  EXPECT_TRUE(surface.shows.empty()) << "while the element is being looked for";
+  accessibility.busy = false;
+  queue.advance(milliseconds(25));
   ASSERT_EQ(surface.shows.size(), 1U) << "beside the pointer";
-  queue.advance(milliseconds(50));
+  queue.advance(milliseconds(1800));
   EXPECT_EQ(surface.shows.size(), 1U);
   accessibility.focus(element);
-  queue.advance(milliseconds(25));
+  queue.advance(milliseconds(100));
   ASSERT_EQ(surface.shows.size(), 2U);
   EXPECT_EQ(surface.shows[1].frame.x, 300);
   EXPECT_EQ(queue.pending(), 0U);

@@ -55,7 +55,8 @@ void AtspiAccessibility::beginBudget(std::chrono::milliseconds budget) {
 
 bool AtspiAccessibility::isBusy(const ElementRef& element) {
   const AtspiElement* asked = known(element);
-  return asked != nullptr && !asked->isSystemWide() && channel_.owesAnswer(asked->object().bus);
+  if (asked == nullptr) return false;
+  return asked->isSystemWide() ? watcher_.isSearching() : channel_.owesAnswer(asked->object().bus);
 }
 
 bool AtspiAccessibility::pause(std::chrono::milliseconds duration) {
@@ -122,6 +123,7 @@ bool AtspiAccessibility::isInBackground(const std::string& bus) {
 
 AtspiAccessibility::Value AtspiAccessibility::focusedApplication() {
   const FocusModel::Focus focus = this->focus();
+  if (!focus.element) watcher_.requestSearch();
   const auto& known = focus.element ? focus.element : focus.window;
   if (!known) return std::nullopt;
   return atspi::element(ObjectReference{known->bus, applicationPath});
@@ -228,8 +230,9 @@ std::optional<Rect> AtspiAccessibility::toPoints(const Rect& units, const Object
   std::optional<Rect> frame;
   if ((isWindowRelative || !kin().scale) && options_.activeWindowFrame) frame = options_.activeWindowFrame();
   if (isWindowRelative && !frame) return std::nullopt;
-  const double scale = frame ? scaleOf(object, *frame, isWindowRelative) : kin().scale.value_or(1);
-  Rect onScreen{units.x * scale, units.y * scale, units.width * scale, units.height * scale};
+  const auto scale = frame ? scaleOf(object, *frame, isWindowRelative) : kin().scale.value_or(1);
+  if (!scale) return std::nullopt;
+  Rect onScreen{units.x * *scale, units.y * *scale, units.width * *scale, units.height * *scale};
   if (isWindowRelative) {
     onScreen.x += frame->x;
     onScreen.y += frame->y;
@@ -237,15 +240,17 @@ std::optional<Rect> AtspiAccessibility::toPoints(const Rect& units, const Object
   return options_.coordinateSpace ? options_.coordinateSpace().toPoints(onScreen) : onScreen;
 }
 
-double AtspiAccessibility::scaleOf(const ObjectReference& object, const Rect& frame, bool isWindowRelative) {
+std::optional<double> AtspiAccessibility::scaleOf(const ObjectReference& object, const Rect& frame,
+                                                  bool isWindowRelative) {
   if (const auto known = kin().scale) return *known;
   const auto active = focus().window;
   const auto window = active && active->bus == object.bus ? active : windowOf(object);
   const auto extents = window ? RemoteObject(channel_, *window).extents(isWindowRelative) : std::nullopt;
-  if (!extents) return 1;
-  const double scale = pixelsPerUnit({frame.width, frame.height}, {extents->width, extents->height});
-  if (kin().of) kin_.scale = scale;
-  return scale;
+  if (!extents) return channel_.owesAnswer(object.bus) ? std::nullopt : std::optional(1.0);
+  const auto scale = pixelsPerUnit({frame.width, frame.height}, {extents->width, extents->height});
+  // A window that is only coming up may not have its size yet.
+  if (kin().of && scale) kin_.scale = scale;
+  return scale.value_or(1);
 }
 
 std::optional<Rect> AtspiAccessibility::extents(const ObjectReference& object) {

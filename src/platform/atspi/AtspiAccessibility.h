@@ -85,7 +85,8 @@ class AtspiAccessibility final : public Accessibility {
   std::optional<ObjectReference> windowOf(ObjectReference object);
   /// None without the origin that window-relative rectangles need.
   std::optional<Rect> toPoints(const Rect& units, const ObjectReference& object, bool isWindowRelative);
-  double scaleOf(const ObjectReference& object, const Rect& frame, bool isWindowRelative);
+  /// None when the application is too busy to say.
+  std::optional<double> scaleOf(const ObjectReference& object, const Rect& frame, bool isWindowRelative);
   std::optional<Rect> extents(const ObjectReference& object);
   std::optional<Toolkit> toolkit(const std::string& bus);
   std::optional<RemoteText> textOf(const ObjectReference& object);

@@ -15,6 +15,7 @@ namespace tessarin::atspi {
 namespace {
 
 constexpr std::chrono::seconds betweenRequests{5};
+constexpr std::chrono::milliseconds betweenSearchRequests{250};
 // Most applications tell the focused element right after the window. GTK 4 tells the window alone, and before
 // its objects can be called: while it starts on a busy machine that takes seconds.
 constexpr std::chrono::milliseconds searchDelays[] = {
@@ -75,13 +76,22 @@ void FocusWatcher::requestConnection() {
   wake_.send();
 }
 
+void FocusWatcher::requestSearch() {
+  if (!isElementUnknown_ || Clock::now() - lastSearchRequest_ < betweenSearchRequests) return;
+  lastSearchRequest_ = Clock::now();
+  isSearchRequested_ = true;
+  wake_.send();
+}
+
 void FocusWatcher::run() {
   while (!isStopping_) {
     dropWhatIsGone();
     if (isConnectionWanted_.exchange(false)) connect();
     takeIn();
     searchWhenDue();
+    const bool isServed = isSearchRequested_ && serveSearchRequest();
     publish();
+    if (isServed) isSearchRequested_ = false;
     sleep();
   }
   events_.reset();
@@ -169,7 +179,12 @@ void FocusWatcher::searchWhenDue() {
   if (goesOn && searches_ < std::size(searchDelays)) searchAt_ = Clock::now() + searchDelays[searches_];
 }
 
+bool FocusWatcher::serveSearchRequest() {
+  return !events_ || !events_->model().windowToSearch() || events_->search();
+}
+
 void FocusWatcher::publish() {
+  isElementUnknown_ = events_ && events_->model().windowToSearch();
   {
     const std::lock_guard lock(mutex_);
     focus_ = events_ ? events_->model().focus() : FocusModel::Focus{};

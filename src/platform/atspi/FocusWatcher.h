@@ -32,6 +32,10 @@ class FocusWatcher {
   FocusModel::Focus focus() const;
   /// See FocusModel::lost.
   FocusModel::Focus lostFocus() const;
+  /// Looks at once for an element that no event has told, of a window that has; a few times a second at most.
+  /// What comes of it is known when `isSearching` ends.
+  void requestSearch();
+  bool isSearching() const { return isSearchRequested_; }
   /// The connection for calls, when a new one has been made since it was last asked.
   ConnectionPtr takeCallConnection();
   /// Asks for another try when there is no bus; one in five seconds is made.
@@ -50,6 +54,8 @@ class FocusWatcher {
   void publish();
   void planSearch();
   void searchWhenDue();
+  /// Whether that was done, or there is nothing to look for.
+  bool serveSearchRequest();
   void sleep();
   static DBusHandlerResult onSessionMessage(DBusConnection* connection, DBusMessage* message, void* self);
 
@@ -59,12 +65,16 @@ class FocusWatcher {
   WakeSignal wake_;
   std::atomic<bool> isStopping_ = false;
   std::atomic<bool> isConnectionWanted_ = true;
+  std::atomic<bool> isElementUnknown_ = false;
+  std::atomic<bool> isSearchRequested_ = false;
 
   mutable std::mutex mutex_;
-  FocusModel::Focus focus_;        // guarded by mutex_
-  FocusModel::Focus lost_;         // guarded by mutex_
-  ConnectionPtr callConnection_;   // guarded by mutex_
-  Clock::time_point lastRequest_;  // main thread
+  FocusModel::Focus focus_;       // guarded by mutex_
+  FocusModel::Focus lost_;        // guarded by mutex_
+  ConnectionPtr callConnection_;  // guarded by mutex_
+  // main thread:
+  Clock::time_point lastRequest_;
+  Clock::time_point lastSearchRequest_;
 
   // The rest belongs to the thread.
   ConnectionPtr session_;

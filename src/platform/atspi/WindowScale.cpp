@@ -17,13 +17,15 @@ bool isAbout(double ratio, double scale, double tolerance) {
 
 }  // namespace
 
-double pixelsPerUnit(const Size& pixels, const Size& units) {
-  if (pixels.width <= 0 || pixels.height <= 0 || units.width <= 0 || units.height <= 0) return 1;
+std::optional<double> pixelsPerUnit(const Size& pixels, const Size& units) {
+  if (pixels.width <= 0 || pixels.height <= 0 || units.width <= 0 || units.height <= 0) {
+    return std::nullopt;
+  }
   const double ratio = pixels.width / units.width;
   const double scale = std::round(ratio / step) * step;
   const bool isCredible = scale >= 1 && scale <= largestScale && isAbout(ratio, scale, widthTolerance) &&
                           isAbout(pixels.height / units.height, scale, heightTolerance);
-  return isCredible ? scale : 1;
+  return isCredible ? std::optional(scale) : std::nullopt;
 }
 
 }  // namespace tessarin::atspi

@@ -284,6 +284,18 @@ TEST_F(AtspiAccessibilityTest, scalesWhatTheToolkitScales) {
     EXPECT_EQ(read(attribute::boundsForRange, {3, 0}), AttributeValue(caret));
     application.reset();
   }
+
+  windowFrame = Rect{200, 100, 800, 600};
+  openApplication();
+  application->answer("GetCharacterExtents", bounds({100, 50, 12, 20}));
+  application->hold("GetExtents");
+  EXPECT_FALSE(read(attribute::boundsForRange, {3, 0})) << "of unknown scale";
+  application->answer("GetExtents", extents({0, 0, 1, 1}));
+  application->release();
+  EXPECT_TRUE(eventually([this] { return read(attribute::boundsForRange, {3, 0}).has_value(); }));
+  application->answer("GetExtents", extents({7, 9, 400, 300}));
+  EXPECT_EQ(read(attribute::boundsForRange, {3, 0}), AttributeValue(Rect{100, 50, 1, 20}))
+      << "the window was only coming up";
 }
 
 TEST_F(AtspiAccessibilityTest, saysExactlyWhatAReplacementDid) {
@@ -443,6 +455,25 @@ TEST_F(AtspiAccessibilityTest, leavesOutWindowsInTheBackground) {
   EXPECT_TRUE(eventually([this] { return focusedPath() == FakeApplication::fieldPath; }));
   queue.runReady();
   EXPECT_EQ(moves, 0);
+}
+
+TEST_F(AtspiAccessibilityTest, looksForTheElementOfAWindowThatOnlyTellsItself) {
+  application = std::make_unique<FakeApplication>(session->accessibilityBusAddress());
+  application->hold("GetState");
+  const auto isLooking = [this] {
+    focusedElement();
+    return accessibility->isBusy(accessibility->systemWide());
+  };
+  const auto announce = [this, next = 0]() mutable {
+    // Each is a new reason to search, so they do not come too thick.
+    if (next++ % 500 == 0) application->announceWindow("activate");
+  };
+  EXPECT_TRUE(eventually(isLooking, announce)) << "as soon as somebody asks";
+  application->answerChildren();
+  application->release();
+  EXPECT_TRUE(eventually([this] { return focusedPath() == FakeApplication::fieldPath; }));
+  EXPECT_FALSE(eventually(
+      isLooking, [] {}, std::chrono::milliseconds(300)));
 }
 
 TEST_F(AtspiAccessibilityTest, comesBackWithTheAccessibilityBus) {

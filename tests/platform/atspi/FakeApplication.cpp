@@ -138,6 +138,15 @@ void FakeApplication::answer(const std::string& member, Answer answer) {
   answers_[member] = std::move(answer);
 }
 
+void FakeApplication::answerChildren() {
+  answer("GetChildren", [this](DBusMessage* call, DBusMessageIter* reply) {
+    contain(reply, DBUS_TYPE_ARRAY, "(so)", [&](auto* array) {
+      if (!dbus_message_has_path(call, windowPath)) return;
+      appendReference(array, dbus_bus_get_unique_name(connection_.get()), fieldPath);
+    });
+  });
+}
+
 void FakeApplication::refuse(const std::string& member) {
   answer(member, nullptr);
 }

@@ -70,6 +70,8 @@ class FakeApplication {
 
   /// From now on the call, e.g. "GetText", or the property, e.g. "CaretOffset", is answered like this.
   void answer(const std::string& member, Answer answer);
+  /// The field is the window's child.
+  void answerChildren();
   /// As if the application did not know it.
   void refuse(const std::string& member);
   /// Keeps the call unanswered until `release`, and carries it out then.
