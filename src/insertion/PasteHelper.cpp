@@ -16,9 +16,8 @@ PasteHelper::~PasteHelper() {
 
 void PasteHelper::pasteText(std::int64_t deleteCount, const std::string& text, PasteChord chord,
                             TextInsertion::Completion done) {
-  postBackspaces(deleteCount);
   if (text.empty()) {
-    done(InsertionOutcome::inserted);
+    erase(deleteCount, std::move(done));
     return;
   }
   std::vector<PasteboardLoan*> loans{&general_};
@@ -29,9 +28,10 @@ void PasteHelper::pasteText(std::int64_t deleteCount, const std::string& text, P
   session_->start();
 }
 
-void PasteHelper::postBackspaces(std::int64_t count) {
-  if (count <= 0) return;
-  keyPoster_.post(std::vector<KeyPress>(static_cast<std::size_t>(count), {keycode::deleteBackward, 0}));
+void PasteHelper::erase(std::int64_t count, TextInsertion::Completion done) {
+  if (count <= 0) return done(InsertionOutcome::inserted);
+  keyPoster_.post(PasteSession::backspaces(count),
+                  [done = std::move(done)] { done(InsertionOutcome::inserted); });
 }
 
 void PasteHelper::stopWaiting() {

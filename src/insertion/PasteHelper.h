@@ -17,9 +17,10 @@ namespace tessarin {
 /// Inserts a text by erasing with backspaces and pasting, and gives the user's pasteboard contents back
 /// afterwards. Works wherever keys and the paste chord do. Main thread.
 ///
-/// Counted from the call with n characters: deletions at once; the text goes onto the pasteboard at
-/// 0.02n + 0.05 s, and once the contents are saved; the paste chord 0.05 s later; the contents come back 0.2
-/// s after the chord, and 0.1 s after the application has last read the text or two seconds after the chord.
+/// With n characters to erase: deletions at once; 0.02n + 0.05 s after they were made, and once the contents
+/// are saved, the text goes onto the pasteboard; the paste chord 0.05 s later; the contents come back 0.2 s
+/// after the chord was made, and 0.1 s after the application has last read the text or two seconds after the
+/// chord.
 class PasteHelper {
  public:
   /// All must outlive the helper. `primary` is what terminals paste from.
@@ -31,8 +32,8 @@ class PasteHelper {
 
   /// One at a time: not before the last `done`. Contents of that paste which have not come back yet then stay
   /// away until this one is over. `done` says inserted as soon as the application has read the text (0.2 s
-  /// after the chord if that was before it), at once when the text is empty. Otherwise, two seconds after the
-  /// chord, it says erasedOnly (unchanged when there was nothing to erase).
+  /// after the chord if that was before it); of an empty text, when the deletions were made. Otherwise, two
+  /// seconds after the chord, it says erasedOnly (unchanged when there was nothing to erase).
   void pasteText(std::int64_t deleteCount, const std::string& text, PasteChord chord,
                  TextInsertion::Completion done);
 
@@ -47,7 +48,7 @@ class PasteHelper {
   void finish();
 
  private:
-  void postBackspaces(std::int64_t count);
+  void erase(std::int64_t count, TextInsertion::Completion done);
 
   KeyPoster& keyPoster_;
   MainQueue& queue_;

@@ -27,9 +27,21 @@ constexpr milliseconds writeCheck{20};
 PasteSession::PasteSession(Tools tools, Job job, TextInsertion::Completion done)
     : tools_(std::move(tools)), job_(std::move(job)), done_(std::move(done)) {}
 
+std::vector<KeyPress> PasteSession::backspaces(std::int64_t count) {
+  return std::vector<KeyPress>(static_cast<std::size_t>(count), {keycode::deleteBackward, 0});
+}
+
 void PasteSession::start() {
-  after(timePerDeletion * job_.deleteCount + deletionMargin, &PasteSession::deletionsAreDone);
+  if (job_.deleteCount > 0) {
+    post(backspaces(job_.deleteCount), &PasteSession::deletionsArePosted);
+  } else {
+    deletionsArePosted();
+  }
   saveContents();
+}
+
+void PasteSession::deletionsArePosted() {
+  after(timePerDeletion * job_.deleteCount + deletionMargin, &PasteSession::deletionsAreDone);
 }
 
 void PasteSession::deletionsAreDone() {
@@ -77,9 +89,13 @@ void PasteSession::postPasteKeystroke() {
       if (const auto self = weak.lock()) self->textWasRead();
     });
   }
-  tools_.keyPoster.post({job_.chord == PasteChord::shiftInsert ? KeyPress{keycode::insert, keyflag::shift}
-                                                               : KeyPress{keycode::v, keyflag::control}});
   isChordPosted_ = true;
+  post({job_.chord == PasteChord::shiftInsert ? KeyPress{keycode::insert, keyflag::shift}
+                                              : KeyPress{keycode::v, keyflag::control}},
+       &PasteSession::chordIsPosted);
+}
+
+void PasteSession::chordIsPosted() {
   after(shortestLoan, &PasteSession::shortestLoanIsOver);
   after(longestPasteWait, &PasteSession::stopWaiting);
 }
@@ -126,6 +142,12 @@ void PasteSession::answerFailure() {
 
 void PasteSession::answer(InsertionOutcome outcome) {
   if (const auto done = std::exchange(done_, nullptr)) done(outcome);
+}
+
+void PasteSession::post(const std::vector<KeyPress>& presses, void (PasteSession::*next)()) {
+  tools_.keyPoster.post(presses, [weak = weak_from_this(), next] {
+    if (const auto self = weak.lock()) ((*self).*next)();
+  });
 }
 
 void PasteSession::after(milliseconds delay, void (PasteSession::*step)()) {

@@ -16,7 +16,7 @@ namespace tessarin {
 /// Which keys paste: Control-V, or in terminals Shift-Insert.
 enum class PasteChord { controlV, shiftInsert };
 
-/// One paste, from the posting of its backspaces until the user's contents are back. Every step is scheduled
+/// One paste, from its backspaces until the user's contents are back. Every step is scheduled
 /// on the main queue with a weak owner: letting go of the session ends it where it stands. Main thread.
 class PasteSession : public std::enable_shared_from_this<PasteSession> {
  public:
@@ -36,24 +36,28 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
 
   PasteSession(Tools tools, Job job, TextInsertion::Completion done);
 
-  /// To be called when the backspaces have just been posted.
+  static std::vector<KeyPress> backspaces(std::int64_t count);
+
   void start();
   /// Answers, unless that has been done, that the text did not get there.
   void answerFailure();
   bool isChordPosted() const { return isChordPosted_; }
 
  private:
+  void deletionsArePosted();
   void deletionsAreDone();
   void saveContents();
   void writeWhenPossible();
   void pasteWhenWritten();
   void postPasteKeystroke();
+  void chordIsPosted();
   void shortestLoanIsOver();
   void textWasRead();
   void readHasSettled();
   void stopWaiting();
   void restoreWhenAllowed();
   void answer(InsertionOutcome outcome);
+  void post(const std::vector<KeyPress>& presses, void (PasteSession::*next)());
   void after(std::chrono::milliseconds delay, void (PasteSession::*step)());
 
   Tools tools_;

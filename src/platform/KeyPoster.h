@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace tessarin {
@@ -18,7 +19,9 @@ class KeyPoster {
   virtual ~KeyPoster() = default;
 
   /// A press that the keyboard layout cannot produce is skipped. Returns at once: the effect comes later.
-  virtual void post(const std::vector<KeyPress>& presses) = 0;
+  /// `made` is called when the presses are on their way to the application; behind a great many keys that
+  /// takes seconds.
+  virtual void post(const std::vector<KeyPress>& presses, std::function<void()> made) = 0;
 };
 
 }  // namespace tessarin

@@ -69,6 +69,25 @@ TEST_F(PasteHelperTest, givesTheDeletionsTime) {
   EXPECT_EQ(primary.snapshots, 0) << "of no use outside terminals";
 }
 
+TEST_F(PasteHelperTest, countsFromWhenTheKeysWereMade) {
+  keys.takes = milliseconds(3000);
+  paste(2, "x");
+  queue.advance(milliseconds(3000 + 89));
+  EXPECT_TRUE(isRestored());
+  queue.advance(milliseconds(1 + 50));
+  EXPECT_EQ(keys.posted.size(), 3U);
+  queue.advance(milliseconds(3000 + 1999));
+  EXPECT_FALSE(isRestored()) << "the application has just got the chord";
+  EXPECT_EQ(general.readByApplication(), "x");
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
+
+  paste(2, "");
+  queue.advance(milliseconds(2999));
+  EXPECT_THAT(outcomes, SizeIs(1));
+  queue.advance(milliseconds(1));
+  EXPECT_THAT(outcomes, SizeIs(2));
+}
+
 TEST_F(PasteHelperTest, waitsForALateReader) {
   paste(1, "x");
   queue.advance(milliseconds(120 + 1500));

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
+#include <utility>
 #include <vector>
 
 #include "platform/KeyPoster.h"
@@ -17,17 +19,20 @@ class FakeKeyPoster final : public KeyPoster {
     bool operator==(const Posted&) const = default;
   };
 
-  explicit FakeKeyPoster(const MainQueue& queue) : queue_(queue), start_(queue.now()) {}
+  explicit FakeKeyPoster(MainQueue& queue) : queue_(queue), start_(queue.now()) {}
 
-  void post(const std::vector<KeyPress>& presses) override {
+  void post(const std::vector<KeyPress>& presses, std::function<void()> made) override {
     const auto at = std::chrono::duration_cast<std::chrono::milliseconds>(queue_.now() - start_);
     for (const KeyPress& press : presses) posted.push_back({press, at});
+    takes == std::chrono::milliseconds(0) ? made() : queue_.after(takes, std::move(made));
   }
 
   std::vector<Posted> posted;
+  /// From a post until its presses are made.
+  std::chrono::milliseconds takes{0};
 
  private:
-  const MainQueue& queue_;
+  MainQueue& queue_;
   std::chrono::steady_clock::time_point start_;
 };
 

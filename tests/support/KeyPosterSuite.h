@@ -25,13 +25,16 @@ TYPED_TEST_SUITE_P(KeyPosterSuite);
 
 TYPED_TEST_P(KeyPosterSuite, PressesInOrderWithExactlyTheModifiersGiven) {
   const std::string typed = this->world.typeTwo();
+  bool isMade = false;
   this->world.poster().post({{keycode::deleteBackward, 0},
                              {keycode::v, keyflag::control},
                              {keycode::insert, keyflag::shift},
-                             {keycode::deleteBackward, keyflag::control | keyflag::shift}});
+                             {keycode::deleteBackward, keyflag::control | keyflag::shift}},
+                            [&isMade] { isMade = true; });
   const std::string expected = text::withoutLastCharacter(typed) + "P<Shift-Insert><Control-Shift-BackSpace>";
   EXPECT_TRUE(this->world.waitFor([&] { return this->world.document() == expected; }))
       << this->world.document();
+  EXPECT_TRUE(this->world.waitFor([&] { return isMade; }));
 }
 
 REGISTER_TYPED_TEST_SUITE_P(KeyPosterSuite, PressesInOrderWithExactlyTheModifiersGiven);

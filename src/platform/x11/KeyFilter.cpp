@@ -40,7 +40,7 @@ KeyFilter::KeyFilter(const SessionKeyboard& keyboard, TapControl& control, KeyJu
       events_(keyboard),
       grabs_(keyboard),
       whole_(keyboard),
-      synthetic_(keyboard, events_, whole_, [this](const TypedKey& key) { keep(key); }) {
+      synthetic_(keyboard, events_, whole_, [this](const TypedKey& key) { keepUnlessModifier(key); }) {
   refreshLayout();
 }
 
@@ -131,7 +131,7 @@ bool KeyFilter::holdBy(const TapSettings& settings) {
 
 void KeyFilter::handle(const TypedKey& key) {
   if (whole_.isTaken()) {
-    if (!layout_ || !isModifierSymbol(layout_->symbol(key))) keep(key);
+    keepUnlessModifier(key);
     return;
   }
   if (passesUnjudged(key)) {
@@ -166,6 +166,10 @@ void KeyFilter::keep(const TypedKey& key) {
   if (kept_.empty()) keptSince_ = Clock::now();
   kept_.push_back(key);
   holdBy(control_.settings());
+}
+
+void KeyFilter::keepUnlessModifier(const TypedKey& key) {
+  if (!layout_ || !isModifierSymbol(layout_->symbol(key))) keep(key);
 }
 
 KeyVerdict KeyFilter::decide(const TypedKey& key) {
@@ -228,12 +232,19 @@ bool KeyFilter::keptTooLong() const {
 }
 
 bool KeyFilter::carryOutPosts() {
-  const std::vector<KeyPress> presses = control_.takePosts();
-  for (const KeyPress& press : presses) {
-    if (!layout_) break;
-    synthetic_.typeChord(*layout_, symbolOf(press.keyCode), modifiersOf(press.flags, layout_->bits()));
+  const std::vector<KeyPost> posts = control_.takePosts();
+  for (const KeyPost& post : posts) {
+    for (const KeyPress& press : post.presses) typeChord(press);
+    post.made();
   }
-  return !presses.empty();
+  // Behind a flood of keys, which all come before the presses, they take their time.
+  if (!posts.empty()) keptSince_ = Clock::now();
+  return !posts.empty();
+}
+
+void KeyFilter::typeChord(const KeyPress& press) {
+  if (!layout_) return;
+  synthetic_.typeChord(*layout_, symbolOf(press.keyCode), modifiersOf(press.flags, layout_->bits()));
 }
 
 void KeyFilter::wait() {

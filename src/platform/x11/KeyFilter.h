@@ -39,12 +39,14 @@ class KeyFilter {
   bool settle();
   bool carryOutPosts();
 
+  void typeChord(const KeyPress& press);
   void refreshLayout();
   bool holdBy(const TapSettings& settings);
   Holding wantedHolding(const TapSettings& settings) const;
   void handle(const TypedKey& key);
   bool passesUnjudged(const TypedKey& key) const;
   void keep(const TypedKey& key);
+  void keepUnlessModifier(const TypedKey& key);
   KeyVerdict decide(const TypedKey& key);
   KeyVerdict ask(const KeyEvent& event);
   void judgeFirstKept();

@@ -26,7 +26,7 @@ bool isBefore(std::uint32_t a, std::uint32_t b) {
 
 }  // namespace
 
-void SyntheticKeys::keep(const TypedKey& key) {
+void SyntheticKeys::keepHeld(const TypedKey& key) {
   keep_(key);
   keyboard_.swallowHeldKey();
 }
@@ -36,16 +36,23 @@ void SyntheticKeys::takeIn() {
     came = false;
     events_.sync();
     while (const auto press = events_.nextRead()) {
-      keep(press->key);
       came = true;
+      if (whole_.isTaken()) {
+        keep_(press->key);
+      } else {
+        keepHeld(press->key);
+        whole_.noteKept();
+      }
     }
   }
 }
 
 void SyntheticKeys::type(const KeyboardLayout& layout, const TypedKey& key) {
   const ServerGrab grab(keyboard_.connection);
-  whole_.giveBack();
-  takeIn();
+  do {
+    whole_.giveBack();
+    takeIn();
+  } while (whole_.isTaken());
   modifiers_.impose(layout, key);
   pressAndLetBy(key);
   modifiers_.restore();
@@ -78,7 +85,7 @@ void SyntheticKeys::pressAndLetBy(const TypedKey& key) {
         keyboard_.replayHeldKey();
         passed = true;
       } else {
-        keep(modifiers_.withoutImposed(press->key));
+        keepHeld(modifiers_.withoutImposed(press->key));
       }
     }
   }

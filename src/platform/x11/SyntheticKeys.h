@@ -18,7 +18,7 @@ namespace tessarin::x11 {
 /// grabbed, everything that has come is taken in, and then the first press that comes is ours.
 class SyntheticKeys {
  public:
-  /// `keep` takes over a key of the user's that came in between; it is swallowed afterwards.
+  /// `keep` takes over a key of the user's that came in between; the application does not get it.
   using Keep = std::function<void(const TypedKey&)>;
 
   SyntheticKeys(const SessionKeyboard& keyboard, ServerEvents& events, WholeKeyboard& whole, Keep keep)
@@ -33,7 +33,7 @@ class SyntheticKeys {
   void type(const KeyboardLayout& layout, const TypedKey& key);
   /// The same with these modifiers and the locks and the group in effect.
   void typeChord(const KeyboardLayout& layout, xkb_keysym_t symbol, std::uint8_t modifiers);
-  /// Keeps everything that has come.
+  /// Keeps everything that has come; of a great deal, it takes the whole keyboard.
   void takeIn();
   /// To be called when keys were let go of anywhere.
   void followReleases() { modifiers_.followReleases(); }
@@ -42,7 +42,7 @@ class SyntheticKeys {
 
  private:
   void pressAndLetBy(const TypedKey& key);
-  void keep(const TypedKey& key);
+  void keepHeld(const TypedKey& key);
 
   SessionKeyboard keyboard_;
   ServerEvents& events_;

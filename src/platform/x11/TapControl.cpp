@@ -43,9 +43,9 @@ void TapControl::setAttention(KeyAttention attention, const std::string& trigger
   wake();
 }
 
-void TapControl::post(const std::vector<KeyPress>& presses) {
+void TapControl::post(KeyPost post) {
   const std::lock_guard lock(mutex_);
-  posts_.insert(posts_.end(), presses.begin(), presses.end());
+  posts_.push_back(std::move(post));
   wake();
 }
 
@@ -65,7 +65,7 @@ bool TapControl::isStopping() const {
   return stopping_;
 }
 
-std::vector<KeyPress> TapControl::takePosts() {
+std::vector<KeyPost> TapControl::takePosts() {
   const std::lock_guard lock(mutex_);
   return std::exchange(posts_, {});
 }

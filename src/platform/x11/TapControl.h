@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <mutex>
 #include <string>
 #include <utility>
@@ -20,6 +21,11 @@ struct TapSettings {
   bool operator==(const TapSettings&) const = default;
 };
 
+struct KeyPost {
+  std::vector<KeyPress> presses;
+  std::function<void()> made;  ///< keyboard thread
+};
+
 /// What the main thread tells the keyboard thread. Any thread.
 class TapControl {
  public:
@@ -32,13 +38,13 @@ class TapControl {
   /// A key was not answered in time: switches off, and remembers that unless it is the second time in a row.
   void timeOut();
   void setAttention(KeyAttention attention, const std::string& trigger);
-  void post(const std::vector<KeyPress>& presses);
+  void post(KeyPost post);
   /// The thread is to end.
   void stop();
 
   TapSettings settings() const;
   bool isStopping() const;
-  std::vector<KeyPress> takePosts();
+  std::vector<KeyPost> takePosts();
   /// Readable when something was said since `clearWakeUp`.
   int wakeFd() const { return wakeFd_; }
   void clearWakeUp();
@@ -48,7 +54,7 @@ class TapControl {
 
   mutable std::mutex mutex_;
   TapSettings settings_;
-  std::vector<KeyPress> posts_;
+  std::vector<KeyPost> posts_;
   bool stopping_ = false;
   int wakeFd_ = -1;
 };

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <utility>
+#include <vector>
 
 #include "platform/KeyPoster.h"
 #include "platform/x11/X11Keyboard.h"
@@ -13,8 +15,9 @@ class X11KeyPoster final : public KeyPoster {
  public:
   explicit X11KeyPoster(std::shared_ptr<X11Keyboard> keyboard) : keyboard_(std::move(keyboard)) {}
 
-  void post(const std::vector<KeyPress>& presses) override {
-    if (keyboard_->start()) keyboard_->control().post(presses);
+  void post(const std::vector<KeyPress>& presses, std::function<void()> made) override {
+    auto tell = [&queue = keyboard_->queue(), made = std::move(made)] { queue.async(made); };
+    keyboard_->start() ? keyboard_->control().post({presses, std::move(tell)}) : tell();
   }
 
  private:

@@ -49,7 +49,7 @@ bool canTapKeys(xcb_connection_t* connection) {
 }
 
 X11Keyboard::X11Keyboard(MainQueue& queue, std::string display, std::chrono::milliseconds answerTime)
-    : display_(std::move(display)), judge_(queue, answerTime) {}
+    : queue_(queue), display_(std::move(display)), judge_(queue, answerTime) {}
 
 X11Keyboard::~X11Keyboard() {
   control_.stop();

@@ -32,10 +32,12 @@ class X11Keyboard {
   /// can be used.
   bool start();
 
+  MainQueue& queue() { return queue_; }
   KeyJudge& judge() { return judge_; }
   TapControl& control() { return control_; }
 
  private:
+  MainQueue& queue_;
   std::string display_;
   TapControl control_;
   KeyJudge judge_;

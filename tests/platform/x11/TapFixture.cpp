@@ -107,7 +107,7 @@ void TapFixture::insert() {
   attend(KeyAttention::holdBack);
   std::vector<KeyPress> presses(static_cast<std::size_t>(typed_), {keycode::deleteBackward, 0});
   presses.push_back({keycode::v, keyflag::control});
-  poster->post(presses);
+  poster->post(presses, [] {});
   finishWhenPasted(document->pastes() + 1);
 }
 

@@ -202,6 +202,21 @@ TEST_F(X11EventTapTest, TakesTheKeyboardOnceWhenHundredsOfKeysAreKept) {
   }
 }
 
+TEST_F(X11EventTapTest, TakesTheKeyboardOnceForHundredsOfKeysBeforeAPost) {
+  insertion = Insertion::paste;
+  start();
+  for (const auto device : {Typist::Keyboard::synthetic, Typist::Keyboard::real}) {
+    typeAs(device);
+    document->clear();
+    const int before = document->grabs();
+    const int pastes = document->pastes();
+    typist->type(":a\n" + repeated("abCd", 75));
+    ASSERT_TRUE(queue.runUntil([&] { return !document->text().empty() && document->pastes() > pastes; }));
+    EXPECT_LE(document->grabs(), before + 40);
+    expectDocument("😀" + repeated("abCd", 75));
+  }
+}
+
 TEST_F(X11EventTapTest, GivesTheKeyboardBackWhenTheLastKeptKeyIsSwallowed) {
   insertion = Insertion::paste;
   start();
