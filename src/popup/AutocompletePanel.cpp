@@ -32,12 +32,7 @@ void AutocompletePanel::present(const PopupContent& content) {
   ++presents_;
   presentedAt_ = queue_.now();
   if (!std::exchange(isVisible_, true)) openedAt_ = presentedAt_;
-  if (std::exchange(isShowScheduled_, true)) return;
-  queue_.async([this, alive = std::weak_ptr<char>(alive_)] {
-    if (alive.expired()) return;
-    isShowScheduled_ = false;
-    if (isVisible_) showPresented();
-  });
+  goOn(&AutocompletePanel::showPresented);
 }
 
 void AutocompletePanel::hide() {
@@ -59,7 +54,7 @@ void AutocompletePanel::showPresented() {
   if (!isSameListAsShown()) {
     // The application, which the caret is asked of, is busy with the key meanwhile.
     surface_.prepare(presented_);
-    locate();
+    goOn(&AutocompletePanel::locate);
     return;
   }
   shown_->content = presented_;
@@ -74,33 +69,46 @@ void AutocompletePanel::locate() {
   if (!found) locateAgainSoon();
   const bool mayWait = isDue && !shown_ && queue_.now() - openedAt_ < longestDelay;
   if (mayWait || (!found && isSameListAsShown())) return;
-  place(caret_, layout);
+  frame_ = frameAt(caret_, layout);
+  goOn(&AutocompletePanel::showInFrame);
+}
+
+void AutocompletePanel::goOn(void (AutocompletePanel::*step)()) {
+  queue_.async(stillWanted(step));
+}
+
+std::function<void()> AutocompletePanel::stillWanted(void (AutocompletePanel::*step)()) {
+  return [this, step, presented = presents_, alive = std::weak_ptr<char>(alive_)] {
+    if (!alive.expired() && isVisible_ && presented == presents_) (this->*step)();
+  };
 }
 
 void AutocompletePanel::locateAgainSoon() {
   const auto waited = queue_.now() - presentedAt_;
   if (waited >= longestLook) return;
   queue_.after(waited < longestDelay ? lookInterval : rareLookInterval,
-               [this, presented = presents_, alive = std::weak_ptr<char>(alive_)] {
-                 if (!alive.expired() && isVisible_ && presented == presents_) locate();
-               });
+               stillWanted(&AutocompletePanel::locate));
 }
 
 void AutocompletePanel::showNearCaret(const std::optional<Rect>& caret) {
-  place(caret, ScreenLayout::read(screens_));
-}
-
-void AutocompletePanel::place(const std::optional<Rect>& caret, const ScreenLayout& layout) {
   if (presented_.rows.empty()) {
     hide();
     return;
   }
   isVisible_ = true;
+  frame_ = frameAt(caret, ScreenLayout::read(screens_));
+  showInFrame();
+}
+
+Rect AutocompletePanel::frameAt(const std::optional<Rect>& caret, const ScreenLayout& layout) const {
   const bool isAtCaret = caret && *caret != Rect{};
   const Point mouse = isAtCaret ? Point{} : screens_.mouseLocation();
-  const Rect frame = popupFrame(static_cast<int>(presented_.rows.size()), caret, layout, mouse);
-  shown_ = Shown{presented_, frame};
-  surface_.show(presented_, frame);
+  return popupFrame(static_cast<int>(presented_.rows.size()), caret, layout, mouse);
+}
+
+void AutocompletePanel::showInFrame() {
+  shown_ = Shown{presented_, frame_};
+  surface_.show(presented_, frame_);
 }
 
 bool AutocompletePanel::isSameListAsShown() const {

@@ -16,9 +16,9 @@
 
 namespace tessarin {
 
-/// Places the popup's window beside the caret, where programs place their windows themselves. Locating the
-/// caret and drawing wait until the main thread is free, so that the key in hand is answered first; several
-/// presents before that become one.
+/// Places the popup's window beside the caret, where programs place their windows themselves. Painting,
+/// locating the caret and showing are steps of their own on the main queue: a key that has come meanwhile is
+/// answered before the next one, and what it presents takes the place of the rest.
 class AutocompletePanel final : public PopupPresenter {
  public:
   /// All must outlive the panel.
@@ -44,7 +44,11 @@ class AutocompletePanel final : public PopupPresenter {
   /// An application that is too busy to say where its caret is gets a while before the popup opens without.
   void locate();
   void locateAgainSoon();
-  void place(const std::optional<Rect>& caret, const ScreenLayout& layout);
+  Rect frameAt(const std::optional<Rect>& caret, const ScreenLayout& layout) const;
+  void showInFrame();
+  void goOn(void (AutocompletePanel::*step)());
+  /// The step, unless something else has been presented by then, or the popup hidden.
+  std::function<void()> stillWanted(void (AutocompletePanel::*step)());
   bool isSameListAsShown() const;
 
   PopupSurface& surface_;
@@ -54,8 +58,8 @@ class AutocompletePanel final : public PopupPresenter {
 
   PopupContent presented_;
   bool isVisible_ = false;
-  bool isShowScheduled_ = false;
   std::optional<Shown> shown_;
+  Rect frame_;                 ///< for what is presented
   std::optional<Rect> caret_;  ///< where it was found last
   std::uint64_t presents_ = 0;
   std::chrono::steady_clock::time_point openedAt_;

@@ -80,6 +80,14 @@ TEST_F(AutocompletePanelTest, followsTheCaretWithEveryQueryAndAfterHiding) {
   EXPECT_EQ(surface.shows.back().frame.x, 500);
 }
 
+TEST_F(AutocompletePanelTest, aKeyThatComesMeanwhileIsNotKeptWaitingForTheRest) {
+  panel->present(contentOf("s", 2));
+  queue.async([this] { panel->present(contentOf("sm", 2)); });
+  queue.runReady();
+  ASSERT_EQ(surface.shows.size(), 1U);
+  EXPECT_EQ(surface.shows[0].content.query, "sm");
+}
+
 TEST_F(AutocompletePanelTest, givesABusyApplicationTimeToSayWhereItsCaretIs) {
   const auto bounds = std::exchange(element->parameterized, {});
   accessibility.busy = true;
