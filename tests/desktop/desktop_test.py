@@ -3,6 +3,7 @@
 import json
 import pathlib
 import sys
+import time
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools/desktop"))
@@ -52,5 +53,12 @@ class DesktopTest(unittest.TestCase):
         self.play(steps)
         self.assertEqual(editor.wait_for_document(start + expected, seconds), start + expected, self.tessarin.log[-600:])
 
-    def wait_for_popup(self):
-        return wait_for(self.typist.popup, what="the popup")
+    def wait_for_popup(self, is_wanted=lambda frame: True):
+        """Its frame, once it has come to rest: letters may still be on their way."""
+        def frame_at_rest():
+            frame = self.typist.popup()
+            if not frame or not is_wanted(frame):
+                return None
+            time.sleep(0.2)
+            return frame if self.typist.popup() == frame else None
+        return wait_for(frame_at_rest, what="the popup")

@@ -80,9 +80,7 @@ class WithThePointer(DesktopTest):
     def test_click_on_a_row_inserts_it(self):
         with Mousepad(self.session, self.typist) as editor:
             self.play(["a:zqxt"])
-            one_row = lambda: (self.typist.popup() or (0, 0, 0, 0))[3] == 64 + 36
-            wait_for(one_row, what="the popup with one row")
-            x, y, width, height = self.typist.popup()
+            x, y, width, height = self.wait_for_popup(lambda frame: frame[3] == 64 + 36)  # with one row
             self.typist.click(x + width / 2, y + height - 28 - 18)  # the last row, above the hints
             self.assertEqual(editor.wait_for_document("asecond"), "asecond")
 
