@@ -22,7 +22,7 @@ class LaunchTest : public ::testing::Test {
  protected:
   void launch() {
     app.create();
-    app.log.lines.clear();
+    app.log.clear();
     app.app->applicationDidFinishLaunching();
   }
   TestApp app;
@@ -37,7 +37,7 @@ TEST_F(LaunchTest, ShowsTheTrayItemAndStartsTheMonitorAfterOneSecond) {
   EXPECT_TRUE(app.tap.isOn);
   EXPECT_EQ(app.tap.attention(), KeyAttention::triggerOnly);
   EXPECT_EQ(app.tap.trigger(), ":");
-  EXPECT_EQ(app.log.lines.back(), started);
+  EXPECT_EQ(app.log.lines().back(), started);
 }
 
 TEST_F(LaunchTest, RetriesEveryThreeSecondsOnceTrusted) {
@@ -45,19 +45,19 @@ TEST_F(LaunchTest, RetriesEveryThreeSecondsOnceTrusted) {
   launch();
   app.queue.advance(1s);
   EXPECT_EQ(app.accessibility.prompts, 2) << "at launch and by the first start";
-  EXPECT_THAT(app.log.lines, Contains(failed).Times(1));
+  EXPECT_THAT(app.log.lines(), Contains(failed).Times(1));
   app.queue.advance(9s);
   EXPECT_EQ(app.accessibility.prompts, 2) << "a tick without trust does nothing";
-  EXPECT_THAT(app.log.lines, Contains(failed).Times(1));
+  EXPECT_THAT(app.log.lines(), Contains(failed).Times(1));
   app.accessibility.trusted = true;
   app.queue.advance(2999ms);
   EXPECT_FALSE(app.tap.isOn);
   app.queue.advance(1ms);
   EXPECT_TRUE(app.tap.isOn);
-  EXPECT_EQ(app.log.lines.back(), started);
+  EXPECT_EQ(app.log.lines().back(), started);
   app.tap.destroy();
   app.queue.advance(30s);
-  EXPECT_THAT(app.log.lines, Contains(started).Times(1)) << "the retrying has ended";
+  EXPECT_THAT(app.log.lines(), Contains(started).Times(1)) << "the retrying has ended";
   EXPECT_EQ(app.tap.creations, 1);
 }
 
@@ -66,7 +66,7 @@ TEST_F(LaunchTest, RetriesWhileThereIsNoTapUntilShutdown) {
   launch();
   app.queue.advance(7s);
   EXPECT_EQ(app.tap.creations, 3);
-  EXPECT_THAT(app.log.lines, Contains(failed).Times(3));
+  EXPECT_THAT(app.log.lines(), Contains(failed).Times(3));
   app.app->applicationWillTerminate();
   app.queue.advance(10s);
   EXPECT_EQ(app.tap.creations, 3);

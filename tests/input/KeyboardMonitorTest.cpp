@@ -132,7 +132,7 @@ TEST_F(KeyboardMonitorTest, StartsAndStopsOnceThereIsTrustAndATap) {
   EXPECT_TRUE(monitor->start());
   EXPECT_TRUE(tap.isOn);
   EXPECT_THAT(
-      log.lines,
+      log.lines(),
       ElementsAre("[KeyboardMonitor] No Accessibility permission — requesting",
                   "[KeyboardMonitor] Failed to create event tap — check Accessibility permission",
                   "[KeyboardMonitor] Event tap started (.defaultTap)", "[KeyboardMonitor] Event tap stopped",
@@ -151,7 +151,7 @@ TEST_F(KeyboardMonitorTest, ADisabledTapIsEnabledAndReported) {
   queue.advance(5000ms);
   EXPECT_TRUE(tap.isOn) << "though nobody said so";
   EXPECT_EQ(interruptions, 3);
-  EXPECT_EQ(log.lines.back(), "[KeyboardMonitor] Re-enabling disabled event tap");
+  EXPECT_EQ(log.lines().back(), "[KeyboardMonitor] Re-enabling disabled event tap");
   queue.advance(20s);
   EXPECT_EQ(interruptions, 3) << "nothing more while the tap is on";
 }

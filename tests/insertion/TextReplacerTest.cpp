@@ -75,7 +75,7 @@ TEST_F(TextReplacerTest, insertsDirectlyWhereThatWorks) {
   replace("😀");
   EXPECT_EQ(field->document(), "a😀");
   EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
-  EXPECT_THAT(log.lines, ElementsAre(direct));
+  EXPECT_THAT(log.lines(), ElementsAre(direct));
   EXPECT_THAT(keys.posted, IsEmpty());
   EXPECT_EQ(general.snapshots, 0);
 }
@@ -116,7 +116,7 @@ TEST_F(TextReplacerTest, waitsForLettersThatComeLate) {
   queue.advance(milliseconds(5));
   EXPECT_EQ(field->document(), "abcdefgh 😀");
   EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
-  EXPECT_THAT(log.lines, ElementsAre(direct));
+  EXPECT_THAT(log.lines(), ElementsAre(direct));
 }
 
 TEST_F(TextReplacerTest, pastesWhereTheApplicationHasFallenSilentMeanwhile) {
@@ -237,7 +237,7 @@ TEST_F(TextReplacerTest, doesNotEraseTwice) {
   field->writeResult = AccessibilityStatus::erasedOnly;
   replace("😀");
   EXPECT_EQ(field->document(), "a");
-  EXPECT_THAT(log.lines, ElementsAre(fallback));
+  EXPECT_THAT(log.lines(), ElementsAre(fallback));
   queue.advance(milliseconds(100));
   EXPECT_EQ(countOf(keycode::deleteBackward), 0U);
   EXPECT_EQ(paste(), "😀");
@@ -273,7 +273,7 @@ TEST_F(TextReplacerTest, replacementsWaitForTheirTurn) {
   replace("second");
   replace("third");
   for (const char* text : {"first", "second", "third"}) {
-    EXPECT_THAT(log.lines, SizeIs(outcomes.size() + 1)) << "one at a time";
+    EXPECT_THAT(log.lines(), SizeIs(outcomes.size() + 1)) << "one at a time";
     queue.advance(milliseconds(220));
     EXPECT_EQ(paste(), text);
   }

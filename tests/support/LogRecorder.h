@@ -1,5 +1,6 @@
 #pragma once
 
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -7,13 +8,27 @@
 
 namespace tessarin::testing {
 
-/// Collects the log lines written while it lives.
+/// Collects the log lines written while it lives, by whatever thread.
 class LogRecorder {
  public:
-  LogRecorder() : capture_([this](const std::string& line) { lines.push_back(line); }) {}
-  std::vector<std::string> lines;
+  LogRecorder() : capture_([this](const std::string& line) { add(line); }) {}
+  std::vector<std::string> lines() const {
+    const std::lock_guard lock(mutex_);
+    return lines_;
+  }
+  void clear() {
+    const std::lock_guard lock(mutex_);
+    lines_.clear();
+  }
 
  private:
+  void add(const std::string& line) {
+    const std::lock_guard lock(mutex_);
+    lines_.push_back(line);
+  }
+
+  mutable std::mutex mutex_;
+  std::vector<std::string> lines_;
   LogCapture capture_;
 };
 

@@ -162,7 +162,7 @@ TEST_F(Fetching, BringsTheFeed) {
   ASSERT_THAT(server.requests, SizeIs(1));
   EXPECT_THAT(server.requests[0], HasSubstr("User-Agent: Tessarin\r\n"));
   EXPECT_THAT(server.requests[0], Not(HasSubstr("gzip")));
-  EXPECT_THAT(log.lines, IsEmpty());
+  EXPECT_THAT(log.lines(), IsEmpty());
 }
 
 TEST_F(Fetching, FollowsFiveRedirectsOnly) {

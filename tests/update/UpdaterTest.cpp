@@ -91,7 +91,7 @@ TEST_F(Updating, SaysWhyItFailed) {
   source.answer("<html/>");
   EXPECT_THAT(user.shown, ElementsAre("checking", "failure 2", "checking", "failure 8"));
   EXPECT_THAT(delegate.told, ElementsAre("failed 2", "failed 8"));
-  EXPECT_THAT(log.lines, ElementsAre("[Updater] The list of updates is damaged: line 1: this is no feed"));
+  EXPECT_THAT(log.lines(), ElementsAre("[Updater] The list of updates is damaged: line 1: this is no feed"));
 }
 
 TEST_F(Updating, EndsWhenTheUserCancels) {

@@ -25,7 +25,7 @@ TEST_F(FolderLockTest, makesTheFolderAndHoldsItToItsEnd) {
   EXPECT_FALSE(FolderLock::acquire(folder)) << "taken already";
   EXPECT_TRUE(FolderLock::acquire(parent / "another"));
   EXPECT_EQ(std::filesystem::status(folder).permissions(), std::filesystem::perms::owner_all);
-  EXPECT_THAT(log.lines, IsEmpty());
+  EXPECT_THAT(log.lines(), IsEmpty());
   lock.reset();
   EXPECT_TRUE(FolderLock::acquire(folder)) << "the file that stays behind locks nothing";
 }
@@ -35,7 +35,7 @@ TEST_F(FolderLockTest, followsNoLinkToAnotherFile) {
   parent.write("precious", "");
   std::filesystem::create_symlink(parent / "precious", folder / "lock");
   const auto lock = FolderLock::acquire(folder);
-  EXPECT_THAT(log.lines, ElementsAre(StartsWith("[Tessarin] The data folder cannot be locked: ")));
+  EXPECT_THAT(log.lines(), ElementsAre(StartsWith("[Tessarin] The data folder cannot be locked: ")));
 }
 
 }  // namespace

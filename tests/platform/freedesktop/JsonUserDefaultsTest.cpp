@@ -59,7 +59,7 @@ TEST_F(JsonUserDefaultsTest, AMalformedFileIsLoggedOnceAndMovedAsideBeforeTheFir
     LogRecorder log;
     JsonUserDefaults defaults(file);
     EXPECT_EQ(defaults.string("triggerCharacter"), std::nullopt);
-    EXPECT_THAT(log.lines, ElementsAre(StartsWith("[UserDefaults] Failed to load preferences: ")));
+    EXPECT_THAT(log.lines(), ElementsAre(StartsWith("[UserDefaults] Failed to load preferences: ")));
     EXPECT_EQ(content(), malformed);
     defaults.set("triggerCharacter", "/");
     defaults.set("triggerCharacter", ";");
@@ -84,7 +84,7 @@ TEST_F(JsonUserDefaultsTest, AValueThatJsonCannotHoldStaysInMemory) {
   defaults.set("triggerCharacter", "\xff");
   defaults.set("flag", true);
   EXPECT_EQ(defaults.string("triggerCharacter"), "\xff");
-  EXPECT_THAT(log.lines, ElementsAre(HasSubstr("in memory only: triggerCharacter")));
+  EXPECT_THAT(log.lines(), ElementsAre(HasSubstr("in memory only: triggerCharacter")));
   EXPECT_EQ(content(), "{\n  \"flag\": true\n}\n");
 }
 
@@ -95,7 +95,7 @@ TEST_F(JsonUserDefaultsTest, WhatCouldNotBeSavedStaysInMemoryAndIsSavedLater) {
   JsonUserDefaults defaults(blocked / "preferences.json");
   defaults.set("text", "a");
   EXPECT_EQ(defaults.string("text"), "a");
-  EXPECT_THAT(log.lines, ElementsAre(HasSubstr("Failed to save preferences"), HasSubstr("in memory only")));
+  EXPECT_THAT(log.lines(), ElementsAre(HasSubstr("Failed to save preferences"), HasSubstr("in memory only")));
   fs::remove(blocked);
   defaults.set("flag", true);
   const JsonUserDefaults later(blocked / "preferences.json");
@@ -178,10 +178,10 @@ TEST_F(WatchedPreferences, FollowAFolderThatIsRemovedOrMovedAwayAndMadeAnew) {
       fs::remove_all(deep.parent_path());
     }
     EXPECT_TRUE(waitFor([&] { return !defaults.string("text") && fs::exists(deep.parent_path()); }));
-    EXPECT_THAT(log.lines, ::testing::Contains(HasSubstr("has gone, and is made again: ")));
+    EXPECT_THAT(log.lines(), ::testing::Contains(HasSubstr("has gone, and is made again: ")));
     JsonUserDefaults(deep).set("text", "other");
     EXPECT_TRUE(waitFor([&] { return defaults.string("text") == "other"; }));
-    log.lines.clear();
+    log.clear();
   }
 }
 

@@ -93,7 +93,7 @@ TEST_P(StorageFault, LosesNothingAndSaysWhatHappened) {
   data.store.usageTracker().recordUsage("a");
   data.defaults.set("kept", "before");
   const auto before = contents(root());
-  log.lines.clear();
+  log.clear();
 
   GetParam().strike(*disk);
   if (GetParam().failsSaves) {
@@ -102,19 +102,19 @@ TEST_P(StorageFault, LosesNothingAndSaysWhatHappened) {
     data.store.usageTracker().recordUsage("b");
     EXPECT_EQ(contents(root()), before) << "old and whole, with nothing beside it";
     for (const char* what : {"user snippets", "usage counts", "usage events", "preferences"}) {
-      EXPECT_THAT(log.lines, Contains(HasSubstr("Failed to save " + std::string(what) + ": ")));
+      EXPECT_THAT(log.lines(), Contains(HasSubstr("Failed to save " + std::string(what) + ": ")));
     }
     EXPECT_EQ(data.store.userSnippets().size(), 2U);
     EXPECT_EQ(data.defaults.string("text"), "after");
     EXPECT_TRUE(freedesktop::FolderLock::acquire(root() / "data"));
   }
   GetParam().heal(*disk);
-  log.lines.clear();
+  log.clear();
   data.store.usageTracker().recordUsage("c");
   expectOnDisk(data);
-  EXPECT_THAT(log.lines,
+  EXPECT_THAT(log.lines(),
               Contains("[SnippetStore] Saved the user snippets again, which were missing from the disk"));
-  EXPECT_THAT(log.lines, Each(Not(HasSubstr("Failed"))));
+  EXPECT_THAT(log.lines(), Each(Not(HasSubstr("Failed"))));
 }
 
 TEST_P(StorageFault, IsMadeGoodAtTheEndAtLatest) {
@@ -151,7 +151,7 @@ TEST_F(StorageFault, AReadOnlyFolderIsHeldByOneInstanceOnly) {
   disk->setReadOnly(true);
   {
     const auto lock = freedesktop::FolderLock::acquire(disk->folder() / "data");
-    EXPECT_THAT(log.lines, ::testing::ElementsAre(HasSubstr("cannot be locked: Read-only file system")));
+    EXPECT_THAT(log.lines(), ::testing::ElementsAre(HasSubstr("cannot be locked: Read-only file system")));
     EXPECT_FALSE(freedesktop::FolderLock::acquire(disk->folder() / "data"));
   }
   EXPECT_TRUE(freedesktop::FolderLock::acquire(disk->folder() / "data"));
@@ -211,9 +211,9 @@ struct KillSaves : ::testing::Test {
     told = found;
   }
   void checkFiles() {
-    log.lines.clear();
+    log.clear();
     const Data data(folder.path());
-    EXPECT_THAT(log.lines, Each(Not(HasSubstr("Failed"))));
+    EXPECT_THAT(log.lines(), Each(Not(HasSubstr("Failed"))));
     ASSERT_EQ(data.store.userSnippets().size(), 1U);
     expectLatest(std::stoi(data.store.userSnippets()[0].replacement), progress->snippets);
     const auto counts = data.store.usageTracker().usageCounts();

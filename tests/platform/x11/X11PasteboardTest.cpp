@@ -233,8 +233,8 @@ TEST_F(X11PasteboardTest, LosesPatienceWithAHungOwner) {
   EXPECT_FALSE(taken->isComplete);
   EXPECT_THAT(taken->items, IsEmpty());
   EXPECT_TRUE(world.waitFor([&] { return taken->isComplete; }));
-  EXPECT_THAT(log.lines, ElementsAre(HasSubstr("were not delivered in time")));
-  EXPECT_THAT(log.lines.front(), Not(HasSubstr("secret")));
+  EXPECT_THAT(log.lines(), ElementsAre(HasSubstr("were not delivered in time")));
+  EXPECT_THAT(log.lines().front(), Not(HasSubstr("secret")));
 }
 
 class X11LateDelivery : public X11PasteboardTest, public ::testing::WithParamInterface<Manner> {};
@@ -362,7 +362,7 @@ TEST_F(X11PasteboardTest, DoesNotWaitForeverForTheClipboardManager) {
   pasteboard().write({{"UTF8_STRING", "kept"}});
   world.selections->shutdown();
   EXPECT_EQ(manager.requests(), 1U);
-  EXPECT_THAT(log.lines, ElementsAre(HasSubstr("did not take over")));
+  EXPECT_THAT(log.lines(), ElementsAre(HasSubstr("did not take over")));
 }
 
 TEST(X11Selections, AnswersThatThereIsNoServer) {

@@ -37,7 +37,7 @@ TEST_F(GeneralSettingsTabTest, launchAtLoginFollowsTheLoginItem) {
   loginItem.enabled = true;
   open();
   EXPECT_TRUE(launch()->isChecked());
-  EXPECT_THAT(log.lines, ElementsAre());
+  EXPECT_THAT(log.lines(), ElementsAre());
 }
 
 TEST_F(GeneralSettingsTabTest, aFailureTurnsTheToggleBack) {
@@ -47,7 +47,7 @@ TEST_F(GeneralSettingsTabTest, aFailureTurnsTheToggleBack) {
   EXPECT_FALSE(launch()->isChecked());
   EXPECT_THAT(loginItem.calls, ElementsAre("register", "unregister")) << "the correction is a change, too";
   const char* line = "[Settings] Failed to update launch at login: the folder is read-only";
-  EXPECT_THAT(log.lines, ElementsAre(line, line));
+  EXPECT_THAT(log.lines(), ElementsAre(line, line));
 }
 
 TEST_F(GeneralSettingsTabTest, theTriggerCharacterIsShownEverywhereAtOnce) {

@@ -33,7 +33,7 @@ class SettingsTest : public ::testing::Test {
     folder.write("emoji-data.json",
                  R"([{"name":"smile","trigger":"smile","replacement":"😀","keywords":[],"category":"x"}])");
     store = std::make_unique<SnippetStore>(SnippetStore::Folders{folder.path(), folder.path()}, clock);
-    log.lines.clear();
+    log.clear();
   }
 
   static Snippet mine(const std::string& trigger, const std::string& replacement = "text") {

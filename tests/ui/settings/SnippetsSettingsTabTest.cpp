@@ -242,10 +242,10 @@ TEST_F(SnippetsSettingsTabTest, ExportWritesTheFileOrLogsWhyNot) {
   chosenFile = folder / "out.json";
   click("Export");
   EXPECT_EQ(decodeSnippets(folder.read("out.json")), store->userSnippets());
-  EXPECT_THAT(log.lines, IsEmpty());
+  EXPECT_THAT(log.lines(), IsEmpty());
   chosenFile = folder / "missing/out.json";
   click("Export");
-  EXPECT_THAT(log.lines, ElementsAre(StartsWith("[Settings] Export failed: ")));
+  EXPECT_THAT(log.lines(), ElementsAre(StartsWith("[Settings] Export failed: ")));
 }
 
 TEST_F(SnippetsSettingsTabTest, ScreenReadersMeetRowsAndButtons) {
