@@ -39,7 +39,7 @@ Desktop::Desktop()
       trust_(freedesktop::configFolder(processEnvironment)),
       loginItem_(std::filesystem::canonical("/proc/self/exe")),
       trustPrompt_([this] { allow(); }),
-      popupWindow_([this] { return screens_.space(); }),
+      popupWindow_(screens_),
       selections_(x11::X11Selections::connect(queue_)),
       general_(selections_ ? selections_->general() : noPasteboard_, QClipboard::Clipboard),
       primary_(selections_ ? selections_->primary() : noPasteboard_, QClipboard::Selection),

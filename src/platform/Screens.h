@@ -13,7 +13,7 @@ struct Screen {
   bool operator==(const Screen&) const = default;
 };
 
-/// The monitors and the pointer, read afresh at every call. Main thread.
+/// The monitors, as the system has last told of them, and the pointer. Main thread.
 class Screens {
  public:
   virtual ~Screens() = default;

@@ -52,6 +52,25 @@ QString matchCount(std::size_t count) {
   return QCoreApplication::translate("Popup", "%n matches", nullptr, shown);
 }
 
+/// What is seen where `above` is painted on `below`.
+QColor blended(const QColor& above, const QColor& below) {
+  const float share = above.alphaF();
+  const float rest = below.alphaF() * (1 - share);
+  const auto mixed = [&](float first, float second) {
+    return (first * share + second * rest) / (share + rest);
+  };
+  return QColor::fromRgbF(mixed(above.redF(), below.redF()), mixed(above.greenF(), below.greenF()),
+                          mixed(above.blueF(), below.blueF()), share + rest);
+}
+
+constexpr int cornerSide = static_cast<int>(PopupLayout::cornerRadius) + 1;
+
+QRegion corners(const QRectF& card) {
+  const QRect whole = card.toAlignedRect();
+  return QRegion(whole) - QRegion(whole.adjusted(cornerSide, 0, -cornerSide, 0)) -
+         QRegion(whole.adjusted(0, cornerSide, 0, -cornerSide));
+}
+
 QColor whiteAt(double opacity) {
   return QColor::fromRgbF(1, 1, 1, static_cast<float>(opacity));
 }
@@ -74,15 +93,35 @@ void PopupPainter::paintCard(QPainter& painter, const PopupLayout& layout, bool 
   const QRectF card(QPointF(0, 0), layout.size());
   QColor ground = theme_.card;
   if (isTranslucent) ground.setAlphaF(translucentOpacity);
+  const double width = std::max(0.5, 1 / pixelRatioOf(painter));
+  paintSides(painter, card, ground, width);
+  painter.save();
+  painter.setClipRegion(corners(card));
+  const double inset = width / 2;
   painter.setPen(Qt::NoPen);
   painter.setBrush(ground);
   painter.drawRoundedRect(card, PopupLayout::cornerRadius, PopupLayout::cornerRadius);
-  const double width = std::max(0.5, 1 / pixelRatioOf(painter));
-  const double inset = width / 2;
   painter.setPen(QPen(theme_.primaryAt(0.1), width));
   painter.setBrush(Qt::NoBrush);
   painter.drawRoundedRect(card.adjusted(inset, inset, -inset, -inset), PopupLayout::cornerRadius - inset,
                           PopupLayout::cornerRadius - inset);
+  painter.restore();
+}
+
+// Qt hands a large shape with curves to several threads, and waking them takes longer than painting it. Most
+// of the card has none.
+void PopupPainter::paintSides(QPainter& painter, const QRectF& card, const QColor& ground,
+                              double width) const {
+  const QColor line = blended(theme_.primaryAt(0.1), ground);
+  painter.save();
+  painter.setCompositionMode(QPainter::CompositionMode_Source);
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  const QRectF across = card.adjusted(0, cornerSide, 0, -cornerSide);
+  const QRectF upright = card.adjusted(cornerSide, 0, -cornerSide, 0);
+  for (const QRectF& band : {across, upright}) painter.fillRect(band, line);
+  painter.fillRect(across.adjusted(width, 0, -width, 0), ground);
+  painter.fillRect(upright.adjusted(0, width, 0, -width), ground);
+  painter.restore();
 }
 
 void PopupPainter::paintHeader(QPainter& painter, const QRectF& band, const PopupContent& content) const {

@@ -36,6 +36,7 @@ class PopupPainter {
 
  private:
   void paintCard(QPainter& painter, const PopupLayout& layout, bool isTranslucent) const;
+  void paintSides(QPainter& painter, const QRectF& card, const QColor& ground, double width) const;
   void paintHeader(QPainter& painter, const QRectF& band, const PopupContent& content) const;
   void paintPicker(QPainter& painter, const PopupContent& content, const PopupLayout& layout);
   void paintList(QPainter& painter, const PopupContent& content, const PopupLayout& layout,

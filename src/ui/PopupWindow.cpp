@@ -20,8 +20,8 @@ constexpr Qt::WindowFlags popupFlags = Qt::ToolTip | Qt::FramelessWindowHint | Q
 
 }  // namespace
 
-PopupWindow::PopupWindow(Space space)
-    : QWidget(nullptr, popupFlags), space_(std::move(space)), painter_(palette()) {
+PopupWindow::PopupWindow(QtScreens& screens)
+    : QWidget(nullptr, popupFlags), screens_(screens), painter_(palette()) {
   PopupAccessible::install();
   setAttribute(Qt::WA_ShowWithoutActivating);
   setAttribute(Qt::WA_TranslucentBackground);
@@ -114,16 +114,17 @@ void PopupWindow::setContent(const PopupContent& content, QSizeF size) {
 
 void PopupWindow::showAt(const Rect& frame) {
   frame_ = frame;
-  const CoordinateSpace space = space_();
+  const CoordinateSpace space = screens_.space();
   const Rect pixels = space.toPixels(space.flipped(frame));
   const NativePopupWindow native(*this);
-  isTranslucent_ = native.isComposited();
+  isTranslucent_ = screens_.isComposited();
   native.setGeometry(pixels);
   native.setRounded(!isTranslucent_, PopupLayout::cornerRadius * space.scale());
   if (isVisible()) return;
+  // Qt waits for the server when it shows a window. By then it stands there.
+  if (isPainted()) native.show(picture_->image);
   setVisible(true);
   native.setGeometry(pixels);  // showing has put Qt's rounded place back
-  if (isPainted()) native.draw(picture_->image);
 }
 
 void PopupWindow::setScroll(double scroll) {

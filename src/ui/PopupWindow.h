@@ -7,8 +7,8 @@
 #include <functional>
 #include <optional>
 
-#include "platform/CoordinateSpace.h"
 #include "platform/PopupSurface.h"
+#include "platform/qt/QtScreens.h"
 #include "ui/PopupList.h"
 #include "ui/PopupPainter.h"
 
@@ -18,9 +18,8 @@ namespace tessarin::ui {
 /// native window is made at once and stays hidden, so that showing it costs little. Main thread.
 class PopupWindow final : public QWidget, public PopupSurface {
  public:
-  /// Answers where points lie at the moment; asked at every show.
-  using Space = std::function<CoordinateSpace()>;
-  explicit PopupWindow(Space space);
+  /// The screens outlive the window.
+  explicit PopupWindow(QtScreens& screens);
 
   void prepare(const PopupContent& content) override;
   void show(const PopupContent& content, const Rect& frame) override;
@@ -73,7 +72,7 @@ class PopupWindow final : public QWidget, public PopupSurface {
   /// Soon, so that neither the picture nor a key waits for it.
   void tellAssistants();
 
-  Space space_;
+  QtScreens& screens_;
   PopupPainter painter_;
   std::optional<Picture> picture_;
   PopupContent content_;

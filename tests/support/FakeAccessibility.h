@@ -50,7 +50,9 @@ class FakeAccessibility final : public Accessibility {
     return focusMoved_.subscribe(std::move(callback));
   }
   void beginBudget(std::chrono::milliseconds budget) override;
-  bool isBusy(const ElementRef&) override { return busy; }
+  bool isBusy(const ElementRef& element) override {
+    return busy && dynamic_cast<const FakeElement*>(element.get()) != nullptr;
+  }
   bool pause(std::chrono::milliseconds duration) override;
 
   /// Puts the focus there, and tells of it.

@@ -65,7 +65,7 @@ class PopupAccessibleTest : public ::testing::Test {
   }
 
   QtScreens screens;
-  PopupWindow window{[this] { return screens.space(); }};
+  PopupWindow window{screens};
 };
 
 TEST_F(PopupAccessibleTest, ShowsItsRowsAsAList) {

@@ -19,8 +19,8 @@ bool isPopupChild(int argc, char** argv) {
 
 int runPopupChild(int argc, char** argv) {
   QApplication application(argc, argv);
-  const ui::QtScreens screens;
-  ui::PopupWindow window([&] { return screens.space(); });
+  ui::QtScreens screens;
+  ui::PopupWindow window(screens);
   const int rows = std::atoi(argv[2]);
   const QSizeF size = ui::PopupLayout::sizeFor(rows);
   window.show(popupWithRows(rows), {std::atof(argv[3]), std::atof(argv[4]), size.width(), size.height()});

@@ -42,7 +42,7 @@ class PopupWindowTest : public ::testing::Test {
 
   testing::XClient client{std::getenv("DISPLAY")};
   QtScreens screens;
-  PopupWindow window{[this] { return screens.space(); }};
+  PopupWindow window{screens};
   PopupLayout layout;
   std::vector<int> rows;
   std::vector<int> variants;
@@ -112,6 +112,7 @@ TEST_F(PopupWindowTest, LeavesItsCornersToACompositor) {
   window.hide();
   testing::XClient compositor(std::getenv("DISPLAY"));
   compositor.becomeCompositor();
+  ASSERT_TRUE(becomes([this] { return screens.isComposited(); }));
   show(popupWithRows(3));
   EXPECT_TRUE(becomes([this] { return client.isInShape(window.nativeWindow(), 0, 0); }));
   EXPECT_LT(window.grab().toImage().pixelColor(160, 4).alpha(), 255);

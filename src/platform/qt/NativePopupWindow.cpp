@@ -53,16 +53,6 @@ QRect logicalGeometry(const QRect& pixels) {
 
 }  // namespace
 
-bool NativePopupWindow::isComposited() const {
-  const auto x = qtConnection();
-  if (!x) return false;
-  static const xcb_atom_t atom = x->atom("_NET_WM_CM_S" + std::to_string(x->screenNumber));
-  const std::unique_ptr<xcb_get_selection_owner_reply_t, decltype(&std::free)> reply(
-      xcb_get_selection_owner_reply(x->connection, xcb_get_selection_owner(x->connection, atom), nullptr),
-      &std::free);
-  return reply && reply->owner != XCB_NONE;
-}
-
 void NativePopupWindow::setClass() const {
   const auto x = qtConnection();
   if (!x) return;
@@ -103,7 +93,7 @@ void NativePopupWindow::setRounded(bool isRounded, double radius) const {
                        window, 0, 0, static_cast<std::uint32_t>(shape.size()), shape.data());
 }
 
-void NativePopupWindow::draw(const QImage& picture) const {
+void NativePopupWindow::show(const QImage& picture) const {
   const auto x = qtConnection();
   if (!x || xcb_get_setup(x->connection)->image_byte_order != XCB_IMAGE_ORDER_LSB_FIRST) return;
   const auto window = static_cast<xcb_window_t>(window_.winId());
@@ -112,6 +102,7 @@ void NativePopupWindow::draw(const QImage& picture) const {
   constexpr std::uint32_t requestBytes = 32;
   const std::uint32_t mostBytes = 4 * xcb_get_maximum_request_length(x->connection) - requestBytes;
   const int mostLines = static_cast<int>(mostBytes / bytesPerLine);
+  xcb_map_window(x->connection, window);
   const xcb_gcontext_t context = xcb_generate_id(x->connection);
   xcb_create_gc(x->connection, context, window, 0, nullptr);
   for (int y = 0; y < picture.height(); y += mostLines) {

@@ -113,6 +113,10 @@ Subscription OwnWindowsAccessibility::onFocusMoved(std::function<void()> callbac
   });
 }
 
+bool OwnWindowsAccessibility::isBusy(const ElementRef& element) {
+  return others_.isBusy(element == systemWide_ ? others_.systemWide() : element);
+}
+
 bool OwnWindowsAccessibility::pause(std::chrono::milliseconds duration) {
   return QApplication::activeWindow() == nullptr && others_.pause(duration);
 }

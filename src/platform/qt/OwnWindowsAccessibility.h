@@ -27,7 +27,7 @@ class OwnWindowsAccessibility final : public Accessibility {
                                    const AttributeValue& value) override;
   Subscription onFocusMoved(std::function<void()> callback) override;
   void beginBudget(std::chrono::milliseconds budget) override { others_.beginBudget(budget); }
-  bool isBusy(const ElementRef& element) override { return others_.isBusy(element); }
+  bool isBusy(const ElementRef& element) override;
   /// While one of our windows has the focus no pause helps: it goes on with its work only after we do.
   bool pause(std::chrono::milliseconds duration) override;
 

@@ -58,18 +58,18 @@ std::vector<Screen> screensOfQt() {
 }  // namespace
 
 std::vector<Screen> QtScreens::screens() {
-  const auto x = qtConnection();
-  return x ? screensOf(monitors::desktop(*x)) : screensOfQt();
+  const auto* desktop = watch_.desktop();
+  return desktop != nullptr ? screensOf(*desktop) : screensOfQt();
 }
 
 std::optional<Screen> QtScreens::mainScreen() {
-  const auto x = qtConnection();
-  const auto desktop = x ? monitors::desktop(*x) : monitors::Desktop();
-  const auto all = x ? screensOf(desktop) : screensOfQt();
+  const auto all = screens();
   if (all.empty()) return std::nullopt;
-  const auto centre = desktop.activeWindow ? monitors::centreOf(*x, *desktop.activeWindow) : std::nullopt;
+  const auto* desktop = watch_.desktop();
+  if (all.size() == 1 || desktop == nullptr || !desktop->activeWindow) return all.front();
+  const auto centre = monitors::centreOf(*qtConnection(), *desktop->activeWindow);
   if (!centre) return all.front();
-  const CoordinateSpace points = spaceFor(desktop.frames);
+  const CoordinateSpace points = spaceFor(desktop->frames);
   const Rect spot = points.flipped(points.toPoints({centre->x, centre->y, 0, 0}));
   const auto found = std::ranges::find_if(all, [&](const Screen& screen) {
     return screen.frame.contains({spot.x, spot.y});
@@ -85,10 +85,15 @@ Point QtScreens::mouseLocation() {
   return points.flipped(Point{pixels->x / points.scale(), pixels->y / points.scale()});
 }
 
-CoordinateSpace QtScreens::space() const {
-  if (const auto x = qtConnection()) return spaceFor(monitors::desktop(*x).frames);
+CoordinateSpace QtScreens::space() {
+  if (const auto* desktop = watch_.desktop()) return spaceFor(desktop->frames);
   const QScreen* primary = QGuiApplication::primaryScreen();
   return {qGuiApp->devicePixelRatio(), primary == nullptr ? 0.0 : primary->geometry().height()};
+}
+
+bool QtScreens::isComposited() {
+  const auto* desktop = watch_.desktop();
+  return desktop != nullptr && desktop->isComposited;
 }
 
 }  // namespace tessarin::ui

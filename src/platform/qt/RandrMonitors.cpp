@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
+#include <string>
 
 namespace tessarin::ui::monitors {
 namespace {
@@ -14,18 +15,6 @@ struct Free {
 };
 template <class T>
 using Owned = std::unique_ptr<T, Free>;
-
-struct Atoms {
-  xcb_atom_t workArea;
-  xcb_atom_t currentDesktop;
-  xcb_atom_t activeWindow;
-};
-
-const Atoms& atomsOf(const QtConnection& x) {
-  static const Atoms atoms{x.atom("_NET_WORKAREA"), x.atom("_NET_CURRENT_DESKTOP"),
-                           x.atom("_NET_ACTIVE_WINDOW")};
-  return atoms;
-}
 
 xcb_get_property_cookie_t ask(const QtConnection& x, xcb_atom_t property) {
   constexpr std::uint32_t enoughWords = 4 * 64;  // four numbers for each of 64 desktops
@@ -83,11 +72,17 @@ std::optional<Rect> workAreaOf(const std::vector<std::uint32_t>& areas,
 
 }  // namespace
 
-Desktop desktop(const QtConnection& x) {
+Sources sources(const QtConnection& x) {
+  return {x.atom("_NET_WORKAREA"), x.atom("_NET_CURRENT_DESKTOP"), x.atom("_NET_ACTIVE_WINDOW"),
+          x.atom("_NET_WM_CM_S" + std::to_string(x.screenNumber))};
+}
+
+Desktop desktop(const QtConnection& x, const Sources& sources) {
   const auto monitors = askForMonitors(x);
-  const auto areas = ask(x, atomsOf(x).workArea);
-  const auto current = ask(x, atomsOf(x).currentDesktop);
-  const auto active = ask(x, atomsOf(x).activeWindow);
+  const auto areas = ask(x, sources.workArea);
+  const auto current = ask(x, sources.currentDesktop);
+  const auto active = ask(x, sources.activeWindow);
+  const auto compositor = xcb_get_selection_owner(x.connection, sources.compositor);
   Desktop found;
   if (monitors) found.frames = framesFrom(x, *monitors);
   if (found.frames.empty()) found.frames = wholeRoot(x);
@@ -95,6 +90,9 @@ Desktop desktop(const QtConnection& x) {
   found.workArea = workAreaOf(areaNumbers, answer(x, current));
   const auto window = answer(x, active);
   if (!window.empty() && window.front() != XCB_NONE) found.activeWindow = window.front();
+  const Owned<xcb_get_selection_owner_reply_t> owner(
+      xcb_get_selection_owner_reply(x.connection, compositor, nullptr));
+  found.isComposited = owner && owner->owner != XCB_NONE;
   return found;
 }
 

@@ -6,8 +6,8 @@
 #include "base/Geometry.h"
 #include "platform/qt/QtConnection.h"
 
-/// What the X server and the window manager say about the monitors. Native pixels from the root window's top
-/// left corner, y downwards. Every call is a round trip.
+/// What the X server, the window manager and the compositor say about the desktop. Native pixels from the
+/// root window's top left corner, y downwards. Every call is a round trip.
 namespace tessarin::ui::monitors {
 
 struct Desktop {
@@ -16,9 +16,20 @@ struct Desktop {
   /// The part of the root window that panels leave free, on the desktop in front; none when nobody says.
   std::optional<Rect> workArea;
   std::optional<xcb_window_t> activeWindow;
+  /// Whether a compositor runs, so that what is transparent is seen so.
+  bool isComposited = false;
 };
 
-Desktop desktop(const QtConnection& x);
+/// Where the answers to `desktop` come from.
+struct Sources {
+  xcb_atom_t workArea;
+  xcb_atom_t currentDesktop;
+  xcb_atom_t activeWindow;
+  xcb_atom_t compositor;  ///< a selection; the others are properties of the root window
+};
+Sources sources(const QtConnection& x);
+
+Desktop desktop(const QtConnection& x, const Sources& sources);
 std::optional<Point> centreOf(const QtConnection& x, xcb_window_t window);
 std::optional<Point> pointer(const QtConnection& x);
 

@@ -154,6 +154,15 @@ class OwnWindows : public World {
   QWidget window;
 };
 
+TEST_F(OwnWindows, SayWhetherOthersAreBusy) {
+  others.busy = true;
+  EXPECT_TRUE(accessibility().isBusy(accessibility().systemWide()));
+  EXPECT_TRUE(accessibility().isBusy(std::make_shared<FakeElement>()));
+  auto* edit = new QLineEdit(&window);
+  ASSERT_TRUE(showFocused(window, *edit));
+  EXPECT_FALSE(accessibility().isBusy(focused()));
+}
+
 TEST_F(OwnWindows, KeepPasswordsToThemselves) {
   auto* edit = new QLineEdit("secret", &window);
   edit->setEchoMode(QLineEdit::Password);

@@ -39,7 +39,7 @@ class WindowWorld {
 
   XClient client_{std::getenv("DISPLAY")};
   ui::QtScreens screens_;
-  ui::PopupWindow window_{[this] { return screens_.space(); }};
+  ui::PopupWindow window_{screens_};
 };
 
 class FakeWorld {

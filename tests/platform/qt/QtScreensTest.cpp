@@ -1,8 +1,13 @@
 #include <gmock/gmock.h>
 
+#include <QAbstractNativeEventFilter>
+#include <QGuiApplication>
+#include <cstdint>
 #include <cstdlib>
 
+#include "platform/qt/QtConnection.h"
 #include "platform/qt/QtScreens.h"
+#include "platform/qt/TestApplication.h"
 #include "support/FakeScreens.h"
 #include "support/ScreensSuite.h"
 #include "support/desktop/ChildProcess.h"
@@ -23,7 +28,12 @@ class Monitors {
     client.setRootNumbers("_NET_CURRENT_DESKTOP", {});
     client.setRootNumbers("_NET_ACTIVE_WINDOW", {});
   }
-  QtScreens& screens() { return screens_; }
+  /// With everything taken in that the server has told so far.
+  QtScreens& screens() {
+    client.setRootNumbers(mark, {++marks_});
+    EXPECT_TRUE(testing::eventuallyInLoop([this] { return seen_.count == marks_; }));
+    return screens_;
+  }
   /// The right one is the primary and lower than the left one.
   static void layOut() {
     ASSERT_EQ(testing::run({"xrandr", "--setmonitor", "left", "640/300x900/300+0+0", "screen"}), 0);
@@ -40,6 +50,20 @@ class Monitors {
   XClient client{std::getenv("DISPLAY")};
 
  private:
+  static constexpr const char* mark = "_TESSARIN_TEST_MARK";
+  /// Counts the marks that have come through.
+  struct Seen final : QAbstractNativeEventFilter {
+    Seen() { qGuiApp->installNativeEventFilter(this); }
+    bool nativeEventFilter(const QByteArray&, void* message, qintptr*) override {
+      const auto* event = static_cast<const xcb_property_notify_event_t*>(message);
+      if ((event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY && event->atom == atom) ++count;
+      return false;
+    }
+    const xcb_atom_t atom = qtConnection()->atom(mark);
+    std::uint32_t count = 0;
+  };
+  Seen seen_;
+  std::uint32_t marks_ = 0;
   QtScreens screens_;
 };
 
@@ -63,20 +87,34 @@ class QtScreensTest : public ::testing::Test {
  protected:
   Monitors monitors;
   XClient& client = monitors.client;
-  QtScreens& screens = monitors.screens();
+  QtScreens& screens() { return monitors.screens(); }
 };
 
 TEST_F(QtScreensTest, PanelsAreLessThanTheVisibleFrame) {
   monitors.layOut();
   client.setRootNumbers("_NET_CURRENT_DESKTOP", {1});
   client.setRootNumbers("_NET_WORKAREA", {0, 0, 10, 10, 0, 30, 1280, 994});
-  const auto found = screens.screens();
+  const auto found = screens().screens();
   ASSERT_EQ(found.size(), 2U);
   EXPECT_EQ(found[0].visibleFrame, found[0].frame) << "the panel ends above this monitor";
   EXPECT_EQ(found[1].visibleFrame, (Rect{0, 24, 640, 870}));
   client.setRootNumbers("_NET_CURRENT_DESKTOP", {});
   client.setRootNumbers("_NET_WORKAREA", {640, 100, 640, 924});
-  EXPECT_EQ(screens.screens()[1].visibleFrame, found[1].frame) << "a work area that leaves nothing of it";
+  EXPECT_EQ(screens().screens()[1].visibleFrame, found[1].frame) << "a work area that leaves nothing of it";
+}
+
+TEST_F(QtScreensTest, FollowsTheMonitorsAndTheCompositor) {
+  EXPECT_EQ(screens().screens().size(), 1U);
+  EXPECT_EQ(screens().space().flipped(Rect{0, 0, 10, 10}), (Rect{0, 1014, 10, 10}));
+  monitors.layOut();
+  EXPECT_EQ(screens().screens().size(), 2U);
+  EXPECT_EQ(screens().space().flipped(Rect{0, 0, 10, 10}), (Rect{0, 914, 10, 10}));
+  {
+    testing::XClient compositor(std::getenv("DISPLAY"));
+    compositor.becomeCompositor();
+    EXPECT_TRUE(screens().isComposited());
+  }
+  EXPECT_TRUE(testing::eventuallyInLoop([this] { return !screens().isComposited(); }));
 }
 
 }  // namespace
