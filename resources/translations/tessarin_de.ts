@@ -2,6 +2,142 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>FILE</source>
+        <translation>DATEI</translation>
+    </message>
+    <message>
+        <source>open the settings, starting the program if need be</source>
+        <translation>öffnet die Einstellungen und startet dazu nötigenfalls das Programm</translation>
+    </message>
+    <message>
+        <source>switch expansion off or on in the running program</source>
+        <translation>schaltet das Ersetzen im laufenden Programm aus oder ein</translation>
+    </message>
+    <message>
+        <source>end the running program</source>
+        <translation>beendet das laufende Programm</translation>
+    </message>
+    <message>
+        <source>let Tessarin judge keys and write into other applications, and switch the session&apos;s accessibility on</source>
+        <translation>lässt Tessarin Tasten auswerten und in andere Programme schreiben und schaltet die Bedienungshilfen der Sitzung ein</translation>
+    </message>
+    <message>
+        <source>take that back</source>
+        <translation>nimmt das zurück</translation>
+    </message>
+    <message>
+        <source>add the snippets of a file to your own</source>
+        <translation>fügt die Bausteine einer Datei den eigenen hinzu</translation>
+    </message>
+    <message>
+        <source>write your own snippets into a file</source>
+        <translation>schreibt die eigenen Bausteine in eine Datei</translation>
+    </message>
+    <message>
+        <source>QUERY</source>
+        <translation>SUCHE</translation>
+    </message>
+    <message>
+        <source>list what the popup would offer, best first</source>
+        <translation>listet auf, was das Popup anbieten würde, das Beste zuerst</translation>
+    </message>
+    <message>
+        <source>show this text</source>
+        <translation>zeigt diesen Text</translation>
+    </message>
+    <message>
+        <source>show the version</source>
+        <translation>zeigt die Version</translation>
+    </message>
+    <message>
+        <source>with --search: write a JSON array</source>
+        <translation>mit --search: gibt ein JSON-Array aus</translation>
+    </message>
+    <message>
+        <source>NUMBER</source>
+        <translation>ZAHL</translation>
+    </message>
+    <message>
+        <source>with --search: list at most so many (8)</source>
+        <translation>mit --search: listet höchstens so viele auf (8)</translation>
+    </message>
+    <message>
+        <source>%1 needs --search</source>
+        <translation>%1 braucht --search</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>unbekannte Option %1</translation>
+    </message>
+    <message>
+        <source>unexpected argument %1</source>
+        <translation>unerwartetes Argument %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be combined</source>
+        <translation>%1 lässt sich nicht kombinieren</translation>
+    </message>
+    <message>
+        <source>%1 needs a file</source>
+        <translation>%1 braucht eine Datei</translation>
+    </message>
+    <message>
+        <source>%1 needs a number from 1 on</source>
+        <translation>%1 braucht eine Zahl ab 1</translation>
+    </message>
+    <message>
+        <source>%1 takes no argument</source>
+        <translation>%1 nimmt kein Argument</translation>
+    </message>
+    <message>
+        <source>%1 needs an argument: %2</source>
+        <translation>%1 braucht ein Argument: %2</translation>
+    </message>
+    <message>
+        <source>usage: tessarin [OPTION]</source>
+        <translation>Aufruf: tessarin [OPTION]</translation>
+    </message>
+    <message>
+        <source>Expands shortcodes such as :smile in any application. Started again without an option, it opens the
+settings of the program that runs.</source>
+        <translation>Ersetzt Kürzel wie :smile in jedem Programm. Noch einmal ohne Option gestartet, öffnet es die
+Einstellungen des laufenden Programms.</translation>
+    </message>
+</context>
+<context>
+    <name>Commands</name>
+    <message>
+        <source>the running instance does not answer</source>
+        <translation>das laufende Programm antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Tessarin may judge keys and write into other applications.</source>
+        <translation>Tessarin darf Tasten auswerten und in andere Programme schreiben.</translation>
+    </message>
+    <message>
+        <source>The session&apos;s accessibility is switched on, for later sessions too. Qt applications and browsers that are open now notice it when they are started again; until then, text is pasted there.</source>
+        <translation>Die Bedienungshilfen der Sitzung sind eingeschaltet, auch für spätere Sitzungen. Qt-Programme und Browser, die schon offen sind, bemerken es, wenn sie neu gestartet werden; bis dahin wird dort über die Zwischenablage eingefügt.</translation>
+    </message>
+    <message>
+        <source>The session&apos;s accessibility could not be switched on; text will be pasted.</source>
+        <translation>Die Bedienungshilfen der Sitzung ließen sich nicht einschalten; Text wird über die Zwischenablage eingefügt.</translation>
+    </message>
+    <message>
+        <source>Tessarin no longer judges keys or writes into other applications.</source>
+        <translation>Tessarin wertet keine Tasten mehr aus und schreibt nicht mehr in andere Programme.</translation>
+    </message>
+    <message>
+        <source>no instance is running</source>
+        <translation>Tessarin läuft nicht</translation>
+    </message>
+    <message>
+        <source>no display to open a window on; try from a desktop session</source>
+        <translation>keine Anzeige, auf der sich ein Fenster öffnen ließe; versuchen Sie es aus einer Desktop-Sitzung</translation>
+    </message>
+</context>
+<context>
     <name>InputMonitoringHelp</name>
     <message>
         <source>Tessarin can judge keys on this session.</source>
@@ -114,6 +250,33 @@
     </message>
 </context>
 <context>
+    <name>Program</name>
+    <message>
+        <source>unknown request</source>
+        <translation>unbekannte Anfrage</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>quitting</source>
+        <translation>wird beendet</translation>
+    </message>
+    <message>
+        <source>no settings window</source>
+        <translation>kein Einstellungsfenster</translation>
+    </message>
+    <message>
+        <source>settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+</context>
+<context>
     <name>SnippetFiles</name>
     <message>
         <source>Imported 1 snippet</source>
@@ -144,6 +307,10 @@
     <message>
         <source>Export failed: %1</source>
         <translation>Export fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Not saved: %1</source>
+        <translation>Nicht gespeichert: %1</translation>
     </message>
 </context>
 <context>
@@ -178,8 +345,16 @@
 <context>
     <name>tessarin::ui::BarChart</name>
     <message>
-        <source>%1 %2</source>
-        <translation>%1 %2</translation>
+        <source>%1: %2, %3: %4</source>
+        <translation>%1: %2, %3: %4</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>Anzahl</translation>
     </message>
 </context>
 <context>

@@ -23,7 +23,22 @@ void setTranslator(Translator installed) {
 }
 
 std::string translate(const char* context, const char* text, const char* /*disambiguation*/, int count) {
-  return translator() ? translator()(context, text, count) : withCount(text, count);
+  return withCount(translator() ? translator()(context, text, count) : text, count);
+}
+
+std::string filledIn(std::string_view text, const std::vector<std::string>& parts) {
+  std::string result;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool isPlace = text[i] == '%' && i + 1 < text.size() && text[i + 1] >= '1' && text[i + 1] <= '9';
+    const std::size_t part = isPlace ? static_cast<std::size_t>(text[i + 1] - '1') : parts.size();
+    if (part < parts.size()) {
+      result += parts[part];
+      ++i;
+    } else {
+      result += text[i];
+    }
+  }
+  return result;
 }
 
 }  // namespace tessarin

@@ -7,6 +7,7 @@
 
 #include "base/AtomicFile.h"
 #include "base/Log.h"
+#include "base/Translate.h"
 #include "main/Resources.h"
 #include "main/SnippetFiles.h"
 #include "model/SnippetStore.h"
@@ -86,30 +87,33 @@ int report(const Answer& answer) {
 }
 
 int reportNoAnswer() {
-  return report({false, "the running instance does not answer"});
+  return report({false, translate("Commands", "the running instance does not answer")});
 }
 
 int allow() {
   if (!trustRecord().allow()) return failure;
-  std::puts("Tessarin may judge keys and write into other applications.");
-  std::puts(atspi::AccessibilityBus::enable()
-                ? "The session's accessibility is switched on, for later sessions too. Qt applications and "
-                  "browsers that are open now "
-                  "notice it when they are started again; until then, text is pasted there."
-                : "The session's accessibility could not be switched on; text will be pasted.");
-  return success;
+  const bool isEnabled = atspi::AccessibilityBus::enable();
+  return report(
+      {true, translate("Commands", "Tessarin may judge keys and write into other applications.") + "\n" +
+                 (isEnabled ? translate("Commands",
+                                        "The session's accessibility is switched on, for later sessions too. "
+                                        "Qt applications and browsers that are open now notice it when they "
+                                        "are started again; until then, text is pasted there.")
+                            : translate("Commands",
+                                        "The session's accessibility could not be switched on; text will be "
+                                        "pasted."))});
 }
 
 int disallow() {
   if (!trustRecord().disallow()) return failure;
-  std::puts("Tessarin no longer judges keys or writes into other applications.");
-  return success;
+  return report(
+      {true, translate("Commands", "Tessarin no longer judges keys or writes into other applications.")});
 }
 
 int request(Request::Kind kind) {
   const Reached reached = reachInstance({kind, {}}, answerTime);
   if (reached.answer) return report(*reached.answer);
-  return reached.folder ? report({false, "no instance is running"}) : reportNoAnswer();
+  return reached.folder ? report({false, translate("Commands", "no instance is running")}) : reportNoAnswer();
 }
 
 int importOrExport(const CommandLine& line) {

@@ -3,7 +3,7 @@
 #include <clocale>
 
 #include "base/Log.h"
-#include "main/SessionKind.h"
+#include "base/SessionKind.h"
 #include "platform/atspi/AccessibilityBus.h"
 #include "platform/freedesktop/ApplicationMatcher.h"
 #include "platform/freedesktop/BaseFolders.h"

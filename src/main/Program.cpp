@@ -4,6 +4,7 @@
 #include <QSessionManager>
 #include <QTimer>
 
+#include "base/Translate.h"
 #include "main/SnippetFiles.h"
 
 namespace tessarin {
@@ -58,7 +59,7 @@ void Program::listenForRequests(const std::filesystem::path& storage) {
   QObject::connect(requestNotifier_.get(), &QSocketNotifier::activated, requestNotifier_.get(), [this] {
     requests_->serve([this](const std::string& line) {
       const auto request = Request::decode(line);
-      return (request ? perform(*request) : Answer{false, "unknown request"}).encoded();
+      return (request ? perform(*request) : Answer{false, translate("Program", "unknown request")}).encoded();
     });
   });
 }
@@ -68,23 +69,24 @@ Answer Program::perform(const Request& request) {
     case Request::Kind::settings:
       return showSettings();
     case Request::Kind::toggle:
-      return {true, controller_.toggleEnabled() ? "on" : "off"};
+      return {true, controller_.toggleEnabled() ? translate("Program", "on") : translate("Program", "off")};
     case Request::Kind::quit:
       controller_.menuBarManager().quitApp();
-      return {true, "quitting"};
+      return {true, translate("Program", "quitting")};
     case Request::Kind::importFile:
       return importSnippets(controller_.snippetStore(), request.file);
     case Request::Kind::exportFile:
       return exportSnippets(controller_.snippetStore(), request.file);
   }
-  return {false, "unknown request"};
+  return {false, translate("Program", "unknown request")};
 }
 
 Answer Program::showSettings() {
-  if (!controller_.menuBarManager().canOpenSettings()) return {false, "no settings window"};
+  if (!controller_.menuBarManager().canOpenSettings())
+    return {false, translate("Program", "no settings window")};
   controller_.endCollecting();
   controller_.menuBarManager().openSettings();
-  return {true, "settings"};
+  return {true, translate("Program", "settings")};
 }
 
 void Program::shutDown() {

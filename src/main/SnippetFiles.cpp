@@ -1,7 +1,6 @@
 #include "main/SnippetFiles.h"
 
 #include <exception>
-#include <stdexcept>
 
 #include "base/Translate.h"
 #include "model/SnippetCoding.h"
@@ -9,12 +8,6 @@
 
 namespace tessarin {
 namespace {
-
-/// Takes the place of %1.
-std::string filledIn(std::string text, const std::string& part) {
-  const auto place = text.find("%1");
-  return place == std::string::npos ? text : text.replace(place, 2, part);
-}
 
 std::string inOneLine(const std::string& text) {
   std::string result;
@@ -44,11 +37,14 @@ std::string inOneLine(const std::string& text) {
 Answer importSnippets(SnippetStore& store, const std::filesystem::path& file) {
   try {
     const int count = static_cast<int>(store.importSnippets(file));
-    if (store.saveFailure()) throw std::runtime_error(*store.saveFailure());
+    // Not said to have failed: a running program has them now, and saves them later.
+    if (store.saveFailure()) {
+      return {false, filledIn(translate("SnippetFiles", "Not saved: %1"), {*store.saveFailure()})};
+    }
     return {true, count == 1 ? translate("SnippetFiles", "Imported 1 snippet")
                              : translate("SnippetFiles", "Imported %n snippets", nullptr, count)};
   } catch (const std::exception& error) {
-    return {false, filledIn(translate("SnippetFiles", "Import failed: %1"), error.what())};
+    return {false, filledIn(translate("SnippetFiles", "Import failed: %1"), {error.what()})};
   }
 }
 
@@ -59,7 +55,7 @@ Answer exportSnippets(const SnippetStore& store, const std::filesystem::path& fi
     return {true, count == 1 ? translate("SnippetFiles", "Exported 1 snippet")
                              : translate("SnippetFiles", "Exported %n snippets", nullptr, count)};
   } catch (const std::exception& error) {
-    return {false, filledIn(translate("SnippetFiles", "Export failed: %1"), error.what())};
+    return {false, filledIn(translate("SnippetFiles", "Export failed: %1"), {error.what()})};
   }
 }
 

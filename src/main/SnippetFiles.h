@@ -10,7 +10,8 @@ namespace tessarin {
 
 class SnippetStore;
 
-/// Import and export as the command line asks for them; the answers say what the settings say.
+/// Import and export as the command line asks for them; the answers say what the settings say. What
+/// was imported but could not be saved is a failure here: who runs a command wants it on the disk.
 Answer importSnippets(SnippetStore& store, const std::filesystem::path& file);
 Answer exportSnippets(const SnippetStore& store, const std::filesystem::path& file);
 

@@ -1,35 +1,28 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <QLocale>
 #include <chrono>
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <string_view>
 
 #include "base/AtomicFile.h"
+#include "base/Translate.h"
 #include "main/CommandLine.h"
 #include "main/Commands.h"
 #include "main/Program.h"
 #include "main/Resources.h"
-#include "main/SessionKind.h"
+#include "main/WindowSystem.h"
 #include "model/StorageFolder.h"
 #include "platform/freedesktop/BaseFolders.h"
 #include "platform/freedesktop/DesktopEntry.h"
-#include "platform/x11/Handles.h"
 #include "platform/x11/SelectionKeeper.h"
 #include "ui/Translations.h"
 #include "ui/settings/ApplicationIcon.h"
 
 namespace tessarin {
 namespace {
-
-/// Qt would abort where no window can open; this says so in a sentence.
-bool canOpenWindows() {
-  if (std::getenv("QT_QPA_PLATFORM") != nullptr || isWaylandSession()) return true;
-  const x11::Connection connection(xcb_connect(nullptr, nullptr));
-  return xcb_connection_has_error(connection.get()) == 0;
-}
 
 /// What earlier instances left when they were killed, except what `--allow` may be writing just now.
 void tidyUpPreferences() {
@@ -43,7 +36,8 @@ int run(int argc, char** argv, bool opensSettings) {
   if (reached.answer) return commands::report(*reached.answer);
   if (!reached.folder) return commands::reportNoAnswer();
   if (!canOpenWindows()) {
-    return commands::report({false, "no display to open a window on; try from a desktop session"});
+    return commands::report(
+        {false, translate("Commands", "no display to open a window on; try from a desktop session")});
   }
   tidyUpPreferences();
   UnixSignals signals;
@@ -62,6 +56,7 @@ int start(int argc, char** argv) {
   using Action = CommandLine::Action;
   const bool keepsSelections = argc == 2 && std::string_view(argv[1]) == x11::SelectionKeeper::option;
   if (keepsSelections) return x11::SelectionKeeper::run(STDIN_FILENO, STDOUT_FILENO);
+  ui::installTerminalTranslations(QLocale());
   const CommandLine line = CommandLine::parse({argv + 1, argv + argc});
   switch (line.action) {
     case Action::run:

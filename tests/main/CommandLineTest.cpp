@@ -1,12 +1,19 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QLocale>
+
+#include "base/Translate.h"
 #include "main/CommandLine.h"
+#include "ui/Translations.h"
 
 namespace tessarin {
 namespace {
 
 using Action = CommandLine::Action;
+using ::testing::ContainsRegex;
+using ::testing::HasSubstr;
+using ::testing::Not;
 
 CommandLine wrong(const std::string& problem) {
   return {.action = Action::wrongUsage, .argument = problem};
@@ -63,6 +70,21 @@ TEST(CommandLineTest, SaysWhatIsWrong) {
     SCOPED_TRACE(::testing::PrintToString(expected.arguments));
     EXPECT_EQ(CommandLine::parse(expected.arguments), wrong(expected.problem));
   }
+}
+
+TEST(CommandLineTest, SpeaksTheLanguageOfTheUser) {
+  const std::string english = usage();
+  ui::installTerminalTranslations(QLocale(QLocale::German, QLocale::Germany));
+  const std::string german = usage();
+  EXPECT_EQ(CommandLine::parse({"--quiet"}), wrong("unbekannte Option --quiet"));
+  EXPECT_EQ(CommandLine::parse({"--import"}), wrong("--import braucht ein Argument: DATEI"));
+  ui::installTerminalTranslations(QLocale(QLocale::C));
+  const std::string untranslated = usage();
+  setTranslator(nullptr);
+  EXPECT_THAT(german, HasSubstr("Aufruf: tessarin [OPTION]\n"));
+  EXPECT_THAT(german, ContainsRegex("\n  --quit          beendet das laufende Programm\n"));
+  for (const char* word : {"usage", "FILE", "show", "with"}) EXPECT_THAT(german, Not(HasSubstr(word)));
+  EXPECT_EQ(untranslated, english);
 }
 
 }  // namespace

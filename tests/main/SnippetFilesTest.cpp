@@ -48,13 +48,14 @@ TEST_F(SnippetFilesTest, SaysWhyAnImportOrExportFailed) {
   EXPECT_THAT(answer.text, StartsWith("Export failed: "));
 }
 
-TEST_F(SnippetFilesTest, AnImportHasFailedUntilItIsOnTheDisk) {
+TEST_F(SnippetFilesTest, AnImportSaysThatItIsNotYetOnTheDisk) {
   folder.write("storage", "a file where the folder should be");
   writeImport({snippet("one", "1")});
   for (int attempt = 0; attempt < 2; ++attempt) {
     const Answer answer = importSnippets(store, folder / "import.json");
     EXPECT_FALSE(answer.isSuccess);
-    EXPECT_THAT(answer.text, StartsWith("Import failed: cannot create "));
+    EXPECT_THAT(answer.text, StartsWith("Not saved: cannot create "));
+    EXPECT_EQ(store.userSnippets().size(), 1U);
   }
   std::filesystem::remove(folder / "storage");
   EXPECT_EQ(importSnippets(store, folder / "import.json"), (Answer{true, "Imported 0 snippets"}));

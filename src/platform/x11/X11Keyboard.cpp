@@ -3,25 +3,15 @@
 #include <xcb/xinput.h>
 #include <xcb/xtest.h>
 
-#include <cstdlib>
-#include <string_view>
 #include <utility>
 
+#include "base/SessionKind.h"
 #include "platform/x11/KeyFilter.h"
 #include "platform/x11/SessionKeyboard.h"
 #include "platform/x11/XkbProtocol.h"
 
 namespace tessarin::x11 {
 namespace {
-
-std::string_view variable(const char* name) {
-  const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): nothing here writes it
-  return value != nullptr ? value : "";
-}
-
-bool isWaylandSession() {
-  return variable("XDG_SESSION_TYPE") == "wayland" || !variable("WAYLAND_DISPLAY").empty();
-}
 
 bool isPresent(xcb_connection_t* connection, xcb_extension_t& extension) {
   const auto* data = xcb_get_extension_data(connection, &extension);

@@ -2,7 +2,7 @@
 
 #include <map>
 
-#include "main/SessionKind.h"
+#include "base/SessionKind.h"
 
 namespace tessarin {
 namespace {
@@ -17,6 +17,8 @@ TEST(SessionKindTest, isJudgedByTheSession) {
       {{{"XDG_SESSION_TYPE", "x11"}, {"DISPLAY", ":0"}}, false},
       {{{"XDG_SESSION_TYPE", "wayland"}, {"DISPLAY", ":0"}}, true},
       {{{"WAYLAND_DISPLAY", "wayland-0"}, {"DISPLAY", ":0"}}, true},
+      {{{"XDG_SESSION_TYPE", "x11"}, {"WAYLAND_DISPLAY", "wayland-0"}, {"DISPLAY", ":0"}}, false},
+      {{{"XDG_SESSION_TYPE", "tty"}, {"WAYLAND_DISPLAY", "wayland-0"}}, true},
       {{{"WAYLAND_DISPLAY", ""}, {"DISPLAY", ":0"}}, false},
   };
   for (const Case& expected : cases) {
