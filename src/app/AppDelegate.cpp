@@ -49,7 +49,9 @@ void AppDelegate::applicationDidFinishLaunching() {
   installPanelHandlers();
   installHandlers();
   observeDesktop();
-  if (!permissions_.isAccessibilityGranted()) permissions_.promptForAccessibility();
+  if (!permissions_.isAccessibilityGranted()) {
+    permissions_.promptForAccessibility(PromptManner::unobtrusive);
+  }
   showOnboardingIfNeeded();
   log(appComponent, "App launched and ready");
 }

@@ -26,7 +26,7 @@ bool KeyboardMonitor::start() {
   if (hasTap_) return true;
   if (!accessibility_.isTrusted()) {
     log(monitorComponent, "No Accessibility permission — requesting");
-    accessibility_.prompt();
+    accessibility_.prompt(PromptManner::unobtrusive);
     return false;
   }
   if (!tap_.create([this](const KeyEvent& event) { return handle(event); })) {

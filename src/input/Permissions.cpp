@@ -15,8 +15,8 @@ bool Permissions::isAccessibilityGranted() const {
 void Permissions::requestListenAccess() {
   inputMonitoring_.request();
 }
-void Permissions::promptForAccessibility() {
-  accessibility_.prompt();
+void Permissions::promptForAccessibility(PromptManner manner) {
+  accessibility_.prompt(manner);
 }
 void Permissions::openInputMonitoringSettings() {
   workspace_.openUrl(inputMonitoringSettingsUrl);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/PromptManner.h"
+
 namespace tessarin {
 
 class Accessibility;
@@ -24,7 +26,7 @@ class Permissions {
   /// May show the platform's own explanation. The answer is seen by asking again later.
   void requestListenAccess();
   /// Asks the user for trust; shows nothing when it is given already.
-  void promptForAccessibility();
+  void promptForAccessibility(PromptManner manner = PromptManner::inFront);
   void openInputMonitoringSettings();
   void openAccessibilitySettings();
 

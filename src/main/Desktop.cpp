@@ -38,14 +38,14 @@ Desktop::Desktop()
     : defaults_(freedesktop::configFolder(processEnvironment) / "preferences.json"),
       trust_(freedesktop::configFolder(processEnvironment)),
       loginItem_(std::filesystem::canonical("/proc/self/exe")),
-      trustPrompt_([this] { allow(); }),
+      trustPrompt_([this](bool isTrusted) { recordAnswer(isTrusted); }),
       popupWindow_(screens_),
       selections_(x11::X11Selections::connect(queue_)),
       general_(selections_ ? selections_->general() : noPasteboard_, QClipboard::Clipboard),
       primary_(selections_ ? selections_->primary() : noPasteboard_, QClipboard::Selection),
       x11Workspace_(x11::X11Workspace::connect(queue_, applicationMatcher())),
       workspace_(sessionWorkspace(),
-                 {{Permissions::accessibilitySettingsUrl, [this] { askForTrust(); }},
+                 {{Permissions::accessibilitySettingsUrl, [this] { askForTrust(PromptManner::inFront); }},
                   {Permissions::inputMonitoringSettingsUrl, [this] { inputMonitoring_.showExplanation(); }}}),
       inputMonitoring_([this] { return keyTapState(); },
                        [this](const Explanation& why) { inputMonitoringHelp_.show(why.headline, why.text); }),
@@ -100,7 +100,7 @@ void Desktop::shutdown() {
 atspi::AtspiAccessibility::Options Desktop::accessibilityOptions() {
   atspi::AtspiAccessibility::Options options;
   options.isTrusted = [this] { return trust_.isTrusted(); };
-  options.prompt = [this] { askForTrust(); };
+  options.prompt = [this](PromptManner manner) { askForTrust(manner); };
   options.coordinateSpace = [this] { return screens_.space(); };
   options.activeProcess = [this] { return activeWindow_.process(); };
   options.isInBackground = [this](std::uint32_t process) { return activeWindow_.isInBackground(process); };
@@ -133,11 +133,15 @@ KeyGuard Desktop::keyGuard() {
   return KeyGuard::unsure;
 }
 
-void Desktop::askForTrust() {
-  if (!trust_.isTrusted()) trustPrompt_.ask();
+void Desktop::askForTrust(PromptManner manner) {
+  if (!trust_.isTrusted()) trustPrompt_.ask(manner);
 }
 
-void Desktop::allow() {
+void Desktop::recordAnswer(bool isTrusted) {
+  if (!isTrusted) {
+    trust_.disallow();
+    return;
+  }
   trust_.allow();
   atspi::AccessibilityBus::enable();
 }

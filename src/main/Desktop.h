@@ -62,8 +62,8 @@ class Desktop {
   Workspace& sessionWorkspace();
   KeyTapState keyTapState();
   KeyGuard keyGuard();
-  void askForTrust();
-  void allow();
+  void askForTrust(PromptManner manner);
+  void recordAnswer(bool isTrusted);
 
   ui::QtMainQueue queue_;
   SystemWallClock clock_;

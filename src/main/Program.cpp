@@ -28,7 +28,10 @@ AppDelegate::Services services(Desktop& desktop, Windows& windows, QApplication&
 
 Program::Program(QApplication& application, UnixSignals& signals, const std::filesystem::path& resources,
                  const std::filesystem::path& storage)
-    : windows_(desktop_), controller_(services(desktop_, windows_, application, resources, storage)) {
+    : windows_(desktop_),
+      controller_(services(desktop_, windows_, application, resources, storage)),
+      shortcuts_({.quit = [this] { controller_.menuBarManager().quitApp(); },
+                  .openSettings = [this] { showSettings(); }}) {
   observeSession(application, signals);
   listenForRequests(storage);
 }

@@ -11,6 +11,7 @@
 #include "main/UnixSignals.h"
 #include "main/Windows.h"
 #include "platform/freedesktop/InstanceSocket.h"
+#include "ui/WindowShortcuts.h"
 
 class QApplication;
 
@@ -39,6 +40,7 @@ class Program {
   Desktop desktop_;
   Windows windows_;
   AppDelegate controller_;
+  ui::WindowShortcuts shortcuts_;
   std::optional<freedesktop::InstanceSocket> requests_;
   std::unique_ptr<QSocketNotifier> requestNotifier_;
 };

@@ -43,7 +43,9 @@ int run(int argc, char** argv, bool opensSettings) {
   UnixSignals signals;
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication application(argc, argv);
-  QApplication::setApplicationName("tessarin");
+  // What trays and screen readers read out, and the class of our windows. Not the display name, which would
+  // be added to every title.
+  QApplication::setApplicationName("Tessarin");
   QApplication::setDesktopFileName("tessarin");
   ui::installTranslations(application);
   ui::searchIconsBeside(freedesktop::applicationFolders(processEnvironment));

@@ -11,6 +11,7 @@
 
 #include "base/Geometry.h"
 #include "base/Subscription.h"
+#include "platform/PromptManner.h"
 
 namespace tessarin {
 
@@ -82,8 +83,9 @@ class Accessibility {
   /// Whether the user trusts the program to judge keys and to write into other applications. Asked afresh
   /// every time.
   virtual bool isTrusted() = 0;
-  /// Asks the user for that trust; does nothing when it is given already or while the question stands.
-  virtual void prompt() = 0;
+  /// Asks the user for that trust; does nothing when it is given already. A question that stands comes up
+  /// again.
+  virtual void prompt(PromptManner manner) = 0;
 
   virtual ElementRef systemWide() = 0;
   /// None when the element has no such attribute, does not answer, or has gone.

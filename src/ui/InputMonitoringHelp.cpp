@@ -1,5 +1,7 @@
 #include "ui/InputMonitoringHelp.h"
 
+#include "ui/style/Windows.h"
+
 namespace tessarin::ui {
 
 InputMonitoringHelp::~InputMonitoringHelp() {
@@ -12,10 +14,9 @@ void InputMonitoringHelp::show(const std::string& headline, const std::string& t
                               QMessageBox::Ok);
     dialog_->setAttribute(Qt::WA_DeleteOnClose);
     dialog_->setInformativeText(QString::fromStdString(text));
-    dialog_->open();
+    dialog_->setWindowModality(Qt::NonModal);
   }
-  dialog_->raise();
-  dialog_->activateWindow();
+  bringToFront(*dialog_);
 }
 
 }  // namespace tessarin::ui

@@ -43,8 +43,10 @@ TEST_F(LaunchTest, ShowsTheTrayItemAndStartsTheMonitorAfterOneSecond) {
 TEST_F(LaunchTest, RetriesEveryThreeSecondsOnceTrusted) {
   app.accessibility.trusted = false;
   launch();
+  EXPECT_EQ(app.accessibility.lastPrompt, PromptManner::unobtrusive);
   app.queue.advance(1s);
   EXPECT_EQ(app.accessibility.prompts, 2) << "at launch and by the first start";
+  EXPECT_EQ(app.accessibility.lastPrompt, PromptManner::unobtrusive);
   EXPECT_THAT(app.log.lines(), Contains(failed).Times(1));
   app.queue.advance(9s);
   EXPECT_EQ(app.accessibility.prompts, 2) << "a tick without trust does nothing";

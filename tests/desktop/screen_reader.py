@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""Prints what a screen reader is told of the program's windows, a line for each element: role, name, value, states.
-To be run in the session that is looked at."""
+"""Prints what a screen reader is told of the program's windows, a line for each element: role, name, value, states, and
+where it stands on the screen (x, y, width, height). To be run in the session that is looked at."""
 
 import sys
 
@@ -18,8 +18,11 @@ def describe(element, depth=0):
     words = [word for state, word in STATES.items() if states.contains(state)]
     text = element.get_text_iface()
     value = text.get_text(0, -1) if text else ""
-    print("\t".join(["  " * depth + element.get_role_name(), element.get_name() or "", value.replace("\n", "⏎"),
-                     " ".join(words)]))
+    component = element.get_component_iface()
+    place = component.get_extents(Atspi.CoordType.SCREEN) if component else Atspi.Rect()
+    print("\t".join(["  " * depth + element.get_role_name(), element.get_name() or "",
+                     value.replace("\n", "⏎").replace("\t", " "), " ".join(words),
+                     f"{place.x} {place.y} {place.width} {place.height}"]))
     for index in range(min(element.get_child_count(), 200)):
         child = element.get_child_at_index(index)
         if child is not None:

@@ -10,12 +10,14 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools/desk
 
 from editors import Mousepad
 from session import ROOT, Session, Tessarin, wait_for
+from tray import Tray
 from typist import Typist
 
 
 class ApplicationTest(unittest.TestCase):
     preferences = {}
     window_manager = ("openbox", "--sm-disable")
+    allowed = True
 
     def setUp(self):
         self.session = self.enterContext(Session(window_manager=self.window_manager))
@@ -24,7 +26,7 @@ class ApplicationTest(unittest.TestCase):
         self.preferences_path.write_text(json.dumps(self.preferences))
         self.typist = Typist(self.session)
         self.addCleanup(self.typist.close)
-        self.tessarin = self.enterContext(Tessarin(self.session))
+        self.tessarin = self.enterContext(Tessarin(self.session, self.allowed))
 
     def stored(self, key):
         return json.loads(self.preferences_path.read_text()).get(key)
@@ -41,11 +43,23 @@ class ApplicationTest(unittest.TestCase):
 
     def heard(self):
         """What a screen reader is told, line by line."""
-        return self.session.run(ROOT / "tests/desktop/screen_reader.py", "tessarin").stdout.decode().splitlines()
+        return self.session.run(ROOT / "tests/desktop/screen_reader.py", "Tessarin").stdout.decode().splitlines()
 
     def wait_until_heard(self, *texts):
         return wait_for(lambda: all(any(text in line for line in self.heard()) for text in texts), 20,
                         f"a screen reader to hear {texts}")
+
+    def place_of(self, role, name):
+        """Of what a screen reader calls so; of several the one told of last, which is in the newest window."""
+        for line in reversed(self.heard()):
+            heard_role, heard_name, _, states, place = line.strip().split("\t")
+            if (heard_role, heard_name) == (role, name) and "showing" in states.split():
+                return [int(number) for number in place.split()]
+        return None
+
+    def click(self, role, name):
+        x, y, width, height = wait_for(lambda: self.place_of(role, name), what=f"the {role} “{name}”")
+        self.typist.click(x + width // 2, y + height // 2)
 
 
 class FirstRun(ApplicationTest):
@@ -90,6 +104,49 @@ class FirstRun(ApplicationTest):
         self.wait_until_heard("Usage Statistics", ":tada:", ":smile:")
 
 
+class FirstRunWithoutTrust(ApplicationTest):
+    allowed = False
+
+    def setUp(self):
+        super().setUp()
+        self.tray = self.enterContext(Tray(self.session))
+        self.tray.wait_for_items(1)
+        self.record = self.preferences_path.parent / "trust"
+
+    def is_active(self, title):
+        return getattr(self.typist.titled(title), "id", None) == self.typist.active_window()
+
+    def wait_until_active(self, title):
+        wait_for(lambda: self.is_active(title), what=f"“{title}” to be in front")
+
+    def test_the_question_is_in_view_and_leaves_the_keyboard_to_the_welcome(self):
+        self.wait_until_active("Welcome to Tessarin")
+        question = wait_for(lambda: self.typist.titled("Tessarin"), what="the question")
+        self.assertEqual(self.typist.stacked_windows()[-1], question.id)
+        for _ in range(4):
+            self.typist.press("Return")
+        wait_for(lambda: self.stored("hasCompletedOnboarding"), what="the welcome to be over")
+        self.assertFalse(self.record.exists())
+        self.tray.choose("  Accessibility: ✗ (optional)")
+        self.wait_until_active("Tessarin")
+        self.typist.press("Return")
+        wait_for(self.record.exists, what="an answer")
+        self.assertEqual(self.record.read_text(), "no\n")
+        self.tray.choose("  Accessibility: ✗ (optional)")
+        self.wait_until_active("Tessarin")
+
+    def test_the_keys_of_the_menu_work_in_every_window(self):
+        self.wait_until_active("Welcome to Tessarin")
+        self.typist.press("comma", "Control_L")
+        self.wait_until_active("Tessarin Settings")
+        self.typist.press("q", "Control_L")
+        wait_for(lambda: not self.tray.items(), what="its end")
+
+
+class UnderAStrictWindowManager(FirstRunWithoutTrust):
+    window_manager = ("metacity",)
+
+
 class FocusIsGuarded(ApplicationTest):
     """Under a window manager that lets no program take the focus from where the user types."""
 
@@ -128,6 +185,23 @@ class SecondStart(ApplicationTest):
         answer = self.tessarin.command("--import", "broken.json", cwd=folder, check=False)
         self.assertEqual(answer.returncode, 1)
         self.assertIn("Import failed: ", answer.stderr.decode())
+
+    def test_a_snippet_is_made_with_mouse_and_keys(self):
+        self.tessarin.command("--settings")
+        self.window("Tessarin Settings")
+        self.click("check box", "Show menu bar icon")
+        wait_for(lambda: self.stored("showMenuBarIcon") is False, what="the click to count")
+        self.click("page tab", "Snippets")
+        self.click("push button", "Add")
+        self.wait_until_heard("New Snippet")
+        for field, text in (("Name", "Zebra"), ("Trigger", "zqzebra"), ("Replacement", "stripes\nand more")):
+            self.click("text", field)
+            self.typist.type(text)
+        self.click("push button", "Add")
+        self.wait_until_heard(":zqzebra:")
+        with Mousepad(self.session, self.typist) as editor:
+            self.typist.type(":zqzebra\n")
+            self.assertEqual(editor.wait_for_document("stripes\nand more"), "stripes\nand more")
 
     def test_toggle_ends_a_collecting(self):
         with Mousepad(self.session, self.typist) as editor:

@@ -6,7 +6,7 @@ import os
 import pathlib
 import signal
 import sys
-import unittest
+import unittest.mock
 
 from Xlib import X, display
 from Xlib.protocol import event
@@ -44,6 +44,28 @@ class TrayTest(unittest.TestCase):
                 with Tray(self.session) as tray:
                     tray.wait_for_items(1)
                     self.assertIn("Quit Tessarin", tray.open_menu())
+
+    def test_a_left_click_opens_the_menu_and_its_keys_choose(self):
+        with Tray(self.session) as tray, Tessarin(self.session) as program:
+            tray.wait_for_items(1)
+            self.assertEqual(tray.title(), "Tessarin")
+            typist = Typist(self.session)
+            self.addCleanup(typist.close)
+            with Mousepad(self.session, typist) as editor:
+                typist.type("a:smile")
+                wait_for(typist.popup, what="the popup")
+                before = typist.unmanaged_windows()
+                tray.activate(300, 200)
+                wait_for(lambda: not typist.popup(), what="the popup to go")
+                wait_for(lambda: typist.unmanaged_windows() - before, what="the menu")
+                typist.press("Escape")
+                wait_for(lambda: typist.unmanaged_windows() <= before, what="the menu to go")
+                typist.type("\nb")
+                self.assertEqual(editor.wait_for_document("a:smile\nb"), "a:smile\nb")
+                tray.activate(300, 200)
+                wait_for(lambda: typist.unmanaged_windows() - before, what="the menu")
+                typist.press("q")
+                wait_for(lambda: "Event tap stopped" in program.log, what="an orderly end")
 
     def test_an_old_style_tray_may_come_late(self):
         with Tessarin(self.session):
@@ -135,7 +157,19 @@ class CommandLineTest(unittest.TestCase):
             self.assertEqual((status, out), (2, ""))
             self.assertIn("usage: tessarin", problem)
         self.assertEqual(self.tessarin("--toggle"), (1, "", "tessarin: no instance is running\n"))
-        self.assertEqual(self.tessarin()[0], 1)
+        for session in ({}, {"XDG_SESSION_TYPE": "wayland"}, {"QT_QPA_PLATFORM": "xcb"}, {"QT_QPA_PLATFORM": "wayland"}):
+            with self.subTest(session), unittest.mock.patch.dict(self.without_display, session):
+                status, _, problem = self.tessarin()
+                self.assertEqual(status, 1)
+                self.assertIn("no display to open a window on", problem)
+
+    def test_answers_in_the_language_of_the_user(self):
+        self.without_display["LC_ALL"] = "de_DE.UTF-8"
+        self.assertTrue(self.tessarin("--help")[1].startswith("Aufruf: tessarin [OPTION]\n"))
+        self.assertEqual(self.tessarin("--quit"), (1, "", "tessarin: Tessarin läuft nicht\n"))
+        (self.session.folder / "in.json").write_text(snippets("zqxa", "zqxb"))
+        self.assertEqual(self.tessarin("--import", self.session.folder / "in.json"), (0, "2 Bausteine importiert\n", ""))
+        self.assertEqual(self.tessarin("--search", "zqxb"), (0, "zqxb\tZQXB\tzqxb\n", ""))
 
     def test_the_running_instance_does_it(self):
         with Tessarin(self.session) as program:

@@ -83,6 +83,14 @@ class Tray:
         """The picture's bytes, of every size that is offered."""
         return self._property("IconPixmap")
 
+    def title(self):
+        """What the host calls the item."""
+        return self._property("Title")
+
+    def activate(self, x, y):
+        """A left click on the item, at this place on the screen."""
+        self._call("/StatusNotifierItem", ITEM, "Activate", GLib.Variant("(ii)", (x, y)))
+
     def open_menu(self):
         """Opens it as a host does, and answers its entries: title -> (id, properties)."""
         path = self._property("Menu")

@@ -73,6 +73,7 @@ TEST_F(MenuBarManagerTest, RequestsWhatIsMissingAndShowsTheAnswer) {
   monitoring.granted = true;
   statusBar.choose("  Accessibility: ✗ (optional)");
   EXPECT_EQ(accessibility.prompts, 1);
+  EXPECT_EQ(accessibility.lastPrompt, PromptManner::inFront);
   EXPECT_TRUE(statusBar.item("  Input Monitoring: ✓")) << "the state of the moment";
   accessibility.trusted = true;
   EXPECT_TRUE(statusBar.item("  Accessibility: ✗ (optional)"));

@@ -39,7 +39,10 @@ class FakeAccessibility final : public Accessibility {
   FakeAccessibility();
 
   bool isTrusted() override { return trusted; }
-  void prompt() override { ++prompts; }
+  void prompt(PromptManner manner) override {
+    ++prompts;
+    lastPrompt = manner;
+  }
   ElementRef systemWide() override { return system; }
   std::optional<AttributeValue> attribute(const ElementRef& element, std::string_view name) override;
   std::optional<AttributeValue> parameterizedAttribute(const ElementRef& element, std::string_view name,
@@ -64,6 +67,7 @@ class FakeAccessibility final : public Accessibility {
   bool trusted = true;
   bool busy = false;
   int prompts = 0;
+  std::optional<PromptManner> lastPrompt;
   std::chrono::milliseconds callDuration{0};  ///< what every call takes
   std::vector<std::chrono::milliseconds> budgets;
   std::vector<Write> writes;

@@ -149,6 +149,7 @@ class Tessarin:
         self.program = program
         self.log_path = session.folder / "tessarin.log"
         self._child = None
+        self._ready = "Keyboard monitor started successfully" if allowed else "will retry when permission is granted"
         if allowed:
             session.run(program, "--allow")
         if not welcomes:
@@ -168,10 +169,9 @@ class Tessarin:
         self.stop()
 
     def start(self):
-        ready = "Keyboard monitor started successfully"
-        earlier = self.log.count(ready)
+        earlier = self.log.count(self._ready)
         self._child = self.session.start(self.program, stdout=self.log_path.open("ab"), stderr=subprocess.STDOUT)
-        self.wait_for_log(ready, earlier + 1)
+        self.wait_for_log(self._ready, earlier + 1)
 
     def stop(self, how=signal.SIGTERM):
         if self._child is None:

@@ -111,6 +111,10 @@ class Typist:
     def client_windows(self):
         return set(self._root_property("_NET_CLIENT_LIST"))
 
+    def stacked_windows(self):
+        """The managed windows, the topmost last."""
+        return self._root_property("_NET_CLIENT_LIST_STACKING")
+
     def titled(self, title):
         """The managed window of this title, or nothing."""
         name = self.display.intern_atom("_NET_WM_NAME")
@@ -123,6 +127,18 @@ class Typist:
             if shown and shown.value.decode() == title:
                 return window
         return None
+
+    def unmanaged_windows(self):
+        """What is on screen without the window manager: menus, and the popup."""
+        shown = set()
+        for child in self.display.screen().root.query_tree().children:
+            try:
+                attributes = child.get_attributes()
+            except Exception:  # a window that went between the two questions
+                continue
+            if attributes.override_redirect and attributes.map_state == X.IsViewable:
+                shown.add(child.id)
+        return shown
 
     def popup(self):
         """Frame of the popup on screen (x, y, width, height), or nothing."""

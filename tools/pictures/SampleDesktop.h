@@ -27,7 +27,7 @@ struct SampleGrants final : Accessibility, InputMonitoring {
   bool monitoring = true;
 
   bool isTrusted() override { return trusted; }
-  void prompt() override {}
+  void prompt(PromptManner) override {}
   ElementRef systemWide() override { return nullptr; }
   std::optional<AttributeValue> attribute(const ElementRef&, std::string_view) override {
     return std::nullopt;

@@ -113,8 +113,8 @@ void takeUpdates(Camera& camera, SampleDesktop& desktop) {
 }
 
 void takeDialogs(Camera& camera) {
-  ui::TrustPrompt trust([] {});
-  trust.ask();
+  ui::TrustPrompt trust([](bool) {});
+  trust.ask(PromptManner::inFront);
   camera.takeTop("trust");
   ui::InputMonitoringHelp help;
   const Explanation why = explain(KeyTapState::waylandSession);

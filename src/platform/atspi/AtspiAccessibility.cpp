@@ -40,8 +40,8 @@ bool AtspiAccessibility::isTrusted() {
   return options_.isTrusted && options_.isTrusted();
 }
 
-void AtspiAccessibility::prompt() {
-  if (options_.prompt) options_.prompt();
+void AtspiAccessibility::prompt(PromptManner manner) {
+  if (options_.prompt) options_.prompt(manner);
 }
 
 ElementRef AtspiAccessibility::systemWide() {

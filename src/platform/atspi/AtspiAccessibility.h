@@ -28,7 +28,7 @@ class AtspiAccessibility final : public Accessibility {
  public:
   struct Options {
     std::function<bool()> isTrusted;
-    std::function<void()> prompt;
+    std::function<void(PromptManner)> prompt;
     /// Asked at every rectangle, for its scale.
     std::function<CoordinateSpace()> coordinateSpace;
     /// The active window's visible frame on the screen, in pixels. Its size tells the scale that an
@@ -55,7 +55,7 @@ class AtspiAccessibility final : public Accessibility {
   ~AtspiAccessibility() override;
 
   bool isTrusted() override;
-  void prompt() override;
+  void prompt(PromptManner manner) override;
   ElementRef systemWide() override;
   std::optional<AttributeValue> attribute(const ElementRef& element, std::string_view name) override;
   std::optional<AttributeValue> parameterizedAttribute(const ElementRef& element, std::string_view name,

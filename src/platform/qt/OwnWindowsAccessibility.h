@@ -18,7 +18,7 @@ class OwnWindowsAccessibility final : public Accessibility {
   explicit OwnWindowsAccessibility(Accessibility& others);
 
   bool isTrusted() override { return others_.isTrusted(); }
-  void prompt() override { others_.prompt(); }
+  void prompt(PromptManner manner) override { others_.prompt(manner); }
   ElementRef systemWide() override { return systemWide_; }
   std::optional<AttributeValue> attribute(const ElementRef& element, std::string_view name) override;
   std::optional<AttributeValue> parameterizedAttribute(const ElementRef& element, std::string_view name,

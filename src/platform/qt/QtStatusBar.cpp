@@ -1,6 +1,7 @@
 #include "platform/qt/QtStatusBar.h"
 
 #include <QAction>
+#include <QCursor>
 #include <utility>
 
 #include "platform/qt/TextCursorIcon.h"
@@ -15,11 +16,19 @@ void QtStatusBar::makeItem() {
   item_ = std::make_unique<QSystemTrayIcon>();
   item_->setToolTip(description_);
   if (menu_) item_->setContextMenu(menu_.get());
+  QObject::connect(item_.get(), &QSystemTrayIcon::activated, item_.get(),
+                   [this](QSystemTrayIcon::ActivationReason reason) { handleActivation(reason); });
   showItem();
 }
 
+// Hosts open the menu themselves for the right button only.
+void QtStatusBar::handleActivation(QSystemTrayIcon::ActivationReason reason) {
+  const bool isLeftClick = reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick;
+  if (isLeftClick && menu_) menu_->popup(QCursor::pos());
+}
+
 void QtStatusBar::setMenu(const std::vector<MenuItem>& items) {
-  auto menu = std::make_unique<QMenu>();
+  auto menu = std::make_unique<TrayMenu>();
   QObject::connect(menu.get(), &QMenu::aboutToShow, menu.get(), [this] {
     if (menuOpening_) menuOpening_();
   });

@@ -162,8 +162,16 @@ void XClient::click(int x, int y) {
 }
 
 void XClient::becomeCompositor() {
-  const xcb_window_t window = openWindow({0, 0, 1, 1}, "compositor", {.isOverrideRedirect = true});
-  xcb_set_selection_owner(connection_.get(), window, atoms_.atom("_NET_WM_CM_S0"), XCB_CURRENT_TIME);
+  own("_NET_WM_CM_S0");
+}
+
+void XClient::becomeTray() {
+  own("_NET_SYSTEM_TRAY_S0");
+}
+
+void XClient::own(const std::string& selection) {
+  const xcb_window_t window = openWindow({0, 0, 1, 1}, "owner", {.isOverrideRedirect = true});
+  xcb_set_selection_owner(connection_.get(), window, atoms_.atom(selection), XCB_CURRENT_TIME);
   sync();
 }
 

@@ -49,10 +49,13 @@ class XClient {
   void click(int x, int y);
   /// Says that windows are composed here, as long as this client lives.
   void becomeCompositor();
+  /// Likewise, that there is an old-style tray; it leaves the icons where they are.
+  void becomeTray();
   void setDpi(int dpi);
   void setRootNumbers(const std::string& property, const std::vector<std::uint32_t>& numbers);
 
  private:
+  void own(const std::string& selection);
   void set(xcb_window_t window, xcb_atom_t property, const std::string& text);
   void sync() const { focusedWindow(); }
 

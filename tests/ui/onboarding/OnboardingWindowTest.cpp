@@ -95,6 +95,7 @@ TEST_F(OnboardingWindowTest, PermissionsAreLive) {
   EXPECT_EQ(others.prompts, 0);
   click("Grant", 1);
   EXPECT_EQ(others.prompts, 1);
+  EXPECT_EQ(others.lastPrompt, PromptManner::inFront);
   inputMonitoring.granted = true;
   queue.advance(2000ms);
   EXPECT_THAT(buttons(), ElementsAre("Grant", "Back", "Continue"));
