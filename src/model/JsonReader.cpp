@@ -225,7 +225,7 @@ void JsonReader::skip() {
       string();
       return;
     case Kind::number:
-      number();
+      at_ += numberToken().size();  // whatever its size
       return;
     case Kind::boolean:
       boolean();

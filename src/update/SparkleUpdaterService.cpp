@@ -30,6 +30,7 @@ SparkleUpdaterService::SparkleUpdaterService(UpdaterSeams seams, BuildSettings s
 void SparkleUpdaterService::applyPolicy() {
   updaterController_->clearFeedUrlFromUserDefaults();
   updaterController_->setAutomaticallyChecksForUpdates(defaults_.boolean(automaticChecksKey).value_or(false));
+  updaterController_->setAutomaticallyDownloadsUpdates(false);
   updaterController_->setUpdateCheckInterval(checkInterval);
 }
 

@@ -45,6 +45,12 @@ class Updater {
   /// Off at first.
   bool automaticallyChecksForUpdates() const { return schedule_.isEnabled(); }
   void setAutomaticallyChecksForUpdates(bool automatically) { schedule_.setEnabled(automatically); }
+  /// Off at first. A desktop has nothing that an updater may fetch and install by itself, so an update that
+  /// was found is only offered where this is on, too.
+  bool automaticallyDownloadsUpdates() const { return automaticallyDownloadsUpdates_; }
+  void setAutomaticallyDownloadsUpdates(bool automatically) {
+    automaticallyDownloadsUpdates_ = automatically;
+  }
   std::chrono::seconds updateCheckInterval() const { return schedule_.interval(); }
   void setUpdateCheckInterval(std::chrono::seconds interval) { schedule_.setInterval(interval); }
   /// Discards an address that is stored in the preferences, and returns it. Only the delegate's counts.
@@ -68,6 +74,7 @@ class Updater {
   UpdaterDelegate& delegate_;
   Installation installation_;
   UpdateSchedule schedule_;
+  bool automaticallyDownloadsUpdates_ = false;
   Asked asked_ = Asked::byNobody;
   bool isOffering_ = false;  ///< an update is shown and the user has not chosen yet
   Subscription check_;       ///< while one runs

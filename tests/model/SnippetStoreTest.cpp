@@ -56,7 +56,7 @@ class SnippetStoreTest : public ::testing::Test {
   std::unique_ptr<SnippetStore> makeStoreWithTwo() {
     writeUserFile({mine("1", "sig"), mine("2", "sign")});
     auto store = makeStore();
-    log_.lines.clear();
+    log_.clear();
     return store;
   }
   void writeUserFile(const std::vector<Snippet>& snippets) const {
@@ -73,9 +73,9 @@ class SnippetStoreTest : public ::testing::Test {
 TEST_F(SnippetStoreTest, LoadsEverythingInOrder) {
   writeUserFile({mine("x", "sig")});
   const auto store = makeStore();
-  EXPECT_THAT(log_.lines, ElementsAre("[SnippetStore] Loaded 2 built-in emojis",
-                                      "[SnippetStore] Loaded 1 built-in kaomoji",
-                                      "[SnippetStore] Loaded 1 user snippets"));
+  EXPECT_THAT(log_.lines(), ElementsAre("[SnippetStore] Loaded 2 built-in emojis",
+                                        "[SnippetStore] Loaded 1 built-in kaomoji",
+                                        "[SnippetStore] Loaded 1 user snippets"));
   EXPECT_THAT(triggersOf(store->allSnippets()), ElementsAre("smile", "smirk", "shrug", "sig"));
   EXPECT_EQ(store->builtInSnippets()[1], (Snippet{"emoji_smirk", "smirk", "smirk", "😏", {}, "People", true}));
   EXPECT_EQ(store->builtInSnippets()[2].id, "kaomoji_shrug");
@@ -88,7 +88,7 @@ TEST_F(SnippetStoreTest, EachLoadingStepFailsByItself) {
   folder_.write("resources/kaomoji-data.json", wrong);
   folder_.write(userFile, wrong);
   EXPECT_THAT(makeStore()->userSnippets(), IsEmpty());
-  EXPECT_THAT(log_.lines,
+  EXPECT_THAT(log_.lines(),
               ElementsAre("[SnippetStore] emoji-data.json not found in bundle",
                           StartsWith("[SnippetStore] Failed to load kaomoji data: entry 1 lacks"),
                           StartsWith("[SnippetStore] Failed to load user snippets: entry 1 lacks")));
@@ -173,9 +173,9 @@ TEST_F(SnippetStoreTest, AFailedSaveIsLoggedAndChangesNothingInMemory) {
   const auto store = makeStore();
   fs::remove_all(folder_ / "storage");
   folder_.write("storage", "in the way");
-  log_.lines.clear();
+  log_.clear();
   store->addSnippet(mine("1", "sig"));
-  EXPECT_THAT(log_.lines, ElementsAre(StartsWith("[SnippetStore] Failed to save user snippets: ")));
+  EXPECT_THAT(log_.lines(), ElementsAre(StartsWith("[SnippetStore] Failed to save user snippets: ")));
   EXPECT_EQ(store->userSnippets().size(), 1U);
   EXPECT_EQ(folder_.read("storage"), "in the way");
 }
@@ -188,11 +188,11 @@ TEST_F(SnippetStoreTest, UnreadableFilesSurviveSeveralLaunches) {
     folder_.write(userFile, content);
     const auto store = makeStore();
     EXPECT_EQ(folder_.read(userFile), content);
-    log_.lines.clear();
+    log_.clear();
     store->addSnippet(mine("1", "sig"));
     store->addSnippet(mine("2", "sign"));
-    EXPECT_THAT(log_.lines, ElementsAre("[SnippetStore] Moved the unreadable user-snippets.json to " +
-                                        (folder_ / ("storage/" + names[launch])).string()));
+    EXPECT_THAT(log_.lines(), ElementsAre("[SnippetStore] Moved the unreadable user-snippets.json to " +
+                                          (folder_ / ("storage/" + names[launch])).string()));
     EXPECT_EQ(saved().size(), 2U);
   }
   for (std::size_t launch = 0; launch < names.size(); ++launch) {
@@ -211,12 +211,12 @@ TEST_F(SnippetStoreTest, NothingIsOverwrittenWhenMovingAsideFails) {
   const fs::path file = storage / "user-snippets.json";
   std::ofstream(file) << "broken";
   SnippetStore store({folder_ / "resources", storage}, clock_);
-  log_.lines.clear();
+  log_.clear();
   store.addSnippet(mine("1", "sig"));
   store.addSnippet(mine("2", "sign"));
   const auto line =
       AllOf(StartsWith("[SnippetStore] Failed to save user snippets: cannot move "), HasSubstr("aside"));
-  EXPECT_THAT(log_.lines, ElementsAre(line, line));
+  EXPECT_THAT(log_.lines(), ElementsAre(line, line));
   EXPECT_EQ(readFile(file), "broken");
   EXPECT_EQ(std::distance(fs::directory_iterator(storage), {}), 1);
 }

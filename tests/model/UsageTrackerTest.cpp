@@ -67,7 +67,7 @@ TEST_F(UsageTrackerTest, RecordsIntoBothFilesAndReadsThemBack) {
   const UsageTracker second(storage, clock_);
   EXPECT_EQ(second.usageCounts(), first.usageCounts());
   EXPECT_EQ(second.usageEvents(), first.usageEvents());
-  EXPECT_THAT(log_.lines, IsEmpty());
+  EXPECT_THAT(log_.lines(), IsEmpty());
 }
 
 TEST_F(UsageTrackerTest, KeepsTheLatestTenThousandEvents) {
@@ -93,7 +93,7 @@ TEST_F(UsageTrackerTest, NoTriggerMakesAFileUnreadable) {
   const auto again = makeTracker();
   EXPECT_EQ(again->usageEvents().size(), 4U);
   EXPECT_EQ(again->totalExpansions(), 4);
-  EXPECT_THAT(log_.lines, IsEmpty());
+  EXPECT_THAT(log_.lines(), IsEmpty());
 }
 
 TEST_F(UsageTrackerTest, TellsObserversBeforeAndAfter) {
@@ -129,11 +129,11 @@ TEST_F(UsageTrackerTest, UnreadableFilesAreLoggedAndLeftAlone) {
   for (const auto& [file, content, line] : cases) {
     const TemporaryFolder folder;
     folder.write(file, content);
-    log_.lines.clear();
+    log_.clear();
     const UsageTracker tracker(folder.path(), clock_);
     EXPECT_THAT(tracker.usageCounts(), IsEmpty()) << content;
     EXPECT_THAT(tracker.usageEvents(), IsEmpty()) << content;
-    EXPECT_THAT(log_.lines, ElementsAre(StartsWith(line))) << content;
+    EXPECT_THAT(log_.lines(), ElementsAre(StartsWith(line))) << content;
     EXPECT_EQ(folder.read(file), content);
   }
 }
@@ -141,12 +141,12 @@ TEST_F(UsageTrackerTest, UnreadableFilesAreLoggedAndLeftAlone) {
 TEST_F(UsageTrackerTest, MovesAnUnreadableFileAsideBeforeTheFirstRecording) {
   folder_.write(eventsFile, "broken");
   const auto tracker = makeTracker("Europe/Berlin");
-  log_.lines.clear();
+  log_.clear();
   tracker->recordUsage("a");
   tracker->recordUsage("a");
   const std::string aside = "usage-stats.json.unreadable-2026-03-14T10-30-00";
-  EXPECT_THAT(log_.lines, ElementsAre("[UsageTracker] Moved the unreadable usage-stats.json to " +
-                                      (folder_ / aside).string()));
+  EXPECT_THAT(log_.lines(), ElementsAre("[UsageTracker] Moved the unreadable usage-stats.json to " +
+                                        (folder_ / aside).string()));
   EXPECT_THAT(folder_.names(), ElementsAre(countsFile, eventsFile, aside));
   EXPECT_EQ(folder_.read(aside), "broken");
   EXPECT_EQ(makeTracker()->usageEvents().size(), 2U);
@@ -155,12 +155,12 @@ TEST_F(UsageTrackerTest, MovesAnUnreadableFileAsideBeforeTheFirstRecording) {
 TEST_F(UsageTrackerTest, WhatCannotBeSavedStaysInMemory) {
   folder_.write("file", "");
   UsageTracker tracker(folder_ / "file", clock_);
-  EXPECT_THAT(log_.lines, IsEmpty());
+  EXPECT_THAT(log_.lines(), IsEmpty());
   tracker.recordUsage("a");
   EXPECT_EQ(tracker.totalExpansions(), 1);
   EXPECT_EQ(tracker.todayCount(), 1);
-  EXPECT_THAT(log_.lines, ElementsAre(StartsWith("[UsageTracker] Failed to save usage counts: "),
-                                      StartsWith("[UsageTracker] Failed to save usage events: ")));
+  EXPECT_THAT(log_.lines(), ElementsAre(StartsWith("[UsageTracker] Failed to save usage counts: "),
+                                        StartsWith("[UsageTracker] Failed to save usage events: ")));
 }
 
 TEST_F(UsageTrackerTest, AClockThatJumpsLosesNothing) {

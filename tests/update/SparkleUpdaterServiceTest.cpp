@@ -49,11 +49,13 @@ class Service : public ::testing::Test {
 };
 
 TEST_F(Service, ChecksUnaskedOnlyIfThePreferenceSaysSo) {
+  defaults.set("automaticallyDownloadsUpdates", true);
   EXPECT_FALSE(start().updaterController()->automaticallyChecksForUpdates());
   defaults.set("automaticallyChecksForUpdates", "true");
   EXPECT_FALSE(start().updaterController()->automaticallyChecksForUpdates()) << "no Boolean";
   defaults.set("automaticallyChecksForUpdates", true);
   EXPECT_TRUE(start().updaterController()->automaticallyChecksForUpdates());
+  EXPECT_FALSE(service->updaterController()->automaticallyDownloadsUpdates());
 }
 
 TEST_F(Service, TellsOfAnUpdateBeforeTheCheckEnds) {

@@ -83,6 +83,16 @@ TEST_F(Updating, OffersANewerVersionAndLeadsToIt) {
   EXPECT_THAT(workspace.openedUrls, ElementsAre("https://example.org/1.3.tar"));
 }
 
+TEST_F(Updating, OnlyOffersWhatItFindsUnasked) {
+  EXPECT_FALSE(updater->automaticallyDownloadsUpdates());
+  startAutomatic();
+  updater->setAutomaticallyDownloadsUpdates(true);
+  EXPECT_TRUE(updater->automaticallyDownloadsUpdates());
+  runAutomatic({"1.3"});
+  EXPECT_THAT(user.shown, ElementsAre("update 1.3 for 1.2 unobtrusively"));
+  EXPECT_THAT(workspace.openedUrls, IsEmpty());
+}
+
 TEST_F(Updating, SaysWhyItFailed) {
   const LogRecorder log;
   updater->checkForUpdates();

@@ -30,7 +30,7 @@ SelectionChannel::SelectionChannel(XThread& thread, Atoms& atoms, OutgoingTransf
 void SelectionChannel::readText(std::chrono::milliseconds patience, SelectionTextRead::Done done) {
   if (owner_.isOwner()) {
     const auto& contents = owner_.contents();
-    for (const char* name : {"UTF8_STRING", "text/plain;charset=utf-8", "STRING"}) {
+    for (const std::string& name : textTargets()) {
       const auto target = atoms_.atom(name);
       const auto found = std::find_if(contents.begin(), contents.end(),
                                       [&](const Representation& r) { return r.target == target; });

@@ -26,6 +26,12 @@ bool isContentTarget(std::string_view name) {
   return !name.empty() && !contains(excluded, name);
 }
 
+const std::vector<std::string>& textTargets() {
+  static const std::vector<std::string> targets = {"UTF8_STRING", "text/plain;charset=utf-8", "text/plain",
+                                                   "STRING"};
+  return targets;
+}
+
 const std::vector<std::string>& commonTargets() {
   static const std::vector<std::string> targets = {"UTF8_STRING",
                                                    "text/plain;charset=utf-8",

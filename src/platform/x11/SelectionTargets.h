@@ -9,6 +9,9 @@ namespace tessarin::x11 {
 /// Atoms with which a reader asks for plain text.
 bool isTextTarget(std::string_view name);
 
+/// What plain text is read from, the best first.
+const std::vector<std::string>& textTargets();
+
 /// Whether a snapshot takes in the target: not those that make the owner do something, those that speak of
 /// the other targets, and those that name resources which live no longer than the owner's copy.
 bool isContentTarget(std::string_view name);

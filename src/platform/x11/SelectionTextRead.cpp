@@ -3,12 +3,14 @@
 #include <utility>
 
 #include "platform/x11/Atoms.h"
+#include "platform/x11/SelectionTargets.h"
+#include "text/Graphemes.h"
 
 namespace tessarin::x11 {
 
 SelectionTextRead::SelectionTextRead(XThread& thread, Atoms& atoms, xcb_atom_t selection, Done done)
     : latin1_(atoms.atom("STRING")),
-      targets_(atoms.atoms({"UTF8_STRING", "text/plain;charset=utf-8", "STRING"})),
+      targets_(atoms.atoms(textTargets())),
       done_(std::move(done)),
       reader_(thread, atoms, selection,
               [this](xcb_atom_t, std::optional<Representation> answer) { receive(std::move(answer)); }) {
@@ -36,7 +38,8 @@ void SelectionTextRead::finish(std::optional<std::string> text) {
 }
 
 std::string decodedText(const Representation& representation, xcb_atom_t latin1) {
-  if (representation.type != latin1) return *representation.data;
+  const bool isLatin1 = representation.type == latin1 || !text::isValidUtf8(*representation.data);
+  if (!isLatin1) return *representation.data;
   std::string text;
   for (const char c : *representation.data) {
     const auto code = static_cast<unsigned char>(c);

@@ -3,7 +3,6 @@
 #include <QAccessibleWidget>
 #include <QFontMetricsF>
 #include <QLinearGradient>
-#include <QLocale>
 #include <QPainter>
 #include <QStringList>
 #include <algorithm>
@@ -43,8 +42,10 @@ void BarChart::setBars(std::vector<Bar> bars) {
   if (bars == bars_) return;
   bars_ = std::move(bars);
   QStringList spoken;
-  for (const Bar& bar : bars_) spoken << tr("%1 %2").arg(bar.name).arg(bar.count);
-  setAccessibleDescription(locale().createSeparatedList(spoken));
+  for (const Bar& bar : bars_) {
+    spoken << tr("%1: %2, %3: %4").arg(tr("Day"), bar.name, tr("Count"), QString::number(bar.count));
+  }
+  setAccessibleDescription(spoken.join("; "));
   update();
 }
 

@@ -8,8 +8,8 @@
 
 namespace tessarin::ui {
 
-/// Counts as bars side by side, the first one where reading begins, over an axis that fits them by itself.
-/// Its accessible description names every bar with its count.
+/// Counts of days as bars side by side, the first one where reading begins, over an axis that fits them by
+/// itself. Its accessible description says the day and the count of every bar.
 class BarChart final : public QWidget {
   Q_OBJECT
 

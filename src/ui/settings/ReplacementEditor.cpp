@@ -23,11 +23,11 @@ constexpr int verticalInset = 8;
 
 }  // namespace
 
-ReplacementEditor::ReplacementEditor(const QString& placeholder, QWidget* parent) : QPlainTextEdit(parent) {
+ReplacementEditor::ReplacementEditor(const QString& placeholder, QWidget* parent)
+    : QPlainTextEdit(parent), placeholder_(placeholder) {
   setFrameStyle(Box | Plain);
   setLineWidth(1);
   setTabChangesFocus(true);
-  setPlaceholderText(placeholder);
   const int margin = horizontalInset - frameWidth();
   document()->setDocumentMargin(margin);
   const int above = verticalInset - margin - frameWidth();
@@ -107,6 +107,22 @@ bool ReplacementEditor::event(QEvent* event) {
   if (event->type() != QEvent::Paint) return QPlainTextEdit::event(event);
   paintFrame();
   return true;
+}
+
+void ReplacementEditor::paintEvent(QPaintEvent* event) {
+  QPlainTextEdit::paintEvent(event);
+  const bool isEmpty =
+      document()->isEmpty() && document()->firstBlock().layout()->preeditAreaText().isEmpty();
+  if (isEmpty) paintPlaceholder();
+}
+
+/// The toolkit's own keeps clear of the left border alone.
+void ReplacementEditor::paintPlaceholder() {
+  QPainter painter(viewport());
+  painter.setLayoutDirection(layoutDirection());
+  painter.setPen(palette().color(QPalette::PlaceholderText));
+  const int margin = static_cast<int>(document()->documentMargin());
+  painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, 0), Qt::TextWordWrap, placeholder_);
 }
 
 void ReplacementEditor::paintFrame() {

@@ -25,12 +25,15 @@ class ReplacementEditor final : public QPlainTextEdit {
   void changeEvent(QEvent* event) override;
   bool event(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void paintFrame();
+  void paintPlaceholder();
   void restyle();
   void fitHeight();
 
+  QString placeholder_;
   QString loaded_;
   bool isRestyling_ = false;
 };

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QHBoxLayout>
-#include <QPushButton>
 #include <QVBoxLayout>
 #include <chrono>
 #include <utility>
@@ -13,6 +12,7 @@
 #include "ui/settings/SnippetEditorView.h"
 #include "ui/settings/SnippetListModel.h"
 #include "ui/settings/SnippetListView.h"
+#include "ui/style/IconButton.h"
 #include "ui/style/Spacing.h"
 #include "ui/style/StyledLabel.h"
 #include "ui/style/Symbol.h"
@@ -25,7 +25,7 @@ constexpr int emptyStateSpacing = 8;
 constexpr std::chrono::milliseconds messageDuration{3000};
 
 QPushButton* makeButton(const QString& text, const QString& symbol) {
-  auto* button = new QPushButton(symbolIcon(symbol), text);
+  auto* button = new IconButton(symbolIcon(symbol), text);
   button->setAutoDefault(false);
   return button;
 }
@@ -134,11 +134,8 @@ void SnippetsSettingsTab::finishImport(const SnippetFileReading::Result& result)
     setImportMessage(tr("Import failed: %1").arg(QString::fromStdString(result.error)));
     return;
   }
+  // They are in the list also where saving them fails, which is logged and done again later.
   const auto count = static_cast<int>(services_.snippetStore.addImported(result.snippets));
-  if (const auto& failure = services_.snippetStore.saveFailure()) {
-    setImportMessage(tr("Import failed: %1").arg(QString::fromStdString(*failure)));
-    return;
-  }
   setImportMessage(count == 1 ? tr("Imported 1 snippet") : tr("Imported %n snippets", nullptr, count));
 }
 

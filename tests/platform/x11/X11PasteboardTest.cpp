@@ -206,6 +206,10 @@ TEST_F(X11PasteboardTest, ReadsOlderForms) {
   EXPECT_EQ(pasteboard().string(), "café");
   peer().own("CLIPBOARD", {{"text/plain;charset=utf-8", "café"}});
   EXPECT_EQ(pasteboard().string(), "café");
+  for (const char* bytes : {"café", "caf\xe9"}) {
+    peer().own("CLIPBOARD", {{"text/plain", bytes}});
+    EXPECT_EQ(pasteboard().string(), "café");
+  }
   peer().setPieceSize(1000);
   peer().own("CLIPBOARD", {{"UTF8_STRING", std::string(9999, 'x')}});
   EXPECT_EQ(pasteboard().string(), std::string(9999, 'x'));

@@ -67,8 +67,10 @@ TEST_F(StatsSettingsTabTest, ShowsTodayLast) {
   tab->setLocale(QLocale(QLocale::German, QLocale::Germany));
   tab->show();
   EXPECT_THAT(bars(), ElementsAre(0, 0, 2, 0, 0, 0, 4));
-  EXPECT_EQ(chart().accessibleDescription(),
-            "Donnerstag 0, Freitag 0, Samstag 2, Sonntag 0, Montag 0, Dienstag 0 und Mittwoch 4");
+  EXPECT_EQ(
+      chart().accessibleDescription(),
+      "Day: Donnerstag, Count: 0; Day: Freitag, Count: 0; Day: Samstag, Count: 2; Day: Sonntag, Count: 0; "
+      "Day: Montag, Count: 0; Day: Dienstag, Count: 0; Day: Mittwoch, Count: 4");
   passDays(1);
   defaults.set("triggerCharacter", ";");
   record("wave");
