@@ -97,9 +97,9 @@ class BesideAnInputMethod(DesktopTest):
     def check_composing(self, editor):
         before = self.insertions()
         # At a slow person's speed: faster, and with a busy processor, the engines themselves lose letters.
-        slowly = lambda typist: typist.type("a:smile\naa x:smile\tdd ", 0.15)
-        self.check(editor, [slowly], "a:smile\nâ x:smile\tđ ")
-        self.play(["b:smile"])
+        slowly = lambda text: lambda typist: typist.type(text, 0.15)
+        self.check(editor, [slowly("a:smile\naa x:smile\tdd ")], "a:smile\nâ x:smile\tđ ")
+        self.play([slowly("b:smile")])
         wait_for(lambda: editor.document().endswith("b:smile"), what="the letters")
         self.assertIsNone(self.typist.popup())
         self.typist.press("End", "Control_L")

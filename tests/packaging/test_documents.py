@@ -58,7 +58,9 @@ class Control(unittest.TestCase):
             self.assertTrue(owners & depends, f"{name}, of {owners}")
 
     def test_recommends_what_it_can_do_without(self):
-        self.assertEqual(set(field("Recommends").split(", ")), {"at-spi2-core", "fonts-noto-color-emoji"})
+        self.assertEqual(set(field("Recommends").split(", ")),
+                         {"at-spi2-core", "fonts-noto-color-emoji", "qt6-wayland",
+                          "qt6-xdgdesktopportal-platformtheme | qt6-gtk-platformtheme"})
 
 
 class Options(PackageTest):
