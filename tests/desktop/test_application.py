@@ -49,17 +49,29 @@ class ApplicationTest(unittest.TestCase):
         return wait_for(lambda: all(any(text in line for line in self.heard()) for text in texts), 20,
                         f"a screen reader to hear {texts}")
 
-    def place_of(self, role, name):
-        """Of what a screen reader calls so; of several the one told of last, which is in the newest window."""
+    def shown(self, role, name):
+        """States and place of what a screen reader calls so; of several the one told of last, which is in the newest
+        window."""
         for line in reversed(self.heard()):
             heard_role, heard_name, _, states, place = line.strip().split("\t")
             if (heard_role, heard_name) == (role, name) and "showing" in states.split():
-                return [int(number) for number in place.split()]
-        return None
+                return states.split(), [int(number) for number in place.split()]
+        return [], None
+
+    def place_at_rest(self, role, name):
+        """Nothing while a window is still being put where it belongs."""
+        place = self.shown(role, name)[1]
+        return place if place == self.shown(role, name)[1] else None
 
     def click(self, role, name):
-        x, y, width, height = wait_for(lambda: self.place_of(role, name), what=f"the {role} “{name}”")
+        x, y, width, height = wait_for(lambda: self.place_at_rest(role, name), 20, f"the {role} “{name}”")
         self.typist.click(x + width // 2, y + height // 2)
+
+    def fill_in(self, field, text):
+        self.click("text", field)
+        wait_for(lambda: "focused" in self.shown("text", field)[0], 20, f"the keyboard to be in “{field}”")
+        self.typist.type(text)
+        self.wait_until_heard(f"\t{text}\t".replace("\n", "⏎"))
 
 
 class FirstRun(ApplicationTest):
@@ -195,8 +207,7 @@ class SecondStart(ApplicationTest):
         self.click("push button", "Add")
         self.wait_until_heard("New Snippet")
         for field, text in (("Name", "Zebra"), ("Trigger", "zqzebra"), ("Replacement", "stripes\nand more")):
-            self.click("text", field)
-            self.typist.type(text)
+            self.fill_in(field, text)
         self.click("push button", "Add")
         self.wait_until_heard(":zqzebra:")
         with Mousepad(self.session, self.typist) as editor:
