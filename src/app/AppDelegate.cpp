@@ -159,6 +159,7 @@ void AppDelegate::feedDetector(const std::optional<std::string>& characters, std
   // Still collecting, so the key was one that reaches the document: keep account of it, dropped or not.
   if (!wasCollecting) {
     typed_.begin(*characters);
+    popup_.anticipate();
   } else if (keyCode == keycode::deleteBackward) {
     typed_.deleteLast();
   } else if (keyCode != keycode::up && keyCode != keycode::down) {

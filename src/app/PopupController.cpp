@@ -22,6 +22,10 @@ bool PopupController::isVisible() const {
   return panel_.isVisible();
 }
 
+void PopupController::anticipate() {
+  panel_.anticipate();
+}
+
 void PopupController::showResults(std::vector<Snippet> results, const std::string& query) {
   const bool isEmpty = results.empty();
   model_.updateResults(std::move(results), query);

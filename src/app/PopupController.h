@@ -23,6 +23,8 @@ class PopupController {
   PopupController& operator=(const PopupController&) = delete;
 
   bool isVisible() const;
+  /// A collecting has begun.
+  void anticipate();
   /// Hides the popup when there are no results; the model keeps them and the query all the same.
   void showResults(std::vector<Snippet> results, const std::string& query);
   void hide();

@@ -41,6 +41,8 @@ class PopupPresenter {
  public:
   virtual ~PopupPresenter() = default;
 
+  /// A shortcode has been begun: the popup may be wanted soon, and what takes time can be found out now.
+  virtual void anticipate() {}
   /// Shows the popup, or changes what it shows. May put off the work until the key in hand has been answered.
   virtual void present(const PopupContent& content) = 0;
   virtual void hide() = 0;

@@ -8,6 +8,8 @@
 namespace tessarin {
 namespace {
 
+/// Most applications have taken a key in by then, and a person has not typed the next one.
+constexpr std::chrono::milliseconds takingIn{15};
 /// Between two questions to an application that is busy.
 constexpr std::chrono::milliseconds lookInterval{25};
 /// For a popup that is not on screen yet: a person hardly reads it sooner.
@@ -23,13 +25,23 @@ AutocompletePanel::AutocompletePanel(PopupSurface& surface, Screens& screens, Ac
                                      MainQueue& queue)
     : surface_(surface), screens_(screens), queue_(queue), locator_(accessibility, screens) {}
 
+void AutocompletePanel::anticipate() {
+  if (isVisible_) return;
+  ++requests_;
+  queue_.after(takingIn, stillWanted(&AutocompletePanel::locateAhead));
+}
+
+void AutocompletePanel::locateAhead() {
+  caret_ = locator_.caretRect(ScreenLayout::read(screens_));
+}
+
 void AutocompletePanel::present(const PopupContent& content) {
   if (content.rows.empty()) {
     hide();
     return;
   }
   presented_ = content;
-  ++presents_;
+  ++requests_;
   presentedAt_ = queue_.now();
   if (!std::exchange(isVisible_, true)) openedAt_ = presentedAt_;
   goOn(&AutocompletePanel::showPresented);
@@ -37,6 +49,7 @@ void AutocompletePanel::present(const PopupContent& content) {
 
 void AutocompletePanel::hide() {
   isVisible_ = false;
+  ++requests_;
   presented_ = {};
   caret_.reset();
   if (std::exchange(shown_, std::nullopt)) surface_.hide();
@@ -54,11 +67,17 @@ void AutocompletePanel::showPresented() {
   if (!isSameListAsShown()) {
     // The application, which the caret is asked of, is busy with the key meanwhile.
     surface_.prepare(presented_);
-    goOn(&AutocompletePanel::locate);
+    goOn(caret_ ? &AutocompletePanel::showWhereItWas : &AutocompletePanel::locate);
     return;
   }
   shown_->content = presented_;
   surface_.show(presented_, shown_->frame);
+}
+
+void AutocompletePanel::showWhereItWas() {
+  frame_ = frameAt(caret_, ScreenLayout::read(screens_));
+  showInFrame();
+  goOn(&AutocompletePanel::locate);
 }
 
 void AutocompletePanel::locate() {
@@ -70,6 +89,7 @@ void AutocompletePanel::locate() {
   const bool mayWait = isDue && !shown_ && queue_.now() - openedAt_ < longestDelay;
   if (mayWait || (!found && isSameListAsShown())) return;
   frame_ = frameAt(caret_, layout);
+  if (isSameListAsShown() && shown_->frame == frame_) return;
   goOn(&AutocompletePanel::showInFrame);
 }
 
@@ -78,8 +98,8 @@ void AutocompletePanel::goOn(void (AutocompletePanel::*step)()) {
 }
 
 std::function<void()> AutocompletePanel::stillWanted(void (AutocompletePanel::*step)()) {
-  return [this, step, presented = presents_, alive = std::weak_ptr<char>(alive_)] {
-    if (!alive.expired() && isVisible_ && presented == presents_) (this->*step)();
+  return [this, step, request = requests_, alive = std::weak_ptr<char>(alive_)] {
+    if (!alive.expired() && request == requests_) (this->*step)();
   };
 }
 

@@ -24,6 +24,8 @@ class AutocompletePanel final : public PopupPresenter {
   /// All must outlive the panel.
   AutocompletePanel(PopupSurface& surface, Screens& screens, Accessibility& accessibility, MainQueue& queue);
 
+  /// Asks for the caret as soon as the application has taken the key in.
+  void anticipate() override;
   void present(const PopupContent& content) override;
   void hide() override;
   bool isVisible() const override { return isVisible_; }
@@ -41,13 +43,16 @@ class AutocompletePanel final : public PopupPresenter {
     Rect frame;
   };
   void showPresented();
+  void locateAhead();
+  /// Beside the caret of the key before this one: a letter off at most, and at once.
+  void showWhereItWas();
   /// An application that is too busy to say where its caret is gets a while before the popup opens without.
   void locate();
   void locateAgainSoon();
   Rect frameAt(const std::optional<Rect>& caret, const ScreenLayout& layout) const;
   void showInFrame();
   void goOn(void (AutocompletePanel::*step)());
-  /// The step, unless something else has been presented by then, or the popup hidden.
+  /// The step, unless the popup has been asked for something else by then.
   std::function<void()> stillWanted(void (AutocompletePanel::*step)());
   bool isSameListAsShown() const;
 
@@ -61,7 +66,7 @@ class AutocompletePanel final : public PopupPresenter {
   std::optional<Shown> shown_;
   Rect frame_;                 ///< for what is presented
   std::optional<Rect> caret_;  ///< where it was found last
-  std::uint64_t presents_ = 0;
+  std::uint64_t requests_ = 0;
   std::chrono::steady_clock::time_point openedAt_;
   std::chrono::steady_clock::time_point presentedAt_;
   std::shared_ptr<char> alive_ = std::make_shared<char>();

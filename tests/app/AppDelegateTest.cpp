@@ -38,7 +38,9 @@ class AppDelegateTest : public ::testing::Test {
 TEST_F(AppDelegateTest, ShowsWhatEachQueryFinds) {
   app.type(":");
   EXPECT_EQ(app.shownTriggers(), std::nullopt);
+  EXPECT_EQ(app.popup.anticipations, 1);
   app.type("sm");
+  EXPECT_EQ(app.popup.anticipations, 1) << "once a shortcode";
   EXPECT_EQ(app.shownTriggers(), (Strings{"smile", "smirk", "small"}));
   app.type("ir");
   EXPECT_EQ(app.shownTriggers(), Strings{"smirk"});

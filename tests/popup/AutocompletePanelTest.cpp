@@ -80,6 +80,40 @@ TEST_F(AutocompletePanelTest, followsTheCaretWithEveryQueryAndAfterHiding) {
   EXPECT_EQ(surface.shows.back().frame.x, 500);
 }
 
+TEST_F(AutocompletePanelTest, showsAtOnceWhereTheCaretIsExpectedAndMovesOnlyThen) {
+  panel->anticipate();
+  queue.advance(milliseconds(15));
+  caret.x = 310;
+  show("s");
+  ASSERT_EQ(surface.shows.size(), 2U);
+  EXPECT_EQ(surface.shows[0].frame.x, 300);
+  EXPECT_EQ(surface.shows[1].frame.x, 310);
+  show("sm");
+  EXPECT_EQ(surface.shows.size(), 3U) << "it stands where it should";
+}
+
+TEST_F(AutocompletePanelTest, asksAheadOnlyForAShortcodeThatIsGoingOn) {
+  panel->anticipate();
+  panel->hide();
+  queue.advance(milliseconds(100));
+  EXPECT_EQ(accessibility.calls, 0) << "it has ended";
+  show("s");
+  const int once = std::exchange(accessibility.calls, 0);
+  panel->hide();
+  panel->anticipate();
+  show("s");
+  queue.advance(milliseconds(100));
+  EXPECT_EQ(accessibility.calls, once) << "the letter came first";
+  panel->hide();
+  panel->anticipate();
+  queue.advance(milliseconds(100));
+  panel->hide();
+  caret.x = 700;
+  show("s");
+  EXPECT_EQ(surface.shows.back().frame.x, 700);
+  EXPECT_EQ(surface.shows.size(), 3U) << "what was expected of an earlier shortcode is forgotten";
+}
+
 TEST_F(AutocompletePanelTest, aKeyThatComesMeanwhileIsNotKeptWaitingForTheRest) {
   panel->present(contentOf("s", 2));
   queue.async([this] { panel->present(contentOf("sm", 2)); });

@@ -11,6 +11,7 @@ namespace tessarin::testing {
 /// A popup that remembers what it was asked to show.
 class FakePopupPresenter final : public PopupPresenter {
  public:
+  void anticipate() override { ++anticipations; }
   void present(const PopupContent& content) override {
     presented.push_back(content);
     visible = true;
@@ -31,6 +32,7 @@ class FakePopupPresenter final : public PopupPresenter {
   }
 
   std::vector<PopupContent> presented;
+  int anticipations = 0;
   int hides = 0;
   bool visible = false;
 
