@@ -1,5 +1,6 @@
 #include "platform/x11/KeyJudge.h"
 
+#include <thread>
 #include <utility>
 
 namespace tessarin::x11 {
@@ -26,6 +27,8 @@ std::optional<KeyVerdict> KeyJudge::ask(const KeyEvent& event) {
     event.budget = *budget;
     event.commitSwallow = [question] { return question->commitSwallow(); };
     question->answer(owner->judge(event));
+    // The asking thread may have been put behind this one, which goes on to paint: the key first.
+    std::this_thread::yield();
   });
   return question->await();
 }
