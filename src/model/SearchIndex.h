@@ -36,7 +36,7 @@ class SearchIndex {
   void setUsageCount(const std::string& trigger, std::int64_t count);
 
   /// Does now what the next search would have to do first when much has changed since the last: laying out
-  /// all texts anew. Worth calling after loading.
+  /// all texts anew. Worth calling after every change.
   void prepare();
 
   /// Positions of the best `limit` snippets, best first.

@@ -39,6 +39,7 @@ SnippetStore::SnippetStore(Folders folders, const WallClock& clock, LocalCalenda
   loadBuiltInKaomoji();
   loadUserSnippets();
   for (const auto& [trigger, count] : usageTracker_.usageCounts()) index_.setUsageCount(trigger, count);
+  index_.prepare();
   usageSubscription_ = usageTracker_.onRecorded([this](const std::string& trigger) {
     indexUsage(trigger);
     saveSnippetsIfMissing();
@@ -88,6 +89,7 @@ void SnippetStore::loadUserSnippets() {
 
 void SnippetStore::indexUsage(const std::string& trigger) {
   index_.setUsageCount(trigger, usageTracker_.usageCounts().at(trigger));
+  index_.prepare();
 }
 
 std::vector<Snippet> SnippetStore::allSnippets() const {
@@ -137,9 +139,15 @@ void SnippetStore::append(Snippet snippet) {
   });
 }
 
+// A key should not have to wait for the layout.
+void SnippetStore::finishChange() {
+  index_.prepare();
+  saveUserSnippets();
+}
+
 void SnippetStore::addSnippet(const Snippet& snippet) {
   append(snippet);
-  saveUserSnippets();
+  finishChange();
 }
 
 void SnippetStore::updateSnippet(const Snippet& snippet) {
@@ -151,7 +159,7 @@ void SnippetStore::updateSnippet(const Snippet& snippet) {
     index_.replace(builtInSnippets_.size() + index, snippet);
     userSnippets_[index] = snippet;
   });
-  saveUserSnippets();
+  finishChange();
 }
 
 void SnippetStore::deleteSnippet(const std::string& id) {
@@ -164,7 +172,7 @@ void SnippetStore::deleteSnippet(const std::string& id) {
       userSnippets_.erase(userSnippets_.begin() + static_cast<std::ptrdiff_t>(i));
     }
   });
-  saveUserSnippets();
+  finishChange();
 }
 
 std::size_t SnippetStore::importSnippets(const std::filesystem::path& file) {
@@ -185,7 +193,7 @@ std::size_t SnippetStore::addImported(std::vector<Snippet> imported) {
     ++added;
   }
   // Those that could not be saved the last time are in memory already, and still to be saved.
-  if (added > 0 || saveFailure()) saveUserSnippets();
+  if (added > 0 || saveFailure()) finishChange();
   return added;
 }
 

@@ -77,6 +77,7 @@ class SnippetStore {
   void saveSnippetsIfMissing();
   void indexUsage(const std::string& trigger);
   void append(Snippet snippet);
+  void finishChange();
   void change(const std::function<void()>& apply);
   const Snippet& at(std::size_t position) const;
 
