@@ -283,16 +283,6 @@ TEST_F(TextReplacerTest, replacementsWaitForTheirTurn) {
   EXPECT_EQ(general.contents(), (std::vector<PasteboardItem>{{"UTF8_STRING", "user's"}}));
 }
 
-TEST_F(TextReplacerTest, oneAskedForByADoneCallbackWaitsForThoseBeforeIt) {
-  refuseDirectInsertion();
-  replace("first", [this](InsertionOutcome) { replace("third"); });
-  replace("second");
-  for (const char* text : {"first", "second", "third"}) {
-    queue.advance(milliseconds(220));
-    EXPECT_EQ(paste(), text);
-  }
-}
-
 TEST_F(TextReplacerTest, mayGoAwayWithinADoneCallback) {
   field->type(":smile");
   replace("😀", [this](InsertionOutcome) { replacer.reset(); });

@@ -3,25 +3,40 @@
 
 #include "main/SessionInputMonitoring.h"
 #include "platform/OwnAddresses.h"
+#include "support/FakeInputMonitoring.h"
 #include "support/FakeWorkspace.h"
+#include "support/InputMonitoringSuite.h"
 
 namespace tessarin::testing {
 namespace {
 
 using ::testing::ElementsAre;
 
-TEST(SessionInputMonitoring, ExplainsOnRequestOnlyWhatIsMissing) {
-  KeyTapState state = KeyTapState::usable;
-  int shown = 0;
-  SessionInputMonitoring monitoring([&] { return state; }, [&](const Explanation&) { ++shown; });
-  EXPECT_TRUE(monitoring.isGranted());
-  monitoring.request();
-  EXPECT_EQ(shown, 0);
-  state = KeyTapState::noServer;
-  EXPECT_FALSE(monitoring.isGranted()) << "asked afresh";
-  monitoring.request();
-  EXPECT_EQ(shown, 1);
-}
+class SessionWorld {
+ public:
+  InputMonitoring& monitoring() { return monitoring_; }
+  void setUsable(bool isUsable) { state_ = isUsable ? KeyTapState::usable : KeyTapState::noServer; }
+  int explanations() const { return explanations_; }
+
+ private:
+  KeyTapState state_ = KeyTapState::usable;
+  int explanations_ = 0;
+  SessionInputMonitoring monitoring_{[this] { return state_; },
+                                     [this](const Explanation&) { ++explanations_; }};
+};
+
+class FakeWorld {
+ public:
+  InputMonitoring& monitoring() { return fake_; }
+  void setUsable(bool isUsable) { fake_.granted = isUsable; }
+  int explanations() const { return fake_.explanations; }
+
+ private:
+  FakeInputMonitoring fake_;
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Session, InputMonitoringSuite, ::testing::Types<SessionWorld>);
+INSTANTIATE_TYPED_TEST_SUITE_P(Fake, InputMonitoringSuite, ::testing::Types<FakeWorld>);
 
 TEST(OwnAddresses, AnswersItsOwnAndPassesOnAllElse) {
   FakeWorkspace desktop;

@@ -7,6 +7,8 @@
 
 #include "platform/qt/QtStatusBar.h"
 #include "platform/qt/TestApplication.h"
+#include "support/FakeStatusBar.h"
+#include "support/StatusBarSuite.h"
 #include "support/desktop/XClient.h"
 
 namespace tessarin::ui {
@@ -14,7 +16,69 @@ namespace {
 
 using testing::eventuallyInLoop;
 
-/// The item in an old-style tray, where its icon is a widget of ours.
+/// In an old-style tray, where it is a widget of ours.
+QWidget* icon() {
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    if (widget->isVisible() && widget->inherits("QSystemTrayIconSys")) return widget;
+  }
+  return nullptr;
+}
+QMenu* menu() {
+  return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+}
+
+class TrayWorld {
+ public:
+  TrayWorld() { tray_.becomeTray(); }
+  StatusBar& statusBar() { return statusBar_; }
+  bool isShown() {
+    QTest::qWait(100);
+    return icon() != nullptr;
+  }
+  std::vector<std::string> openMenu() {
+    QTest::mouseClick(icon(), Qt::LeftButton);
+    std::vector<std::string> seen;
+    if (menu() == nullptr) return seen;
+    for (const QAction* action : menu()->actions()) {
+      const std::string title = action->isSeparator() ? "-" : action->text().toStdString();
+      seen.push_back(action->isSeparator() || action->isEnabled() ? title : "(" + title + ")");
+    }
+    return seen;
+  }
+  void choose(const std::string& title) {
+    ASSERT_NE(menu(), nullptr);
+    for (QAction* action : menu()->actions()) {
+      if (action->text().toStdString() != title) continue;
+      QTest::mouseClick(menu(), Qt::LeftButton, {}, menu()->actionGeometry(action).center());
+      return;
+    }
+    ADD_FAILURE() << "not in the menu: " << title;
+  }
+
+ private:
+  testing::XClient tray_{std::getenv("DISPLAY")};
+  QtStatusBar statusBar_;
+};
+
+class FakeTrayWorld {
+ public:
+  StatusBar& statusBar() { return fake_; }
+  bool isShown() const { return !fake_.descriptions.empty() && fake_.visible; }
+  std::vector<std::string> openMenu() {
+    fake_.openMenu();
+    std::vector<std::string> seen;
+    for (const MenuItem& item : fake_.menus.back()) {
+      const std::string title = item.isSeparator() ? "-" : item.title;
+      seen.push_back(item.isSeparator() || item.action ? title : "(" + title + ")");
+    }
+    return seen;
+  }
+  void choose(const std::string& title) { fake_.choose(title); }
+
+ private:
+  testing::FakeStatusBar fake_;
+};
+
 class QtStatusBarTest : public ::testing::Test {
  protected:
   QtStatusBarTest() {
@@ -28,13 +92,6 @@ class QtStatusBarTest : public ::testing::Test {
     EXPECT_TRUE(eventuallyInLoop([] { return icon() != nullptr; }));
   }
 
-  static QWidget* icon() {
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-      if (widget->isVisible() && widget->inherits("QSystemTrayIconSys")) return widget;
-    }
-    return nullptr;
-  }
-  static QWidget* menu() { return QApplication::activePopupWidget(); }
   /// Edges are softened, so no colour is there quite pure.
   static bool isReddish() {
     const QImage picture = icon()->grab().toImage();
@@ -100,3 +157,10 @@ TEST_F(QtStatusBarTest, TheSymbolFollowsTheColoursOfTheDesktop) {
 
 }  // namespace
 }  // namespace tessarin::ui
+
+namespace tessarin::testing {
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Tray, StatusBarSuite, ::testing::Types<ui::TrayWorld>);
+INSTANTIATE_TYPED_TEST_SUITE_P(Fake, StatusBarSuite, ::testing::Types<ui::FakeTrayWorld>);
+
+}  // namespace tessarin::testing
