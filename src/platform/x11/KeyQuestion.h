@@ -15,11 +15,12 @@ class KeyQuestion {
  public:
   using Clock = std::chrono::steady_clock;
 
-  /// How long the user's keyboard may stand still for one key. People notice more than that.
-  static constexpr std::chrono::milliseconds answerTime{200};
+  /// How long the main thread may take to come to a key. With the grace the user's keyboard stands still for
+  /// a fifth of a second at most: people notice more than that.
+  static constexpr std::chrono::milliseconds answerTime{150};
   /// How much longer it may take once the main thread is at work on it: the answer is then near, and letting
   /// the key by would do twice what it does.
-  static constexpr std::chrono::milliseconds graceTime{100};
+  static constexpr std::chrono::milliseconds graceTime{50};
 
   explicit KeyQuestion(std::chrono::milliseconds time = answerTime) : deadline_(Clock::now() + time) {}
 

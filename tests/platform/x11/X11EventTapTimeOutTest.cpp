@@ -44,7 +44,7 @@ TEST_F(X11EventTapTimeOutTest, WaitsForAnAnswerThatIsNear) {
   onKey = [this](const KeyEvent& event) {
     EXPECT_GT(event.budget, 0ms);
     EXPECT_LE(event.budget, x11::KeyQuestion::answerTime);
-    const auto until = queue.now() + x11::KeyQuestion::answerTime + x11::KeyQuestion::graceTime / 4;
+    const auto until = queue.now() + x11::KeyQuestion::answerTime + 1ms;
     while (queue.now() < until) document->text();
   };
   typist->type(":");
