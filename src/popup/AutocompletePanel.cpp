@@ -9,7 +9,7 @@ namespace tessarin {
 namespace {
 
 /// Most applications have taken a key in by then, and a person has not typed the next one.
-constexpr std::chrono::milliseconds takingIn{15};
+constexpr std::chrono::milliseconds takingIn{25};
 /// Between two questions to an application that is busy.
 constexpr std::chrono::milliseconds lookInterval{25};
 /// For a popup that is not on screen yet: a person hardly reads it sooner.

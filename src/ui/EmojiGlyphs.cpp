@@ -21,17 +21,24 @@ bool isShort(const QString& text) {
   return text::characterCount(text.toStdString()) <= 2;
 }
 
-/// Draws the text as one line in the middle of the frame, smaller when it is too wide.
-void drawGlyphLine(QPainter& painter, const QRectF& frame, const QString& text, const QFont& font) {
+/// A text that would have to be drawn smaller than this to fit is rather broken.
+constexpr double smallestShrink = 0.7;
+
+/// Draws the text as one line in the middle of the frame, smaller when it is too wide. False, and nothing is
+/// drawn, when it would be smaller than `smallest` allows.
+bool drawGlyphLine(QPainter& painter, const QRectF& frame, const QString& text, const QFont& font,
+                   double smallest) {
   QTextLayout layout(text, font);
   layout.beginLayout();
   const QTextLine line = layout.createLine();
   layout.endLayout();
   const double width = line.naturalTextWidth();
   const double shrink = std::min(1.0, frame.width() / std::max(width, 1.0));
+  if (shrink < smallest) return false;
   painter.translate(frame.center());
   painter.scale(shrink, shrink);
   layout.draw(&painter, QPointF(-width / 2, -line.height() / 2));
+  return true;
 }
 
 /// How much of the text fits beside the frame's edges, broken anywhere.
@@ -154,8 +161,8 @@ QImage EmojiGlyphs::render(const QString& text, int size, const QColor& color, Q
   } else if (needsTile(text)) {
     drawTile(painter, frame, tileLines(text), color);
   } else if (isShort(text)) {
-    drawGlyphLine(painter, frame, text, fonts::system(size));
-  } else {
+    drawGlyphLine(painter, frame, text, fonts::system(size), 0);
+  } else if (!drawGlyphLine(painter, frame, text.simplified(), fonts::system(size), smallestShrink)) {
     drawText(painter, frame, text.simplified(), fonts::system(size));
   }
   return image;

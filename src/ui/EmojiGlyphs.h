@@ -18,7 +18,8 @@ class EmojiGlyphs {
  public:
   EmojiGlyphs();
 
-  /// Centred in `frame`. `size`: of the font, in points; a text wider than the frame is drawn smaller.
+  /// Centred in `frame`. `size`: of the font, in points; a text that is wider than the frame is drawn
+  /// smaller, or on two lines where it would be too small to read.
   void draw(QPainter& painter, const QRectF& frame, const QString& text, int size, const QColor& color);
 
   /// Whether a tile stands for this text: for an emoji, or any text of up to two characters, that the fonts

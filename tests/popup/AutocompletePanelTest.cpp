@@ -82,7 +82,7 @@ TEST_F(AutocompletePanelTest, followsTheCaretWithEveryQueryAndAfterHiding) {
 
 TEST_F(AutocompletePanelTest, showsAtOnceWhereTheCaretIsExpectedAndMovesOnlyThen) {
   panel->anticipate();
-  queue.advance(milliseconds(15));
+  queue.advance(milliseconds(25));
   caret.x = 310;
   show("s");
   ASSERT_EQ(surface.shows.size(), 2U);

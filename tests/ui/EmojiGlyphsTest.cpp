@@ -28,13 +28,13 @@ INSTANTIATE_TEST_SUITE_P(
                       TileCase{"kaomoji", "¯\\_(ツ)_/¯", false}),
     [](const auto& each) { return each.param.name; });
 
-QImage drawn(EmojiGlyphs& glyphs, const QString& text, double ratio) {
-  const int size = static_cast<int>(28 * ratio);
-  QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
+QImage drawn(EmojiGlyphs& glyphs, const QString& text, double ratio, int size = 20) {
+  const int side = static_cast<int>(28 * ratio);
+  QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
   image.setDevicePixelRatio(ratio);
   image.fill(Qt::transparent);
   QPainter painter(&image);
-  glyphs.draw(painter, QRectF(0, 0, 28, 28), text, 20, Qt::black);
+  glyphs.draw(painter, QRectF(0, 0, 28, 28), text, size, Qt::black);
   return image;
 }
 
@@ -43,6 +43,25 @@ TEST(EmojiGlyphs, DrawsEmojiInColour) {
   for (const double ratio : {1.0, 1.5}) {
     const QImage image = drawn(glyphs, QStringLiteral("😀"), ratio);
     EXPECT_GT(image.pixelColor(image.rect().center()).saturation(), 40);
+  }
+}
+
+int linesOf(const QImage& picture) {
+  int lines = 0;
+  bool wasInLine = false;
+  for (int y = 0; y < picture.height(); ++y) {
+    bool isInLine = false;
+    for (int x = 0; x < picture.width(); ++x) isInLine |= picture.pixelColor(x, y).alpha() > 0;
+    if (isInLine && !wasInLine) ++lines;
+    wasInLine = isInLine;
+  }
+  return lines;
+}
+
+TEST(EmojiGlyphs, BreaksOnlyWhatWouldBeTooSmallInOneLine) {
+  EmojiGlyphs glyphs;
+  for (const auto& [letters, lines] : {std::pair(3, 1), std::pair(5, 1), std::pair(12, 2)}) {
+    EXPECT_EQ(linesOf(drawn(glyphs, QString(letters, u'x'), 2, 10)), lines) << letters;
   }
 }
 
