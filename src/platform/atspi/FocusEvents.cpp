@@ -176,11 +176,10 @@ bool FocusEvents::search() {
   });
   if (const auto window = model_.windowToSearch()) {
     if (const auto element = search.inWindow(*window)) model_.found({element, window});
-  } else if (!hasSearchedEverywhere_ && model_.focus() == FocusModel::Focus{}) {
+  } else if (hasHeardOfNoWindow()) {
     const auto focus = search.everywhere([this](const std::string& bus) { return isOurs(bus); });
     if (focus.window) model_.found(focus);
   }
-  if (!wasCutShort) hasSearchedEverywhere_ = true;
   return !wasCutShort;
 }
 

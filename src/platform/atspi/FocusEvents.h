@@ -33,6 +33,9 @@ class FocusEvents {
   void takeIn();
   /// Looks for the focused element when no event has told it. False when events cut it short.
   bool search();
+  /// Whether there is still something to look for: a window's focused element; or any window at all, as long
+  /// as none has told of itself. One that was opened while we began to listen may have told nobody.
+  bool hasToSearch() const { return model_.windowToSearch() || hasHeardOfNoWindow(); }
 
   const FocusModel& model() const { return model_; }
   /// Whether the focus has moved since the last time it was asked.
@@ -48,6 +51,9 @@ class FocusEvents {
   void onWindow(DBusMessage* message);
   void onNameOwnerChanged(DBusMessage* message);
   bool isOurs(const std::string& bus);
+  bool hasHeardOfNoWindow() const {
+    return model_.activations() == 0 && model_.focus() == FocusModel::Focus{};
+  }
 
   ConnectionPtr connection_;
   const std::uint32_t ownProcess_;
@@ -56,7 +62,6 @@ class FocusEvents {
   std::map<std::string, bool> ours_;
   bool moved_ = false;
   bool mustRegister_ = true;
-  bool hasSearchedEverywhere_ = false;
 };
 
 }  // namespace tessarin::atspi

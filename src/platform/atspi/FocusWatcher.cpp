@@ -132,6 +132,7 @@ void FocusWatcher::connectToAccessibility() {
   ConnectionPtr forCalls = connectTo(*address);
   if (!forEvents || !forCalls) return;
   events_ = std::make_unique<FocusEvents>(std::move(forEvents), ownProcess_, isStopping_);
+  searches_ = 0;
   searchAt_ = Clock::now();
   const std::lock_guard lock(mutex_);
   callConnection_ = std::move(forCalls);
@@ -175,7 +176,7 @@ void FocusWatcher::searchWhenDue() {
   if (events_->model().focus().element || events_->model().lost().element) return;
   const bool isFinished = events_->search();
   if (isFinished) ++searches_;
-  const bool goesOn = !isFinished || events_->model().windowToSearch();
+  const bool goesOn = !isFinished || events_->hasToSearch();
   if (goesOn && searches_ < std::size(searchDelays)) searchAt_ = Clock::now() + searchDelays[searches_];
 }
 

@@ -476,6 +476,18 @@ TEST_F(AtspiAccessibilityTest, looksForTheElementOfAWindowThatOnlyTellsItself) {
       isLooking, [] {}, std::chrono::milliseconds(300)));
 }
 
+// An application asks who listens when it starts: one that did so just before us tells of its window nobody.
+TEST_F(AtspiAccessibilityTest, looksForAWindowThatOpenedWithoutAWordWhileWeStarted) {
+  FakeApplication windowless(session->accessibilityBusAddress());
+  windowless.join();
+  openAccessibility(0);
+  ASSERT_TRUE(eventually([&] { return windowless.calls("GetChildren") > 0; })) << "the first look round";
+  application = std::make_unique<FakeApplication>(session->accessibilityBusAddress());
+  application->answerChildren();
+  application->join();
+  EXPECT_TRUE(eventually([this] { return focusedPath() == FakeApplication::fieldPath; }));
+}
+
 TEST_F(AtspiAccessibilityTest, comesBackWithTheAccessibilityBus) {
   openApplication();
   session->stopAccessibility();

@@ -141,10 +141,21 @@ void FakeApplication::answer(const std::string& member, Answer answer) {
 void FakeApplication::answerChildren() {
   answer("GetChildren", [this](DBusMessage* call, DBusMessageIter* reply) {
     contain(reply, DBUS_TYPE_ARRAY, "(so)", [&](auto* array) {
-      if (!dbus_message_has_path(call, windowPath)) return;
-      appendReference(array, dbus_bus_get_unique_name(connection_.get()), fieldPath);
+      const bool isWindow = dbus_message_has_path(call, windowPath);
+      if (!isWindow && !dbus_message_has_path(call, atspi::applicationPath)) return;
+      appendReference(array, dbus_bus_get_unique_name(connection_.get()), isWindow ? fieldPath : windowPath);
     });
   });
+}
+
+void FakeApplication::join() {
+  const atspi::MessagePtr request(dbus_message_new_method_call(
+      "org.a11y.atspi.Registry", atspi::applicationPath, "org.a11y.atspi.Socket", "Embed"));
+  DBusMessageIter arguments;
+  dbus_message_iter_init_append(request.get(), &arguments);
+  appendReference(&arguments, dbus_bus_get_unique_name(connection_.get()), atspi::applicationPath);
+  dbus_connection_send(connection_.get(), request.get(), nullptr);
+  dbus_connection_flush(connection_.get());
 }
 
 void FakeApplication::refuse(const std::string& member) {

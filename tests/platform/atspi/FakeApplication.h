@@ -70,8 +70,10 @@ class FakeApplication {
 
   /// From now on the call, e.g. "GetText", or the property, e.g. "CaretOffset", is answered like this.
   void answer(const std::string& member, Answer answer);
-  /// The field is the window's child.
+  /// The field is the window's child, and the window the application's.
   void answerChildren();
+  /// Has the desktop count it among its applications.
+  void join();
   /// As if the application did not know it.
   void refuse(const std::string& member);
   /// Keeps the call unanswered until `release`, and carries it out then.
