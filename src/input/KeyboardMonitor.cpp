@@ -100,6 +100,9 @@ KeyVerdict KeyboardMonitor::judge(const KeyEvent& event) {
     case KeyEventKind::disabledByUserInput:
       revive();
       return KeyVerdict::pass;
+    case KeyEventKind::focusMoved:
+      if (onInterrupted) onInterrupted();
+      return KeyVerdict::pass;
     case KeyEventKind::flagsChanged:
       return KeyVerdict::pass;
     case KeyEventKind::keyDown:

@@ -7,8 +7,9 @@
 
 namespace tessarin {
 
-/// What a tap delivers: the two kinds of key event, and the two ways in which a platform switches a tap off.
-enum class KeyEventKind { keyDown, flagsChanged, disabledByTimeout, disabledByUserInput };
+/// What a tap delivers: the two kinds of key event, the two ways in which a platform switches a tap off, and
+/// that the focus has gone to another window while more than the trigger was attended to.
+enum class KeyEventKind { keyDown, flagsChanged, disabledByTimeout, disabledByUserInput, focusMoved };
 
 struct KeyEvent {
   KeyEventKind kind = KeyEventKind::keyDown;

@@ -91,6 +91,7 @@ TEST_F(AppDelegateTest, EndsInManyWays) {
       {"the tray menu opens", [](TestApp& a) { a.statusBar.openMenu(); }},
       {"pointer press", [](TestApp& a) { a.workspace.changeContext(); }},
       {"focus moved", [](TestApp& a) { a.accessibility.focus(std::make_shared<FakeElement>()); }},
+      {"focus in another window", [](TestApp& a) { a.tap.report(KeyEventKind::focusMoved); }},
       {"tap timed out", [](TestApp& a) { a.tap.disable(KeyEventKind::disabledByTimeout); }},
   };
   for (const Way& way : ways) {

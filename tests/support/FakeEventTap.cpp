@@ -55,8 +55,12 @@ void FakeEventTap::type(std::string_view keys) {
 
 void FakeEventTap::disable(KeyEventKind how) {
   isOn = false;
+  report(how);
+}
+
+void FakeEventTap::report(KeyEventKind what) {
   KeyEvent event;
-  event.kind = how;
+  event.kind = what;
   handler_(event);
 }
 

@@ -27,6 +27,8 @@ class FakeEventTap final : public EventTap {
   void type(std::string_view keys);
   /// Switches the tap off as a platform does, and reports it.
   void disable(KeyEventKind how);
+  /// Reports what is no key.
+  void report(KeyEventKind what);
 
   KeyAttention attention() const { return attention_; }
   const std::string& trigger() const { return trigger_; }

@@ -48,7 +48,6 @@ void KeyFilter::run() {
   while (goesOn()) {
     bool busy = settle();
     busy |= carryOutPosts();
-    grabs_.holdChords();
     xcb_flush(keyboard_.connection);
     // After everything that writes or waits for a reply: both may read events, and the socket then does not
     // tell of them.
@@ -71,17 +70,12 @@ bool KeyFilter::goesOn() {
 
 bool KeyFilter::takeNews() {
   const bool layout = events_.takeLayoutChange();
-  const bool manager = events_.takeManagerChange();
-  const bool locks = events_.takeLockChange();
+  const bool focus = events_.takeFocusLoss();
   const bool releases = !events_.takeReleases().empty();
   if (layout) refreshLayout();
-  if (manager) grabs_.forgetOwners();
-  if (locks && holding_ == Holding::everything) {
-    holding_ = Holding::trigger;
-    holdBy(control_.settings());
-  }
+  if (focus && grabs_.followFocus()) judge_.reportFocusMove();
   if (releases) synthetic_.followReleases();
-  return layout || manager || locks || releases;
+  return layout || focus || releases;
 }
 
 // The server tells of a new mapping also when the user merely goes from one keyboard to another.
@@ -122,10 +116,7 @@ bool KeyFilter::holdBy(const TapSettings& settings) {
   holding_ = wanted;
   if (wanted == Holding::nothing) grabs_.holdNothing();
   if (wanted == Holding::trigger) grabs_.holdTrigger();
-  if (wanted == Holding::everything) {
-    const KeyboardState now = keyboardState(keyboard_.connection).value_or(KeyboardState{});
-    grabs_.holdEverything(now.locked & layout_->bits().locks());
-  }
+  if (wanted == Holding::everything) grabs_.holdEverything();
   return true;
 }
 
@@ -151,7 +142,6 @@ void KeyFilter::handle(const TypedKey& key) {
     verdict == KeyVerdict::pass ? keyboard_.replayHeldKey() : keyboard_.swallowHeldKey();
   }
   xcb_flush(keyboard_.connection);
-  grabs_.holdChords();
 }
 
 // What a modifier, a lock or a group switch does is done before the key is held: typing it again later would

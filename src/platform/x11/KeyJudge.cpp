@@ -33,10 +33,10 @@ std::optional<KeyVerdict> KeyJudge::ask(const KeyEvent& event) {
   return question->await();
 }
 
-void KeyJudge::reportTimeOut() {
-  queue_.async([owner = owner_] {
+void KeyJudge::report(KeyEventKind kind) {
+  queue_.async([owner = owner_, kind] {
     KeyEvent event;
-    event.kind = KeyEventKind::disabledByTimeout;
+    event.kind = kind;
     owner->judge(event);
   });
 }

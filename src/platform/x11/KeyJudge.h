@@ -24,7 +24,9 @@ class KeyJudge {
   /// after `close`.
   std::optional<KeyVerdict> ask(const KeyEvent& event);
   /// Keyboard thread: tells the handler that the tap was switched off.
-  void reportTimeOut();
+  void reportTimeOut() { report(KeyEventKind::disabledByTimeout); }
+  /// Keyboard thread: tells the handler that the focus has gone to another window.
+  void reportFocusMove() { report(KeyEventKind::focusMoved); }
   /// Any thread: no key waits any longer.
   void close();
 
@@ -34,6 +36,8 @@ class KeyJudge {
     std::shared_ptr<const EventTap::Handler> handler;
     KeyVerdict judge(const KeyEvent& event) const;
   };
+
+  void report(KeyEventKind kind);
 
   MainQueue& queue_;
   std::chrono::milliseconds answerTime_;

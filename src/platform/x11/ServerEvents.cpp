@@ -2,9 +2,6 @@
 
 #include <xcb/xinput.h>
 
-#include <string_view>
-#include <utility>
-
 #include "platform/x11/Handles.h"
 #include "platform/x11/KeyboardLayout.h"
 #include "platform/x11/XkbProtocol.h"
@@ -14,11 +11,9 @@ namespace {
 
 constexpr std::uint8_t sentBit = 0x80;
 
-xcb_atom_t intern(xcb_connection_t* connection, std::string_view name) {
-  const Owned<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
-      connection, xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data()),
-      nullptr));
-  return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+bool isLoss(const xcb_focus_out_event_t& event) {
+  const bool isMove = event.mode == XCB_NOTIFY_MODE_NORMAL || event.mode == XCB_NOTIFY_MODE_WHILE_GRABBED;
+  return isMove && event.detail != XCB_NOTIFY_DETAIL_INFERIOR;
 }
 
 }  // namespace
@@ -28,11 +23,8 @@ ServerEvents::ServerEvents(const SessionKeyboard& keyboard) : keyboard_(keyboard
   announceXkb(connection);
   const Owned<xcb_input_xi_query_version_reply_t> input(
       xcb_input_xi_query_version_reply(connection, xcb_input_xi_query_version(connection, 2, 2), nullptr));
-  managerAtom_ = intern(connection, "_NET_SUPPORTING_WM_CHECK");
   if (const auto* data = xcb_get_extension_data(connection, &xcb_xkb_id)) xkbEvent_ = data->first_event;
   if (const auto* data = xcb_get_extension_data(connection, &xcb_input_id)) inputOpcode_ = data->major_opcode;
-  const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
-  xcb_change_window_attributes(connection, keyboard.root, XCB_CW_EVENT_MASK, &mask);
   selectXkbEvents();
 }
 
@@ -41,11 +33,7 @@ void ServerEvents::selectXkbEvents() {
   constexpr std::uint16_t maps = XCB_XKB_MAP_PART_KEY_TYPES | XCB_XKB_MAP_PART_KEY_SYMS |
                                  XCB_XKB_MAP_PART_MODIFIER_MAP | XCB_XKB_MAP_PART_KEY_ACTIONS |
                                  XCB_XKB_MAP_PART_VIRTUAL_MODS | XCB_XKB_MAP_PART_VIRTUAL_MOD_MAP;
-  xcb_xkb_select_events_details_t details{};
-  details.affectState = XCB_XKB_STATE_PART_MODIFIER_LOCK;
-  details.stateDetails = XCB_XKB_STATE_PART_MODIFIER_LOCK;
-  xcb_xkb_select_events_aux(keyboard_.connection, XCB_XKB_ID_USE_CORE_KBD,
-                            whole | XCB_XKB_EVENT_TYPE_STATE_NOTIFY, 0, whole, maps, maps, &details);
+  xcb_xkb_select_events(keyboard_.connection, XCB_XKB_ID_USE_CORE_KBD, whole, 0, whole, maps, maps, nullptr);
 }
 
 void ServerEvents::sync() {
@@ -81,27 +69,18 @@ std::optional<HeldPress> ServerEvents::pick(xcb_generic_event_t* (*poll)(xcb_con
 
 void ServerEvents::note(const xcb_generic_event_t& event) {
   const std::uint8_t type = event.response_type & ~sentBit;
-  if (event.response_type == XCB_KEY_PRESS) {
-    // Held by a probe for combinations that others own.
-    xcb_allow_events(keyboard_.connection, XCB_ALLOW_REPLAY_KEYBOARD, XCB_CURRENT_TIME);
-  } else if (type == XCB_MAPPING_NOTIFY) {
+  if (type == XCB_MAPPING_NOTIFY) {
     layoutChanged_ = true;
-  } else if (type == XCB_PROPERTY_NOTIFY) {
-    managerChanged_ |= reinterpret_cast<const xcb_property_notify_event_t&>(event).atom == managerAtom_;
+  } else if (type == XCB_FOCUS_OUT) {
+    focusLost_ |= isLoss(reinterpret_cast<const xcb_focus_out_event_t&>(event));
   } else if (type == xkbEvent_ && xkbEvent_ != 0) {
-    noteXkb(event);
+    layoutChanged_ |= event.pad0 == XCB_XKB_NEW_KEYBOARD_NOTIFY || event.pad0 == XCB_XKB_MAP_NOTIFY;
   } else if (type == XCB_GE_GENERIC) {
     const auto& raw = reinterpret_cast<const xcb_input_raw_key_release_event_t&>(event);
     if (raw.extension == inputOpcode_ && raw.event_type == XCB_INPUT_RAW_KEY_RELEASE) {
       releases_.push_back(static_cast<std::uint8_t>(raw.detail));
     }
   }
-}
-
-void ServerEvents::noteXkb(const xcb_generic_event_t& event) {
-  const std::uint8_t kind = event.pad0;
-  locksChanged_ |= kind == XCB_XKB_STATE_NOTIFY;
-  layoutChanged_ |= kind == XCB_XKB_NEW_KEYBOARD_NOTIFY || kind == XCB_XKB_MAP_NOTIFY;
 }
 
 }  // namespace tessarin::x11

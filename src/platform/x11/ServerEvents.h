@@ -22,7 +22,7 @@ struct HeldPress {
 /// thread.
 class ServerEvents {
  public:
-  /// Announces XKB and asks for the events that tell of another mapping, lock or window manager.
+  /// Announces XKB and asks for the events that tell of another mapping.
   explicit ServerEvents(const SessionKeyboard& keyboard);
 
   /// The next held press that has come, without waiting.
@@ -34,8 +34,9 @@ class ServerEvents {
 
   /// Whether it happened since the last call.
   bool takeLayoutChange() { return std::exchange(layoutChanged_, false); }
-  bool takeManagerChange() { return std::exchange(managerChanged_, false); }
-  bool takeLockChange() { return std::exchange(locksChanged_, false); }
+  /// Of a window whose focus events the connection is sent. What the focus does because a key is held does
+  /// not count.
+  bool takeFocusLoss() { return std::exchange(focusLost_, false); }
   std::vector<std::uint8_t> takeReleases() { return std::exchange(releases_, {}); }
   /// Whether releases are reported, by `takeReleases`, whichever program they go to.
   void watchReleases(bool watched);
@@ -44,16 +45,13 @@ class ServerEvents {
   std::optional<HeldPress> heldPress(const xcb_generic_event_t& event) const;
   std::optional<HeldPress> pick(xcb_generic_event_t* (*poll)(xcb_connection_t*));
   void note(const xcb_generic_event_t& event);
-  void noteXkb(const xcb_generic_event_t& event);
   void selectXkbEvents();
 
   SessionKeyboard keyboard_;
-  xcb_atom_t managerAtom_ = XCB_ATOM_NONE;
   std::uint8_t xkbEvent_ = 0;
   std::uint8_t inputOpcode_ = 0;
   bool layoutChanged_ = false;
-  bool managerChanged_ = false;
-  bool locksChanged_ = false;
+  bool focusLost_ = false;
   std::vector<std::uint8_t> releases_;
 };
 

@@ -59,6 +59,7 @@ void DocumentWindow::take(const xcb_generic_event_t& event) {
   const auto& key = reinterpret_cast<const xcb_key_press_event_t&>(event);
   if (type == xkbEvent_) layout_ = x11::KeyboardLayout::read(connection_.get());
   if (type == XCB_KEY_PRESS) takePress(x11::TypedKey::of(key.detail, key.state));
+  if (type == XCB_FOCUS_IN || type == XCB_FOCUS_OUT) hasFocus_ = type == XCB_FOCUS_IN;
   if (type == XCB_FOCUS_OUT &&
       reinterpret_cast<const xcb_focus_out_event_t&>(event).mode == XCB_NOTIFY_MODE_GRAB) {
     ++grabs_;

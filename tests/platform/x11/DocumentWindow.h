@@ -26,6 +26,8 @@ class DocumentWindow {
   int presses() const { return presses_; }
   /// How often a grab took the keyboard away from the window.
   int grabs() const { return grabs_; }
+  /// As far as its events tell, those about grabs included.
+  bool hasFocus() const { return hasFocus_; }
   int pastes() const { return pastes_; }
   std::string clipboard;
 
@@ -43,6 +45,7 @@ class DocumentWindow {
   int presses_ = 0;
   int pastes_ = 0;
   int grabs_ = 0;
+  bool hasFocus_ = false;
 };
 
 }  // namespace tessarin::testing

@@ -64,6 +64,10 @@ KeyVerdict TapFixture::judge(const KeyEvent& event) {
     tap->setEnabled(true);
     return KeyVerdict::pass;
   }
+  if (event.kind == KeyEventKind::focusMoved) {
+    ++focusMoves;
+    return KeyVerdict::pass;
+  }
   if (std::exchange(holdNext_, false)) {
     attend(KeyAttention::holdBack);
     return KeyVerdict::pass;

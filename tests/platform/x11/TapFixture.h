@@ -53,6 +53,7 @@ class TapFixture : public ::testing::Test {
   std::function<void(const KeyEvent&)> onKey;
   int insertions = 0;
   int timeOuts = 0;
+  int focusMoves = 0;
 
  private:
   void insert();

@@ -5,6 +5,7 @@
 #include "support/EventTapSuite.h"
 #include "support/FakeDocument.h"
 #include "support/FakeEventTap.h"
+#include "text/Graphemes.h"
 
 namespace tessarin::testing {
 namespace {
@@ -85,17 +86,11 @@ TEST_F(X11EventTapTest, SeesAndHoldsNothingButTheTriggerWhileIdle) {
 
 TEST_F(X11EventTapTest, LeavesAWindowManagerItsCombinations) {
   start();
-  // It reserves a combination with the letter o and then says that it manages the display.
-  const x11::Connection other(xcb_connect(display.name().c_str(), nullptr));
-  const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(other.get())).data->root;
-  xcb_grab_key(other.get(), 0, root, XCB_MOD_MASK_4, 32, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
-  const x11::Owned<xcb_intern_atom_reply_t> check(xcb_intern_atom_reply(
-      other.get(), xcb_intern_atom(other.get(), 0, 24, "_NET_SUPPORTING_WM_CHECK"), nullptr));
-  xcb_change_property(other.get(), XCB_PROP_MODE_REPLACE, root, check->atom, XCB_ATOM_WINDOW, 32, 1, &root);
-  xcb_flush(other.get());
-  typist->type("a");
-  expectDocument("a");
-  document->clear();
+  const x11::Connection manager(xcb_connect(display.name().c_str(), nullptr));
+  const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(manager.get())).data->root;
+  constexpr xcb_keycode_t oKey = 32;
+  xcb_grab_key(manager.get(), 0, root, XCB_MOD_MASK_4, oKey, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+  xcb_flush(manager.get());
   typist->type(":oO");
   expectDocument(":oO");
   typist->press(XKB_KEY_Super_L);
@@ -104,7 +99,7 @@ TEST_F(X11EventTapTest, LeavesAWindowManagerItsCombinations) {
   typist->sync();
   int got = 0;
   EXPECT_TRUE(queue.runUntil([&] {
-    while (const x11::Owned<xcb_generic_event_t> event{xcb_poll_for_event(other.get())}) {
+    while (const x11::Owned<xcb_generic_event_t> event{xcb_poll_for_event(manager.get())}) {
       got += event->response_type == XCB_KEY_PRESS ? 1 : 0;
     }
     return got == 1;
@@ -122,6 +117,38 @@ TEST_F(X11EventTapTest, HoldsEveryKeyOfEitherKeyboardAtAnySpeed) {
     expectDocument(repeated("A😀b C", 100));
     EXPECT_EQ(insertions, 100);
   }
+}
+
+// Toolkits draw a window that has lost the focus differently, and the whole of it anew.
+TEST_F(X11EventTapTest, LeavesTheProgramItsFocusWhileAKeyOfAQueryIsHeld) {
+  start();
+  std::string heldWithFocus;
+  onKey = [&](const KeyEvent& event) {
+    document->text();
+    heldWithFocus += document->hasFocus() ? text::fromUtf16(event.text) : "";
+  };
+  typist->type(":ab\n");
+  expectDocument("😀");
+  EXPECT_EQ(heldWithFocus, "ab\r");
+}
+
+TEST_F(X11EventTapTest, HoldsKeysWhereTheFocusGoes) {
+  start();
+  DocumentWindow other(display.name());
+  document->takeFocus();
+  holdBack();
+  typist->type("ab");
+  typist->sync();
+  EXPECT_EQ(focusMoves, 0);
+  other.takeFocus();
+  ASSERT_TRUE(queue.runUntil([this] { return focusMoves == 1; }));
+  typist->type("cd");
+  typist->sync();
+  queue.runUntil([] { return false; }, std::chrono::milliseconds(20));
+  EXPECT_EQ(other.text(), "");
+  attend(KeyAttention::triggerOnly);
+  EXPECT_TRUE(queue.runUntil([&] { return other.text() == "abcd"; })) << other.text();
+  EXPECT_EQ(document->text(), "");
 }
 
 TEST_F(X11EventTapTest, KeepsOrderUnderAWindowManagerThatOwnsCombinations) {
