@@ -73,9 +73,16 @@ bool KeyFilter::takeNews() {
   const bool focus = events_.takeFocusLoss();
   const bool releases = !events_.takeReleases().empty();
   if (layout) refreshLayout();
-  if (focus && grabs_.followFocus()) judge_.reportFocusMove();
+  if (focus) followFocus();
   if (releases) synthetic_.followReleases();
   return layout || focus || releases;
+}
+
+// Whoever hears of the move may count on the keys being held.
+void KeyFilter::followFocus() {
+  if (!grabs_.followFocus()) return;
+  events_.sync();
+  judge_.reportFocusMove();
 }
 
 // The server tells of a new mapping also when the user merely goes from one keyboard to another.
@@ -126,21 +133,25 @@ void KeyFilter::handle(const TypedKey& key) {
     return;
   }
   if (passesUnjudged(key)) {
-    keyboard_.replayHeldKey();
-    xcb_flush(keyboard_.connection);
+    answer(KeyVerdict::pass);
     return;
   }
   const TapSettings settings = control_.settings();
   if (!kept_.empty() || (settings.isEnabled && settings.attention == KeyAttention::holdBack)) {
     keep(key);
-    keyboard_.swallowHeldKey();
+    answer(KeyVerdict::swallow);
     whole_.noteKept();
   } else {
     const KeyVerdict verdict = decide(key);
-    // What is held next has to be settled before this key is answered: the next one comes right behind it.
     holdBy(control_.settings());
-    verdict == KeyVerdict::pass ? keyboard_.replayHeldKey() : keyboard_.swallowHeldKey();
+    answer(verdict);
   }
+}
+
+// What is held next, and where, has to be settled before: the next key comes right behind the answer.
+void KeyFilter::answer(KeyVerdict verdict) {
+  followFocus();
+  verdict == KeyVerdict::pass ? keyboard_.replayHeldKey() : keyboard_.swallowHeldKey();
   xcb_flush(keyboard_.connection);
 }
 

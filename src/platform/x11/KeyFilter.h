@@ -40,10 +40,12 @@ class KeyFilter {
   bool carryOutPosts();
 
   void typeChord(const KeyPress& press);
+  void followFocus();
   void refreshLayout();
   bool holdBy(const TapSettings& settings);
   Holding wantedHolding(const TapSettings& settings) const;
   void handle(const TypedKey& key);
+  void answer(KeyVerdict verdict);
   bool passesUnjudged(const TypedKey& key) const;
   void keep(const TypedKey& key);
   void keepUnlessModifier(const TypedKey& key);

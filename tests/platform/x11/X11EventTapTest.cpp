@@ -139,6 +139,7 @@ TEST_F(X11EventTapTest, HoldsKeysWhereTheFocusGoes) {
   holdBack();
   typist->type("ab");
   typist->sync();
+  queue.runUntil([] { return false; }, std::chrono::milliseconds(20));
   EXPECT_EQ(focusMoves, 0);
   other.takeFocus();
   ASSERT_TRUE(queue.runUntil([this] { return focusMoves == 1; }));
@@ -149,6 +150,28 @@ TEST_F(X11EventTapTest, HoldsKeysWhereTheFocusGoes) {
   attend(KeyAttention::triggerOnly);
   EXPECT_TRUE(queue.runUntil([&] { return other.text() == "abcd"; })) << other.text();
   EXPECT_EQ(document->text(), "");
+}
+
+// The server keeps "b" until "a" has been answered, and gives it to the window that has the focus by then.
+TEST_F(X11EventTapTest, HoldsTheKeyBehindAHeldOneWhereTheFocusHasGone) {
+  start();
+  DocumentWindow other(display.name());
+  document->takeFocus();
+  onKey = [&](const KeyEvent& event) {
+    if (event.text != u"a") return;
+    typist->type("b");
+    typist->sync();
+    other.takeFocus();
+    attend(KeyAttention::holdBack);
+  };
+  typist->type(":a");
+  typist->sync();
+  ASSERT_TRUE(queue.runUntil([this] { return focusMoves == 1; }));
+  queue.runUntil([] { return false; }, std::chrono::milliseconds(20));
+  EXPECT_EQ(other.text(), "a");
+  attend(KeyAttention::triggerOnly);
+  EXPECT_TRUE(queue.runUntil([&] { return other.text() == "ab"; })) << other.text();
+  EXPECT_EQ(document->text(), ":");
 }
 
 TEST_F(X11EventTapTest, KeepsOrderUnderAWindowManagerThatOwnsCombinations) {
