@@ -29,6 +29,17 @@ def keys(*names):
     return press
 
 
+REST = "rest"
+
+
+def steps_for(editor, steps):
+    """REST is before composed text. While assistive technologies are switched on, Qt's programs ask them about plain keys
+    and not about composed text, which so overtakes those that they have not come to yet, with Tessarin and without."""
+    def rest(_):
+        wait_for(editor.is_at_rest, what="the letters to have been read")
+    return [rest if step is REST else step for step in steps if step is not REST or isinstance(editor, Featherpad)]
+
+
 CYRILLIC = keys("Cyrillic_pe", "Cyrillic_er", "Cyrillic_i")
 # The layout and its variant; what is typed besides the shortcodes, and what that leaves.
 LAYOUTS = [
@@ -37,8 +48,8 @@ LAYOUTS = [
     ("fr", "", [":caf", keys("eacute"), "\n"], "<coffee>"),
     ("fr", "", [":s", keys("ISO_Level3_Shift+e"), "mile "], ":s€mile "),
     ("de", "", [keys("at"), ":smi", keys("at"), " ", keys("ISO_Level3_Shift+e")], "@:smi@ €"),
-    ("de", "", [":caf", keys("dead_acute"), "e\n"], "<coffee>"),
-    ("de", "", [":caf", keys("dead_acute"), "e\b\b\b\b\bx"], "x"),
+    ("de", "", [":caf", REST, keys("dead_acute"), "e\n"], "<coffee>"),
+    ("de", "", [":caf", REST, keys("dead_acute"), "e\b\b\b\b\bx"], "x"),
 ]
 
 
@@ -62,15 +73,15 @@ class Layouts(DesktopTest):
             for layout, variant, steps, left in LAYOUTS:
                 with self.subTest(program=program.__name__, layout=layout, variant=variant, left=left), \
                      self.layout(layout, variant), program(self.session, self.typist) as editor:
-                    self.check(editor, [EXPANSIONS, *steps, EXPANSIONS], LEFT + left + LEFT)
+                    self.check(editor, [EXPANSIONS, *steps_for(editor, steps), EXPANSIONS], LEFT + left + LEFT)
 
     def test_compose(self):
         for program in PROGRAMS:
             with self.subTest(program=program.__name__), self.layout("us", option="compose:ralt"), \
                  program(self.session, self.typist) as editor:
-                self.check(editor, [":caf", keys("Multi_key", "apostrophe", "e"), "\n"], "<coffee>")
+                self.check(editor, steps_for(editor, [":caf", REST, keys("Multi_key", "apostrophe", "e"), "\n"]), "<coffee>")
                 # What becomes of a sequence that is broken off is up to the program, and so is the dead key.
-                self.play([":smi", keys("Multi_key", "apostrophe", "Escape"), " ", EXPANSIONS])
+                self.play(steps_for(editor, [":smi", REST, keys("Multi_key", "apostrophe", "Escape"), " ", EXPANSIONS]))
                 wait_for(lambda: re.fullmatch(f"<coffee>:smi'? ?{LEFT}", editor.wait_for_document("", 0.3)), what=editor.document())
 
     def test_cyrillic_beside_latin_switched_while_running(self):
