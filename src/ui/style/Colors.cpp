@@ -1,6 +1,7 @@
 #include "ui/style/Colors.h"
 
 #include <QPalette>
+#include <algorithm>
 
 namespace tessarin::ui {
 namespace {
@@ -12,6 +13,13 @@ QColor accentOf(const QPalette& palette) {
   QColor accent = palette.color(QPalette::Active, QPalette::Highlight);
   while (qGray(accent.rgb()) > 150) accent = accent.darker(112);
   return accent;
+}
+
+/// Few dark themes say what a link looks like, and Qt's own blue cannot be read on them.
+QColor linkOf(const QPalette& palette) {
+  const QColor link = palette.color(QPalette::Active, QPalette::Link);
+  if (!isDark(palette)) return link;
+  return QColor::fromHslF(link.hslHueF(), link.hslSaturationF(), std::max(link.lightnessF(), 0.78F));
 }
 
 }  // namespace
@@ -26,6 +34,8 @@ QColor colorOf(ColorRole role, const QPalette& palette) {
       return withOpacity(primary, secondaryTextOpacity);
     case ColorRole::accent:
       return accentOf(palette);
+    case ColorRole::link:
+      return linkOf(palette);
     case ColorRole::green:
       return dark ? QColor(0x51, 0xcf, 0x66) : QColor(0x21, 0x83, 0x38);
     case ColorRole::red:

@@ -2,6 +2,7 @@
 
 #include <QImage>
 
+#include "ui/style/Colors.h"
 #include "ui/update/ReleaseNotesHtml.h"
 
 namespace tessarin::ui {
@@ -12,6 +13,7 @@ ReleaseNotesView::ReleaseNotesView(const QString& notes, QWidget* parent) : QTex
   setTabChangesFocus(true);
   setAccessibleName(tr("Release notes"));
   document()->setDocumentMargin(8);
+  document()->setDefaultStyleSheet("a { color: " + colorOf(ColorRole::link, palette()).name() + " }");
   setHtml(releaseNotesHtml(notes));
   connect(this, &QTextBrowser::anchorClicked, this, &ReleaseNotesView::follow);
 }

@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
+#include <QTextCursor>
+#include <algorithm>
+#include <cmath>
 
 #include "platform/qt/TestApplication.h"
 #include "support/CaseName.h"
@@ -41,6 +44,30 @@ INSTANTIATE_TEST_SUITE_P(
                       Notes{"LoneBracket", "<p>a</p> 1 < 2 <3", "<p>a</p> 1 &lt; 2 &lt;3"},
                       Notes{"CutOffTag", "<p>a</p><a href='x", "<p>a</p>&lt;a href='x"}),
     CaseName());
+
+double luminance(const QColor& color) {
+  const auto linear = [](float part) { return std::pow(part, 2.2F); };
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor& a, const QColor& b) {
+  const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
+  return (lighter + 0.05) / (darker + 0.05);
+}
+
+TEST(ReleaseNotesLinks, CanBeReadOnLightAndDarkGround) {
+  testing::ensureApplication();
+  for (const QColor ground : {QColor(0xf6, 0xf5, 0xf4), QColor(0x2b, 0x2b, 0x2d)}) {
+    QWidget window;
+    window.setPalette(QPalette(ground));
+    const ReleaseNotesView view("<p><a href='https://x/'>x</a></p>", &window);
+    QTextCursor link(view.document());
+    link.movePosition(QTextCursor::End);
+    ASSERT_TRUE(link.charFormat().isAnchor());
+    EXPECT_GT(contrast(link.charFormat().foreground().color(), view.palette().color(QPalette::Base)), 4.5)
+        << ground.name().toStdString();
+  }
+}
 
 TEST(HostileNotes, AreLaidOutAtOnce) {
   testing::ensureApplication();
