@@ -82,6 +82,7 @@ class WithThePointer(DesktopTest):
             self.play(["a:zqxt"])
             x, y, width, height = self.wait_for_popup(lambda frame: frame[3] == 64 + 36)  # with one row
             self.typist.click(x + width / 2, y + height - 28 - 18)  # the last row, above the hints
+            wait_for(lambda: self.typist.popup() is None, what="the click to be taken before the keys that save")
             self.assertEqual(editor.wait_for_document("asecond"), "asecond")
 
     def test_click_elsewhere_ends_it(self):
