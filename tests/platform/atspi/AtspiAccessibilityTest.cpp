@@ -411,11 +411,14 @@ TEST_F(AtspiAccessibilityTest, believesNoPaneThatTakesTheFocusOfItsField) {
   const Subscription subscription = accessibility->onFocusMoved([&moves] { ++moves; });
   application->answer("GetState", [](DBusMessage* call, DBusMessageIter* reply) {
     const bool isField = std::string_view(dbus_message_get_path(call)) == FakeApplication::fieldPath;
-    const auto shown = busState::visible | busState::showing | busState::focused | busState::active;
+    // Not visible, so that a search, which the looks below may bring about, finds nothing.
+    const auto shown = busState::showing | busState::focused | busState::active;
     states(shown | (isField ? busState::editable : 0))(call, reply);
   });
   application->announceWindow("deactivate");
+  ASSERT_TRUE(eventually([this] { return focusedPath().empty(); }));
   application->announceWindow("activate");
+  ASSERT_TRUE(eventually([this] { return focusedPath() == FakeApplication::fieldPath; }));
   application->announceFocus(FakeApplication::otherFieldPath, true);
   application->announceFocus(FakeApplication::fieldPath, false);
   ASSERT_TRUE(eventually([this] { return focusedPath().empty(); })) << "all events have been judged";
