@@ -52,7 +52,15 @@ void AutocompletePanel::hide() {
   ++requests_;
   presented_ = {};
   caret_.reset();
-  if (std::exchange(shown_, std::nullopt)) surface_.hide();
+  if (!std::exchange(shown_, std::nullopt)) return;
+  isLeaving_ = true;
+  queue_.async([this, alive = std::weak_ptr<char>(alive_)] {
+    if (!alive.expired()) takeAway();
+  });
+}
+
+void AutocompletePanel::takeAway() {
+  if (std::exchange(isLeaving_, false)) surface_.hide();
 }
 
 void AutocompletePanel::onRowClicked(std::function<void(int index)> callback) {
@@ -127,6 +135,7 @@ Rect AutocompletePanel::frameAt(const std::optional<Rect>& caret, const ScreenLa
 }
 
 void AutocompletePanel::showInFrame() {
+  isLeaving_ = false;
   shown_ = Shown{presented_, frame_};
   surface_.show(presented_, frame_);
 }

@@ -51,6 +51,9 @@ class AutocompletePanel final : public PopupPresenter {
   void locateAgainSoon();
   Rect frameAt(const std::optional<Rect>& caret, const ScreenLayout& layout) const;
   void showInFrame();
+  /// Once what the key in hand is for has been done: when the window goes, the application under it draws
+  /// itself anew, and answers nobody meanwhile.
+  void takeAway();
   void goOn(void (AutocompletePanel::*step)());
   /// The step, unless the popup has been asked for something else by then.
   std::function<void()> stillWanted(void (AutocompletePanel::*step)());
@@ -64,6 +67,7 @@ class AutocompletePanel final : public PopupPresenter {
   PopupContent presented_;
   bool isVisible_ = false;
   std::optional<Shown> shown_;
+  bool isLeaving_ = false;     ///< the window still stands there, for nothing
   Rect frame_;                 ///< for what is presented
   std::optional<Rect> caret_;  ///< where it was found last
   std::uint64_t requests_ = 0;

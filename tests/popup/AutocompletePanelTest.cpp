@@ -73,6 +73,9 @@ TEST_F(AutocompletePanelTest, followsTheCaretWithEveryQueryAndAfterHiding) {
   show("sm");
   EXPECT_EQ(surface.shows.back().frame.x, 310);
   panel->hide();
+  EXPECT_FALSE(panel->isVisible());
+  EXPECT_TRUE(surface.isShown) << "what is done for the key goes first";
+  queue.runReady();
   EXPECT_FALSE(surface.isShown);
   caret.x = 500;
   show("sm");

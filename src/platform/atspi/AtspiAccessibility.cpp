@@ -51,6 +51,7 @@ ElementRef AtspiAccessibility::systemWide() {
 void AtspiAccessibility::beginBudget(std::chrono::milliseconds budget) {
   channel_.budget().open(budget);
   inBackground_.clear();
+  reading_.reset();
 }
 
 bool AtspiAccessibility::isBusy(const ElementRef& element) {
@@ -61,6 +62,7 @@ bool AtspiAccessibility::isBusy(const ElementRef& element) {
 
 bool AtspiAccessibility::pause(std::chrono::milliseconds duration) {
   if (channel_.budget().allowance(duration) < duration) return false;
+  reading_.reset();
   std::this_thread::sleep_for(duration);
   channel_.budget().charge(duration);
   return true;
@@ -75,6 +77,7 @@ void AtspiAccessibility::prepare() {
     toolkits_.clear();
     processes_.clear();
     kin_ = {};
+    reading_.reset();
     channel_.use(std::move(connection));
   }
   if (!channel_.isConnected()) watcher_.requestConnection();
@@ -156,11 +159,7 @@ std::optional<ObjectReference> AtspiAccessibility::windowOf(ObjectReference obje
 AtspiAccessibility::Value AtspiAccessibility::ofObject(const ObjectReference& object, std::string_view name) {
   if (name == attribute::role || name == attribute::parent) return kinship(object, name);
   if (name == attribute::value) return valueOf(object);
-  if (name == attribute::selectedTextRange) {
-    auto text = textOf(object);
-    const auto range = text ? text->selectedRange() : std::nullopt;
-    return range ? Value(*range) : std::nullopt;
-  }
+  if (name == attribute::selectedTextRange) return selectedRange(object);
   if (name != attribute::position && name != attribute::size) return std::nullopt;
   const auto rect = extents(object);
   if (!rect) return std::nullopt;
@@ -186,13 +185,14 @@ AtspiAccessibility::Value AtspiAccessibility::kinship(const ObjectReference& obj
 }
 
 AtspiAccessibility::Value AtspiAccessibility::role(const ObjectReference& object) {
+  const Reading* read = object == focus().element ? reading(object) : nullptr;
   RemoteObject remote(channel_, object);
-  const auto number = remote.role();
+  const auto number = read != nullptr ? read->glance.role : remote.role();
   if (!number) return std::nullopt;
   std::uint64_t states = 0;
   std::string tag;
   if (isPlainText(*number)) {
-    states = remote.states().value_or(0);
+    states = (read != nullptr ? read->glance.states : remote.states()).value_or(0);
     const auto counts = toolkit(object.bus);
     if (counts && counts->showsWebPages) tag = remote.attribute("tag");
   }
@@ -200,12 +200,30 @@ AtspiAccessibility::Value AtspiAccessibility::role(const ObjectReference& object
 }
 
 AtspiAccessibility::Value AtspiAccessibility::valueOf(const ObjectReference& object) {
-  RemoteObject remote(channel_, object);
-  const auto role = remote.role();
-  if (!role || *role == busRole::terminal) return std::nullopt;
-  if ((remote.states().value_or(0) & busState::editable) == 0) return std::nullopt;
-  if (!remote.hasInterface("org.a11y.atspi.EditableText")) return std::nullopt;
-  return std::string();
+  const Reading* read = reading(object);
+  if (read == nullptr || read->glance.role == busRole::terminal) return std::nullopt;
+  const bool isEditable = (read->glance.states.value_or(0) & busState::editable) != 0;
+  return isEditable && read->glance.isEditableText ? Value(std::string()) : std::nullopt;
+}
+
+AtspiAccessibility::Value AtspiAccessibility::selectedRange(const ObjectReference& object) {
+  std::optional<TextRange> range;
+  if (reading_ && reading_->of == object) {
+    range = reading_->glance.selectedRange;
+  } else if (auto text = textOf(object)) {
+    range = text->selectedRange();
+  }
+  return range ? Value(*range) : std::nullopt;
+}
+
+const AtspiAccessibility::Reading* AtspiAccessibility::reading(const ObjectReference& object) {
+  if (reading_ && reading_->of == object) return &*reading_;
+  auto text = textOf(object);
+  if (!text) return nullptr;
+  RemoteText::Glance glance = text->glance();
+  if (!glance.role) return nullptr;
+  reading_ = Reading{object, glance, {}, {}};
+  return &*reading_;
 }
 
 std::optional<Toolkit> AtspiAccessibility::toolkit(const std::string& bus) {
@@ -268,16 +286,37 @@ std::optional<AttributeValue> AtspiAccessibility::parameterizedAttribute(const E
   if (asked == nullptr || asked->isSystemWide() || range == nullptr) return std::nullopt;
   if (name != attribute::stringForRange && name != attribute::boundsForRange) return std::nullopt;
   prepare();
+  if (name == attribute::stringForRange) return stringFor(asked->object(), *range);
   auto text = textOf(asked->object());
   if (!text) return std::nullopt;
-  if (name == attribute::stringForRange) {
-    auto string = text->string(*range);
-    return string ? Value(*std::move(string)) : std::nullopt;
-  }
   const auto units = text->caretBounds(*range);
   const auto points =
       units ? toPoints(*units, asked->object(), text->toolkit().isWindowRelative) : std::nullopt;
   return points ? Value(*points) : std::nullopt;
+}
+
+AtspiAccessibility::Value AtspiAccessibility::stringFor(const ObjectReference& object,
+                                                        const TextRange& range) {
+  auto text = textOf(object);
+  auto stretch = text ? text->stretch(range) : std::nullopt;
+  if (!stretch) return std::nullopt;
+  Value string = stretch->text;
+  if (reading_ && reading_->of == object) {
+    reading_->range = range;
+    reading_->stretch = *std::move(stretch);
+  }
+  return string;
+}
+
+// What has just been looked at for this key is what is replaced.
+AccessibilityStatus AtspiAccessibility::replace(const ObjectReference& object, const TextRange& range,
+                                                const std::string& newText) {
+  const auto read = std::exchange(reading_, std::nullopt);
+  auto text = textOf(object);
+  if (!text) return AccessibilityStatus::failure;
+  if (read && read->of == object && read->range == range) return text->replace(read->stretch, newText);
+  const auto stretch = text->stretch(range);
+  return stretch ? text->replace(*stretch, newText) : AccessibilityStatus::failure;
 }
 
 AccessibilityStatus AtspiAccessibility::setAttribute(const ElementRef& element, std::string_view name,
@@ -298,8 +337,7 @@ AccessibilityStatus AtspiAccessibility::setAttribute(const ElementRef& element, 
     return AccessibilityStatus::failure;
   }
   prepare();
-  auto text = textOf(asked->object());
-  return text ? text->replace(selection->range, *string) : AccessibilityStatus::failure;
+  return replace(asked->object(), selection->range, *string);
 }
 
 }  // namespace tessarin::atspi

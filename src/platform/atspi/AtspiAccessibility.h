@@ -81,6 +81,7 @@ class AtspiAccessibility final : public Accessibility {
   /// Role or parent; of what the focused element lies in they are asked once, until the focus moves.
   Value kinship(const ObjectReference& object, std::string_view name);
   Value role(const ObjectReference& object);
+  Value selectedRange(const ObjectReference& object);
   Value valueOf(const ObjectReference& object);
   std::optional<ObjectReference> windowOf(ObjectReference object);
   /// None without the origin that window-relative rectangles need.
@@ -90,6 +91,8 @@ class AtspiAccessibility final : public Accessibility {
   std::optional<Rect> extents(const ObjectReference& object);
   std::optional<Toolkit> toolkit(const std::string& bus);
   std::optional<RemoteText> textOf(const ObjectReference& object);
+  Value stringFor(const ObjectReference& object, const TextRange& range);
+  AccessibilityStatus replace(const ObjectReference& object, const TextRange& range, const std::string& text);
 
   const Options options_;
   CallChannel channel_;
@@ -104,6 +107,15 @@ class AtspiAccessibility final : public Accessibility {
   /// As remembered of what has the focus now.
   Kin& kin();
   Kin kin_;
+  /// What has been read for the key in hand, as long as nobody waits or writes.
+  struct Reading {
+    ObjectReference of;
+    RemoteText::Glance glance;
+    std::optional<TextRange> range;  ///< of the stretch
+    RemoteText::Stretch stretch;
+  };
+  const Reading* reading(const ObjectReference& object);
+  std::optional<Reading> reading_;
   struct Selection {
     ObjectReference object;
     TextRange range;

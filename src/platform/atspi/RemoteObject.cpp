@@ -37,27 +37,30 @@ void RemoteObject::replaceByReplies(std::span<MessagePtr> requests) {
   std::ranges::transform(answers, requests.begin(), [](Answer& answer) { return std::move(answer.reply); });
 }
 
+MessagePtr RemoteObject::roleRequest() const {
+  return request(accessibleInterface, "GetRole");
+}
+
+MessagePtr RemoteObject::statesRequest() const {
+  return request(accessibleInterface, "GetState");
+}
+
+MessagePtr RemoteObject::interfacesRequest() const {
+  return request(accessibleInterface, "GetInterfaces");
+}
+
 std::optional<std::uint32_t> RemoteObject::role() {
-  return MessageReader(ask(request(accessibleInterface, "GetRole")).get()).uint32();
+  return MessageReader(ask(roleRequest()).get()).uint32();
 }
 
 std::optional<std::uint64_t> RemoteObject::states() {
-  return readStates(ask(request(accessibleInterface, "GetState")).get());
+  return readStates(ask(statesRequest()).get());
 }
 
 std::optional<ObjectReference> RemoteObject::parent() {
   const MessagePtr reply = ask(propertyRead(object_, accessibleInterface, "Parent"));
   auto value = propertyValue(reply.get());
   return value ? value->reference() : std::nullopt;
-}
-
-bool RemoteObject::hasInterface(std::string_view name) {
-  const MessagePtr reply = ask(request(accessibleInterface, "GetInterfaces"));
-  auto names = MessageReader(reply.get()).array();
-  while (names && !names->atEnd()) {
-    if (names->string() == name) return true;
-  }
-  return false;
 }
 
 std::string RemoteObject::attribute(std::string_view name) {

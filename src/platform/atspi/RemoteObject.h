@@ -23,7 +23,6 @@ class RemoteObject {
   std::optional<std::uint32_t> role();
   std::optional<std::uint64_t> states();
   std::optional<ObjectReference> parent();
-  bool hasInterface(std::string_view name);
   /// The value of one of the object's attributes; empty when it has none of that name.
   std::string attribute(std::string_view name);
   /// Pixels, from the window's top left instead of the screen's if wanted.
@@ -34,6 +33,9 @@ class RemoteObject {
 
  protected:
   MessagePtr request(const char* interface, const char* method) const;
+  MessagePtr roleRequest() const;
+  MessagePtr statesRequest() const;
+  MessagePtr interfacesRequest() const;
   MessagePtr ask(MessagePtr request);
   /// Asks several things at once; the answers come in the same order.
   template <class... Requests>

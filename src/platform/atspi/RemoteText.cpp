@@ -39,6 +39,22 @@ std::optional<Rect> rectOf(DBusMessage* reply) {
   return readRect(reader);
 }
 
+/// Whether a reply that lists names has this one.
+bool contains(DBusMessage* reply, std::string_view wanted) {
+  auto names = MessageReader(reply).array();
+  while (names && !names->atEnd()) {
+    if (names->string() == wanted) return true;
+  }
+  return false;
+}
+
+template <class... Messages>
+std::vector<MessagePtr> all(Messages... messages) {
+  std::vector<MessagePtr> result;
+  (result.push_back(std::move(messages)), ...);
+  return result;
+}
+
 bool saysYes(const Answer& answer) {
   return answer.kind == Answer::Kind::replied && MessageReader(answer.reply.get()).boolean() == true;
 }
@@ -49,13 +65,25 @@ RemoteText::RemoteText(CallChannel& channel, ObjectReference object, Toolkit too
     : RemoteObject(channel, std::move(object)), toolkit_(toolkit) {}
 
 std::optional<TextRange> RemoteText::selectedRange() {
-  const auto [offset, count] =
+  const auto [caret, selections] =
       askAll(propertyRead(object_, textInterface, "CaretOffset"), request(textInterface, "GetNSelections"));
-  auto value = MessageReader(offset.get()).variant();
-  const auto caret = value ? value->int32() : std::nullopt;
-  if (!caret || *caret < 0) return std::nullopt;
-  const TextRange atCaret{*caret, 0};
-  if (MessageReader(count.get()).int32().value_or(0) < 1) return atCaret;
+  return rangeOf(caret.get(), selections.get());
+}
+
+RemoteText::Glance RemoteText::glance() {
+  const auto [role, states, interfaces, caret, selections] =
+      askAll(roleRequest(), statesRequest(), interfacesRequest(),
+             propertyRead(object_, textInterface, "CaretOffset"), request(textInterface, "GetNSelections"));
+  return {MessageReader(role.get()).uint32(), readStates(states.get()),
+          contains(interfaces.get(), editableText), rangeOf(caret.get(), selections.get())};
+}
+
+std::optional<TextRange> RemoteText::rangeOf(DBusMessage* caret, DBusMessage* selections) {
+  auto value = MessageReader(caret).variant();
+  const auto offset = value ? value->int32() : std::nullopt;
+  if (!offset || *offset < 0) return std::nullopt;
+  const TextRange atCaret{*offset, 0};
+  if (MessageReader(selections).int32().value_or(0) < 1) return atCaret;
   MessagePtr question = request(textInterface, "GetSelection");
   append(question.get(), std::int64_t{0});
   const MessagePtr reply = ask(std::move(question));
@@ -64,12 +92,6 @@ std::optional<TextRange> RemoteText::selectedRange() {
   const auto end = reader.int32();
   if (!start || !end || *start < 0 || *end <= *start) return atCaret;
   return TextRange{*start, *end - *start};
-}
-
-std::optional<std::string> RemoteText::string(const TextRange& range) {
-  auto found = stretch(range);
-  if (!found) return std::nullopt;
-  return std::move(found->text);
 }
 
 std::optional<RemoteText::Stretch> RemoteText::stretch(const TextRange& range) {
@@ -143,63 +165,92 @@ std::optional<Rect> RemoteText::behind(std::optional<Rect> letter, const std::op
   return letter;
 }
 
-AccessibilityStatus RemoteText::replace(const TextRange& range, const std::string& text) {
+AccessibilityStatus RemoteText::replace(const Stretch& old, const std::string& text) {
   if (!canBeSent(text)) return AccessibilityStatus::failure;
-  const auto old = stretch(range);
-  if (!old) return AccessibilityStatus::failure;
-  const bool erases = !old->text.empty();
-  if (erases) {
-    const AccessibilityStatus erased = erase(*old);
-    if (erased != AccessibilityStatus::success) return erased;
-  }
-  const AccessibilityStatus inserted = insert(old->start, text);
-  if (inserted == AccessibilityStatus::failure && erases) return AccessibilityStatus::erasedOnly;
-  return inserted;
+  if (old.text.empty()) return insert(old.start, text);
+  if (toolkit_.changesAtOneGo && !text.empty()) return eraseAndInsert(old, text);
+  const AccessibilityStatus erased = erase(old);
+  if (erased != AccessibilityStatus::success) return erased;
+  const AccessibilityStatus inserted = insert(old.start, text);
+  return inserted == AccessibilityStatus::failure ? AccessibilityStatus::erasedOnly : inserted;
 }
 
-AccessibilityStatus RemoteText::erase(const Stretch& stretch) {
-  MessagePtr change = request(editableText, "DeleteText");
-  append(change.get(), stretch.start);
-  append(change.get(), stretch.end);
-  const Answer answer = carryOut(std::move(change));
-  if (saysYes(answer)) return AccessibilityStatus::success;
-  if (answer.kind == Answer::Kind::notSent) return AccessibilityStatus::failure;
+AccessibilityStatus RemoteText::erase(const Stretch& old) {
+  const Answer erased = std::move(carryOut(all(erasure(old))).front());
+  if (saysYes(erased)) return AccessibilityStatus::success;
+  if (erased.kind == Answer::Kind::notSent) return AccessibilityStatus::failure;
   // Not answered: it stands in the application's queue and will be carried out when the application wakes, so
   // it must not be erased a second time. Refused: believed only when the text is still there.
-  if (answer.kind == Answer::Kind::unanswered || !stillHolds(stretch)) return AccessibilityStatus::erasedOnly;
+  if (erased.kind == Answer::Kind::unanswered || !stillHolds(old)) return AccessibilityStatus::erasedOnly;
   return AccessibilityStatus::failure;
+}
+
+AccessibilityStatus RemoteText::insert(std::int64_t position, const std::string& text) {
+  if (text.empty()) return AccessibilityStatus::success;
+  const Answer inserted = std::move(carryOut(all(insertion(position, text))).front());
+  // In the application's queue it is as good as done; another way of inserting would bring the text twice.
+  if (inserted.kind == Answer::Kind::unanswered) return AccessibilityStatus::success;
+  if (!saysYes(inserted)) return AccessibilityStatus::failure;
+  placeCaretBehind(position, text);
+  return AccessibilityStatus::success;
+}
+
+// An application that begins to draw what it has erased lets the insertion wait for a whole frame.
+AccessibilityStatus RemoteText::eraseAndInsert(const Stretch& old, const std::string& text) {
+  const auto answers = carryOut(all(erasure(old), insertion(old.start, text)));
+  const Answer& erased = answers.front();
+  const Answer& inserted = answers.back();
+  if (erased.kind == Answer::Kind::notSent) return AccessibilityStatus::failure;
+  if (inserted.kind == Answer::Kind::unanswered) return AccessibilityStatus::success;
+  if (!saysYes(inserted)) {
+    return !saysYes(erased) && stillHolds(old) ? AccessibilityStatus::failure
+                                               : AccessibilityStatus::erasedOnly;
+  }
+  if (!saysYes(erased) && takesBack(old, text)) return AccessibilityStatus::failure;
+  placeCaretBehind(old.start, text);
+  return AccessibilityStatus::success;
+}
+
+// Where the new text was written before the old one, which the application would not erase.
+bool RemoteText::takesBack(const Stretch& old, const std::string& text) {
+  const std::int64_t behind = old.start + countUnits(text, toolkit_.offset);
+  if (this->text(old.start, behind + old.end - old.start) != text + old.text) return false;
+  return saysYes(carryOut(all(erasure({old.start, behind, text}))).front());
 }
 
 bool RemoteText::stillHolds(const Stretch& stretch) {
   return text(stretch.start, stretch.end) == stretch.text;
 }
 
-AccessibilityStatus RemoteText::insert(std::int64_t position, const std::string& text) {
-  if (text.empty()) return AccessibilityStatus::success;
+MessagePtr RemoteText::erasure(const Stretch& stretch) const {
+  MessagePtr change = request(editableText, "DeleteText");
+  append(change.get(), stretch.start);
+  append(change.get(), stretch.end);
+  return change;
+}
+
+MessagePtr RemoteText::insertion(std::int64_t position, const std::string& text) const {
   MessagePtr change = request(editableText, "InsertText");
   append(change.get(), position);
   append(change.get(), text);
   append(change.get(), countUnits(text, toolkit_.insertedLength));
-  const Answer answer = carryOut(std::move(change));
-  // In the application's queue it is as good as done; another way of inserting would bring the text twice.
-  if (answer.kind == Answer::Kind::unanswered) return AccessibilityStatus::success;
-  if (!saysYes(answer)) return AccessibilityStatus::failure;
-  if (!toolkit_.movesCaret) placeCaret(position + countUnits(text, toolkit_.offset));
-  return AccessibilityStatus::success;
+  return change;
 }
 
-void RemoteText::placeCaret(std::int64_t position) {
+void RemoteText::placeCaretBehind(std::int64_t position, const std::string& text) {
+  if (toolkit_.movesCaret) return;
+  const std::int64_t behind = position + countUnits(text, toolkit_.offset);
   const auto caret = intProperty(textInterface, "CaretOffset");
-  if (!caret || *caret == position) return;
+  if (!caret || *caret == behind) return;
   MessagePtr change = request(textInterface, "SetCaretOffset");
-  append(change.get(), position);
+  append(change.get(), behind);
   ask(std::move(change));
 }
 
-Answer RemoteText::carryOut(MessagePtr change) {
-  Answer answer = channel_.call(std::move(change));
-  if (answer.kind == Answer::Kind::unanswered) answer = channel_.awaitOwed(object_.bus);
-  return answer;
+std::vector<Answer> RemoteText::carryOut(std::vector<MessagePtr> changes) {
+  std::vector<Answer> answers = channel_.callAll(std::move(changes));
+  if (answers.back().kind == Answer::Kind::unanswered) answers.back() = channel_.awaitOwed(object_.bus);
+  return answers;
 }
 
 }  // namespace tessarin::atspi

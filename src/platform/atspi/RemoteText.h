@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/Accessibility.h"
 #include "platform/atspi/RemoteObject.h"
@@ -16,17 +17,6 @@ class RemoteText : public RemoteObject {
  public:
   RemoteText(CallChannel& channel, ObjectReference object, Toolkit toolkit);
 
-  /// The selection, or the caret as an empty one. A selection's length is in the application's units.
-  std::optional<TextRange> selectedRange();
-  std::optional<std::string> string(const TextRange& range);
-  /// The caret as it would be at the range's end, in pixels; relative to the window if that is the toolkit's
-  /// way.
-  std::optional<Rect> caretBounds(const TextRange& range);
-  /// `erasedOnly` also when it is not certain that the old text stands as it was.
-  AccessibilityStatus replace(const TextRange& range, const std::string& text);
-  const Toolkit& toolkit() const { return toolkit_; }
-
- private:
   /// The clusters of a range: where they start, and what they are.
   struct Stretch {
     std::int64_t start = 0;
@@ -34,16 +24,43 @@ class RemoteText : public RemoteObject {
     std::string text;
   };
 
+  /// The selection, or the caret as an empty one. A selection's length is in the application's units.
+  std::optional<TextRange> selectedRange();
+  /// The clusters of a range, as they stand there now.
   std::optional<Stretch> stretch(const TextRange& range);
+  /// The caret as it would be at the range's end, in pixels; relative to the window if that is the toolkit's
+  /// way.
+  std::optional<Rect> caretBounds(const TextRange& range);
+  /// What tells whether and where one may write, asked at one go: an application that begins to draw between
+  /// two answers lets the second one wait for a whole frame.
+  struct Glance {
+    std::optional<std::uint32_t> role;
+    std::optional<std::uint64_t> states;
+    bool isEditableText = false;
+    std::optional<TextRange> selectedRange;
+  };
+  Glance glance();
+
+  /// Replaces what was read. `erasedOnly` also when it is not certain that the old text stands as it was.
+  AccessibilityStatus replace(const Stretch& old, const std::string& text);
+  const Toolkit& toolkit() const { return toolkit_; }
+
+ private:
+  /// Of the answers to `CaretOffset` and `GetNSelections`.
+  std::optional<TextRange> rangeOf(DBusMessage* caret, DBusMessage* selections);
   std::optional<std::string> text(std::int64_t start, std::int64_t end);
   MessagePtr textRequest(std::int64_t start, std::int64_t end) const;
   MessagePtr extentsRequest(std::int64_t position) const;
   /// Where the caret stands behind a letter: no rectangle is to be had where there is no character.
   std::optional<Rect> behind(std::optional<Rect> letter, const std::optional<std::string>& text);
-  AccessibilityStatus erase(const Stretch& stretch);
+  MessagePtr erasure(const Stretch& stretch) const;
+  MessagePtr insertion(std::int64_t position, const std::string& text) const;
+  AccessibilityStatus erase(const Stretch& old);
   AccessibilityStatus insert(std::int64_t position, const std::string& text);
-  void placeCaret(std::int64_t position);
-  Answer carryOut(MessagePtr change);
+  AccessibilityStatus eraseAndInsert(const Stretch& old, const std::string& text);
+  bool takesBack(const Stretch& old, const std::string& text);
+  void placeCaretBehind(std::int64_t position, const std::string& text);
+  std::vector<Answer> carryOut(std::vector<MessagePtr> changes);
   bool stillHolds(const Stretch& stretch);
 
   const Toolkit toolkit_;

@@ -29,12 +29,16 @@ std::string withoutPadding(std::string_view text) {
 }
 
 Toolkit Toolkit::named(std::string_view name, std::string_view version) {
-  if (name == "Qt") return {TextUnit::utf16, TextUnit::utf16, false, false, false};
+  if (name == "Qt")
+    return {.offset = TextUnit::utf16,
+            .insertedLength = TextUnit::utf16,
+            .showsWebPages = false,
+            .changesAtOneGo = true};
   if (name == "Gecko") return {.offset = TextUnit::utf16, .pads = true};
   const bool isGtk3 = name == "gtk";
   const bool isGtk4 = name == "GTK" && !version.starts_with("3.");
   if (!isGtk3 && !isGtk4) return {};
-  return {TextUnit::codePoint, TextUnit::utf8Byte, true, false, isGtk4};
+  return {.movesCaret = true, .showsWebPages = false, .isWindowRelative = isGtk4, .changesAtOneGo = true};
 }
 
 }  // namespace tessarin::atspi

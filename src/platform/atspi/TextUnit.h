@@ -29,6 +29,8 @@ struct Toolkit {
   bool isWindowRelative = false;
   /// Its texts come padded.
   bool pads = false;
+  /// Refuses neither erasing nor inserting in an editable text, so that both can be asked for at one go.
+  bool changesAtOneGo = false;
 
   /// `name` and `version` as the application tells them.
   static Toolkit named(std::string_view name, std::string_view version);

@@ -63,8 +63,9 @@ class AtspiAccessibilityTest : public ::testing::Test {
     accessibility = std::make_unique<AtspiAccessibility>(queue, options);
   }
 
-  void openApplication() {
+  void openApplication(const char* toolkit = "Fake") {
     application = std::make_unique<FakeApplication>(session->accessibilityBusAddress());
+    application->answer("ToolkitName", property(toolkit));
     field = focus(FakeApplication::fieldPath);
   }
 
@@ -191,6 +192,7 @@ TEST_F(AtspiAccessibilityTest, namesRoles) {
   openApplication();
   for (const Case& expected : cases) {
     SCOPED_TRACE(expected.name);
+    accessibility->beginBudget(longestCall);
     application->answer("GetRole", value(expected.role));
     application->answer("GetAttributes", onlyAttribute("tag", expected.tag));
     EXPECT_EQ(read(attribute::role), AttributeValue(std::string(expected.name)));
@@ -237,7 +239,10 @@ TEST_F(AtspiAccessibilityTest, remembersWhatTheFocusedElementLiesInUntilTheFocus
   ASSERT_TRUE(window);
   const auto askTwice = [&](const ElementRef& element, std::string_view name, const char* call) {
     const int before = application->calls(call);
-    for (int i = 0; i < 2; ++i) EXPECT_TRUE(accessibility->attribute(element, name));
+    for (int key = 0; key < 2; ++key) {
+      accessibility->beginBudget(longestCall);
+      EXPECT_TRUE(accessibility->attribute(element, name));
+    }
     return application->calls(call) - before;
   };
   EXPECT_EQ(askTwice(field, attribute::parent, "Parent"), 0) << "known already";
@@ -334,6 +339,69 @@ TEST_F(AtspiAccessibilityTest, saysExactlyWhatAReplacementDid) {
     }
     application.reset();
   }
+}
+
+TEST_F(AtspiAccessibilityTest, erasesAndInsertsAtOneGo) {
+  const auto refuseOnce = [](FakeApplication& a) {
+    a.answer("DeleteText", [&a](DBusMessage* call, DBusMessageIter* reply) {
+      a.answerAsUsual("DeleteText");
+      value(false)(call, reply);
+    });
+  };
+  const auto deniesIt = [](FakeApplication& a) {
+    a.answer("DeleteText", [&a](DBusMessage* call, DBusMessageIter* reply) {
+      a.setText(U"é😀 ñ", 4);
+      value(false)(call, reply);
+    });
+  };
+  struct Case {
+    const char* name;
+    std::function<void(FakeApplication&)> spoil;
+    AccessibilityStatus status;
+    std::u32string text;
+  };
+  const Case cases[] = {
+      {"nothing spoilt", [](auto&) {}, AccessibilityStatus::success, U"é😀 ñ🎉"},
+      {"erasing is refused", refuseOnce, AccessibilityStatus::failure, U"é😀 ñ:smile"},
+      {"erases and denies it", deniesIt, AccessibilityStatus::success, U"é😀 ñ🎉"},
+      {"inserting is refused", [](auto& a) { a.refuse("InsertText"); }, AccessibilityStatus::erasedOnly,
+       U"é😀 ñ"},
+      {"erasing is late", [](auto& a) { a.hold("DeleteText"); }, AccessibilityStatus::success, U"é😀 ñ🎉"},
+      {"inserting is late", [](auto& a) { a.hold("InsertText"); }, AccessibilityStatus::success, U"é😀 ñ🎉"},
+      {"hangs before all is asked", [](auto& a) { a.hold("GetText"); }, AccessibilityStatus::failure,
+       U"é😀 ñ:smile"},
+  };
+  for (const Case& spoilt : cases) {
+    SCOPED_TRACE(spoilt.name);
+    openApplication("gtk");
+    spoilt.spoil(*application);
+    EXPECT_EQ(replace({4, 6}, "🎉"), spoilt.status);
+    application->release();
+    EXPECT_TRUE(eventually([&] { return application->text() == spoilt.text; }));
+    application.reset();
+  }
+}
+
+TEST_F(AtspiAccessibilityTest, asksNothingTwiceForOneKey) {
+  openApplication("gtk");
+  accessibility->beginBudget(std::chrono::seconds(5));
+  for (const auto name : {attribute::role, attribute::value, attribute::selectedTextRange}) {
+    EXPECT_TRUE(read(name));
+  }
+  EXPECT_EQ(read(attribute::stringForRange, {4, 6}), AttributeValue(std::string(":smile")));
+  const char* calls[] = {"GetRole", "GetState", "GetInterfaces", "CaretOffset", "GetText"};
+  std::vector<int> before;
+  for (const char* call : calls) before.push_back(application->calls(call));
+  EXPECT_TRUE(read(attribute::value));
+  EXPECT_EQ(replace({4, 6}, "🎉"), AccessibilityStatus::success);
+  for (std::size_t i = 0; i < before.size(); ++i)
+    EXPECT_EQ(application->calls(calls[i]), before[i]) << calls[i];
+
+  EXPECT_TRUE(read(attribute::value));
+  application->setText(U"é", 1);
+  EXPECT_EQ(read(attribute::selectedTextRange), AttributeValue(TextRange{10, 0}));
+  EXPECT_TRUE(accessibility->pause(std::chrono::milliseconds(1)));
+  EXPECT_EQ(read(attribute::selectedTextRange), AttributeValue(TextRange{1, 0})) << "time has passed";
 }
 
 TEST_F(AtspiAccessibilityTest, writesOnlyTextAndOnlyInTheFieldWhereItWasSelected) {

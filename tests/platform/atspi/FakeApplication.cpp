@@ -148,6 +148,11 @@ void FakeApplication::answerChildren() {
   });
 }
 
+void FakeApplication::answerAsUsual(const std::string& member) {
+  const std::lock_guard lock(mutex_);
+  answers_.erase(member);
+}
+
 void FakeApplication::join() {
   const atspi::MessagePtr request(dbus_message_new_method_call(
       "org.a11y.atspi.Registry", atspi::applicationPath, "org.a11y.atspi.Socket", "Embed"));
@@ -226,7 +231,7 @@ void FakeApplication::judge(atspi::MessagePtr call) {
   const std::lock_guard lock(mutex_);
   const std::string member = memberOf(call.get());
   ++calls_[member];
-  if (member == heldMember_) {
+  if (member == heldMember_ || !held_.empty()) {
     held_.push_back(std::move(call));
   } else {
     reply(call.get());

@@ -70,13 +70,14 @@ class FakeApplication {
 
   /// From now on the call, e.g. "GetText", or the property, e.g. "CaretOffset", is answered like this.
   void answer(const std::string& member, Answer answer);
+  void answerAsUsual(const std::string& member);
   /// The field is the window's child, and the window the application's.
   void answerChildren();
   /// Has the desktop count it among its applications.
   void join();
   /// As if the application did not know it.
   void refuse(const std::string& member);
-  /// Keeps the call unanswered until `release`, and carries it out then.
+  /// Keeps the call, and all that come behind it, unanswered until `release`, and carries them out then.
   void hold(const std::string& member);
   void release();
 
