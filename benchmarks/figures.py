@@ -168,9 +168,8 @@ def return_to_text(session, typist, watch, program, rounds=60):
     times = []
     with program(session, typist):
         for _ in range(rounds):
-            typist.type("x:smile")
+            typist.type("x:smile", PAUSE_AT_200_WORDS_A_MINUTE)
             wait_for(typist.popup)
-            time.sleep(0.06)
             watch.expect()
             begin = time.monotonic()
             typist.press("Return")
