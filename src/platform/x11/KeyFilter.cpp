@@ -144,7 +144,7 @@ void KeyFilter::handle(const TypedKey& key) {
   } else {
     const KeyVerdict verdict = decide(key);
     holdBy(control_.settings());
-    answer(verdict);
+    answerJudged(verdict);
   }
 }
 
@@ -153,6 +153,13 @@ void KeyFilter::answer(KeyVerdict verdict) {
   followFocus();
   verdict == KeyVerdict::pass ? keyboard_.replayHeldKey() : keyboard_.swallowHeldKey();
   xcb_flush(keyboard_.connection);
+}
+
+// The server has sent the key on when it answers what was asked behind it.
+void KeyFilter::answerJudged(KeyVerdict verdict) {
+  answer(verdict);
+  events_.sync();
+  judge_.reportDeparture();
 }
 
 // What a modifier, a lock or a group switch does is done before the key is held: typing it again later would
@@ -219,6 +226,7 @@ bool KeyFilter::settle() {
 void KeyFilter::judgeFirstKept() {
   const TypedKey key = kept_.front();
   if (decide(key) == KeyVerdict::pass && layout_) synthetic_.type(*layout_, key);
+  judge_.reportDeparture();
   kept_.pop_front();
   if (kept_.empty() && whole_.isTaken()) {
     whole_.giveBack();

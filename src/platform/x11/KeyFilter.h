@@ -46,6 +46,7 @@ class KeyFilter {
   Holding wantedHolding(const TapSettings& settings) const;
   void handle(const TypedKey& key);
   void answer(KeyVerdict verdict);
+  void answerJudged(KeyVerdict verdict);
   bool passesUnjudged(const TypedKey& key) const;
   void keep(const TypedKey& key);
   void keepUnlessModifier(const TypedKey& key);

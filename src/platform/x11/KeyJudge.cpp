@@ -1,6 +1,5 @@
 #include "platform/x11/KeyJudge.h"
 
-#include <thread>
 #include <utility>
 
 namespace tessarin::x11 {
@@ -27,10 +26,16 @@ std::optional<KeyVerdict> KeyJudge::ask(const KeyEvent& event) {
     event.budget = *budget;
     event.commitSwallow = [question] { return question->commitSwallow(); };
     question->answer(owner->judge(event));
-    // The asking thread may have been put behind this one, which goes on to paint: the key first.
-    std::this_thread::yield();
+    // What comes next is painting. On the same processor as the X server or the application, which the system
+    // does not interrupt it for, it would keep the key from them.
+    question->awaitDeparture();
   });
   return question->await();
+}
+
+void KeyJudge::reportDeparture() {
+  const std::lock_guard lock(mutex_);
+  if (question_) question_->depart();
 }
 
 void KeyJudge::report(KeyEventKind kind) {

@@ -23,6 +23,8 @@ class KeyJudge {
   /// Keyboard thread: waits for the handler's verdict. None when the main thread does not answer in time, or
   /// after `close`.
   std::optional<KeyVerdict> ask(const KeyEvent& event);
+  /// Keyboard thread: the key asked about last has gone its way.
+  void reportDeparture();
   /// Keyboard thread: tells the handler that the tap was switched off.
   void reportTimeOut() { report(KeyEventKind::disabledByTimeout); }
   /// Keyboard thread: tells the handler that the focus has gone to another window.

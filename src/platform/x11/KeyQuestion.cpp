@@ -31,7 +31,19 @@ void KeyQuestion::answer(KeyVerdict verdict) {
 void KeyQuestion::cancel() {
   const std::lock_guard lock(mutex_);
   if (state_ == State::asked) state_ = State::givenUp;
+  hasDeparted_ = true;
   changed_.notify_all();
+}
+
+void KeyQuestion::depart() {
+  const std::lock_guard lock(mutex_);
+  hasDeparted_ = true;
+  changed_.notify_all();
+}
+
+void KeyQuestion::awaitDeparture() {
+  std::unique_lock lock(mutex_);
+  changed_.wait_for(lock, departureTime, [this] { return hasDeparted_; });
 }
 
 std::optional<KeyVerdict> KeyQuestion::await() {

@@ -21,6 +21,8 @@ class KeyQuestion {
   /// How much longer it may take once the main thread is at work on it: the answer is then near, and letting
   /// the key by would do twice what it does.
   static constexpr std::chrono::milliseconds graceTime{50};
+  /// How long the main thread stands back for the key to go. It takes a fifth of that.
+  static constexpr std::chrono::milliseconds departureTime{2};
 
   explicit KeyQuestion(std::chrono::milliseconds time = answerTime) : deadline_(Clock::now() + time) {}
 
@@ -31,9 +33,13 @@ class KeyQuestion {
   bool commitSwallow();
   /// Main thread, after `claim`.
   void answer(KeyVerdict verdict);
+  /// Main thread, after `answer`: returns when the key has gone its way, or soon.
+  void awaitDeparture();
 
   /// The asking thread: waits. None when it gave up.
   std::optional<KeyVerdict> await();
+  /// The asking thread, after `await`: the answer has been carried out.
+  void depart();
   /// Any thread: an unclaimed question is given up at once.
   void cancel();
 
@@ -45,6 +51,7 @@ class KeyQuestion {
   std::condition_variable changed_;
   State state_ = State::asked;
   KeyVerdict verdict_ = KeyVerdict::pass;
+  bool hasDeparted_ = false;
 };
 
 }  // namespace tessarin::x11
