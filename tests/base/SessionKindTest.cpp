@@ -4,7 +4,7 @@
 
 #include "base/SessionKind.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 TEST(SessionKindTest, isJudgedByTheSession) {
@@ -32,4 +32,4 @@ TEST(SessionKindTest, isJudgedByTheSession) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

@@ -2,7 +2,7 @@
 
 #include "base/Translate.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 TEST(Translate, PutsTheCountInWhateverTheTranslatorDoes) {
@@ -20,4 +20,4 @@ TEST(FilledIn, TakesPartsForTheirPlacesOnce) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

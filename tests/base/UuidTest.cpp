@@ -5,7 +5,7 @@
 
 #include "base/Uuid.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 TEST(Uuid, IsRandomOfVersionFourInUpperCase) {
@@ -20,4 +20,4 @@ TEST(Uuid, IsRandomOfVersionFourInUpperCase) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

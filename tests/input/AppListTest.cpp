@@ -1,18 +1,16 @@
-#include <gmock/gmock.h>
 
+#include "Matchers.h"
 #include "input/AppList.h"
 #include "support/FakeUserDefaults.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
-
-using ::testing::ElementsAre;
 
 class AppListTest : public ::testing::Test {
  protected:
   AppList load() { return AppList(defaults, "apps", {"b", "D"}); }
 
-  testing::FakeUserDefaults defaults;
+  FakeUserDefaults defaults;
 };
 
 TEST_F(AppListTest, LoadingJoinsTheBuiltInOnesAndSorts) {
@@ -40,4 +38,4 @@ TEST_F(AppListTest, StoresTheWholeSortedListAtEachChange) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

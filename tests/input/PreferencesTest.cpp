@@ -1,16 +1,12 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
 
+#include "Matchers.h"
 #include "input/Preferences.h"
 #include "support/FakeUserDefaults.h"
 
 namespace tessarin::testing {
 namespace {
 
-using ::testing::SizeIs;
 using ::testing::UnorderedElementsAre;
 using Apps = std::vector<std::string>;
 
