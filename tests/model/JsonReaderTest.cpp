@@ -1,18 +1,13 @@
-#include <gmock/gmock.h>
 #include <jansson.h>
 
-#include <memory>
 #include <random>
 
+#include "Matchers.h"
 #include "base/DataError.h"
 #include "model/JsonReader.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
-
-using ::testing::AllOf;
-using ::testing::HasSubstr;
-using ::testing::Not;
 
 std::string errorOf(const std::string& text) {
   try {
@@ -111,4 +106,4 @@ TEST(JsonReader, AgreesWithAnotherReaderOnDamagedTexts) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

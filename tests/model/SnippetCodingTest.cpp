@@ -1,15 +1,10 @@
-#include <gmock/gmock.h>
 
+#include "Matchers.h"
 #include "base/DataError.h"
 #include "model/SnippetCoding.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
-
-using ::testing::AllOf;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::ThrowsMessage;
 
 const Snippet signature{"3F25",          "Mail / signature", "sig", "Kind regards,\nSam \"S\" \\ 👋",
                         {"mail", "a/b"}, "Custom",           false};
@@ -83,4 +78,4 @@ TEST(Snippet, TextsInTwoNormalFormsAreTheSame) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

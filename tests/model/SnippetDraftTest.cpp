@@ -1,12 +1,9 @@
-#include <gmock/gmock.h>
 
+#include "Matchers.h"
 #include "model/SnippetDraft.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 TEST(SnippetDraftTest, ATriggerKeepsLettersNumbersAndTwoSigns) {
   const struct {
@@ -44,4 +41,4 @@ TEST(SnippetDraftTest, AChangedSnippetKeepsItsIdAndBecomesCustom) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

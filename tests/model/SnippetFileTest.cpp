@@ -1,19 +1,15 @@
-#include <gmock/gmock.h>
 #include <sys/stat.h>
 
-#include <functional>
 #include <stdexcept>
 
+#include "Matchers.h"
 #include "model/SnippetFile.h"
 #include "support/TemporaryFolder.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 namespace fs = std::filesystem;
-using ::testing::HasSubstr;
-using testing::TemporaryFolder;
-using ::testing::ThrowsMessage;
 
 TEST(SnippetFileTest, WhatHoldsNoSnippetsFailsWithOneSentence) {
   const TemporaryFolder folder;
@@ -50,4 +46,4 @@ TEST(SnippetFileTest, WhatHoldsNoSnippetsFailsWithOneSentence) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

@@ -4,7 +4,7 @@
 
 #include "model/StorageFolder.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 TEST(StorageFolder, FollowsTheEnvironment) {
@@ -17,4 +17,4 @@ TEST(StorageFolder, FollowsTheEnvironment) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

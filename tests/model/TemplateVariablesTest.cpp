@@ -6,10 +6,8 @@
 #include "model/TemplateVariables.h"
 #include "support/ManualWallClock.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
-
-using testing::ManualWallClock;
 
 class TemplateVariablesTest : public ::testing::Test {
  protected:
@@ -87,4 +85,4 @@ TEST_F(TemplateVariablesTest, TheEnvironmentDecidesWithoutARestart) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

@@ -1,24 +1,18 @@
-#include <gmock/gmock.h>
 
-#include <memory>
 #include <numeric>
 
+#include "Matchers.h"
 #include "model/UsageTracker.h"
 #include "support/LogRecorder.h"
 #include "support/ManualWallClock.h"
 #include "support/TemporaryFolder.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 namespace fs = std::filesystem;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-using testing::LogRecorder;
-using testing::ManualWallClock;
 using ::testing::Pair;
-using ::testing::StartsWith;
-using testing::TemporaryFolder;
+using ::testing::UnorderedElementsAre;
 using TriggerCount = UsageTracker::TriggerCount;
 
 constexpr const char* countsFile = "usage-counts.json";
@@ -117,7 +111,7 @@ TEST_F(UsageTrackerTest, CountsSaturateAndTheTopIsHighestFirst) {
   EXPECT_EQ(tracker->totalExpansions(), INT64_MAX - 3);
 }
 
-TEST_F(UsageTrackerTest, UnreadableFilesAreLoggedAndLeftAlone) {
+TEST_F(UsageTrackerTest, UnreadableFilesAreLeftAloneAndMovedAsideBeforeTheFirstRecording) {
   const struct {
     const char* file;
     const char* content;
@@ -130,26 +124,21 @@ TEST_F(UsageTrackerTest, UnreadableFilesAreLoggedAndLeftAlone) {
     const TemporaryFolder folder;
     folder.write(file, content);
     log_.clear();
-    const UsageTracker tracker(folder.path(), clock_);
+    UsageTracker tracker(folder.path(), clock_, LocalCalendar("Europe/Berlin"));
     EXPECT_THAT(tracker.usageCounts(), IsEmpty()) << content;
     EXPECT_THAT(tracker.usageEvents(), IsEmpty()) << content;
     EXPECT_THAT(log_.lines(), ElementsAre(StartsWith(line))) << content;
     EXPECT_EQ(folder.read(file), content);
+    log_.clear();
+    tracker.recordUsage("a");
+    tracker.recordUsage("a");
+    const std::string aside = std::string(file) + ".unreadable-2026-03-14T10-30-00";
+    EXPECT_THAT(log_.lines(), ElementsAre("[UsageTracker] Moved the unreadable " + std::string(file) +
+                                          " to " + (folder / aside).string()));
+    EXPECT_THAT(folder.names(), UnorderedElementsAre(countsFile, eventsFile, aside));
+    EXPECT_EQ(folder.read(aside), content);
+    EXPECT_EQ(UsageTracker(folder.path(), clock_).usageEvents().size(), 2U);
   }
-}
-
-TEST_F(UsageTrackerTest, MovesAnUnreadableFileAsideBeforeTheFirstRecording) {
-  folder_.write(eventsFile, "broken");
-  const auto tracker = makeTracker("Europe/Berlin");
-  log_.clear();
-  tracker->recordUsage("a");
-  tracker->recordUsage("a");
-  const std::string aside = "usage-stats.json.unreadable-2026-03-14T10-30-00";
-  EXPECT_THAT(log_.lines(), ElementsAre("[UsageTracker] Moved the unreadable usage-stats.json to " +
-                                        (folder_ / aside).string()));
-  EXPECT_THAT(folder_.names(), ElementsAre(countsFile, eventsFile, aside));
-  EXPECT_EQ(folder_.read(aside), "broken");
-  EXPECT_EQ(makeTracker()->usageEvents().size(), 2U);
 }
 
 TEST_F(UsageTrackerTest, WhatCannotBeSavedStaysInMemory) {
@@ -237,4 +226,4 @@ TEST_F(UsageTrackerTest, DaysAreWholeCalendarDays) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

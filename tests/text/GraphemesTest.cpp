@@ -1,10 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include "text/Graphemes.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 const std::string composed = "\u00e9";
@@ -116,4 +114,4 @@ TEST(Encoding, ConvertsBetweenUtf8AndUtf16) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing
