@@ -1,12 +1,9 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
+#include "Matchers.h"
 #include "popup/AutocompleteViewModel.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
-
-using ::testing::IsEmpty;
 
 const Snippet wave{"id", "wave", "wave", "👋", {}, "", false};
 
@@ -46,4 +43,4 @@ TEST(SkinTonePicker, stopsAtTheLastVariantAndClosesLeftOfTheFirst) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

@@ -8,11 +8,10 @@
 #include "support/FakeAccessibility.h"
 #include "support/FakeScreens.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 using std::chrono::milliseconds;
-using testing::FakeElement;
 
 class CaretLocatorTest : public ::testing::Test {
  protected:
@@ -36,8 +35,8 @@ class CaretLocatorTest : public ::testing::Test {
 
   ScreenLayout layout() { return ScreenLayout::read(screens); }
 
-  testing::FakeAccessibility accessibility;
-  testing::FakeScreens screens;
+  FakeAccessibility accessibility;
+  FakeScreens screens;
   std::shared_ptr<FakeElement> element = std::make_shared<FakeElement>();
   std::shared_ptr<FakeElement> window = std::make_shared<FakeElement>();
   std::optional<Rect> bounds = Rect{300, 100, 1, 16};
@@ -112,4 +111,4 @@ TEST_F(CaretLocatorTest, insetsOfTheFarEdgesWinInATinyElement) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

@@ -2,7 +2,7 @@
 
 #include "platform/CoordinateSpace.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 TEST(CoordinateSpace, countsPixelsAPointAndTurnsYOverAtThePrimaryScreen) {
@@ -14,4 +14,4 @@ TEST(CoordinateSpace, countsPixelsAPointAndTurnsYOverAtThePrimaryScreen) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

@@ -1,18 +1,11 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include <string>
 
+#include "Matchers.h"
 #include "popup/AutocompleteViewModel.h"
 #include "popup/PopupContentBuilder.h"
 
 namespace tessarin::testing {
 namespace {
-
-using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
 
 Snippet makeSnippet(const std::string& trigger, const std::string& replacement) {
   return {"id_" + trigger, "name of " + trigger, trigger, replacement, {}, "", false};

@@ -2,7 +2,7 @@
 
 #include "popup/PopupPlacement.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 // The primary screen with a dock below and a bar above, one to its right that stands higher, and one, the
@@ -49,4 +49,4 @@ TEST(PopupPlacement, doesWithoutScreens) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing
