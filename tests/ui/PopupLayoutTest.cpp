@@ -11,7 +11,7 @@ using testing::popupWithRows;
 using testing::withPicker;
 
 PopupLayout layoutOf(const PopupContent& content) {
-  return {content, PopupLayout::sizeFor(static_cast<int>(content.rows.size()))};
+  return {content, testing::sizeOf(content)};
 }
 
 TEST(PopupLayout, ShowsEveryRowWholeWithoutAPicker) {
@@ -32,17 +32,13 @@ TEST(PopupLayout, CentresTheSelectedRowAsFarAsTheListReaches) {
   EXPECT_EQ(layout.row(4, scroll).center().y(), layout.list().center().y());
 }
 
-TEST(PopupLayout, FindsAScrolledRowOnlyInsideTheList) {
+TEST(PopupLayout, FindsRowsInsideTheListAndVariants) {
   const PopupLayout layout = layoutOf(withPicker(popupWithRows(8)));
   const double scroll = 18;
   EXPECT_THAT(layout.rowAt({50, layout.list().top() + 17}, scroll), Optional(0));
   EXPECT_THAT(layout.rowAt({50, layout.list().top() + 18}, scroll), Optional(1));
   EXPECT_EQ(layout.rowAt(layout.picker().center(), scroll), std::nullopt);
   EXPECT_EQ(layout.rowAt(layout.footer().center(), scroll), std::nullopt);
-}
-
-TEST(PopupLayout, FindsTheVariantUnderAPoint) {
-  const PopupLayout layout = layoutOf(withPicker(popupWithRows(8)));
   for (int i = 0; i < 6; ++i) EXPECT_THAT(layout.variantAt(layout.variant(i).center()), Optional(i));
   EXPECT_EQ(layout.variantAt(layout.variant(0).topRight() + QPointF(2, 2)), std::nullopt) << "between cells";
 }

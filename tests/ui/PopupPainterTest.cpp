@@ -11,6 +11,7 @@ namespace tessarin::ui {
 namespace {
 
 using testing::popupWithRows;
+using testing::sizeOf;
 
 QPalette lightPalette() {
   QPalette palette(Qt::lightGray, Qt::white);
@@ -21,7 +22,7 @@ QPalette lightPalette() {
 }
 
 QImage paint(const PopupContent& content, const PopupView& view = {}, double ratio = 1) {
-  const QSizeF size = PopupLayout::sizeFor(static_cast<int>(content.rows.size()));
+  const QSizeF size = sizeOf(content);
   QImage image((size * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
   image.setDevicePixelRatio(ratio);
   image.fill(Qt::transparent);
@@ -32,7 +33,7 @@ QImage paint(const PopupContent& content, const PopupView& view = {}, double rat
 
 /// Between the highlight's left edge and the emoji, where nothing but the row's ground is seen.
 QColor groundOfRow(const QImage& image, const PopupContent& content, int index) {
-  const PopupLayout layout(content, PopupLayout::sizeFor(static_cast<int>(content.rows.size())));
+  const PopupLayout layout(content, sizeOf(content));
   const QPointF spot(7, layout.row(index, 0).center().y());
   return image.pixelColor((spot * image.devicePixelRatio()).toPoint());
 }

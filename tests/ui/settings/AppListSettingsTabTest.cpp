@@ -1,9 +1,9 @@
-#include <gmock/gmock.h>
 
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 
+#include "Matchers.h"
 #include "ui/settings/AppListSettingsTab.h"
 #include "ui/settings/BlockedAppsSettingsTab.h"
 #include "ui/settings/PasteFallbackAppsSettingsTab.h"
@@ -14,10 +14,6 @@ namespace tessarin::ui {
 namespace {
 
 using testing::child;
-using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-using ::testing::Not;
 
 class AppListSettingsTabTest : public testing::SettingsTest {
  protected:
@@ -29,9 +25,8 @@ class AppListSettingsTabTest : public testing::SettingsTest {
 
   std::vector<std::string> listed() const {
     std::vector<std::string> found;
-    const auto* list = tab->findChild<QListWidget*>();
-    for (int row = 0; row < list->count(); ++row) {
-      found.push_back(list->item(row)->data(Qt::AccessibleTextRole).toString().toStdString());
+    for (int row = 0; row < list()->count(); ++row) {
+      found.push_back(list()->item(row)->data(Qt::AccessibleTextRole).toString().toStdString());
     }
     return found;
   }
@@ -50,9 +45,7 @@ class AppListSettingsTabTest : public testing::SettingsTest {
     for (auto* button : tab->findChildren<QAbstractButton*>()) {
       if (button->accessibleName() != accessibleName) continue;
       QTest::mouseClick(button, Qt::LeftButton);
-      QCoreApplication::processEvents();
-      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-      return;
+      return settle();
     }
     ADD_FAILURE() << "no button " << accessibleName.toStdString();
   }
@@ -74,6 +67,9 @@ class AppListSettingsTabTest : public testing::SettingsTest {
   }
   void press(Qt::Key key) const {
     QTest::keyClick(QApplication::focusWidget(), key);
+    settle();
+  }
+  static void settle() {
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
@@ -193,10 +189,10 @@ TEST_F(AppListSettingsTabTest, theDeleteKeyRemovesTheCurrentEntry) {
   press(Qt::Key_Down);
   press(Qt::Key_Delete);
   EXPECT_THAT(stored(), ElementsAre("com.apple.MobileSMS"));
-  press(Qt::Key_Delete);
-  EXPECT_THAT(listed(), IsEmpty());
-  press(Qt::Key_Delete);
-  EXPECT_EQ(list()->count(), 0);
+  for (int time = 0; time < 2; ++time) {
+    press(Qt::Key_Delete);
+    EXPECT_THAT(listed(), IsEmpty());
+  }
 }
 
 }  // namespace

@@ -7,24 +7,14 @@
 namespace tessarin::ui {
 namespace {
 
-class BarChartTest : public ::testing::Test {
- protected:
-  BarChartTest() {
-    chart.resize(500, BarChart::chartHeight);
-    chart.setBars({{"Mon", "Monday", 0}, {"Tue", "Tuesday", 1}, {"Wed", "Wednesday", 5000}});
-  }
-
+TEST(BarChartTest, BarsStandForTheirCountsAndAreReadSo) {
   BarChart chart;
-};
-
-TEST_F(BarChartTest, BarsStandForTheirCounts) {
+  chart.resize(500, BarChart::chartHeight);
+  chart.setBars({{"Mon", "Monday", 0}, {"Tue", "Tuesday", 1}, {"Wed", "Wednesday", 5000}});
   EXPECT_TRUE(chart.barRect(0).isEmpty());
   EXPECT_GE(chart.barRect(1).height(), 2) << "one is seen beside thousands";
   EXPECT_GT(chart.barRect(2).height(), 20 * chart.barRect(1).height());
   EXPECT_EQ(chart.barRect(1).bottom(), chart.barRect(2).bottom());
-}
-
-TEST_F(BarChartTest, IsReadAsAChartOfItsCounts) {
   const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&chart);
   EXPECT_EQ(accessible->role(), QAccessible::Chart);
   EXPECT_EQ(accessible->text(QAccessible::Description),

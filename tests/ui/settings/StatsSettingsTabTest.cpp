@@ -1,9 +1,8 @@
-#include <gmock/gmock.h>
 
 #include <QLabel>
 #include <QLocale>
-#include <memory>
 
+#include "Matchers.h"
 #include "model/UsageTracker.h"
 #include "support/FakeUserDefaults.h"
 #include "support/ManualMainQueue.h"
@@ -15,10 +14,6 @@
 
 namespace tessarin::ui {
 namespace {
-
-using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::SizeIs;
 
 /// The tab over a tracker whose clock stands at a Saturday's noon.
 class StatsSettingsTabTest : public ::testing::Test {

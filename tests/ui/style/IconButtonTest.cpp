@@ -5,7 +5,6 @@
 #include <QStyle>
 #include <QStyleFactory>
 #include <algorithm>
-#include <memory>
 
 #include "platform/qt/TestApplication.h"
 #include "ui/Extent.h"

@@ -3,6 +3,7 @@
 #include <QImage>
 
 #include "platform/qt/TestApplication.h"
+#include "ui/Extent.h"
 #include "ui/style/StyledLabel.h"
 
 namespace tessarin::ui {
@@ -14,16 +15,8 @@ std::pair<double, double> inkOf(StyledLabel& label) {
   QImage image(label.size(), QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::transparent);
   label.render(&image, {}, {}, QWidget::DrawChildren);
-  int first = image.width();
-  int last = 0;
-  for (int x = 0; x < image.width(); ++x) {
-    for (int y = 0; y < image.height(); ++y) {
-      if (image.pixelColor(x, y).alpha() == 0) continue;
-      first = std::min(first, x);
-      last = std::max(last, x);
-    }
-  }
-  return {first / 200.0, last / 200.0};
+  const auto ink = testing::Extent::of(image, [](const QColor& color) { return color.alpha() > 0; });
+  return {ink.first / 200.0, ink.last / 200.0};
 }
 
 TEST(StyledLabel, BeginsAtTheSideOfTheLayoutWhateverItsScript) {
