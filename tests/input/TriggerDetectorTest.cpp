@@ -1,5 +1,3 @@
-
-
 #include "Matchers.h"
 #include "input/Preferences.h"
 #include "input/TriggerDetector.h"

@@ -1,4 +1,3 @@
-
 #include <QLocale>
 
 #include "Matchers.h"

@@ -1,4 +1,3 @@
-
 #include "Matchers.h"
 #include "main/SessionInputMonitoring.h"
 #include "platform/OwnAddresses.h"

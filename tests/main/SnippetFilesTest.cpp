@@ -1,4 +1,3 @@
-
 #include "Matchers.h"
 #include "main/SnippetFiles.h"
 #include "model/SnippetCoding.h"
