@@ -1,4 +1,3 @@
-
 #include <chrono>
 
 #include "Matchers.h"
@@ -29,7 +28,7 @@ class AppDelegateTest : public ::testing::Test {
   TestApp app;
 };
 
-TEST_F(AppDelegateTest, ShowsWhatEachQueryFinds) {
+TEST_F(AppDelegateTest, ShowsEightAtMostOfWhatEachQueryFinds) {
   app.type(":");
   EXPECT_EQ(app.shownTriggers(), std::nullopt);
   EXPECT_EQ(app.popup.anticipations, 1);
@@ -43,6 +42,11 @@ TEST_F(AppDelegateTest, ShowsWhatEachQueryFinds) {
   EXPECT_FALSE(app.monitor().isIntercepting);
   app.type("⌫");
   EXPECT_EQ(app.shownTriggers(), Strings{"smirk"}) << "the query was kept";
+  for (int i = 0; i < 12; ++i) {
+    app.app->snippetStore().addSnippet({"id", "n", "many" + std::to_string(i), "m", {}, "Custom", false});
+  }
+  app.type("⎋:many");
+  EXPECT_EQ(app.shownTriggers()->size(), 8u);
 }
 
 TEST_F(AppDelegateTest, AChangedTriggerHoldsAtOnce) {
@@ -174,14 +178,6 @@ TEST_F(AppDelegateTest, NothingThatItHandedOutOutlivesIt) {
   app.defaults.set(preferences::key::triggerCharacter, ";");
   app.queue.advance(std::chrono::seconds(10));
   EXPECT_FALSE(app.tap.exists);
-}
-
-TEST_F(AppDelegateTest, ShowsEightResultsAtMost) {
-  for (int i = 0; i < 12; ++i) {
-    app.app->snippetStore().addSnippet({"id", "n", "many" + std::to_string(i), "m", {}, "Custom", false});
-  }
-  app.type(":many");
-  EXPECT_EQ(app.shownTriggers()->size(), 8u);
 }
 
 }  // namespace
