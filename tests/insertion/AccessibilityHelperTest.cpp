@@ -14,8 +14,8 @@ namespace {
 using std::chrono::milliseconds;
 using Arrival = AccessibilityHelper::Arrival;
 
-struct AccessibilityHelperTest : ::testing::Test {
-  AccessibilityHelperTest() {
+struct HelperWorld {
+  HelperWorld() {
     accessibility.focus(field);
     field->type("hi :smile");
     workspace.frontmost = Application{"org.example.Editor", "Editor", false};
@@ -39,6 +39,15 @@ struct AccessibilityHelperTest : ::testing::Test {
   std::shared_ptr<FakeTextField> field = FakeTextField::create();
   AccessibilityHelper helper{accessibility, workspace, defaults};
 };
+
+struct AccessibilityHelperTest : ::testing::Test, HelperWorld {};
+
+void setRole(FakeElement& element, std::string_view name) {
+  element.attributes[std::string(attribute::role)] = std::string(name);
+}
+void makeFail(FakeElement& element, std::string_view name) {
+  element.failing.insert(std::string(name));
+}
 
 TEST_F(AccessibilityHelperTest, replacesTheShortcodeInWhicheverNormalForm) {
   putAncestors(6, role::webArea);  // too far up to be one
@@ -64,58 +73,38 @@ TEST_F(AccessibilityHelperTest, leavesASelectionBehindTheShortcode) {
   EXPECT_EQ(field->document(), "hi 😀abcd");
 }
 
-using Test = AccessibilityHelperTest;
-
-struct Refusal {
-  const char* name;
-  void (*arrange)(Test&);
-};
-
-class AccessibilityRefusal : public AccessibilityHelperTest, public ::testing::WithParamInterface<Refusal> {};
-
-TEST_P(AccessibilityRefusal, leavesTheDocumentAlone) {
-  GetParam().arrange(*this);
-  EXPECT_EQ(insert(), InsertionOutcome::unchanged);
-  EXPECT_EQ(field->document(), "hi :smile");
+TEST(AccessibilityRefusal, leavesTheDocumentAlone) {
+  using World = HelperWorld&;
+  using Apps = std::vector<std::string>;
+  const std::pair<const char*, void (*)(World)> reasons[] = {
+      {"not trusted", [](World w) { w.accessibility.trusted = false; }},
+      {"no application", [](World w) { makeFail(*w.accessibility.system, attribute::focusedApplication); }},
+      {"no element", [](World w) { makeFail(*w.accessibility.application, attribute::focusedElement); }},
+      {"web area", [](World w) { setRole(*w.field, role::webArea); }},
+      {"HTML text area", [](World w) { setRole(*w.field, role::htmlTextArea); }},
+      {"web as fifth ancestor", [](World w) { w.putAncestors(5, role::webArea); }},
+      {"built-in paste mode",
+       [](World w) {
+         w.defaults.set("pasteFallbackApps", Apps{});
+         w.workspace.frontmost->bundleIdentifier = "org.mozilla.firefox";
+       }},
+      {"user's paste mode", [](World w) { w.defaults.set("pasteFallbackApps", Apps{"org.example.Editor"}); }},
+      {"no value", [](World w) { makeFail(*w.field, attribute::value); }},
+      {"no selection", [](World w) { makeFail(*w.field, attribute::selectedTextRange); }},
+      {"selection of another type",
+       [](World w) { w.field->attributes[std::string(attribute::selectedTextRange)] = true; }},
+      {"text not readable", [](World w) { makeFail(*w.field, attribute::stringForRange); }},
+      {"text not writable", [](World w) { w.field->writeResult = AccessibilityStatus::failure; }},
+      {"nothing before the caret", [](World w) { w.field->setCaret(0); }},
+      {"too slow", [](World w) { w.accessibility.callDuration = milliseconds(30); }},
+  };
+  for (const auto& [reason, arrange] : reasons) {
+    HelperWorld world;
+    arrange(world);
+    EXPECT_EQ(world.insert(), InsertionOutcome::unchanged) << reason;
+    EXPECT_EQ(world.field->document(), "hi :smile") << reason;
+  }
 }
-
-void setRole(FakeElement& element, std::string_view name) {
-  element.attributes[std::string(attribute::role)] = std::string(name);
-}
-void makeFail(FakeElement& element, std::string_view name) {
-  element.failing.insert(std::string(name));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Reasons, AccessibilityRefusal,
-    ::testing::Values(
-        Refusal{"notTrusted", [](Test& test) { test.accessibility.trusted = false; }},
-        Refusal{"noApplication",
-                [](Test& test) { makeFail(*test.accessibility.system, attribute::focusedApplication); }},
-        Refusal{"noElement",
-                [](Test& test) { makeFail(*test.accessibility.application, attribute::focusedElement); }},
-        Refusal{"webArea", [](Test& test) { setRole(*test.field, role::webArea); }},
-        Refusal{"htmlTextArea", [](Test& test) { setRole(*test.field, role::htmlTextArea); }},
-        Refusal{"webFifthAncestor", [](Test& test) { test.putAncestors(5, role::webArea); }},
-        Refusal{"builtInPasteMode",
-                [](Test& test) {
-                  test.defaults.set("pasteFallbackApps", std::vector<std::string>{});
-                  test.workspace.frontmost->bundleIdentifier = "org.mozilla.firefox";
-                }},
-        Refusal{"usersPasteMode",
-                [](Test& test) {
-                  test.defaults.set("pasteFallbackApps", std::vector<std::string>{"org.example.Editor"});
-                }},
-        Refusal{"noValue", [](Test& test) { makeFail(*test.field, attribute::value); }},
-        Refusal{"noSelection", [](Test& test) { makeFail(*test.field, attribute::selectedTextRange); }},
-        Refusal{"selectionOfAnotherType",
-                [](Test& test) { test.field->attributes[std::string(attribute::selectedTextRange)] = true; }},
-        Refusal{"textNotReadable", [](Test& test) { makeFail(*test.field, attribute::stringForRange); }},
-        Refusal{"textNotWritable",
-                [](Test& test) { test.field->writeResult = AccessibilityStatus::failure; }},
-        Refusal{"nothingBeforeTheCaret", [](Test& test) { test.field->setCaret(0); }},
-        Refusal{"tooSlow", [](Test& test) { test.accessibility.callDuration = milliseconds(30); }}),
-    [](const auto& refusal) { return refusal.param.name; });
 
 TEST_F(AccessibilityHelperTest, leavesAloneWhatIsNotTheShortcode) {
   for (const char* text : {"hi ☺", "hi :smile ", "hi :smil)"}) {

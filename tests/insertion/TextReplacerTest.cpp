@@ -1,17 +1,9 @@
-
 #include <algorithm>
-#include <chrono>
 
 #include "Matchers.h"
-#include "insertion/TextReplacer.h"
+#include "insertion/ReplacerWorld.h"
 #include "platform/KeyCodes.h"
-#include "support/FakeKeyPoster.h"
-#include "support/FakePasteboard.h"
-#include "support/FakeTextField.h"
-#include "support/FakeUserDefaults.h"
-#include "support/FakeWorkspace.h"
 #include "support/LogRecorder.h"
-#include "support/ManualMainQueue.h"
 
 namespace tessarin::testing {
 namespace {
@@ -21,47 +13,18 @@ using std::chrono::milliseconds;
 constexpr const char* direct = "[TextReplacer] Replaced via Accessibility API";
 constexpr const char* fallback = "[TextReplacer] Falling back to paste method";
 
-class TextReplacerTest : public ::testing::Test {
+class TextReplacerTest : public ::testing::Test, protected ReplacerWorld {
  protected:
-  TextReplacerTest() {
-    accessibility.focus(field);
-    workspace.frontmost = Application{"org.example.Editor", "Editor", false};
-    general.copyElsewhere("user's");
-  }
-
-  void refuseDirectInsertion() { workspace.frontmost->bundleIdentifier = "org.mozilla.firefox"; }
   TextInsertion::Completion keep() {
     return [this](InsertionOutcome outcome) { outcomes.push_back(outcome); };
   }
-  void replace(const std::string& text, TextInsertion::Completion done) {
-    replacer->replace({6, text, false, ":smile"}, std::move(done));
-  }
-  void replace(const std::string& text) { replace(text, keep()); }
-  /// The application takes the paste, and the text stands in its document. What it got.
-  std::optional<std::string> paste() {
-    const auto text = general.readByApplication();
-    if (text) field->type(*text);
-    queue.advance(milliseconds(5));
-    return text;
-  }
+  void replace(const std::string& text) { replacer->replace({6, text, false, ":smile"}, keep()); }
   std::size_t countOf(std::int64_t keyCode) const {
     return static_cast<std::size_t>(std::ranges::count_if(
         keys.posted, [keyCode](const auto& posted) { return posted.press.keyCode == keyCode; }));
   }
 
   LogRecorder log;
-  ManualMainQueue queue;
-  FakeAccessibility accessibility;
-  FakeWorkspace workspace;
-  FakeUserDefaults defaults;
-  FakePasteboard general{queue};
-  FakePasteboard primary{queue};
-  FakeKeyPoster keys{queue};
-  std::shared_ptr<FakeTextField> field = FakeTextField::create();
-  AccessibilityHelper accessibilityHelper{accessibility, workspace, defaults};
-  PasteHelper pasteHelper{general, primary, keys, queue};
-  SystemWallClock clock;
-  std::optional<TextReplacer> replacer{std::in_place, accessibilityHelper, pasteHelper, queue, clock};
   std::vector<InsertionOutcome> outcomes;
 };
 
@@ -162,54 +125,46 @@ TEST_F(TextReplacerTest, pastesByShiftInsertInATerminal) {
   EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted)) << "at once: its text cannot be read";
 }
 
-/// How the target of a paste shows the text that it has read.
-struct Arrival {
-  const char* name;
-  void (*arrange)(FakeAccessibility&, FakeTextField&);
-  milliseconds standsAfter;  ///< counted from the reading
-  milliseconds answeredAfter;
-};
-
-class TextReplacerArrival : public TextReplacerTest, public ::testing::WithParamInterface<Arrival> {};
-
-TEST_P(TextReplacerArrival, isWaitedForAsFarAsItCanBeTold) {
-  GetParam().arrange(accessibility, *field);
-  refuseDirectInsertion();
-  ManualMainQueue::Clock::time_point answered;
-  replace("😀", [&](InsertionOutcome outcome) {
-    answered = queue.now();
-    outcomes.push_back(outcome);
-  });
-  queue.advance(milliseconds(220));
-  const auto read = queue.now();
-  queue.after(GetParam().standsAfter, [this] { field->type("😀"); });
-  general.readByApplication();
-  queue.advance(milliseconds(3000));
-  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
-  EXPECT_EQ(answered - read, GetParam().answeredAfter);
+TEST(TextReplacerArrival, isWaitedForAsFarAsItCanBeTold) {
+  constexpr milliseconds never{9999};
+  const struct {
+    const char* name;
+    milliseconds standsAfter;  ///< counted from the reading
+    milliseconds answeredAfter;
+    void (*arrange)(ReplacerWorld&);
+  } cases[] = {
+      {"soon", milliseconds(3), milliseconds(5), [](auto&) {}},
+      {"late", milliseconds(111), milliseconds(115), [](auto&) {}},
+      {"as something else", never, milliseconds(495), [](auto&) {}},
+      {"in a hung application", never, milliseconds(1995),
+       [](auto& world) {
+         world.accessibility.busy = true;
+         world.field->failing.insert(std::string(attribute::value));
+       }},
+      {"nothing focused", never, milliseconds(0),
+       [](auto& world) {
+         world.accessibility.application->failing.insert(std::string(attribute::focusedElement));
+       }},
+      {"not trusted", never, milliseconds(0), [](auto& world) { world.accessibility.trusted = false; }},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    ReplacerWorld world;
+    c.arrange(world);
+    world.refuseDirectInsertion();
+    std::vector<std::pair<InsertionOutcome, milliseconds>> answers;
+    ManualMainQueue::Clock::time_point read;
+    world.replacer->replace({6, "😀", false, ":smile"}, [&](InsertionOutcome outcome) {
+      answers.emplace_back(outcome, std::chrono::duration_cast<milliseconds>(world.queue.now() - read));
+    });
+    world.queue.advance(milliseconds(220));
+    read = world.queue.now();
+    world.queue.after(c.standsAfter, [&] { world.field->type("😀"); });
+    world.general.readByApplication();
+    world.queue.advance(milliseconds(3000));
+    EXPECT_THAT(answers, ElementsAre(std::pair(InsertionOutcome::inserted, c.answeredAfter)));
+  }
 }
-
-constexpr milliseconds never{9999};
-INSTANTIATE_TEST_SUITE_P(
-    Targets, TextReplacerArrival,
-    ::testing::Values(Arrival{"soon", [](auto&, auto&) {}, milliseconds(3), milliseconds(5)},
-                      Arrival{"late", [](auto&, auto&) {}, milliseconds(111), milliseconds(115)},
-                      Arrival{"asSomethingElse", [](auto&, auto&) {}, never, milliseconds(495)},
-                      Arrival{"inAHungApplication",
-                              [](auto& accessibility, auto& target) {
-                                accessibility.busy = true;
-                                target.failing.insert(std::string(attribute::value));
-                              },
-                              never, milliseconds(1995)},
-                      Arrival{"nothingFocused",
-                              [](auto& accessibility, auto&) {
-                                accessibility.application->failing.insert(
-                                    std::string(attribute::focusedElement));
-                              },
-                              never, milliseconds(0)},
-                      Arrival{"notTrusted", [](auto& accessibility, auto&) { accessibility.trusted = false; },
-                              never, milliseconds(0)}),
-    [](const auto& arrival) { return arrival.param.name; });
 
 TEST_F(TextReplacerTest, doesNotEraseTwice) {
   field->type("a:smile");
@@ -258,7 +213,7 @@ TEST_F(TextReplacerTest, replacementsWaitUntilTheTextBeforeThemStands) {
 
 TEST_F(TextReplacerTest, mayGoAwayWithinADoneCallback) {
   field->type(":smile");
-  replace("😀", [this](InsertionOutcome) { replacer.reset(); });
+  replacer->replace({6, "😀", false, ":smile"}, [this](InsertionOutcome) { replacer.reset(); });
   EXPECT_FALSE(replacer.has_value());
 }
 
