@@ -1,4 +1,3 @@
-
 #include "Matchers.h"
 #include "model/SkinToneVariants.h"
 

@@ -1,4 +1,3 @@
-
 #include <numeric>
 
 #include "Matchers.h"
@@ -15,6 +14,7 @@ using ::testing::Pair;
 using ::testing::UnorderedElementsAre;
 using TriggerCount = UsageTracker::TriggerCount;
 
+constexpr auto utc = [](auto... parts) { return ManualWallClock::utc(parts...); };
 constexpr const char* countsFile = "usage-counts.json";
 constexpr const char* eventsFile = "usage-stats.json";
 
@@ -46,9 +46,9 @@ std::vector<std::int64_t> countsOf(const std::vector<UsageTracker::DayCount>& da
 TEST_F(UsageTrackerTest, RecordsIntoBothFilesAndReadsThemBack) {
   const fs::path storage = folder_ / "not/there/yet";
   UsageTracker first(storage, clock_);
-  clock_.time = ManualWallClock::utc(2026, 3, 14, 9, 30, 15) + std::chrono::milliseconds(250);
+  clock_.time += std::chrono::milliseconds(15250);
   first.recordUsage("smile");
-  clock_.time = ManualWallClock::utc(2026, 3, 14, 9, 30, 16);
+  clock_.time += std::chrono::milliseconds(750);
   first.recordUsage("a/\"b\"\n");
   first.recordUsage("smile");
   EXPECT_THAT(first.usageCounts(), ElementsAre(Pair("a/\"b\"\n", 1), Pair("smile", 2)));
@@ -153,12 +153,11 @@ TEST_F(UsageTrackerTest, WhatCannotBeSavedStaysInMemory) {
 }
 
 TEST_F(UsageTrackerTest, AClockThatJumpsLosesNothing) {
-  using Clock = ManualWallClock;
-  const auto today = Clock::utc(2026, 3, 14, 9, 30);
+  const auto today = utc(2026, 3, 14, 9, 30);
   auto tracker = makeTracker();
   int count = 0;
-  for (const auto time : {today, Clock::utc(2199, 12, 31), Clock::utc(1970, 1, 1), Clock::utc(1969, 7, 20),
-                          today - std::chrono::hours(48), today}) {
+  for (const auto time :
+       {today, utc(2199, 12, 31), utc(1970, 1, 1), utc(1969, 7, 20), today - std::chrono::hours(48), today}) {
     clock_.time = time;
     tracker->recordUsage("a");
     ++count;
@@ -173,8 +172,7 @@ TEST_F(UsageTrackerTest, AClockThatJumpsLosesNothing) {
 }
 
 TEST_F(UsageTrackerTest, TodayBeginsAtLocalMidnightAndHasNoEnd) {
-  clock_.time = ManualWallClock::utc(2026, 3, 14, 9, 30);
-  const double midnight = secondsSinceReferenceDate(ManualWallClock::utc(2026, 3, 13, 23));  // in Berlin
+  const double midnight = secondsSinceReferenceDate(utc(2026, 3, 13, 23));  // in Berlin
   const auto tracker =
       makeTrackerOf({midnight - 0.001, midnight, midnight + 1, midnight + 1e6}, "Europe/Berlin");
   EXPECT_EQ(tracker->todayCount(), 3);
@@ -182,7 +180,6 @@ TEST_F(UsageTrackerTest, TodayBeginsAtLocalMidnightAndHasNoEnd) {
 }
 
 TEST_F(UsageTrackerTest, DaysAreWholeCalendarDays) {
-  using Clock = ManualWallClock;
   const struct {
     const char* timeZone;
     WallClock::TimePoint now;
@@ -190,23 +187,21 @@ TEST_F(UsageTrackerTest, DaysAreWholeCalendarDays) {
   } cases[] = {
       // 23 hours on 29 March, 25 hours on 25 October
       {"Europe/Berlin",
-       Clock::utc(2026, 3, 30, 12),
-       {Clock::utc(2026, 3, 27, 23), Clock::utc(2026, 3, 28, 23), Clock::utc(2026, 3, 29, 22)}},
+       utc(2026, 3, 30, 12),
+       {utc(2026, 3, 27, 23), utc(2026, 3, 28, 23), utc(2026, 3, 29, 22)}},
       {"Europe/Berlin",
-       Clock::utc(2026, 10, 26, 22, 59),
-       {Clock::utc(2026, 10, 23, 22), Clock::utc(2026, 10, 24, 22), Clock::utc(2026, 10, 25, 23)}},
+       utc(2026, 10, 26, 22, 59),
+       {utc(2026, 10, 23, 22), utc(2026, 10, 24, 22), utc(2026, 10, 25, 23)}},
       // midnight of 4 November is skipped: the day begins at one
       {"America/Sao_Paulo",
-       Clock::utc(2018, 11, 5, 12),
-       {Clock::utc(2018, 11, 3, 3), Clock::utc(2018, 11, 4, 3), Clock::utc(2018, 11, 5, 2)}},
+       utc(2018, 11, 5, 12),
+       {utc(2018, 11, 3, 3), utc(2018, 11, 4, 3), utc(2018, 11, 5, 2)}},
       // the last hour of 17 February comes twice
       {"America/Sao_Paulo",
-       Clock::utc(2018, 2, 18, 3),
-       {Clock::utc(2018, 2, 16, 2), Clock::utc(2018, 2, 17, 2), Clock::utc(2018, 2, 18, 3)}},
+       utc(2018, 2, 18, 3),
+       {utc(2018, 2, 16, 2), utc(2018, 2, 17, 2), utc(2018, 2, 18, 3)}},
       // 30 December 2011 did not take place
-      {"Pacific/Apia",
-       Clock::utc(2011, 12, 31, 0),
-       {Clock::utc(2011, 12, 29, 10), Clock::utc(2011, 12, 30, 10)}},
+      {"Pacific/Apia", utc(2011, 12, 31, 0), {utc(2011, 12, 29, 10), utc(2011, 12, 30, 10)}},
   };
   for (const auto& [timeZone, now, starts] : cases) {
     clock_.time = now;
