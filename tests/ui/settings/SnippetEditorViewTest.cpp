@@ -1,4 +1,3 @@
-
 #include <QClipboard>
 #include <QInputMethodEvent>
 #include <QLabel>
