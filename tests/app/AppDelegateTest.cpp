@@ -1,10 +1,6 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <chrono>
-#include <string>
-#include <vector>
 
+#include "Matchers.h"
 #include "app/AppDelegate.h"
 #include "app/TestApp.h"
 #include "input/Preferences.h"
@@ -14,7 +10,6 @@
 namespace tessarin::testing {
 namespace {
 
-using ::testing::IsEmpty;
 using Strings = std::vector<std::string>;
 
 class AppDelegateTest : public ::testing::Test {
@@ -33,9 +28,7 @@ class AppDelegateTest : public ::testing::Test {
   TestApp app;
 };
 
-// The query
-
-TEST_F(AppDelegateTest, ShowsWhatEachQueryFinds) {
+TEST_F(AppDelegateTest, ShowsEightAtMostOfWhatEachQueryFinds) {
   app.type(":");
   EXPECT_EQ(app.shownTriggers(), std::nullopt);
   EXPECT_EQ(app.popup.anticipations, 1);
@@ -44,14 +37,16 @@ TEST_F(AppDelegateTest, ShowsWhatEachQueryFinds) {
   EXPECT_EQ(app.shownTriggers(), (Strings{"smile", "smirk", "small"}));
   app.type("ir");
   EXPECT_EQ(app.shownTriggers(), Strings{"smirk"});
-}
-
-TEST_F(AppDelegateTest, HidesWithoutResultsAndKeepsTheQuery) {
-  app.type(":smq");
-  EXPECT_FALSE(app.popup.visible);
+  app.type("q");
+  EXPECT_EQ(app.shownTriggers(), std::nullopt);
   EXPECT_FALSE(app.monitor().isIntercepting);
   app.type("⌫");
-  EXPECT_TRUE(app.popup.visible);
+  EXPECT_EQ(app.shownTriggers(), Strings{"smirk"}) << "the query was kept";
+  for (int i = 0; i < 12; ++i) {
+    app.app->snippetStore().addSnippet({"id", "n", "many" + std::to_string(i), "m", {}, "Custom", false});
+  }
+  app.type("⎋:many");
+  EXPECT_EQ(app.shownTriggers()->size(), 8u);
 }
 
 TEST_F(AppDelegateTest, AChangedTriggerHoldsAtOnce) {
@@ -66,8 +61,6 @@ TEST_F(AppDelegateTest, AChangedTriggerHoldsAtOnce) {
   EXPECT_EQ(app.document.text, ":s😄");
 }
 
-// Arrows
-
 TEST_F(AppDelegateTest, LeftFromTheFirstVariantClosesThePickerAndIsSwallowed) {
   app.type(":wave→→←");
   EXPECT_TRUE(app.monitor().shouldConsumeArrows);
@@ -76,8 +69,6 @@ TEST_F(AppDelegateTest, LeftFromTheFirstVariantClosesThePickerAndIsSwallowed) {
   EXPECT_FALSE(app.monitor().shouldConsumeArrows);
   EXPECT_EQ(app.tap.press(key(keycode::left)), KeyVerdict::pass);
 }
-
-// Abandoning
 
 TEST_F(AppDelegateTest, EndsInManyWays) {
   struct Way {
@@ -105,9 +96,13 @@ TEST_F(AppDelegateTest, EndsInManyWays) {
   }
 }
 
-// Where nothing is collected
-
-TEST_F(AppDelegateTest, BlockedApplicationsAreLeftAlone) {
+TEST_F(AppDelegateTest, BlockedApplicationsAndPasswordFieldsAreLeftAlone) {
+  auto field = std::make_shared<FakeElement>();
+  field->attributes[std::string(attribute::role)] = std::string(role::secureTextField);
+  app.accessibility.focus(field);
+  app.type(":smile⏎");
+  EXPECT_EQ(app.document.text, ":smile\r");
+  app.accessibility.focus(std::make_shared<FakeElement>());
   for (const char* blocked : {"com.tinyspeck.slackmacgap", "com.apple.MobileSMS", "org.example.Chat"}) {
     app.defaults.set(preferences::key::blacklistedApps, Strings{"org.example.Chat"});
     app.workspace.activate(blocked);
@@ -120,17 +115,6 @@ TEST_F(AppDelegateTest, BlockedApplicationsAreLeftAlone) {
   app.type(":s");
   EXPECT_TRUE(app.popup.visible) << "an application without identifier is not blocked";
 }
-
-TEST_F(AppDelegateTest, PasswordFieldsAreLeftAlone) {
-  auto field = std::make_shared<FakeElement>();
-  field->attributes[std::string(attribute::role)] = std::string(role::secureTextField);
-  app.accessibility.focus(field);
-  app.type(":smile⏎");
-  EXPECT_EQ(app.document.text, ":smile\r");
-  EXPECT_THAT(app.popup.presented, IsEmpty());
-}
-
-// The switch
 
 TEST_F(AppDelegateTest, SwitchedOffItLeavesEverythingAsItIs) {
   app.type(":wave→");
@@ -154,22 +138,15 @@ TEST_F(AppDelegateTest, SwitchedFromOutsideItLetsGoOfTheKeysFirst) {
   }
 }
 
-// Attention
-
 TEST_F(AppDelegateTest, KeysAreHeldBackUntilTheLastInsertionIsDone) {
   app.insertion.finishesAtOnce = false;
-  app.type(":sm");
-  bool wasAsked = false;
-  app.insertion.onAsked = [&] {
-    wasAsked = true;
-    EXPECT_EQ(app.tap.attention(), KeyAttention::holdBack) << "before the first synthetic press";
-  };
-  app.popup.clickRow(0);
-  EXPECT_TRUE(wasAsked);
-  app.insertion.finish();
-  EXPECT_EQ(app.tap.attention(), KeyAttention::triggerOnly);
-  for (const auto outcome : {InsertionOutcome::unchanged, InsertionOutcome::erasedOnly}) {
-    app.type(":smile⏎");
+  std::vector<KeyAttention> whenAsked;
+  app.insertion.onAsked = [&] { whenAsked.push_back(app.tap.attention()); };
+  for (const auto outcome :
+       {InsertionOutcome::inserted, InsertionOutcome::unchanged, InsertionOutcome::erasedOnly}) {
+    app.type(":smile");
+    app.popup.clickRow(0);
+    EXPECT_THAT(std::exchange(whenAsked, {}), ElementsAre(KeyAttention::holdBack));
     EXPECT_EQ(app.tap.attention(), KeyAttention::holdBack);
     app.insertion.finish(outcome);
     EXPECT_EQ(app.tap.attention(), KeyAttention::triggerOnly);
@@ -188,8 +165,6 @@ TEST_F(AppDelegateTest, AnInsertionIsNotDisturbedFromOutside) {
   EXPECT_EQ(app.document.text, "😄");
 }
 
-// The end
-
 TEST_F(AppDelegateTest, NothingThatItHandedOutOutlivesIt) {
   app.insertion.finishesAtOnce = false;
   app.type(":smile⏎");
@@ -203,14 +178,6 @@ TEST_F(AppDelegateTest, NothingThatItHandedOutOutlivesIt) {
   app.defaults.set(preferences::key::triggerCharacter, ";");
   app.queue.advance(std::chrono::seconds(10));
   EXPECT_FALSE(app.tap.exists);
-}
-
-TEST_F(AppDelegateTest, ShowsEightResultsAtMost) {
-  for (int i = 0; i < 12; ++i) {
-    app.app->snippetStore().addSnippet({"id", "n", "many" + std::to_string(i), "m", {}, "Custom", false});
-  }
-  app.type(":many");
-  EXPECT_EQ(app.shownTriggers()->size(), 8u);
 }
 
 }  // namespace

@@ -1,19 +1,15 @@
 // Launch, retry and shutdown of the controller.
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <chrono>
 
+#include "Matchers.h"
 #include "app/TestApp.h"
 
 namespace tessarin::testing {
 namespace {
 
 using namespace std::chrono_literals;
-using ::testing::Contains;
 
-constexpr const char* ready = "[Tessarin] App launched and ready";
 constexpr const char* started = "[Tessarin] Keyboard monitor started successfully";
 constexpr const char* failed =
     "[Tessarin] Keyboard monitor failed to start — will retry when permission is granted";
@@ -43,11 +39,9 @@ TEST_F(LaunchTest, ShowsTheTrayItemAndStartsTheMonitorAfterOneSecond) {
 TEST_F(LaunchTest, RetriesEveryThreeSecondsOnceTrusted) {
   app.accessibility.trusted = false;
   launch();
-  EXPECT_EQ(app.accessibility.lastPrompt, PromptManner::unobtrusive);
   app.queue.advance(1s);
   EXPECT_EQ(app.accessibility.prompts, 2) << "at launch and by the first start";
   EXPECT_EQ(app.accessibility.lastPrompt, PromptManner::unobtrusive);
-  EXPECT_THAT(app.log.lines(), Contains(failed).Times(1));
   app.queue.advance(9s);
   EXPECT_EQ(app.accessibility.prompts, 2) << "a tick without trust does nothing";
   EXPECT_THAT(app.log.lines(), Contains(failed).Times(1));

@@ -1,12 +1,7 @@
 #pragma once
 
-#include <memory>
-#include <optional>
-#include <string>
-#include <string_view>
-#include <vector>
-
 #include "app/AppDelegate.h"
+#include "model/SnippetCoding.h"
 #include "platform/WallClock.h"
 #include "support/FakeAccessibility.h"
 #include "support/FakeDocument.h"
@@ -27,25 +22,54 @@ namespace tessarin::testing {
 /// Its snippets: smile 😄, smirk 😏, small "tiny", wave 👋, and one whose trigger is 64 times the letter z.
 class TestApp {
  public:
-  TestApp();
-  ~TestApp();
+  TestApp() {
+    std::vector<Snippet> snippets;
+    for (const auto& [trigger, replacement] : {std::pair(std::string("smile"), "😄"),
+                                               {"smirk", "😏"},
+                                               {"small", "tiny"},
+                                               {"wave", "👋"},
+                                               {std::string(64, 'z'), "long"}}) {
+      snippets.push_back({"", "name of " + trigger, trigger, replacement, {}, "Test", true});
+    }
+    folder.write("emoji-data.json", encodeSnippets(snippets, JsonStyle::compact));
+    workspace.frontmost = Application{"org.example.Editor", "", false};
+    tap.onReachedDocument = [this](const KeyEvent& event) { document.type(event); };
+    insertion.onInserted = [this](const Replacement& replacement) { document.apply(replacement); };
+  }
   TestApp(const TestApp&) = delete;
   TestApp& operator=(const TestApp&) = delete;
 
-  AppDelegate::Services services();
   /// Makes the controller, if there is none yet, without launching it.
-  AppDelegate& create();
+  AppDelegate& create() {
+    if (!app) app = std::make_unique<AppDelegate>(services());
+    return *app;
+  }
   /// Launches it, and starts the monitor.
-  void launch();
+  void launch() {
+    create().applicationDidFinishLaunching();
+    queue.advance(AppDelegate::monitorStartDelay);
+  }
   void type(std::string_view keys) { tap.type(keys); }
 
   AutocompleteViewModel& model() { return app->autocompleteViewModel(); }
   KeyboardMonitor& monitor() { return app->keyboardMonitor(); }
   /// The query being collected; none while idle.
-  std::optional<std::string> query();
+  std::optional<std::string> query() {
+    const auto* state = std::get_if<TriggerDetector::Accumulating>(&app->triggerDetector().state());
+    return state ? std::optional(state->query) : std::nullopt;
+  }
   /// Triggers of the rows that the popup shows; none while it is hidden.
-  std::optional<std::vector<std::string>> shownTriggers() const;
-  std::int64_t timesUsed(const std::string& trigger);
+  std::optional<std::vector<std::string>> shownTriggers() const {
+    if (!popup.visible) return std::nullopt;
+    std::vector<std::string> triggers;
+    for (const PopupRow& row : popup.presented.back().rows) triggers.push_back(row.trigger);
+    return triggers;
+  }
+  std::int64_t timesUsed(const std::string& trigger) {
+    const auto counts = app->snippetStore().usageTracker().usageCounts();
+    const auto found = counts.find(trigger);
+    return found != counts.end() ? found->second : 0;
+  }
 
   TemporaryFolder folder;
   LogRecorder log;
@@ -61,6 +85,24 @@ class TestApp {
   FakeTextInsertion insertion;
   FakeStatusBar statusBar;
   std::unique_ptr<AppDelegate> app;
+
+ private:
+  AppDelegate::Services services() {
+    return {.eventTap = tap,
+            .accessibility = accessibility,
+            .inputMonitoring = monitoring,
+            .workspace = workspace,
+            .userDefaults = defaults,
+            .mainQueue = queue,
+            .autocompletePanel = popup,
+            .textReplacer = insertion,
+            .statusBar = statusBar,
+            .wallClock = clock,
+            .folders = {.resources = folder.path(), .storage = folder / "storage"},
+            .menu = {},
+            .startUpdateService = {},
+            .showOnboardingWindow = {}};
+  }
 };
 
 }  // namespace tessarin::testing

@@ -1,4 +1,3 @@
-#include <gmock/gmock.h>
 #include <signal.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -6,16 +5,15 @@
 #include <chrono>
 #include <system_error>
 
+#include "Matchers.h"
 #include "base/AtomicFile.h"
 #include "base/Files.h"
 #include "support/TemporaryFolder.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 namespace fs = std::filesystem;
-using ::testing::ElementsAre;
-using testing::TemporaryFolder;
 
 TEST(AtomicFile, ReplacesTheContentAndLeavesNothingBeside) {
   for (const Durability durability : {Durability::processEnd, Durability::powerCut}) {
@@ -118,4 +116,4 @@ TEST(AtomicFile, WhatAKilledProcessLeftCanBeRemoved) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

@@ -2,13 +2,12 @@
 #include <signal.h>
 
 #include <fstream>
-#include <string>
 
 #include "base/ShellScript.h"
 #include "support/Eventually.h"
 #include "support/TemporaryFolder.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 TEST(ShellScript, TellsHowItEnded) {
@@ -18,14 +17,14 @@ TEST(ShellScript, TellsHowItEnded) {
 }
 
 TEST(ShellScript, TakesArgumentsAsTheyAre) {
-  const testing::TemporaryFolder folder;
+  const TemporaryFolder folder;
   const std::string argument = "a b\n$(c) \"d\" 'e' *";
   EXPECT_TRUE(runShellScript("printf %s \"$2\" >\"$1\"", {folder / "out", argument}));
   EXPECT_EQ(folder.read("out"), argument);
 }
 
 TEST(ShellScript, SignalsReachWhatItLeavesRunning) {
-  const testing::TemporaryFolder folder;
+  const TemporaryFolder folder;
   sigset_t blocked;
   sigset_t before;
   sigemptyset(&blocked);
@@ -36,7 +35,7 @@ TEST(ShellScript, SignalsReachWhatItLeavesRunning) {
   ASSERT_TRUE(isStarted);
   const pid_t left = std::stoi(folder.read("pid"));
   ASSERT_EQ(kill(left, SIGTERM), 0);
-  const bool hasEnded = testing::eventually([&] {
+  const bool hasEnded = eventually([&] {
     std::ifstream status("/proc/" + std::to_string(left) + "/stat");
     std::string number, name, state;
     return !(status >> number >> name >> state) || state == "Z";
@@ -46,4 +45,4 @@ TEST(ShellScript, SignalsReachWhatItLeavesRunning) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

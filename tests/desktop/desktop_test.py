@@ -19,6 +19,12 @@ SNIPPETS = {
 } | {"k" * length: f"<{length}>" for length in range(1, 64)}
 
 
+def snippets(texts):
+    """A file of snippets: trigger -> text."""
+    return json.dumps([{"id": f"USER-{trigger}", "name": trigger, "trigger": trigger, "replacement": text, "keywords": [],
+                        "category": "Custom", "isBuiltIn": False} for trigger, text in texts.items()])
+
+
 class DesktopTest(unittest.TestCase):
     """One session and one running program for all tests of a class."""
 
@@ -30,9 +36,7 @@ class DesktopTest(unittest.TestCase):
         cls.session = cls.enterClassContext(Session())
         data = pathlib.Path(cls.session.env["XDG_DATA_HOME"]) / "Tessarin"
         data.mkdir(parents=True)
-        (data / "user-snippets.json").write_text(json.dumps([
-            {"id": f"USER-{trigger}", "name": trigger, "trigger": trigger, "replacement": text, "keywords": [],
-             "category": "Custom", "isBuiltIn": False} for trigger, text in (SNIPPETS | cls.snippets).items()]))
+        (data / "user-snippets.json").write_text(snippets(SNIPPETS | cls.snippets))
         config = pathlib.Path(cls.session.env["XDG_CONFIG_HOME"]) / "tessarin"
         config.mkdir(parents=True)
         cls.preferences_path = config / "preferences.json"
@@ -43,10 +47,7 @@ class DesktopTest(unittest.TestCase):
 
     def play(self, steps):
         for step in steps:
-            if callable(step):
-                step(self.typist)
-            else:
-                self.typist.type(step)
+            step(self.typist) if callable(step) else self.typist.type(step)
 
     def check(self, editor, steps, expected, seconds=8):
         start = editor.document()

@@ -3,11 +3,9 @@
 
 import json
 import pathlib
-import sys
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools/desktop"))
-
+from desktop_test import snippets
 from editors import Mousepad
 from session import ROOT, Session, Tessarin, wait_for
 from tray import Tray
@@ -37,9 +35,8 @@ class ApplicationTest(unittest.TestCase):
 
     def import_snippet(self, trigger, replacement):
         path = self.session.folder / "mine.json"
-        path.write_text(json.dumps([{"id": "A", "name": "Mine", "trigger": trigger, "replacement": replacement,
-                                     "keywords": [], "category": "Custom", "isBuiltIn": False}]))
-        return self.tessarin.command("--import", path.name, cwd=path.parent).stdout.decode()
+        path.write_text(snippets({trigger: replacement}))
+        self.tessarin.command("--import", path.name, cwd=path.parent)
 
     def heard(self):
         """What a screen reader is told, line by line."""
@@ -180,27 +177,10 @@ class FocusIsGuarded(ApplicationTest):
 class SecondStart(ApplicationTest):
     preferences = {"hasCompletedOnboarding": True}
 
-    def test_it_brings_up_the_settings_of_the_first(self):
+    def test_it_brings_up_the_settings_of_the_first_where_a_snippet_is_made_with_mouse_and_keys(self):
         self.assertEqual(self.tessarin.command().returncode, 0)
         self.window("Tessarin Settings")
         self.assertIsNone(self.typist.titled("Welcome to Tessarin"))
-
-    def test_import_and_export_through_the_running_program(self):
-        folder = self.session.folder
-        self.assertEqual(self.import_snippet("zqmine", "it is mine").strip(), "Imported 1 snippet")
-        with Mousepad(self.session, self.typist) as editor:
-            self.typist.type(":zqmine\n")
-            self.assertEqual(editor.wait_for_document("it is mine"), "it is mine")
-        self.tessarin.command("--export", "all.json", cwd=folder)
-        self.assertEqual([entry["trigger"] for entry in json.loads((folder / "all.json").read_text())], ["zqmine"])
-        (folder / "broken.json").write_text("[{")
-        answer = self.tessarin.command("--import", "broken.json", cwd=folder, check=False)
-        self.assertEqual(answer.returncode, 1)
-        self.assertIn("Import failed: ", answer.stderr.decode())
-
-    def test_a_snippet_is_made_with_mouse_and_keys(self):
-        self.tessarin.command("--settings")
-        self.window("Tessarin Settings")
         self.click("check box", "Show menu bar icon")
         wait_for(lambda: self.stored("showMenuBarIcon") is False, what="the click to count")
         self.click("page tab", "Snippets")
@@ -213,15 +193,6 @@ class SecondStart(ApplicationTest):
         with Mousepad(self.session, self.typist) as editor:
             self.typist.type(":zqzebra\n")
             self.assertEqual(editor.wait_for_document("stripes\nand more"), "stripes\nand more")
-
-    def test_toggle_ends_a_collecting(self):
-        with Mousepad(self.session, self.typist) as editor:
-            self.typist.type("a:smile")
-            wait_for(self.typist.popup, what="the popup")
-            self.tessarin.command("--toggle")
-            wait_for(lambda: self.typist.popup() is None, what="the popup to go")
-            self.typist.type("\nb")
-            self.assertEqual(editor.wait_for_document("a:smile\nb"), "a:smile\nb")
 
 
 if __name__ == "__main__":

@@ -8,22 +8,15 @@ import pathlib
 import random
 import shutil
 import signal
-import sys
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools/desktop"))
-
+from desktop_test import snippets
 from session import PROGRAM, Session, Tessarin, wait_for
 
 ROUNDS = 20
 STARTS = [[], [], ["--settings"]]
 IMPORTS = 6
 NOBODY = "tessarin: no instance is running\n"
-
-
-def snippets(trigger):
-    return json.dumps([{"id": trigger, "name": trigger, "trigger": trigger, "replacement": "x", "keywords": [],
-                        "category": "Custom", "isBuiltIn": False}])
 
 
 class InstancesTest(unittest.TestCase):
@@ -57,7 +50,7 @@ class RaceTest(InstancesTest):
         imports = []
         for i in range(IMPORTS):
             file = self.session.folder / f"{number}-{i}.json"
-            file.write_text(snippets(f"zq{number}x{i}"))
+            file.write_text(snippets({f"zq{number}x{i}": "x"}))
             imports.append(("import", ["--import", file]))
         everything = [*starts, *imports, ("toggle", ["--toggle"])]
         random.shuffle(everything)
@@ -93,7 +86,7 @@ class RaceTest(InstancesTest):
 
     def test_a_command_waits_its_turn_while_another_is_at_work(self):
         self.own.parent.mkdir()
-        (self.session.folder / "one.json").write_text(snippets("zqone"))
+        (self.session.folder / "one.json").write_text(snippets({"zqone": "x"}))
         with (self.own.parent / "lock").open("w") as lock:
             fcntl.flock(lock, fcntl.LOCK_EX)
             waiting = self.start("waiting", "--import", self.session.folder / "one.json")
@@ -112,7 +105,7 @@ class HandingOverTest(InstancesTest):
 
     def import_new(self, trigger):
         file = self.session.folder / f"{trigger}.json"
-        file.write_text(snippets(trigger))
+        file.write_text(snippets({trigger: "x"}))
         self.assertEqual(self.program.command("--import", file).stdout, b"Imported 1 snippet\n")
 
     def test_after_the_folder_was_removed(self):

@@ -5,23 +5,19 @@ import json
 import os
 import pathlib
 import signal
-import sys
 import unittest.mock
 
 from Xlib import X, display
 from Xlib.protocol import event
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools/desktop"))
-
+from desktop_test import snippets
 from editors import Mousepad
 from session import PROGRAM, Session, Tessarin, wait_for
 from tray import Tray
 from typist import Typist
 
 
-def snippets(*triggers):
-    return json.dumps([{"id": trigger, "name": trigger, "trigger": trigger, "replacement": trigger.upper(),
-                        "keywords": [], "category": "Custom", "isBuiltIn": False} for trigger in triggers])
+TWO = snippets({"zqxa": "ZQXA", "zqxb": "ZQXB"})
 
 
 def start_anew(program):
@@ -134,7 +130,7 @@ class CommandLineTest(unittest.TestCase):
     def check_files(self):
         folder = self.session.folder / "odd\nname %41"
         folder.mkdir(exist_ok=True)
-        (folder / "in.json").write_text(snippets("zqxa", "zqxb"))
+        (folder / "in.json").write_text(TWO)
         self.assertEqual(self.tessarin("--import", "in.json", cwd=folder), (0, "Imported 2 snippets\n", ""))
         self.assertEqual(self.tessarin("--import=in.json", cwd=folder), (0, "Imported 0 snippets\n", ""))
         self.assertEqual(self.tessarin("--export", "out.json", cwd=folder), (0, "Exported 2 snippets\n", ""))
@@ -167,7 +163,7 @@ class CommandLineTest(unittest.TestCase):
         self.without_display["LC_ALL"] = "de_DE.UTF-8"
         self.assertTrue(self.tessarin("--help")[1].startswith("Aufruf: tessarin [OPTION]\n"))
         self.assertEqual(self.tessarin("--quit"), (1, "", "tessarin: Tessarin läuft nicht\n"))
-        (self.session.folder / "in.json").write_text(snippets("zqxa", "zqxb"))
+        (self.session.folder / "in.json").write_text(TWO)
         self.assertEqual(self.tessarin("--import", self.session.folder / "in.json"), (0, "2 Bausteine importiert\n", ""))
         self.assertEqual(self.tessarin("--search", "zqxb"), (0, "zqxb\tZQXB\tzqxb\n", ""))
 
@@ -178,7 +174,7 @@ class CommandLineTest(unittest.TestCase):
             self.assertEqual(self.tessarin("--toggle"), (0, "off\n", ""))
             self.assertEqual(self.tessarin("--toggle"), (0, "on\n", ""))
             # The list in memory has them too: it is written again with one more.
-            (self.session.folder / "one.json").write_text(snippets("zqxc"))
+            (self.session.folder / "one.json").write_text(snippets({"zqxc": "ZQXC"}))
             self.assertEqual(self.tessarin("--import", self.session.folder / "one.json")[0], 0)
             self.assertEqual(len(json.loads(self.own.read_text())), 3)
             self.assertEqual(self.tessarin("--quit"), (0, "quitting\n", ""))

@@ -3,7 +3,7 @@
 #include "platform/GuardedEventTap.h"
 #include "support/FakeEventTap.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 TEST(GuardedEventTapTest, DeliversWhatTheGuardAllowsAndEndsWhatHasBegun) {
@@ -23,7 +23,7 @@ TEST(GuardedEventTapTest, DeliversWhatTheGuardAllowsAndEndsWhatHasBegun) {
       {KeyGuard::unsure, KeyAttention::everyKey, KeyVerdict::pass, disabledByUserInput},
   };
   for (const auto& c : cases) {
-    testing::FakeEventTap keyboard;
+    FakeEventTap keyboard;
     GuardedEventTap tap{keyboard, [&] { return c.guard; }};
     std::vector<KeyEventKind> delivered;
     tap.create([&](const KeyEvent& event) {
@@ -39,4 +39,4 @@ TEST(GuardedEventTapTest, DeliversWhatTheGuardAllowsAndEndsWhatHasBegun) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

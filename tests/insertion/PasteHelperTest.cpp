@@ -1,24 +1,18 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <chrono>
-
+#include "Matchers.h"
 #include "insertion/PasteHelper.h"
 #include "platform/KeyCodes.h"
 #include "support/FakeKeyPoster.h"
 #include "support/FakePasteboard.h"
 #include "support/ManualMainQueue.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
+using namespace std::chrono_literals;
 using std::chrono::milliseconds;
-using ::testing::ElementsAre;
-using testing::FakeKeyPoster;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
 using Items = std::vector<PasteboardItem>;
 
+constexpr auto inserted = InsertionOutcome::inserted;
 constexpr KeyPress backspace{keycode::deleteBackward, 0};
 constexpr KeyPress controlV{keycode::v, keyflag::control};
 constexpr KeyPress shiftInsert{keycode::insert, keyflag::shift};
@@ -33,14 +27,25 @@ class PasteHelperTest : public ::testing::Test {
   void paste(std::int64_t count, const std::string& text, PasteChord chord = PasteChord::controlV) {
     helper->pasteText(count, text, chord, [this](InsertionOutcome outcome) { outcomes.push_back(outcome); });
   }
-
   bool isRestored() const { return general.contents() == saved; }
+  /// Whether the user's contents come back after this time, and not a millisecond earlier.
+  bool isRestoredJustAfter(milliseconds time) {
+    queue.advance(time - 1ms);
+    const bool wasRestored = isRestored();
+    queue.advance(1ms);
+    return !wasRestored && isRestored();
+  }
+  std::optional<std::string> readAfter(milliseconds time) {
+    queue.advance(time);
+    return general.readByApplication();
+  }
 
   const Items saved{
       {"UTF8_STRING", "user's"}, {"text/html", "<b>user's</b>"}, {"image/png", {"\x89P\0G", 4}}};
-  testing::ManualMainQueue queue;
-  testing::FakePasteboard general{queue};
-  testing::FakePasteboard primary{queue};
+  const Items selected{{"UTF8_STRING", "selected"}};
+  ManualMainQueue queue;
+  FakePasteboard general{queue};
+  FakePasteboard primary{queue};
   FakeKeyPoster keys{queue};
   std::vector<InsertionOutcome> outcomes;
   std::optional<PasteHelper> helper{std::in_place, general, primary, keys, queue};
@@ -51,230 +56,217 @@ TEST_F(PasteHelperTest, givesTheDeletionsTime) {
   const FakeKeyPoster::Posted erasing{backspace, {}};
   EXPECT_THAT(keys.posted, ElementsAre(erasing, erasing));
 
-  queue.advance(milliseconds(89));
+  queue.advance(89ms);
   EXPECT_TRUE(isRestored());
-  queue.advance(milliseconds(1));
+  queue.advance(1ms);
   EXPECT_EQ(general.contents(), (Items{{"UTF8_STRING", "😀"}}));
 
-  queue.advance(milliseconds(50));
-  EXPECT_THAT(keys.posted, ElementsAre(erasing, erasing, FakeKeyPoster::Posted{controlV, milliseconds(140)}));
+  queue.advance(50ms);
+  EXPECT_THAT(keys.posted, ElementsAre(erasing, erasing, FakeKeyPoster::Posted{controlV, 140ms}));
   EXPECT_THAT(outcomes, IsEmpty());
   EXPECT_EQ(general.readByApplication(), "😀");
-  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
-
-  queue.advance(milliseconds(199));
-  EXPECT_FALSE(isRestored());
-  queue.advance(milliseconds(1));
-  EXPECT_TRUE(isRestored());
+  EXPECT_THAT(outcomes, ElementsAre(inserted));
+  EXPECT_TRUE(isRestoredJustAfter(200ms));
   EXPECT_EQ(primary.snapshots, 0) << "of no use outside terminals";
 }
 
 TEST_F(PasteHelperTest, countsFromWhenTheKeysWereMade) {
-  keys.takes = milliseconds(3000);
+  keys.takes = 3000ms;
   paste(2, "x");
-  queue.advance(milliseconds(3000 + 89));
+  queue.advance(3000ms + 89ms);
   EXPECT_TRUE(isRestored());
-  queue.advance(milliseconds(1 + 50));
+  queue.advance(1ms + 50ms);
   EXPECT_EQ(keys.posted.size(), 3U);
-  queue.advance(milliseconds(3000 + 1999));
+  queue.advance(3000ms + 1999ms);
   EXPECT_FALSE(isRestored()) << "the application has just got the chord";
   EXPECT_EQ(general.readByApplication(), "x");
-  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
+  EXPECT_THAT(outcomes, ElementsAre(inserted));
 
   paste(2, "");
-  queue.advance(milliseconds(2999));
+  queue.advance(2999ms);
   EXPECT_THAT(outcomes, SizeIs(1));
-  queue.advance(milliseconds(1));
+  queue.advance(1ms);
   EXPECT_THAT(outcomes, SizeIs(2));
 }
 
 TEST_F(PasteHelperTest, waitsForALateReader) {
   paste(1, "x");
-  queue.advance(milliseconds(120 + 1500));
+  queue.advance(120ms + 1500ms);
   EXPECT_THAT(outcomes, IsEmpty());
   EXPECT_EQ(general.readByApplication(), "x");
-  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
-  queue.advance(milliseconds(60));
-  EXPECT_EQ(general.readByApplication(), "x") << "some look first, and read then";
-  queue.advance(milliseconds(99));
-  EXPECT_FALSE(isRestored());
-  queue.advance(milliseconds(1));
-  EXPECT_TRUE(isRestored());
+  EXPECT_THAT(outcomes, ElementsAre(inserted));
+  EXPECT_EQ(readAfter(60ms), "x") << "some look first, and read then";
+  EXPECT_TRUE(isRestoredJustAfter(100ms));
 }
 
 TEST_F(PasteHelperTest, doesNotTakeAReadBeforeTheChordForThePaste) {
   paste(1, "x");
-  queue.advance(milliseconds(80));
-  general.readByApplication();
-  queue.advance(milliseconds(40 + 199));
+  readAfter(80ms);
+  queue.advance(40ms + 199ms);
   EXPECT_THAT(outcomes, IsEmpty());
-  queue.advance(milliseconds(1));
-  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted)) << "it may have kept what it read";
-  queue.advance(milliseconds(1300));
-  EXPECT_EQ(general.readByApplication(), "x") << "or it may read again";
-  queue.advance(milliseconds(100));
+  queue.advance(1ms);
+  EXPECT_THAT(outcomes, ElementsAre(inserted)) << "it may have kept what it read";
+  EXPECT_EQ(readAfter(1300ms), "x") << "or it may read again";
+  queue.advance(100ms);
   EXPECT_TRUE(isRestored());
+}
+
+TEST_F(PasteHelperTest, doesNotPasteBeforeTheTextIsThere) {
+  general.isHeldUp = true;
+  paste(0, "x");
+  queue.advance(100ms + 500ms);
+  EXPECT_THAT(keys.posted, IsEmpty()) << "would paste what the user had copied";
+  general.carryOutHeldWrite();
+  queue.advance(20ms);
+  EXPECT_THAT(keys.posted, SizeIs(1));
+  EXPECT_EQ(general.readByApplication(), "x");
+  EXPECT_TRUE(isRestoredJustAfter(200ms));
+  general.isHeldUp = true;
+  paste(1, "x");
+  queue.advance(5000ms);
+  EXPECT_THAT(keys.posted, SizeIs(2)) << "the backspace, and no chord";
+  EXPECT_THAT(outcomes, ElementsAre(inserted, InsertionOutcome::erasedOnly));
 }
 
 TEST_F(PasteHelperTest, givesUpAfterTwoSeconds) {
   paste(1, "x");
-  queue.advance(milliseconds(120 + 1999));
+  queue.advance(120ms + 1999ms);
   EXPECT_THAT(outcomes, IsEmpty());
-  EXPECT_FALSE(isRestored());
-  queue.advance(milliseconds(1));
+  EXPECT_TRUE(isRestoredJustAfter(1ms));
   EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::erasedOnly));
-  EXPECT_TRUE(isRestored());
-  queue.advance(milliseconds(5000));
+  queue.advance(5000ms);
   EXPECT_THAT(outcomes, SizeIs(1));
 }
 
 TEST_F(PasteHelperTest, restoresAnEmptyPasteboardThatNobodyRead) {
   general.copyElsewhere(Items{});
   paste(0, "x");
-  queue.advance(milliseconds(3000));
+  queue.advance(3000ms);
   EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::unchanged));
   EXPECT_THAT(general.contents(), IsEmpty());
 }
 
 TEST_F(PasteHelperTest, restoresWhatAHungOwnerStillDelivered) {
-  general.readyAfter = milliseconds(200);
-  general.completeAfter = milliseconds(1000);
+  general.readyAfter = 200ms;
+  general.completeAfter = 1000ms;
   general.lateItems = {{"image/tiff", "late"}};
   paste(0, "x");
-  queue.advance(milliseconds(199));
+  queue.advance(199ms);
   EXPECT_THAT(general.writtenTexts, IsEmpty());
-  queue.advance(milliseconds(61));
-  EXPECT_EQ(general.readByApplication(), "x");
-  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
-  queue.advance(milliseconds(999 - 260));
+  EXPECT_EQ(readAfter(61ms), "x");
+  EXPECT_THAT(outcomes, ElementsAre(inserted));
+  queue.advance(999ms - 260ms);
   EXPECT_TRUE(general.isOurText());
-  queue.advance(milliseconds(60));
+  queue.advance(60ms);
   Items all = saved;
   all.push_back({"image/tiff", "late"});
   EXPECT_EQ(general.contents(), all);
 }
 
-TEST_F(PasteHelperTest, leavesWhatTheUserCopiedMeanwhile) {
-  for (const int moment : {30, 150}) {
-    const std::string newer = "newer at " + std::to_string(moment);
+TEST_F(PasteHelperTest, leavesWhatTheUserCopiesAtAnyMoment) {
+  for (const milliseconds moment : {30ms, 150ms}) {
+    SCOPED_TRACE(moment.count());
+    const std::string newer = "newer at " + std::to_string(moment.count());
     general.writtenTexts.clear();
     paste(0, "x");
-    queue.advance(milliseconds(moment));
-    general.readByApplication();
+    readAfter(moment);
     general.copyElsewhere(newer);
-    queue.advance(milliseconds(3000));
-    EXPECT_THAT(general.writtenTexts, ElementsAre("x")) << moment;
-    EXPECT_EQ(general.contents(), (Items{{"UTF8_STRING", newer}})) << moment;
+    EXPECT_EQ(helper->userText(), newer);
+    queue.advance(3000ms);
+    EXPECT_THAT(general.writtenTexts, ElementsAre("x"));
+    EXPECT_EQ(general.contents(), (Items{{"UTF8_STRING", newer}}));
   }
 }
 
 TEST_F(PasteHelperTest, pastesOnceThoughEveryoneKeepsCopying) {
-  general.readyAfter = milliseconds(20);
-  const auto copying = queue.repeat(milliseconds(5), [this] {
+  general.readyAfter = 20ms;
+  const auto copying = queue.repeat(5ms, [this] {
     if (general.writtenTexts.empty()) general.copyElsewhere("again");
   });
   paste(0, "x");
-  queue.advance(milliseconds(1000));
+  queue.advance(1000ms);
   EXPECT_THAT(general.writtenTexts, ElementsAre("x"));
   EXPECT_THAT(keys.posted, SizeIs(1));
 }
 
 TEST_F(PasteHelperTest, pastesInTerminalsFromBothPasteboards) {
   paste(1, "x", PasteChord::shiftInsert);
-  queue.advance(milliseconds(120));
+  queue.advance(120ms);
   EXPECT_EQ(keys.posted.back().press, shiftInsert);
   EXPECT_TRUE(general.isOurText());
   EXPECT_EQ(primary.readByApplication(), "x");
-  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
-  queue.advance(milliseconds(200));
+  EXPECT_THAT(outcomes, ElementsAre(inserted));
+  queue.advance(200ms);
   EXPECT_TRUE(isRestored());
-  EXPECT_EQ(primary.contents(), (Items{{"UTF8_STRING", "selected"}}));
+  EXPECT_EQ(primary.contents(), selected);
 }
 
 TEST_F(PasteHelperTest, aSecondPasteKeepsTheFirstsSavedContents) {
   paste(0, "first");
-  queue.advance(milliseconds(100));
-  general.readByApplication();
+  readAfter(100ms);
   paste(0, "second");
-  queue.advance(milliseconds(100));
+  queue.advance(100ms);
   EXPECT_EQ(general.snapshots, 1);
-  queue.advance(milliseconds(1000));
-  EXPECT_EQ(general.readByApplication(), "second") << "the first paste's restore must not come in between";
-  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted, InsertionOutcome::inserted));
-  queue.advance(milliseconds(100));
+  EXPECT_EQ(readAfter(1000ms), "second") << "the first paste's restore must not come in between";
+  EXPECT_THAT(outcomes, ElementsAre(inserted, inserted));
+  queue.advance(100ms);
   EXPECT_TRUE(isRestored());
 }
 
 TEST_F(PasteHelperTest, aSecondPasteSavesWhatWasCopiedSinceTheFirst) {
   paste(0, "first");
-  queue.advance(milliseconds(100));
-  general.readByApplication();
+  readAfter(100ms);
   general.copyElsewhere("newer");
   paste(0, "second");
-  queue.advance(milliseconds(3000));
+  queue.advance(3000ms);
   EXPECT_EQ(general.snapshots, 2);
   EXPECT_EQ(general.contents(), (Items{{"UTF8_STRING", "newer"}}));
 }
 
 TEST_F(PasteHelperTest, aSecondPasteElsewhereStillRestoresTheTerminalsSelection) {
   paste(0, "first", PasteChord::shiftInsert);
-  queue.advance(milliseconds(100));
+  queue.advance(100ms);
   primary.readByApplication();
   paste(0, "second");
-  queue.advance(milliseconds(100));
-  general.readByApplication();
-  queue.advance(milliseconds(200));
+  readAfter(100ms);
+  queue.advance(200ms);
   EXPECT_TRUE(isRestored());
-  EXPECT_EQ(primary.contents(), (Items{{"UTF8_STRING", "selected"}}));
+  EXPECT_EQ(primary.contents(), selected);
 }
 
 TEST_F(PasteHelperTest, itsEndGivesTheContentsBackAtOnce) {
-  for (const int moment : {0, 100, 130, 1000}) {
-    SCOPED_TRACE(moment);
+  for (const milliseconds moment : {0ms, 100ms, 130ms, 1000ms}) {
+    SCOPED_TRACE(moment.count());
     outcomes.clear();
     helper.emplace(general, primary, keys, queue);
     paste(1, "x", PasteChord::shiftInsert);
-    queue.advance(milliseconds(moment));
+    queue.advance(moment);
     helper.reset();
     EXPECT_TRUE(isRestored());
-    EXPECT_EQ(primary.contents(), (Items{{"UTF8_STRING", "selected"}}));
+    EXPECT_EQ(primary.contents(), selected);
     EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::erasedOnly));
-    const std::size_t writes = general.writtenTexts.size();
-    const std::size_t presses = keys.posted.size();
-    queue.advance(milliseconds(5000));
-    EXPECT_EQ(general.writtenTexts.size(), writes);
-    EXPECT_EQ(keys.posted.size(), presses);
+    const auto atTheEnd = std::pair(general.writtenTexts, keys.posted);
+    queue.advance(5000ms);
+    EXPECT_EQ(std::pair(general.writtenTexts, keys.posted), atTheEnd);
   }
 }
 
 TEST_F(PasteHelperTest, finishingAfterTheReadOnlyRestores) {
   paste(1, "x");
-  queue.advance(milliseconds(120));
-  general.readByApplication();
+  readAfter(120ms);
   helper->finish();
   EXPECT_TRUE(isRestored());
-  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
+  EXPECT_THAT(outcomes, ElementsAre(inserted));
 }
 
-TEST_F(PasteHelperTest, savesAgainWhatTheUserCopiedBeforeTheWrite) {
-  paste(0, "x");
-  queue.advance(milliseconds(30));
-  general.copyElsewhere("newer");
-  queue.advance(milliseconds(3000));
-  EXPECT_THAT(general.writtenTexts, ElementsAre("x"));
-  EXPECT_EQ(general.contents(), (Items{{"UTF8_STRING", "newer"}}));
-}
-
-TEST_F(PasteHelperTest, knowsTheUsersTextAtAnyTime) {
+TEST_F(PasteHelperTest, knowsTheUsersTextWhileItIsLent) {
   EXPECT_EQ(helper->userText(), "user's");
   paste(0, "x");
-  for (const int step : {50, 50, 199}) {
-    queue.advance(milliseconds(step));
-    EXPECT_EQ(helper->userText(), "user's") << step;
+  for (const milliseconds step : {50ms, 50ms, 199ms}) {
+    queue.advance(step);
+    EXPECT_EQ(helper->userText(), "user's") << step.count();
   }
-  general.copyElsewhere("newer");
-  EXPECT_EQ(helper->userText(), "newer");
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

@@ -2,7 +2,7 @@
 
 #include "insertion/PlainText.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 TEST(PlainText, IsFoundAmongTheItems) {
@@ -22,4 +22,4 @@ TEST(PlainText, IsFoundAmongTheItems) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

@@ -1,50 +1,23 @@
-#include "insertion/TextReplacer.h"
-#include "support/FakeKeyPoster.h"
-#include "support/FakePasteboard.h"
-#include "support/FakeTextField.h"
+#include "insertion/ReplacerWorld.h"
 #include "support/FakeTextInsertion.h"
-#include "support/FakeUserDefaults.h"
-#include "support/FakeWorkspace.h"
-#include "support/ManualMainQueue.h"
 #include "support/TextInsertionSuite.h"
 
 namespace tessarin::testing {
 namespace {
 
-using std::chrono::milliseconds;
-
 /// An application into which everything is pasted.
 class PasteWorld {
  public:
-  PasteWorld() {
-    accessibility_.focus(field_);
-    workspace_.frontmost = Application{"org.mozilla.firefox", "Firefox", false};
-    general_.copyElsewhere("user's");
-  }
-  TextInsertion& insertion() { return replacer_; }
+  PasteWorld() { world_.refuseDirectInsertion(); }
+  TextInsertion& insertion() { return *world_.replacer; }
   void takeText() {
-    queue_.advance(milliseconds(220));
-    const auto text = general_.readByApplication();
-    if (!text) return;
-    texts_.push_back(*text);
-    field_->type(*text);
-    queue_.advance(milliseconds(5));
+    world_.queue.advance(std::chrono::milliseconds(220));
+    if (const auto text = world_.paste()) texts_.push_back(*text);
   }
   std::vector<std::string> texts() const { return texts_; }
 
  private:
-  ManualMainQueue queue_;
-  FakeAccessibility accessibility_;
-  std::shared_ptr<FakeTextField> field_ = FakeTextField::create();
-  FakeWorkspace workspace_;
-  FakeUserDefaults defaults_;
-  FakePasteboard general_{queue_};
-  FakePasteboard primary_{queue_};
-  FakeKeyPoster keys_{queue_};
-  AccessibilityHelper accessibilityHelper_{accessibility_, workspace_, defaults_};
-  PasteHelper pasteHelper_{general_, primary_, keys_, queue_};
-  SystemWallClock clock_;
-  TextReplacer replacer_{accessibilityHelper_, pasteHelper_, queue_, clock_};
+  ReplacerWorld world_;
   std::vector<std::string> texts_;
 };
 

@@ -1,89 +1,44 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <algorithm>
-#include <chrono>
-#include <functional>
 
-#include "insertion/TextReplacer.h"
+#include "Matchers.h"
+#include "insertion/ReplacerWorld.h"
 #include "platform/KeyCodes.h"
-#include "support/FakeKeyPoster.h"
-#include "support/FakePasteboard.h"
-#include "support/FakeTextField.h"
-#include "support/FakeUserDefaults.h"
-#include "support/FakeWorkspace.h"
 #include "support/LogRecorder.h"
-#include "support/ManualMainQueue.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 using std::chrono::milliseconds;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
 
 constexpr const char* direct = "[TextReplacer] Replaced via Accessibility API";
 constexpr const char* fallback = "[TextReplacer] Falling back to paste method";
 
-class TextReplacerTest : public ::testing::Test {
+class TextReplacerTest : public ::testing::Test, protected ReplacerWorld {
  protected:
-  TextReplacerTest() {
-    accessibility.focus(field);
-    workspace.frontmost = Application{"org.example.Editor", "Editor", false};
-    general.copyElsewhere("user's");
-  }
-
-  void refuseDirectInsertion() { workspace.frontmost->bundleIdentifier = "org.mozilla.firefox"; }
   TextInsertion::Completion keep() {
     return [this](InsertionOutcome outcome) { outcomes.push_back(outcome); };
   }
-  void replace(const std::string& text, TextInsertion::Completion done) {
-    replacer->replace({6, text, false, ":smile"}, std::move(done));
-  }
-  void replace(const std::string& text) { replace(text, keep()); }
-  /// The application takes the paste, and the text stands in its document. What it got.
-  std::optional<std::string> paste() {
-    const auto text = general.readByApplication();
-    if (text) field->type(*text);
-    queue.advance(milliseconds(5));
-    return text;
-  }
+  void replace(const std::string& text) { replacer->replace({6, text, false, ":smile"}, keep()); }
   std::size_t countOf(std::int64_t keyCode) const {
     return static_cast<std::size_t>(std::ranges::count_if(
         keys.posted, [keyCode](const auto& posted) { return posted.press.keyCode == keyCode; }));
   }
 
-  testing::LogRecorder log;
-  testing::ManualMainQueue queue;
-  testing::FakeAccessibility accessibility;
-  testing::FakeWorkspace workspace;
-  testing::FakeUserDefaults defaults;
-  testing::FakePasteboard general{queue};
-  testing::FakePasteboard primary{queue};
-  testing::FakeKeyPoster keys{queue};
-  std::shared_ptr<testing::FakeTextField> field = testing::FakeTextField::create();
-  AccessibilityHelper accessibilityHelper{accessibility, workspace, defaults};
-  PasteHelper pasteHelper{general, primary, keys, queue};
-  SystemWallClock clock;
-  std::optional<TextReplacer> replacer{std::in_place, accessibilityHelper, pasteHelper, queue, clock};
+  LogRecorder log;
   std::vector<InsertionOutcome> outcomes;
 };
 
-TEST_F(TextReplacerTest, insertsDirectlyWhereThatWorks) {
+TEST_F(TextReplacerTest, insertsDirectlyWhereThatWorksAndErasesATriggerThatConfirmedToo) {
   field->type("a:smile");
   replace("😀");
   EXPECT_EQ(field->document(), "a😀");
-  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
-  EXPECT_THAT(log.lines(), ElementsAre(direct));
+  field->type(":smile:");
+  replacer->replace({6, "😀", true, ":smile:"}, keep());
+  EXPECT_EQ(field->document(), "a😀😀");
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted, InsertionOutcome::inserted));
+  EXPECT_THAT(log.lines(), ElementsAre(direct, direct));
   EXPECT_THAT(keys.posted, IsEmpty());
   EXPECT_EQ(general.snapshots, 0);
-}
-
-TEST_F(TextReplacerTest, erasesTheTriggerThatConfirmedToo) {
-  field->type("a:smile:");
-  replacer->replace({6, "😀", true, ":smile:"}, keep());
-  EXPECT_EQ(field->document(), "a😀");
 
   refuseDirectInsertion();
   replacer->replace({6, "😀", true, ":smile:"}, keep());
@@ -92,7 +47,7 @@ TEST_F(TextReplacerTest, erasesTheTriggerThatConfirmedToo) {
 
 TEST_F(TextReplacerTest, erasesNothingWhereTheApplicationHasChangedTheShortcode) {
   for (const char* text : {"abcdefgh ☺", "abcdefgh :smile ", "abcdefgh ☺ile"}) {
-    accessibility.focus(field = testing::FakeTextField::create());
+    accessibility.focus(field = FakeTextField::create());
     field->type(text);
     outcomes.clear();
     replace("😀");
@@ -170,66 +125,45 @@ TEST_F(TextReplacerTest, pastesByShiftInsertInATerminal) {
   EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted)) << "at once: its text cannot be read";
 }
 
-/// How the target of a paste shows the text that it has read.
-struct Arrival {
-  const char* name;
-  void (*arrange)(testing::FakeAccessibility&, testing::FakeTextField&);
-  milliseconds standsAfter;  ///< counted from the reading
-  milliseconds answeredAfter;
-};
-
-class TextReplacerArrival : public TextReplacerTest, public ::testing::WithParamInterface<Arrival> {};
-
-TEST_P(TextReplacerArrival, isWaitedForAsFarAsItCanBeTold) {
-  GetParam().arrange(accessibility, *field);
-  refuseDirectInsertion();
-  testing::ManualMainQueue::Clock::time_point answered;
-  replace("😀", [&](InsertionOutcome outcome) {
-    answered = queue.now();
-    outcomes.push_back(outcome);
-  });
-  queue.advance(milliseconds(220));
-  const auto read = queue.now();
-  queue.after(GetParam().standsAfter, [this] { field->type("😀"); });
-  general.readByApplication();
-  queue.advance(milliseconds(3000));
-  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
-  EXPECT_EQ(answered - read, GetParam().answeredAfter);
-}
-
-constexpr milliseconds never{9999};
-INSTANTIATE_TEST_SUITE_P(
-    Targets, TextReplacerArrival,
-    ::testing::Values(Arrival{"soon", [](auto&, auto&) {}, milliseconds(3), milliseconds(5)},
-                      Arrival{"late", [](auto&, auto&) {}, milliseconds(111), milliseconds(115)},
-                      Arrival{"asSomethingElse", [](auto&, auto&) {}, never, milliseconds(495)},
-                      Arrival{"inAHungApplication",
-                              [](auto& accessibility, auto& target) {
-                                accessibility.busy = true;
-                                target.failing.insert(std::string(attribute::value));
-                              },
-                              never, milliseconds(1995)},
-                      Arrival{"nothingFocused",
-                              [](auto& accessibility, auto&) {
-                                accessibility.application->failing.insert(
-                                    std::string(attribute::focusedElement));
-                              },
-                              never, milliseconds(0)},
-                      Arrival{"notTrusted", [](auto& accessibility, auto&) { accessibility.trusted = false; },
-                              never, milliseconds(0)}),
-    [](const auto& arrival) { return arrival.param.name; });
-
-TEST_F(TextReplacerTest, theNextOneWaitsUntilTheTextStands) {
-  refuseDirectInsertion();
-  replace("first");
-  replace("second");
-  queue.advance(milliseconds(220));
-  general.readByApplication();
-  queue.advance(milliseconds(100));
-  EXPECT_EQ(countOf(keycode::deleteBackward), 6U);
-  field->type("first");
-  queue.advance(milliseconds(5));
-  EXPECT_EQ(countOf(keycode::deleteBackward), 12U);
+TEST(TextReplacerArrival, isWaitedForAsFarAsItCanBeTold) {
+  constexpr milliseconds never{9999};
+  const struct {
+    const char* name;
+    milliseconds standsAfter;  ///< counted from the reading
+    milliseconds answeredAfter;
+    void (*arrange)(ReplacerWorld&);
+  } cases[] = {
+      {"soon", milliseconds(3), milliseconds(5), [](auto&) {}},
+      {"late", milliseconds(111), milliseconds(115), [](auto&) {}},
+      {"as something else", never, milliseconds(495), [](auto&) {}},
+      {"in a hung application", never, milliseconds(1995),
+       [](auto& world) {
+         world.accessibility.busy = true;
+         world.field->failing.insert(std::string(attribute::value));
+       }},
+      {"nothing focused", never, milliseconds(0),
+       [](auto& world) {
+         world.accessibility.application->failing.insert(std::string(attribute::focusedElement));
+       }},
+      {"not trusted", never, milliseconds(0), [](auto& world) { world.accessibility.trusted = false; }},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    ReplacerWorld world;
+    c.arrange(world);
+    world.refuseDirectInsertion();
+    std::vector<std::pair<InsertionOutcome, milliseconds>> answers;
+    ManualMainQueue::Clock::time_point read;
+    world.replacer->replace({6, "😀", false, ":smile"}, [&](InsertionOutcome outcome) {
+      answers.emplace_back(outcome, std::chrono::duration_cast<milliseconds>(world.queue.now() - read));
+    });
+    world.queue.advance(milliseconds(220));
+    read = world.queue.now();
+    world.queue.after(c.standsAfter, [&] { world.field->type("😀"); });
+    world.general.readByApplication();
+    world.queue.advance(milliseconds(3000));
+    EXPECT_THAT(answers, ElementsAre(std::pair(InsertionOutcome::inserted, c.answeredAfter)));
+  }
 }
 
 TEST_F(TextReplacerTest, doesNotEraseTwice) {
@@ -250,42 +184,36 @@ TEST_F(TextReplacerTest, fillsInTemplateVariablesOnceForBothMethods) {
   EXPECT_EQ(field->document(), "<user's>");
 
   refuseDirectInsertion();
-  replace("<{{clipboard}}>");
-  EXPECT_EQ(general.stringReads, 2) << "once a replacement";
-  queue.advance(milliseconds(220));
-  EXPECT_EQ(paste(), "<user's>");
+  for (const int reads : {2, 2}) {
+    replace("<{{clipboard}}>");
+    EXPECT_EQ(general.stringReads, reads) << "once a replacement, and none while our text is there";
+    queue.advance(milliseconds(220));
+    EXPECT_EQ(paste(), "<user's>");
+    EXPECT_TRUE(general.isOurText());
+  }
 }
 
-TEST_F(TextReplacerTest, theClipboardVariableIsTheUsersWhileOurTextIsOnThePasteboard) {
+TEST_F(TextReplacerTest, replacementsWaitUntilTheTextBeforeThemStands) {
+  const auto texts = {"first", "second", "third"};
   refuseDirectInsertion();
-  replace("first");
-  queue.advance(milliseconds(220));
-  paste();
-  EXPECT_TRUE(general.isOurText());
-  replace("<{{clipboard}}>");
-  queue.advance(milliseconds(220));
-  EXPECT_EQ(paste(), "<user's>");
-}
-
-TEST_F(TextReplacerTest, replacementsWaitForTheirTurn) {
-  refuseDirectInsertion();
-  replace("first");
-  replace("second");
-  replace("third");
-  for (const char* text : {"first", "second", "third"}) {
+  for (const char* text : texts) replace(text);
+  for (const char* text : texts) {
     EXPECT_THAT(log.lines(), SizeIs(outcomes.size() + 1)) << "one at a time";
     queue.advance(milliseconds(220));
-    EXPECT_EQ(paste(), text);
+    EXPECT_EQ(general.readByApplication(), text);
+    queue.advance(milliseconds(100));
+    EXPECT_EQ(countOf(keycode::deleteBackward), 6 * (outcomes.size() + 1));
+    field->type(text);
+    queue.advance(milliseconds(5));
   }
   EXPECT_THAT(outcomes, SizeIs(3));
-  EXPECT_EQ(countOf(keycode::deleteBackward), 18U);
   queue.advance(milliseconds(200));
   EXPECT_EQ(general.contents(), (std::vector<PasteboardItem>{{"UTF8_STRING", "user's"}}));
 }
 
 TEST_F(TextReplacerTest, mayGoAwayWithinADoneCallback) {
   field->type(":smile");
-  replace("😀", [this](InsertionOutcome) { replacer.reset(); });
+  replacer->replace({6, "😀", false, ":smile"}, [this](InsertionOutcome) { replacer.reset(); });
   EXPECT_FALSE(replacer.has_value());
 }
 
@@ -300,4 +228,4 @@ TEST_F(TextReplacerTest, goesOnAfterAnApplicationThatIgnoresThePaste) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

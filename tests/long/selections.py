@@ -105,6 +105,12 @@ class Reader(Client):
         super().__init__(session)
         self.window = self.root.create_window(0, 0, 400, 300, 0, X.CopyFromParent, event_mask=X.KeyPressMask)
 
+    def watch(self):
+        """From now on `handle` is told whenever the clipboard changes hands."""
+        self.display.xfixes_query_version()
+        self.display.xfixes_select_selection_input(self.root, self.atom("CLIPBOARD"),
+                                                   xfixes.XFixesSetSelectionOwnerNotifyMask)
+
     def ask(self, selection="CLIPBOARD", target="UTF8_STRING"):
         self.window.convert_selection(self.atom(selection), self.atom(target), self.atom("ANSWER"), X.CurrentTime)
         self.display.flush()
@@ -122,9 +128,7 @@ class ClipboardManager(Reader):
     def __init__(self, session):
         super().__init__(session)
         self.history = []
-        self.display.xfixes_query_version()
-        self.display.xfixes_select_selection_input(self.root, self.atom("CLIPBOARD"),
-                                                   xfixes.XFixesSetSelectionOwnerNotifyMask)
+        self.watch()
 
     def handle(self, event):
         if event.type == X.SelectionNotify:
@@ -151,9 +155,7 @@ class LateReader(Reader):
         self.window.set_wm_class("late", "Late")
         self.window.map()
         if watches:
-            self.display.xfixes_query_version()
-            self.display.xfixes_select_selection_input(self.root, self.atom("CLIPBOARD"),
-                                                       xfixes.XFixesSetSelectionOwnerNotifyMask)
+            self.watch()
 
     def handle(self, event):
         if event.type == X.KeyPress:

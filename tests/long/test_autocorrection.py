@@ -2,15 +2,11 @@
 """Applications that change what was typed by themselves never lose other text to us."""
 
 import pathlib
-import sys
 import unittest
 
-ROOT = pathlib.Path(__file__).resolve().parents[2]
-sys.path[:0] = [str(ROOT / folder) for folder in ("tests/desktop", "tools/desktop")]
-
+from long_test import DesktopTest
 from editors import Editor
 from session import wait_for
-from desktop_test import DesktopTest
 
 # How the editor corrects; what stands in its document once ":smile" was typed and confirmed behind "abcdefgh ".
 ROWS = [

@@ -2,15 +2,10 @@
 """The clipboard before and after expansions that paste, whoever owns it, and however late it is read."""
 
 import os
-import pathlib
 import random
-import sys
 import unittest
 
-ROOT = pathlib.Path(__file__).resolve().parents[2]
-sys.path[:0] = [str(ROOT / folder) for folder in ("tests/desktop", "tools/desktop")]
-
-from desktop_test import DesktopTest
+from long_test import DesktopTest
 from editors import Mousepad, Xterm, clipboard, set_clipboard
 from selections import ClipboardManager, LateReader, Owner
 from session import wait_for

@@ -4,16 +4,12 @@
 import os
 import pathlib
 import re
-import sys
 import time
 import unittest
 
-ROOT = pathlib.Path(__file__).resolve().parents[2]
-sys.path[:0] = [str(ROOT / folder) for folder in ("tests/desktop", "tools/desktop")]
-
 from Xlib.ext import res
 
-from desktop_test import DesktopTest
+from long_test import DesktopTest
 from editors import Mousepad
 
 EXPANSIONS = int(os.environ.get("TESSARIN_EXPANSIONS", "10000"))

@@ -5,13 +5,9 @@ import contextlib
 import operator
 import pathlib
 import signal
-import sys
 import unittest
 
-ROOT = pathlib.Path(__file__).resolve().parents[2]
-sys.path[:0] = [str(ROOT / folder) for folder in ("tests/desktop", "tools/desktop")]
-
-from desktop_test import DesktopTest
+from long_test import DesktopTest
 from editors import Mousepad
 from session import wait_for
 

@@ -2,22 +2,15 @@
 """The same shortcodes under other keyboard layouts, with dead keys, AltGr and Compose, and with layouts that change."""
 
 import contextlib
-import pathlib
 import re
-import sys
 import unittest
 
-ROOT = pathlib.Path(__file__).resolve().parents[2]
-sys.path[:0] = [str(ROOT / folder) for folder in ("tests/desktop", "tools/desktop")]
-
-from desktop_test import DesktopTest
+from long_test import EXPANSIONS, LEFT, DesktopTest
 from editors import Featherpad, Mousepad, Xterm
 from session import wait_for
 from typist import Typist
 
 PROGRAMS = (Mousepad, Featherpad, Xterm)
-EXPANSIONS = "a:smile\nb :tada\tc :+1:d "
-LEFT = "a😄b 🎉c 👍d "
 
 
 def keys(*names):

@@ -2,37 +2,27 @@
 """Modifiers held in the middle of an insertion, and other programs that hang, crash, come and go."""
 
 import os
-import pathlib
 import signal
-import sys
 import time
 import unittest
 
-ROOT = pathlib.Path(__file__).resolve().parents[2]
-sys.path[:0] = [str(ROOT / folder) for folder in ("tests/desktop", "tools/desktop")]
-
-from desktop_test import DesktopTest
+from long_test import EXPANSIONS, LEFT, DesktopTest
 from editors import Featherpad, GnomeTextEditor, Mousepad, Xterm, clipboard, set_clipboard
 from session import wait_for
-
-EXPANSIONS = "a:smile\nb :tada\tc :+1:d "
-LEFT = "a😄b 🎉c 👍d "
+from typist import Typist
 
 
-def down(*names):
-    def act(typist):
-        for name in names:
-            typist.down(name)
-        typist.display.sync()
-    return act
+def keys(move):
+    def step(*names):
+        def act(typist):
+            for name in names:
+                move(typist, name)
+            typist.display.sync()
+        return act
+    return step
 
 
-def up(*names):
-    def act(typist):
-        for name in names:
-            typist.up(name)
-        typist.display.sync()
-    return act
+down, up = keys(Typist.down), keys(Typist.up)
 
 
 def pause(seconds):

@@ -1,25 +1,21 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <QLocale>
 
+#include "Matchers.h"
 #include "base/Translate.h"
 #include "main/CommandLine.h"
 #include "ui/Translations.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 using Action = CommandLine::Action;
 using ::testing::ContainsRegex;
-using ::testing::HasSubstr;
-using ::testing::Not;
 
 CommandLine wrong(const std::string& problem) {
   return {.action = Action::wrongUsage, .argument = problem};
 }
 
-TEST(CommandLineTest, KnowsWhatItIsStartedFor) {
+TEST(CommandLineTest, KnowsWhatItIsStartedForOrWhatIsWrong) {
   struct Case {
     std::vector<std::string> arguments;
     CommandLine line;
@@ -37,38 +33,25 @@ TEST(CommandLineTest, KnowsWhatItIsStartedFor) {
       {{"--search", ""}, {.action = Action::search, .argument = ""}},
       {{"--json", "--limit", "20", "--search", "x"},
        {.action = Action::search, .argument = "x", .json = true, .limit = 20}},
+      {{"--quiet"}, wrong("unknown option --quiet")},
+      {{"file.json"}, wrong("unexpected argument file.json")},
+      {{"--", "--quit"}, wrong("unexpected argument --quit")},
+      {{"--allow=yes"}, wrong("--allow takes no argument")},
+      {{"--allow", "--quit"}, wrong("--quit cannot be combined")},
+      {{"--import"}, wrong("--import needs an argument: FILE")},
+      {{"--import", "--json"}, wrong("--import needs an argument: FILE")},
+      {{"--import="}, wrong("--import needs a file")},
+      {{"--export", ""}, wrong("--export needs a file")},
+      {{"--import", "a", "b"}, wrong("unexpected argument b")},
+      {{"--json"}, wrong("--json needs --search")},
+      {{"--limit", "0", "--search", "a"}, wrong("--limit needs a number from 1 on")},
+      {{"--limit=2x", "--search", "a"}, wrong("--limit needs a number from 1 on")},
+      {{"--limit=99999999999999999999", "--search", "a"}, wrong("--limit needs a number from 1 on")},
   };
   for (const Case& expected : cases) {
     SCOPED_TRACE(::testing::PrintToString(expected.arguments));
     const CommandLine line = CommandLine::parse(expected.arguments);
     EXPECT_EQ(line, expected.line) << line.argument;
-  }
-}
-
-TEST(CommandLineTest, SaysWhatIsWrong) {
-  struct Case {
-    std::vector<std::string> arguments;
-    std::string problem;
-  };
-  const Case cases[] = {
-      {{"--quiet"}, "unknown option --quiet"},
-      {{"file.json"}, "unexpected argument file.json"},
-      {{"--", "--quit"}, "unexpected argument --quit"},
-      {{"--allow=yes"}, "--allow takes no argument"},
-      {{"--allow", "--quit"}, "--quit cannot be combined"},
-      {{"--import"}, "--import needs an argument: FILE"},
-      {{"--import", "--json"}, "--import needs an argument: FILE"},
-      {{"--import="}, "--import needs a file"},
-      {{"--export", ""}, "--export needs a file"},
-      {{"--import", "a", "b"}, "unexpected argument b"},
-      {{"--json"}, "--json needs --search"},
-      {{"--limit", "0", "--search", "a"}, "--limit needs a number from 1 on"},
-      {{"--limit=2x", "--search", "a"}, "--limit needs a number from 1 on"},
-      {{"--limit=99999999999999999999", "--search", "a"}, "--limit needs a number from 1 on"},
-  };
-  for (const Case& expected : cases) {
-    SCOPED_TRACE(::testing::PrintToString(expected.arguments));
-    EXPECT_EQ(CommandLine::parse(expected.arguments), wrong(expected.problem));
   }
 }
 
@@ -88,4 +71,4 @@ TEST(CommandLineTest, SpeaksTheLanguageOfTheUser) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

@@ -2,7 +2,7 @@
 
 #include "main/Request.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 using Kind = Request::Kind;
@@ -41,4 +41,4 @@ TEST(Answer, TravelsInOneLine) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

@@ -3,15 +3,15 @@
 #include "main/Resources.h"
 #include "support/TemporaryFolder.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 TEST(ResourcesTest, standBesideItBehindALinkToo) {
-  const testing::TemporaryFolder build;
+  const TemporaryFolder build;
   std::filesystem::create_directory(build / "source");
   std::filesystem::create_directory_symlink("source", build / "resources");
   EXPECT_EQ(resourceFolder(build / "tessarin"), build / "resources");
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

@@ -1,6 +1,4 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
+#include "Matchers.h"
 #include "main/SessionInputMonitoring.h"
 #include "platform/OwnAddresses.h"
 #include "support/FakeInputMonitoring.h"
@@ -9,8 +7,6 @@
 
 namespace tessarin::testing {
 namespace {
-
-using ::testing::ElementsAre;
 
 class SessionWorld {
  public:

@@ -1,10 +1,4 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <string>
-#include <vector>
-
+#include "Matchers.h"
 #include "input/Preferences.h"
 #include "menu/MenuBarManager.h"
 #include "support/FakeAccessibility.h"
@@ -16,9 +10,6 @@
 
 namespace tessarin::testing {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 class MenuBarManagerTest : public ::testing::Test {
  protected:

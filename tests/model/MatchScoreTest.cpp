@@ -1,11 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
 #include "model/MatchScore.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 TEST(MatchScore, FollowsTheTiers) {
@@ -54,4 +51,4 @@ TEST(MatchScore, FollowsTheTiers) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

@@ -1,13 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <random>
-#include <string>
-#include <vector>
 
 #include "model/SearchIndex.h"
 #include "support/PlainSearch.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 /// Texts of few letters, so that every tier, tie and overlap comes up.
@@ -70,7 +68,7 @@ class SearchIndexComparison : public ::testing::TestWithParam<unsigned> {
   }
 
   Generator generator_{GetParam()};
-  testing::PlainSearch plain_;
+  PlainSearch plain_;
   SearchIndex index_;
 };
 
@@ -91,4 +89,4 @@ TEST_P(SearchIndexComparison, AnswersAsThePlainPassDoes) {
 INSTANTIATE_TEST_SUITE_P(Seeds, SearchIndexComparison, ::testing::Range(1U, 13U));
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

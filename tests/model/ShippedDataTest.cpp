@@ -1,18 +1,15 @@
 #include <gtest/gtest.h>
 #include <unicode/uchar.h>
 
-#include <memory>
 #include <set>
 #include <sstream>
-#include <string>
-#include <vector>
 
 #include "base/Files.h"
 #include "model/SearchIndex.h"
 #include "model/SnippetCoding.h"
 #include "text/Graphemes.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 std::vector<Snippet> load(const std::string& file) {
@@ -130,4 +127,4 @@ TEST(ShippedData, IsFoundByWhatUsersType) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

@@ -1,11 +1,8 @@
-#include <gmock/gmock.h>
-
+#include "Matchers.h"
 #include "model/SkinToneVariants.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
-
-using ::testing::ElementsAre;
 
 TEST(SkinToneVariants, StandForOneCharacter) {
   EXPECT_THAT(makeSkinToneVariants("👋"),
@@ -18,4 +15,4 @@ TEST(SkinToneVariants, StandForOneCharacter) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

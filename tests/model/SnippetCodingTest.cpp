@@ -1,15 +1,16 @@
-#include <gmock/gmock.h>
+#include <sys/stat.h>
 
+#include <stdexcept>
+
+#include "Matchers.h"
 #include "base/DataError.h"
 #include "model/SnippetCoding.h"
+#include "model/SnippetDraft.h"
+#include "model/SnippetFile.h"
+#include "support/TemporaryFolder.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
-
-using ::testing::AllOf;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::ThrowsMessage;
 
 const Snippet signature{"3F25",          "Mail / signature", "sig", "Kind regards,\nSam \"S\" \\ 👋",
                         {"mail", "a/b"}, "Custom",           false};
@@ -82,5 +83,76 @@ TEST(Snippet, TextsInTwoNormalFormsAreTheSame) {
   EXPECT_EQ(hashValue(composed), hashValue(decomposed));
 }
 
+namespace fs = std::filesystem;
+
+TEST(SnippetFileTest, WhatHoldsNoSnippetsFailsWithOneSentence) {
+  const TemporaryFolder folder;
+  const auto write = [&](const std::string& content) {
+    return [&folder, content] { folder.write("file", content); };
+  };
+  const struct {
+    const char* name;
+    std::function<void()> make;
+    const char* problem;
+  } cases[] = {
+      {"missing", [] {}, "No such file"},
+      {"half written", write(R"([{"id":"1","na)"), "ends too early"},
+      {"an object", write("{}"), "not an array"},
+      {"one bad entry", write(R"([{"id":"1"}])"), "entry 1 lacks \"name\""},
+      {"deep", write(R"([{"x":)" + std::string(10'000'000, '[')), "nested too deeply"},
+      {"a folder", [&] { fs::create_directory(folder / "file"); }, "directory"},
+      {"a pipe", [&] { ::mkfifo((folder / "file").c_str(), S_IRUSR | S_IWUSR); }, "not an ordinary file"},
+      {"a device", [&] { fs::create_symlink("/dev/zero", folder / "file"); }, "not an ordinary file"},
+      {"huge",
+       [&] {
+         folder.write("file", "[");
+         fs::resize_file(folder / "file", largestSnippetFile + 1);
+       },
+       "larger than 64 MB"},
+  };
+  for (const auto& c : cases) {
+    c.make();
+    EXPECT_THAT([&] { readSnippetFile(folder / "file"); },
+                ThrowsMessage<std::runtime_error>(HasSubstr(c.problem)))
+        << c.name;
+    fs::remove_all(folder / "file");
+  }
+}
+
+TEST(SnippetDraftTest, ATriggerKeepsLettersNumbersAndTwoSigns) {
+  const struct {
+    const char* text;
+    const char* kept;
+  } cases[] = {
+      {":my wave!", "mywave"},
+      {"Été_1-2", "Été_1-2"},
+      {"E\u0301te\u0301 x", "E\u0301te\u0301x"},  // marks stay with their letter
+      {"\u0301a", "a"},                           // and go without one
+      {"_\u0301-b", "-b"},                        // a sign with a mark is another character
+      {"привет, 日本 हिन्दी½٣Ⅷ", "привет日本हिन्दी½٣Ⅷ"},
+      {"a😀b👨‍👩‍👧c+/;.\t\n\\d", "abcd"},
+      {"a\xffz", "az"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(filteredTrigger(c.text), c.kept) << c.text;
+    EXPECT_EQ(filteredTrigger(c.kept), c.kept) << c.text;
+  }
+}
+
+TEST(SnippetDraftTest, KeywordsStandBetweenCommas) {
+  EXPECT_THAT(parseKeywords(" , ,,\t"), IsEmpty());
+  EXPECT_THAT(parseKeywords(" a b ,   ,b,,c,"), ElementsAre("a b", "b", "c"));
+}
+
+TEST(SnippetDraftTest, AChangedSnippetKeepsItsIdAndBecomesCustom) {
+  const Snippet imported{"ID", " Name ", "c++ x", "{{date}}", {"", "one", "two words", "one"}, "Code", true};
+  const SnippetDraft draft = SnippetDraft::of(imported);
+  EXPECT_EQ(draft.trigger, "cx");
+  EXPECT_EQ(draft.keywords, ", one, two words, one");
+  EXPECT_EQ(draft.makeSnippet(imported.id),
+            (Snippet{"ID", " Name ", "cx", "{{date}}", {"one", "two words", "one"}, "Custom", false}));
+  EXPECT_NE(draft.makeSnippet().id, draft.makeSnippet().id) << "a new one gets an id of its own";
+}
+
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

@@ -1,8 +1,6 @@
-#include <gmock/gmock.h>
-
 #include <fstream>
-#include <memory>
 
+#include "Matchers.h"
 #include "base/DataError.h"
 #include "base/Files.h"
 #include "model/SnippetCoding.h"
@@ -11,18 +9,10 @@
 #include "support/ManualWallClock.h"
 #include "support/TemporaryFolder.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 namespace fs = std::filesystem;
-using ::testing::AllOf;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using testing::LogRecorder;
-using testing::ManualWallClock;
-using ::testing::StartsWith;
-using testing::TemporaryFolder;
 
 constexpr const char* emojiJson =
     R"([{"name":"smile","trigger":"smile","replacement":"😀","keywords":["happy"],"category":"People"},)"
@@ -147,12 +137,10 @@ TEST_F(SnippetStoreTest, ImportAddsWhatHasANewTrigger) {
   EXPECT_EQ(store->importSnippets(folder_ / "import.json"), 3U);
   EXPECT_THAT(triggersOf(store->userSnippets()), ElementsAre("sig", "sign", "Sig", "twice", "twice"));
   EXPECT_EQ(saved(), store->userSnippets());
-  const Snippet& first = store->userSnippets()[3];
-  const Snippet& second = store->userSnippets()[4];
-  EXPECT_EQ(first.id.size(), 36U);
-  EXPECT_NE(first.id, second.id);
-  EXPECT_EQ(first,
-            (Snippet{first.id, builtIn.name, "twice", builtIn.replacement, {"word"}, "Custom", false}));
+  Snippet made = mine(store->userSnippets()[3].id, "twice");
+  EXPECT_EQ(made.id.size(), 36U);
+  EXPECT_NE(made.id, store->userSnippets()[4].id);
+  EXPECT_EQ(store->userSnippets()[3], made);
 }
 
 TEST_F(SnippetStoreTest, ImportingTheUsersOwnExportWritesNothing) {
@@ -167,17 +155,6 @@ TEST_F(SnippetStoreTest, ImportingTheUsersOwnExportWritesNothing) {
   EXPECT_THROW(store->importSnippets(folder_ / "missing.json"), std::runtime_error);
   EXPECT_FALSE(fs::exists(folder_ / userFile));
   EXPECT_EQ(store->userSnippets().size(), 2U);
-}
-
-TEST_F(SnippetStoreTest, AFailedSaveIsLoggedAndChangesNothingInMemory) {
-  const auto store = makeStore();
-  fs::remove_all(folder_ / "storage");
-  folder_.write("storage", "in the way");
-  log_.clear();
-  store->addSnippet(mine("1", "sig"));
-  EXPECT_THAT(log_.lines(), ElementsAre(StartsWith("[SnippetStore] Failed to save user snippets: ")));
-  EXPECT_EQ(store->userSnippets().size(), 1U);
-  EXPECT_EQ(folder_.read("storage"), "in the way");
 }
 
 TEST_F(SnippetStoreTest, UnreadableFilesSurviveSeveralLaunches) {
@@ -221,12 +198,16 @@ TEST_F(SnippetStoreTest, NothingIsOverwrittenWhenMovingAsideFails) {
   EXPECT_EQ(std::distance(fs::directory_iterator(storage), {}), 1);
 }
 
-TEST_F(SnippetStoreTest, AFileThatCameBackIsStillMovedAsideFirst) {
+TEST_F(SnippetStoreTest, AFailedSaveChangesNothingInMemoryAndAFileThatCameBackIsMovedAsideFirst) {
   folder_.write(userFile, "broken");
   const auto store = makeStore();
   fs::rename(folder_ / "storage", folder_ / "kept");
-  folder_.write("storage", "no folder any more");
+  folder_.write("storage", "in the way");
+  log_.clear();
   store->addSnippet(mine("1", "sig"));
+  EXPECT_THAT(log_.lines(), ElementsAre(StartsWith("[SnippetStore] Failed to save user snippets: ")));
+  EXPECT_EQ(store->userSnippets().size(), 1U);
+  EXPECT_EQ(folder_.read("storage"), "in the way");
   fs::remove(folder_ / "storage");
   fs::rename(folder_ / "kept", folder_ / "storage");
   store->saveUserSnippets();
@@ -235,4 +216,4 @@ TEST_F(SnippetStoreTest, AFileThatCameBackIsStillMovedAsideFirst) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

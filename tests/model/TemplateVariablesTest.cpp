@@ -6,10 +6,8 @@
 #include "model/TemplateVariables.h"
 #include "support/ManualWallClock.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
-
-using testing::ManualWallClock;
 
 class TemplateVariablesTest : public ::testing::Test {
  protected:
@@ -49,17 +47,9 @@ TEST_F(TemplateVariablesTest, ReplacesThemInTheirFixedOrder) {
 }
 
 TEST_F(TemplateVariablesTest, DatesFollowLocaleAndZone) {
-  const struct {
-    const char* locale;
-    const char* timeZone;
-    const char* date;
-  } cases[] = {{"en_US", "America/New_York", "3/14/26"},
-               {"en_GB.UTF-8", "Europe/London", "14/03/2026"},
-
-               {"POSIX", "UTC", "3/14/26"}};
-  for (const auto& [locale, timeZone, date] : cases) {
-    EXPECT_EQ(expand("{{date}}", "", locale, timeZone), date) << locale;
-  }
+  EXPECT_EQ(expand("{{date}}", "", "en_US", "America/New_York"), "3/14/26");
+  EXPECT_EQ(expand("{{date}}", "", "en_GB.UTF-8", "Europe/London"), "14/03/2026");
+  EXPECT_EQ(expand("{{date}}", "", "POSIX", "UTC"), "3/14/26");
 }
 
 /// Sets an environment variable; it is as before when it goes.
@@ -87,4 +77,4 @@ TEST_F(TemplateVariablesTest, TheEnvironmentDecidesWithoutARestart) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

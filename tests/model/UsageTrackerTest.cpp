@@ -1,26 +1,20 @@
-#include <gmock/gmock.h>
-
-#include <memory>
 #include <numeric>
 
+#include "Matchers.h"
 #include "model/UsageTracker.h"
 #include "support/LogRecorder.h"
 #include "support/ManualWallClock.h"
 #include "support/TemporaryFolder.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 namespace fs = std::filesystem;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-using testing::LogRecorder;
-using testing::ManualWallClock;
 using ::testing::Pair;
-using ::testing::StartsWith;
-using testing::TemporaryFolder;
+using ::testing::UnorderedElementsAre;
 using TriggerCount = UsageTracker::TriggerCount;
 
+constexpr auto utc = [](auto... parts) { return ManualWallClock::utc(parts...); };
 constexpr const char* countsFile = "usage-counts.json";
 constexpr const char* eventsFile = "usage-stats.json";
 
@@ -52,9 +46,9 @@ std::vector<std::int64_t> countsOf(const std::vector<UsageTracker::DayCount>& da
 TEST_F(UsageTrackerTest, RecordsIntoBothFilesAndReadsThemBack) {
   const fs::path storage = folder_ / "not/there/yet";
   UsageTracker first(storage, clock_);
-  clock_.time = ManualWallClock::utc(2026, 3, 14, 9, 30, 15) + std::chrono::milliseconds(250);
+  clock_.time += std::chrono::milliseconds(15250);
   first.recordUsage("smile");
-  clock_.time = ManualWallClock::utc(2026, 3, 14, 9, 30, 16);
+  clock_.time += std::chrono::milliseconds(750);
   first.recordUsage("a/\"b\"\n");
   first.recordUsage("smile");
   EXPECT_THAT(first.usageCounts(), ElementsAre(Pair("a/\"b\"\n", 1), Pair("smile", 2)));
@@ -117,7 +111,7 @@ TEST_F(UsageTrackerTest, CountsSaturateAndTheTopIsHighestFirst) {
   EXPECT_EQ(tracker->totalExpansions(), INT64_MAX - 3);
 }
 
-TEST_F(UsageTrackerTest, UnreadableFilesAreLoggedAndLeftAlone) {
+TEST_F(UsageTrackerTest, UnreadableFilesAreLeftAloneAndMovedAsideBeforeTheFirstRecording) {
   const struct {
     const char* file;
     const char* content;
@@ -130,26 +124,21 @@ TEST_F(UsageTrackerTest, UnreadableFilesAreLoggedAndLeftAlone) {
     const TemporaryFolder folder;
     folder.write(file, content);
     log_.clear();
-    const UsageTracker tracker(folder.path(), clock_);
+    UsageTracker tracker(folder.path(), clock_, LocalCalendar("Europe/Berlin"));
     EXPECT_THAT(tracker.usageCounts(), IsEmpty()) << content;
     EXPECT_THAT(tracker.usageEvents(), IsEmpty()) << content;
     EXPECT_THAT(log_.lines(), ElementsAre(StartsWith(line))) << content;
     EXPECT_EQ(folder.read(file), content);
+    log_.clear();
+    tracker.recordUsage("a");
+    tracker.recordUsage("a");
+    const std::string aside = std::string(file) + ".unreadable-2026-03-14T10-30-00";
+    EXPECT_THAT(log_.lines(), ElementsAre("[UsageTracker] Moved the unreadable " + std::string(file) +
+                                          " to " + (folder / aside).string()));
+    EXPECT_THAT(folder.names(), UnorderedElementsAre(countsFile, eventsFile, aside));
+    EXPECT_EQ(folder.read(aside), content);
+    EXPECT_EQ(UsageTracker(folder.path(), clock_).usageEvents().size(), 2U);
   }
-}
-
-TEST_F(UsageTrackerTest, MovesAnUnreadableFileAsideBeforeTheFirstRecording) {
-  folder_.write(eventsFile, "broken");
-  const auto tracker = makeTracker("Europe/Berlin");
-  log_.clear();
-  tracker->recordUsage("a");
-  tracker->recordUsage("a");
-  const std::string aside = "usage-stats.json.unreadable-2026-03-14T10-30-00";
-  EXPECT_THAT(log_.lines(), ElementsAre("[UsageTracker] Moved the unreadable usage-stats.json to " +
-                                        (folder_ / aside).string()));
-  EXPECT_THAT(folder_.names(), ElementsAre(countsFile, eventsFile, aside));
-  EXPECT_EQ(folder_.read(aside), "broken");
-  EXPECT_EQ(makeTracker()->usageEvents().size(), 2U);
 }
 
 TEST_F(UsageTrackerTest, WhatCannotBeSavedStaysInMemory) {
@@ -164,12 +153,11 @@ TEST_F(UsageTrackerTest, WhatCannotBeSavedStaysInMemory) {
 }
 
 TEST_F(UsageTrackerTest, AClockThatJumpsLosesNothing) {
-  using Clock = ManualWallClock;
-  const auto today = Clock::utc(2026, 3, 14, 9, 30);
+  const auto today = utc(2026, 3, 14, 9, 30);
   auto tracker = makeTracker();
   int count = 0;
-  for (const auto time : {today, Clock::utc(2199, 12, 31), Clock::utc(1970, 1, 1), Clock::utc(1969, 7, 20),
-                          today - std::chrono::hours(48), today}) {
+  for (const auto time :
+       {today, utc(2199, 12, 31), utc(1970, 1, 1), utc(1969, 7, 20), today - std::chrono::hours(48), today}) {
     clock_.time = time;
     tracker->recordUsage("a");
     ++count;
@@ -184,8 +172,7 @@ TEST_F(UsageTrackerTest, AClockThatJumpsLosesNothing) {
 }
 
 TEST_F(UsageTrackerTest, TodayBeginsAtLocalMidnightAndHasNoEnd) {
-  clock_.time = ManualWallClock::utc(2026, 3, 14, 9, 30);
-  const double midnight = secondsSinceReferenceDate(ManualWallClock::utc(2026, 3, 13, 23));  // in Berlin
+  const double midnight = secondsSinceReferenceDate(utc(2026, 3, 13, 23));  // in Berlin
   const auto tracker =
       makeTrackerOf({midnight - 0.001, midnight, midnight + 1, midnight + 1e6}, "Europe/Berlin");
   EXPECT_EQ(tracker->todayCount(), 3);
@@ -193,7 +180,6 @@ TEST_F(UsageTrackerTest, TodayBeginsAtLocalMidnightAndHasNoEnd) {
 }
 
 TEST_F(UsageTrackerTest, DaysAreWholeCalendarDays) {
-  using Clock = ManualWallClock;
   const struct {
     const char* timeZone;
     WallClock::TimePoint now;
@@ -201,23 +187,21 @@ TEST_F(UsageTrackerTest, DaysAreWholeCalendarDays) {
   } cases[] = {
       // 23 hours on 29 March, 25 hours on 25 October
       {"Europe/Berlin",
-       Clock::utc(2026, 3, 30, 12),
-       {Clock::utc(2026, 3, 27, 23), Clock::utc(2026, 3, 28, 23), Clock::utc(2026, 3, 29, 22)}},
+       utc(2026, 3, 30, 12),
+       {utc(2026, 3, 27, 23), utc(2026, 3, 28, 23), utc(2026, 3, 29, 22)}},
       {"Europe/Berlin",
-       Clock::utc(2026, 10, 26, 22, 59),
-       {Clock::utc(2026, 10, 23, 22), Clock::utc(2026, 10, 24, 22), Clock::utc(2026, 10, 25, 23)}},
+       utc(2026, 10, 26, 22, 59),
+       {utc(2026, 10, 23, 22), utc(2026, 10, 24, 22), utc(2026, 10, 25, 23)}},
       // midnight of 4 November is skipped: the day begins at one
       {"America/Sao_Paulo",
-       Clock::utc(2018, 11, 5, 12),
-       {Clock::utc(2018, 11, 3, 3), Clock::utc(2018, 11, 4, 3), Clock::utc(2018, 11, 5, 2)}},
+       utc(2018, 11, 5, 12),
+       {utc(2018, 11, 3, 3), utc(2018, 11, 4, 3), utc(2018, 11, 5, 2)}},
       // the last hour of 17 February comes twice
       {"America/Sao_Paulo",
-       Clock::utc(2018, 2, 18, 3),
-       {Clock::utc(2018, 2, 16, 2), Clock::utc(2018, 2, 17, 2), Clock::utc(2018, 2, 18, 3)}},
+       utc(2018, 2, 18, 3),
+       {utc(2018, 2, 16, 2), utc(2018, 2, 17, 2), utc(2018, 2, 18, 3)}},
       // 30 December 2011 did not take place
-      {"Pacific/Apia",
-       Clock::utc(2011, 12, 31, 0),
-       {Clock::utc(2011, 12, 29, 10), Clock::utc(2011, 12, 30, 10)}},
+      {"Pacific/Apia", utc(2011, 12, 31, 0), {utc(2011, 12, 29, 10), utc(2011, 12, 30, 10)}},
   };
   for (const auto& [timeZone, now, starts] : cases) {
     clock_.time = now;
@@ -237,4 +221,4 @@ TEST_F(UsageTrackerTest, DaysAreWholeCalendarDays) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

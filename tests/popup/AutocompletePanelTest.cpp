@@ -9,16 +9,15 @@
 #include "support/FakeScreens.h"
 #include "support/ManualMainQueue.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 using std::chrono::milliseconds;
 
-PopupContent contentOf(const std::string& query, int rows) {
+PopupContent contentOf(const std::string& query, std::size_t rows) {
   PopupContent content;
   content.query = query;
-  for (int i = 0; i < rows; ++i)
-    content.rows.push_back({"id" + std::to_string(i), "x", "trigger", "name", false});
+  content.rows.resize(rows);
   return content;
 }
 
@@ -38,11 +37,11 @@ class AutocompletePanelTest : public ::testing::Test {
     queue.runReady();
   }
 
-  testing::ManualMainQueue queue;
-  testing::FakeAccessibility accessibility;
-  testing::FakeScreens screens;
-  testing::FakePopupSurface surface;
-  std::shared_ptr<testing::FakeElement> element = std::make_shared<testing::FakeElement>();
+  ManualMainQueue queue;
+  FakeAccessibility accessibility;
+  FakeScreens screens;
+  FakePopupSurface surface;
+  std::shared_ptr<FakeElement> element = std::make_shared<FakeElement>();
   Rect caret{300, 100, 1, 16};
   std::optional<AutocompletePanel> panel{std::in_place, surface, screens, accessibility, queue};
 };
@@ -58,16 +57,16 @@ TEST_F(AutocompletePanelTest, answersTheKeyBeforeItAsksForTheCaret) {
   EXPECT_EQ(surface.shows[0].frame, (Rect{300, 1080 - 116 - 136 - 4, 320, 136}));
 }
 
-TEST_F(AutocompletePanelTest, severalPresentsBecomeOne) {
+TEST_F(AutocompletePanelTest, severalPresentsBecomeOneAlsoWhereAKeyComesMeanwhile) {
   for (const char* query : {"s", "sm", "smi"}) panel->present(contentOf(query, 8));
-  panel->present(contentOf("smil", 1));
+  queue.async([this] { panel->present(contentOf("smil", 1)); });
   queue.runReady();
   ASSERT_EQ(surface.shows.size(), 1U);
   EXPECT_EQ(surface.shows[0].content.query, "smil");
   EXPECT_EQ(surface.shows[0].frame.height, 100);
 }
 
-TEST_F(AutocompletePanelTest, followsTheCaretWithEveryQueryAndAfterHiding) {
+TEST_F(AutocompletePanelTest, followsTheCaretWithEveryQueryAndAfterHidingOrThePointer) {
   show("s");
   caret.x = 310;
   show("sm");
@@ -81,6 +80,11 @@ TEST_F(AutocompletePanelTest, followsTheCaretWithEveryQueryAndAfterHiding) {
   show("sm");
   EXPECT_TRUE(surface.isShown);
   EXPECT_EQ(surface.shows.back().frame.x, 500);
+  panel->hide();
+  accessibility.trusted = false;
+  screens.mouse = {400, 600};
+  show("s");
+  EXPECT_EQ(surface.shows.back().frame, (Rect{408, 456, 320, 136})) << "at the pointer";
 }
 
 TEST_F(AutocompletePanelTest, showsAtOnceWhereTheCaretIsExpectedAndMovesOnlyThen) {
@@ -115,14 +119,6 @@ TEST_F(AutocompletePanelTest, asksAheadOnlyForAShortcodeThatIsGoingOn) {
   show("s");
   EXPECT_EQ(surface.shows.back().frame.x, 700);
   EXPECT_EQ(surface.shows.size(), 3U) << "what was expected of an earlier shortcode is forgotten";
-}
-
-TEST_F(AutocompletePanelTest, aKeyThatComesMeanwhileIsNotKeptWaitingForTheRest) {
-  panel->present(contentOf("s", 2));
-  queue.async([this] { panel->present(contentOf("sm", 2)); });
-  queue.runReady();
-  ASSERT_EQ(surface.shows.size(), 1U);
-  EXPECT_EQ(surface.shows[0].content.query, "sm");
 }
 
 TEST_F(AutocompletePanelTest, givesABusyApplicationTimeToSayWhereItsCaretIs) {
@@ -197,13 +193,5 @@ TEST_F(AutocompletePanelTest, hidingCancelsWhatWasPutOffAndSoDoesItsEnd) {
   EXPECT_TRUE(surface.shows.empty());
 }
 
-TEST_F(AutocompletePanelTest, standsAtThePointerWhenTheCaretIsNotKnown) {
-  accessibility.trusted = false;
-  screens.mouse = {400, 600};
-  show("s");
-  ASSERT_EQ(surface.shows.size(), 1U);
-  EXPECT_EQ(surface.shows[0].frame, (Rect{408, 456, 320, 136}));
-}
-
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

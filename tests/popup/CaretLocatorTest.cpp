@@ -8,11 +8,10 @@
 #include "support/FakeAccessibility.h"
 #include "support/FakeScreens.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 using std::chrono::milliseconds;
-using testing::FakeElement;
 
 class CaretLocatorTest : public ::testing::Test {
  protected:
@@ -36,8 +35,8 @@ class CaretLocatorTest : public ::testing::Test {
 
   ScreenLayout layout() { return ScreenLayout::read(screens); }
 
-  testing::FakeAccessibility accessibility;
-  testing::FakeScreens screens;
+  FakeAccessibility accessibility;
+  FakeScreens screens;
   std::shared_ptr<FakeElement> element = std::make_shared<FakeElement>();
   std::shared_ptr<FakeElement> window = std::make_shared<FakeElement>();
   std::optional<Rect> bounds = Rect{300, 100, 1, 16};
@@ -45,18 +44,13 @@ class CaretLocatorTest : public ::testing::Test {
   CaretLocator locator{accessibility, screens};
 };
 
-TEST_F(CaretLocatorTest, asksTheElementFirst) {
-  EXPECT_EQ(locator.caretRect(layout()), (Rect{300, 684, 1, 16}));
-  EXPECT_EQ(askedFor, (TextRange{7, 0}));
-}
-
-TEST_F(CaretLocatorTest, knowsNothingWithoutTrust) {
+TEST_F(CaretLocatorTest, asksTheElementFirstWithinItsBudgetAndNothingWithoutTrust) {
   accessibility.trusted = false;
   EXPECT_EQ(locator.caretRect(layout()), std::nullopt);
   EXPECT_EQ(accessibility.calls, 0);
-}
-
-TEST_F(CaretLocatorTest, givesUpWithinItsBudget) {
+  accessibility.trusted = true;
+  EXPECT_EQ(locator.caretRect(layout()), (Rect{300, 684, 1, 16}));
+  EXPECT_EQ(askedFor, (TextRange{7, 0}));
   accessibility.callDuration = milliseconds(20);
   EXPECT_EQ(locator.caretRect(layout()), std::nullopt);
   EXPECT_LE(accessibility.elapsed(), milliseconds(50));
@@ -103,13 +97,11 @@ TEST_F(CaretLocatorTest, keepsThePointerInside) {
     EXPECT_EQ(locator.elementPointerRect(element, layout()), at(inElement));
     EXPECT_EQ(locator.windowPointerRect(accessibility.application, layout()), at(inWindow));
   }
-}
-
-TEST_F(CaretLocatorTest, insetsOfTheFarEdgesWinInATinyElement) {
+  // In a tiny element the insets of the far edges win.
   place(*element, {100, 200}, {10, 10});
   screens.mouse = {300, 300};
   EXPECT_EQ(locator.elementPointerRect(element, layout()), (Rect{90, 800 - 190 - 16, 1, 16}));
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "platform/CoordinateSpace.h"
 #include "popup/PopupPlacement.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 // The primary screen with a dock below and a bar above, one to its right that stands higher, and one, the
@@ -48,5 +49,13 @@ TEST(PopupPlacement, doesWithoutScreens) {
   EXPECT_EQ(popupFrame(1, std::nullopt, none, {5000, 10}), (Rect{5008, -98, 320, 100}));
 }
 
+TEST(CoordinateSpace, countsPixelsAPointAndTurnsYOverAtThePrimaryScreen) {
+  const CoordinateSpace space(1.25, 1080);
+  EXPECT_EQ(space.toPoints(Rect{300, 150, 60, 30}), (Rect{240, 120, 48, 24}));
+  EXPECT_EQ(space.toPixels(Rect{240, 120, 48, 24}), (Rect{300, 150, 60, 30}));
+  EXPECT_EQ(space.flipped(Rect{5, 1100, 10, 20}), (Rect{5, -40, 10, 20}));
+  EXPECT_EQ(space.flipped(Point{7, 80}), (Point{7, 1000}));
+}
+
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

@@ -1,10 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include "text/Graphemes.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 const std::string composed = "\u00e9";
@@ -36,7 +34,7 @@ TEST(Characters, AreTakenWhole) {
   EXPECT_EQ(text::withoutLastCharacter(flags), flags.substr(0, 8));
 }
 
-TEST(Boundary, NeverInsideACluster) {
+TEST(Characters, AreNotDividedByABoundary) {
   EXPECT_TRUE(text::isBoundary("ab", 1));
   EXPECT_FALSE(text::isBoundary("ab", 3));
   EXPECT_FALSE(text::isBoundary(decomposed, 1));
@@ -99,14 +97,11 @@ TEST(Alphanumeric, AreLettersMarksAndNumbers) {
   }
 }
 
-TEST(Encoding, ValidatesUtf8) {
+TEST(Encoding, ValidatesUtf8AndConvertsItToUtf16AndBack) {
   EXPECT_TRUE(text::isValidUtf8("a" + family));
   for (const char* bad : {"\xff", "a\xc3", "\xc0\xaf", "\xed\xa0\x80", "\xf4\x90\x80\x80", "\x80"}) {
     EXPECT_FALSE(text::isValidUtf8(bad));
   }
-}
-
-TEST(Encoding, ConvertsBetweenUtf8AndUtf16) {
   EXPECT_EQ(text::toUtf16("a" + thumb), u"a\U0001F44D\U0001F3FD");
   EXPECT_EQ(text::fromUtf16(u"\u00e9\U0001F600"), "\u00e9\U0001F600");
   EXPECT_EQ(text::fromUtf16(std::u16string(1, u'\xD83D') + u"a"),
@@ -116,4 +111,4 @@ TEST(Encoding, ConvertsBetweenUtf8AndUtf16) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

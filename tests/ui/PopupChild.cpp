@@ -21,9 +21,9 @@ int runPopupChild(int argc, char** argv) {
   QApplication application(argc, argv);
   ui::QtScreens screens;
   ui::PopupWindow window(screens);
-  const int rows = std::atoi(argv[2]);
-  const QSizeF size = ui::PopupLayout::sizeFor(rows);
-  window.show(popupWithRows(rows), {std::atof(argv[3]), std::atof(argv[4]), size.width(), size.height()});
+  const PopupContent content = popupWithRows(std::atoi(argv[2]));
+  const QSizeF size = sizeOf(content);
+  window.show(content, {std::atof(argv[3]), std::atof(argv[4]), size.width(), size.height()});
   window.onRowClicked([&](int) { window.setWindowTitle(clickedTitle); });
   return QApplication::exec();
 }

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <string>
-
-#include "platform/PopupPresenter.h"
+#include "ui/PopupLayout.h"
 
 namespace tessarin::testing {
 
@@ -18,6 +16,11 @@ inline PopupContent popupWithRows(int count, int selected = 0) {
   }
   if (count > 0) content.hints = {{"↑↓", "navigate"}, {"↵", "select"}, {":", "confirm"}, {"esc", "cancel"}};
   return content;
+}
+
+/// What a popup with this content needs.
+inline QSizeF sizeOf(const PopupContent& content) {
+  return ui::PopupLayout::sizeFor(static_cast<int>(content.rows.size()));
 }
 
 inline PopupContent withPicker(PopupContent content) {

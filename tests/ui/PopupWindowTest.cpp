@@ -1,8 +1,7 @@
-#include <gmock/gmock.h>
-
 #include <QApplication>
 #include <cstdlib>
 
+#include "Matchers.h"
 #include "platform/qt/QtScreens.h"
 #include "support/Eventually.h"
 #include "support/desktop/XClient.h"
@@ -12,7 +11,6 @@
 namespace tessarin::ui {
 namespace {
 
-using ::testing::ElementsAre;
 using testing::eventually;
 using testing::popupWithRows;
 using testing::withPicker;
@@ -27,7 +25,7 @@ class PopupWindowTest : public ::testing::Test {
   }
 
   void show(const PopupContent& content) {
-    const QSizeF size = PopupLayout::sizeFor(static_cast<int>(content.rows.size()));
+    const QSizeF size = testing::sizeOf(content);
     layout = PopupLayout(content, size);
     window.show(content, {200, 1024 - 100 - size.height(), size.width(), size.height()});
     ASSERT_TRUE(becomes([this] { return client.popup() == window.nativeWindow(); }));

@@ -1,17 +1,14 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <QAbstractButton>
 #include <QApplication>
 #include <QTest>
 
+#include "Matchers.h"
 #include "platform/qt/TestApplication.h"
 #include "ui/TrustPrompt.h"
 
 namespace tessarin::ui {
 namespace {
 
-using ::testing::ElementsAre;
 using testing::eventuallyInLoop;
 
 class TrustPromptTest : public ::testing::Test {

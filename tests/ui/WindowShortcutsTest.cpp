@@ -4,7 +4,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QTest>
-#include <string>
 
 #include "platform/qt/TestApplication.h"
 #include "ui/WindowShortcuts.h"
@@ -12,14 +11,10 @@
 namespace tessarin::ui {
 namespace {
 
-class WindowShortcutsTest : public ::testing::Test {
- protected:
+TEST(WindowShortcutsTest, WorkInAWindowAndInADialogAboveItButLeaveAnOpenMenuItsKeys) {
   std::string done;
-  WindowShortcuts shortcuts{
-      {.quit = [this] { done += "quit"; }, .openSettings = [this] { done += "settings"; }}};
-};
-
-TEST_F(WindowShortcutsTest, WorkInAWindowAndInADialogThatStandsAboveIt) {
+  const WindowShortcuts shortcuts{
+      {.quit = [&] { done += "quit"; }, .openSettings = [&] { done += "settings"; }}};
   QWidget window;
   QLineEdit field(&window);
   ASSERT_TRUE(testing::showFocused(window, field));
@@ -42,9 +37,7 @@ TEST_F(WindowShortcutsTest, WorkInAWindowAndInADialogThatStandsAboveIt) {
       EXPECT_EQ(done, expected);
     }
   }
-}
-
-TEST_F(WindowShortcutsTest, LeaveTheKeysToAnOpenMenu) {
+  done.clear();
   QMenu menu;
   menu.addAction("entry");
   menu.popup({});

@@ -1,27 +1,19 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <QCoreApplication>
 #include <QProcess>
 #include <QSslCertificate>
 #include <QSslKey>
 #include <QSslServer>
 #include <map>
-#include <memory>
 #include <optional>
 
+#include "Matchers.h"
 #include "support/Eventually.h"
 #include "support/LogRecorder.h"
 #include "support/TemporaryFolder.h"
 #include "update/AppcastFetcher.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
-
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::Not;
-using ::testing::SizeIs;
 
 /// A certificate for 127.0.0.1 with its key, made for this test and trusted by nobody else.
 class TestCertificate {
@@ -57,7 +49,7 @@ class TestCertificate {
   QSslCertificate certificate() const {
     return QSslCertificate(QByteArray::fromStdString(folder_.read("certificate.pem")));
   }
-  testing::TemporaryFolder folder_;
+  TemporaryFolder folder_;
 };
 
 /// Made once, in a program with an event loop.
@@ -129,7 +121,7 @@ class Fetching : public ::testing::Test {
  protected:
   template <class Condition>
   static bool eventuallyInLoop(Condition condition) {
-    return testing::eventually(condition, [] { QCoreApplication::processEvents(); });
+    return eventually(condition, [] { QCoreApplication::processEvents(); });
   }
   void start(const std::string& address) {
     AppcastFetcher fetcher(limits, tls);
@@ -152,7 +144,7 @@ class Fetching : public ::testing::Test {
   AppcastFetcher::Limits limits;
   std::optional<AppcastSource::Result> result;
   Subscription token;
-  testing::LogRecorder log;
+  LogRecorder log;
 };
 
 TEST_F(Fetching, BringsTheFeed) {
@@ -174,23 +166,16 @@ TEST_F(Fetching, FollowsFiveRedirectsOnly) {
   EXPECT_EQ(fetchPath("/0"), AppcastSource::Result(UpdateFailure::tooManyRedirects));
 }
 
-TEST_F(Fetching, IsNotLedAwayFromHttps) {
+TEST_F(Fetching, AsksHttpsAddressesOnlyAndIsNotLedAwayFromThem) {
   QTcpServer plain;
   ASSERT_TRUE(plain.listen(QHostAddress::LocalHost));
-  const std::string plainAddress = "127.0.0.1:" + std::to_string(plain.serverPort()) + "/";
-  for (const std::string& target : {"http://" + plainAddress, std::string("file:///etc/hostname")}) {
-    server.redirect("/", target);
-    EXPECT_EQ(fetchPath("/"), AppcastSource::Result(UpdateFailure::notSecure)) << target;
+  const std::string plainAddress = "http://127.0.0.1:" + std::to_string(plain.serverPort()) + "/feed";
+  for (const std::string& address : {plainAddress, std::string("file:///etc/hostname")}) {
+    EXPECT_EQ(fetch(address), AppcastSource::Result(UpdateFailure::notSecure)) << address;
+    server.redirect("/", address);
+    EXPECT_EQ(fetchPath("/"), AppcastSource::Result(UpdateFailure::notSecure)) << address;
   }
-  EXPECT_FALSE(plain.hasPendingConnections());
-}
-
-TEST_F(Fetching, AsksHttpsAddressesOnly) {
-  QTcpServer plain;
-  ASSERT_TRUE(plain.listen(QHostAddress::LocalHost));
-  for (const std::string& address :
-       {"http://127.0.0.1:" + std::to_string(plain.serverPort()) + "/feed",
-        std::string("file:///etc/hostname"), std::string(), std::string("https://")}) {
+  for (const char* address : {"", "https://"}) {
     EXPECT_EQ(fetch(address), AppcastSource::Result(UpdateFailure::notSecure)) << address;
   }
   EXPECT_FALSE(plain.hasPendingConnections());
@@ -209,19 +194,13 @@ TEST_F(Fetching, BelievesNoCertificateOfAStrangerOrAnotherHost) {
   EXPECT_THAT(server.requests, IsEmpty());
 }
 
-TEST_F(Fetching, TakesNothingButAFeed) {
+TEST_F(Fetching, TakesNothingButAWholeFeedWithinTheSizeLimit) {
   for (const char* status : {"404 Not Found", "401 Unauthorized", "500 Broken", "206 Part"}) {
     server.answer("/", status);
     EXPECT_EQ(fetchPath("/"), AppcastSource::Result(UpdateFailure::serverError)) << status;
   }
-}
-
-TEST_F(Fetching, TakesNoFeedThatWasCutOff) {
   server.answer("/", "200 OK\r\nContent-Length: 100", "<rss/>");
-  EXPECT_EQ(fetchPath("/"), AppcastSource::Result(UpdateFailure::noConnection));
-}
-
-TEST_F(Fetching, StopsAtTheSizeLimit) {
+  EXPECT_EQ(fetchPath("/"), AppcastSource::Result(UpdateFailure::noConnection)) << "cut off";
   server.answer("/", "200 OK", std::string(64 << 20, 'x'));
   EXPECT_EQ(fetchPath("/"), AppcastSource::Result(UpdateFailure::tooLarge));
 }
@@ -241,4 +220,4 @@ TEST_F(Fetching, EndsWithItsToken) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

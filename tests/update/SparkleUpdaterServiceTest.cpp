@@ -1,8 +1,6 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <thread>
 
+#include "Matchers.h"
 #include "support/FakeUserDefaults.h"
 #include "support/FakeWorkspace.h"
 #include "support/ManualMainQueue.h"
@@ -10,12 +8,9 @@
 #include "update/FakeUpdates.h"
 #include "update/SparkleUpdaterService.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
-using ::testing::ElementsAre;
-using testing::feedOf;
-using ::testing::IsEmpty;
 using Property = SparkleUpdaterService::Property;
 
 class Service : public ::testing::Test {
@@ -37,12 +32,12 @@ class Service : public ::testing::Test {
     return service->updateInfo() ? "info " + service->updateInfo()->version : "no info";
   }
 
-  testing::FakeUserDefaults defaults;
-  testing::ManualMainQueue queue;
-  testing::ManualWallClock clock;
-  testing::FakeWorkspace workspace;
-  testing::FakeAppcastSource source;
-  testing::FakeUpdateUserDriver user;
+  FakeUserDefaults defaults;
+  ManualMainQueue queue;
+  ManualWallClock clock;
+  FakeWorkspace workspace;
+  FakeAppcastSource source;
+  FakeUpdateUserDriver user;
   std::vector<std::string> changes;
   std::optional<SparkleUpdaterService> service;
   Subscription observation;
@@ -58,7 +53,7 @@ TEST_F(Service, ChecksUnaskedOnlyIfThePreferenceSaysSo) {
   EXPECT_FALSE(service->updaterController()->automaticallyDownloadsUpdates());
 }
 
-TEST_F(Service, TellsOfAnUpdateBeforeTheCheckEnds) {
+TEST_F(Service, TellsOfAnUpdateBeforeTheCheckEndsAndForgetsOneThatIsNoLongerThere) {
   defaults.set("feedUrl", "https://elsewhere.example/");
   start().checkForUpdates();
   EXPECT_THAT(source.addresses, ElementsAre("https://example.org/feed")) << "no stored address";
@@ -67,12 +62,6 @@ TEST_F(Service, TellsOfAnUpdateBeforeTheCheckEnds) {
   EXPECT_THAT(changes, ElementsAre("checking")) << "the rest comes later";
   queue.runReady();
   EXPECT_THAT(changes, ElementsAre("checking", "available", "info 1.3", "not checking", "not checking"));
-}
-
-TEST_F(Service, ForgetsAnUpdateThatIsNoLongerThere) {
-  start().checkForUpdates();
-  source.answer(feedOf({"1.3"}));
-  queue.runReady();
   changes.clear();
   service->checkForUpdates();
   source.answer(UpdateFailure::noConnection);
@@ -111,4 +100,4 @@ TEST(BuildSettings, NameTheVersionAndASecureFeed) {
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

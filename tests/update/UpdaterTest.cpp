@@ -1,8 +1,6 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <random>
 
+#include "Matchers.h"
 #include "support/FakeUserDefaults.h"
 #include "support/FakeWorkspace.h"
 #include "support/LogRecorder.h"
@@ -11,21 +9,11 @@
 #include "update/FakeUpdates.h"
 #include "update/Updater.h"
 
-namespace tessarin {
+namespace tessarin::testing {
 namespace {
 
 using std::chrono::hours;
 using std::chrono::minutes;
-using ::testing::ElementsAre;
-using testing::FakeAppcastSource;
-using testing::FakeUpdateUserDriver;
-using testing::FakeUserDefaults;
-using testing::FakeWorkspace;
-using testing::feedOf;
-using ::testing::IsEmpty;
-using testing::LogRecorder;
-using testing::ManualMainQueue;
-using testing::ManualWallClock;
 
 class RecordingDelegate final : public UpdaterDelegate {
  public:
@@ -42,6 +30,16 @@ class RecordingDelegate final : public UpdaterDelegate {
 
 class Updating : public ::testing::Test {
  protected:
+  Updating() { start(); }
+  void start() {
+    updater.emplace(UpdaterSeams{defaults, queue, clock, workspace, source, user}, delegate,
+                    Installation{"1.2", "", "6.1"});
+  }
+  /// The user asks, and the feed holds the versions.
+  void check(const std::vector<std::string>& versions) {
+    updater->checkForUpdates();
+    answer(versions);
+  }
   void answer(const std::vector<std::string>& versions) { source.answer(feedOf(versions)); }
   /// Time passes for the clocks alike, in steps of a minute.
   void pass(minutes time) {
@@ -51,8 +49,7 @@ class Updating : public ::testing::Test {
     }
   }
   void startAutomatic() {
-    updater.emplace(UpdaterSeams{defaults, queue, clock, workspace, source, user}, delegate,
-                    Installation{"1.2", "", "6.1"});
+    start();
     updater->setAutomaticallyChecksForUpdates(true);
   }
   /// A check that was due runs and finds the versions.
@@ -69,28 +66,16 @@ class Updating : public ::testing::Test {
   FakeAppcastSource source;
   FakeUpdateUserDriver user;
   RecordingDelegate delegate;
-  std::optional<Updater> updater{std::in_place, UpdaterSeams{defaults, queue, clock, workspace, source, user},
-                                 delegate, Installation{"1.2", "", "6.1"}};
+  std::optional<Updater> updater;
 };
 
 TEST_F(Updating, OffersANewerVersionAndLeadsToIt) {
-  updater->checkForUpdates();
+  check({"1.2", "1.3"});
   EXPECT_THAT(source.addresses, ElementsAre("https://example.org/feed"));
-  answer({"1.2", "1.3"});
   EXPECT_THAT(user.shown, ElementsAre("checking", "update 1.3 for 1.2"));
   EXPECT_THAT(delegate.told, ElementsAre("found 1.3", "loaded 2"));
   user.choose(UpdateChoice::download);
   EXPECT_THAT(workspace.openedUrls, ElementsAre("https://example.org/1.3.tar"));
-}
-
-TEST_F(Updating, OnlyOffersWhatItFindsUnasked) {
-  EXPECT_FALSE(updater->automaticallyDownloadsUpdates());
-  startAutomatic();
-  updater->setAutomaticallyDownloadsUpdates(true);
-  EXPECT_TRUE(updater->automaticallyDownloadsUpdates());
-  runAutomatic({"1.3"});
-  EXPECT_THAT(user.shown, ElementsAre("update 1.3 for 1.2 unobtrusively"));
-  EXPECT_THAT(workspace.openedUrls, IsEmpty());
 }
 
 TEST_F(Updating, SaysWhyItFailed) {
@@ -104,25 +89,17 @@ TEST_F(Updating, SaysWhyItFailed) {
   EXPECT_THAT(log.lines(), ElementsAre("[Updater] The list of updates is damaged: line 1: this is no feed"));
 }
 
-TEST_F(Updating, EndsWhenTheUserCancels) {
+TEST_F(Updating, IsShownWhileItRunsAndEndsWhenTheUserCancelsOrInSilenceWithTheProgram) {
   updater->checkForUpdates();
+  updater->checkForUpdates();
+  EXPECT_EQ(source.addresses.size(), 1u);
   user.cancel();
   EXPECT_FALSE(source.isRunning());
-  EXPECT_THAT(user.shown, ElementsAre("checking", "nothing"));
-  EXPECT_THAT(delegate.told, ElementsAre("failed 0"));
+  EXPECT_THAT(user.shown, ElementsAre("checking", "focus", "nothing"));
+  EXPECT_THAT(std::exchange(delegate.told, {}), ElementsAre("failed 0"));
+  user.shown.clear();
   updater->checkForUpdates();
   EXPECT_TRUE(source.isRunning());
-}
-
-TEST_F(Updating, ShowsTheRunningCheckWhenAskedAgain) {
-  updater->checkForUpdates();
-  updater->checkForUpdates();
-  EXPECT_THAT(user.shown, ElementsAre("checking", "focus"));
-  EXPECT_EQ(source.addresses.size(), 1u);
-}
-
-TEST_F(Updating, EndsInSilenceWithTheProgram) {
-  updater->checkForUpdates();
   updater.reset();
   EXPECT_FALSE(source.isRunning());
   EXPECT_THAT(user.shown, ElementsAre("checking", "nothing"));
@@ -146,8 +123,7 @@ TEST_F(Updating, ChecksOnceADayUnaskedWithOneTimer) {
 }
 
 TEST_F(Updating, CountsTheDayOverRestarts) {
-  updater->checkForUpdates();
-  answer({"1.2"});
+  check({"1.2"});
   EXPECT_EQ(defaults.string("lastUpdateCheck"), "2026-03-14T09:30:00Z");
   pass(hours(10));
   startAutomatic();
@@ -193,13 +169,17 @@ TEST_F(Updating, ChecksUnaskedOnlyWhileToldTo) {
   EXPECT_THAT(source.addresses, IsEmpty());
 }
 
-TEST_F(Updating, ShowsNothingUnaskedButAnUpdate) {
+TEST_F(Updating, ShowsNothingUnaskedButAnUpdateAndDownloadsNone) {
+  EXPECT_FALSE(updater->automaticallyDownloadsUpdates());
   startAutomatic();
+  updater->setAutomaticallyDownloadsUpdates(true);
+  EXPECT_TRUE(updater->automaticallyDownloadsUpdates());
   pass(minutes(60));
   source.answer(UpdateFailure::noConnection);
   pass(hours(24));
   answer({"1.3"});
   EXPECT_THAT(user.shown, ElementsAre("update 1.3 for 1.2 unobtrusively"));
+  EXPECT_THAT(workspace.openedUrls, IsEmpty());
   EXPECT_THAT(delegate.told, ElementsAre("failed 1", "found 1.3", "loaded 1"));
 }
 
@@ -216,8 +196,7 @@ TEST_F(Updating, LeavesAnOfferAloneUntilTheUserHasChosen) {
 }
 
 TEST_F(Updating, PassesOverASkippedVersionUntilAsked) {
-  updater->checkForUpdates();
-  answer({"1.3"});
+  check({"1.3"});
   user.choose(UpdateChoice::skip);
   EXPECT_THAT(workspace.openedUrls, IsEmpty());
   user.shown.clear();
@@ -225,8 +204,7 @@ TEST_F(Updating, PassesOverASkippedVersionUntilAsked) {
   pass(hours(24));
   runAutomatic({"1.3"});
   EXPECT_THAT(user.shown, IsEmpty());
-  updater->checkForUpdates();
-  answer({"1.3"});
+  check({"1.3"});
   EXPECT_THAT(user.shown, ElementsAre("checking", "update 1.3 for 1.2"));
 }
 
@@ -240,21 +218,17 @@ TEST_F(Updating, TurnsAnUnaskedCheckIntoOneThatTheUserSees) {
   EXPECT_EQ(source.addresses.size(), 1u);
 }
 
-TEST_F(Updating, GoesOnAfterTheClockJumpsBack) {
+TEST_F(Updating, GoesOnAfterTheClockJumpsBackAndAfterADayThatWasSleptThrough) {
   startAutomatic();
   runAutomatic({"1.2"});
   clock.time -= hours(24 * 365);
   pass(hours(2));
   EXPECT_EQ(source.addresses.size(), 2u);
-}
-
-TEST_F(Updating, NoticesADayThatWasSleptThrough) {
-  startAutomatic();
-  runAutomatic({"1.2"});
+  answer({"1.2"});
   clock.time += hours(30);
   pass(hours(1));
-  EXPECT_EQ(source.addresses.size(), 2u);
+  EXPECT_EQ(source.addresses.size(), 3u);
 }
 
 }  // namespace
-}  // namespace tessarin
+}  // namespace tessarin::testing

@@ -1,9 +1,8 @@
-#include <gmock/gmock.h>
-
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 
+#include "Matchers.h"
 #include "ui/settings/AppListSettingsTab.h"
 #include "ui/settings/BlockedAppsSettingsTab.h"
 #include "ui/settings/PasteFallbackAppsSettingsTab.h"
@@ -14,10 +13,6 @@ namespace tessarin::ui {
 namespace {
 
 using testing::child;
-using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-using ::testing::Not;
 
 class AppListSettingsTabTest : public testing::SettingsTest {
  protected:
@@ -29,9 +24,8 @@ class AppListSettingsTabTest : public testing::SettingsTest {
 
   std::vector<std::string> listed() const {
     std::vector<std::string> found;
-    const auto* list = tab->findChild<QListWidget*>();
-    for (int row = 0; row < list->count(); ++row) {
-      found.push_back(list->item(row)->data(Qt::AccessibleTextRole).toString().toStdString());
+    for (int row = 0; row < list()->count(); ++row) {
+      found.push_back(list()->item(row)->data(Qt::AccessibleTextRole).toString().toStdString());
     }
     return found;
   }
@@ -50,9 +44,7 @@ class AppListSettingsTabTest : public testing::SettingsTest {
     for (auto* button : tab->findChildren<QAbstractButton*>()) {
       if (button->accessibleName() != accessibleName) continue;
       QTest::mouseClick(button, Qt::LeftButton);
-      QCoreApplication::processEvents();
-      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-      return;
+      return settle();
     }
     ADD_FAILURE() << "no button " << accessibleName.toStdString();
   }
@@ -74,6 +66,9 @@ class AppListSettingsTabTest : public testing::SettingsTest {
   }
   void press(Qt::Key key) const {
     QTest::keyClick(QApplication::focusWidget(), key);
+    settle();
+  }
+  static void settle() {
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
@@ -91,17 +86,6 @@ TEST_F(AppListSettingsTabTest, listsTheStoredAndTheBuiltInOnes) {
   EXPECT_EQ(listed().size(), builtIn.size() + 2);
   tab = std::make_unique<PasteFallbackAppsSettingsTab>(services());
   EXPECT_THAT(listed(), ::testing::UnorderedElementsAreArray(preferences::defaultPasteFallbackApps()));
-}
-
-TEST_F(AppListSettingsTabTest, removingLastsUntilTheListIsLoadedAgain) {
-  const std::string builtIn = *preferences::defaultBlockedApps().begin();
-  open();
-  click(QString("Remove %1").arg(QString::fromStdString(builtIn)));
-  EXPECT_THAT(listed(), Not(Contains(builtIn)));
-  EXPECT_THAT(stored(), Not(Contains(builtIn)));
-  EXPECT_EQ(stored().size(), preferences::defaultBlockedApps().size() - 1) << "the whole list is written";
-  open();
-  EXPECT_THAT(listed(), Contains(builtIn));
 }
 
 TEST_F(AppListSettingsTabTest, addsWhatIsTyped) {
@@ -131,6 +115,10 @@ TEST_F(AppListSettingsTabTest, offersTheRunningApplicationsThatAreNotListed) {
   EXPECT_THAT(stored(), Contains("org.example.a"));
   click(QString("Remove %1").arg(QString::fromStdString(builtIn)));
   EXPECT_THAT(offered(), ElementsAre("beta", "Listed"));
+  EXPECT_THAT(listed(), Not(Contains(builtIn)));
+  EXPECT_EQ(stored(), listed()) << "the whole list is written";
+  open();
+  EXPECT_THAT(listed(), Contains(builtIn)) << "removing lasts until the list is loaded again";
 }
 
 TEST_F(AppListSettingsTabTest, theKeyboardStaysInItsPlaceWhenItsRowGoes) {
@@ -193,10 +181,10 @@ TEST_F(AppListSettingsTabTest, theDeleteKeyRemovesTheCurrentEntry) {
   press(Qt::Key_Down);
   press(Qt::Key_Delete);
   EXPECT_THAT(stored(), ElementsAre("com.apple.MobileSMS"));
-  press(Qt::Key_Delete);
-  EXPECT_THAT(listed(), IsEmpty());
-  press(Qt::Key_Delete);
-  EXPECT_EQ(list()->count(), 0);
+  for (int time = 0; time < 2; ++time) {
+    press(Qt::Key_Delete);
+    EXPECT_THAT(listed(), IsEmpty());
+  }
 }
 
 }  // namespace

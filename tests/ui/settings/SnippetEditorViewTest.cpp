@@ -1,5 +1,3 @@
-#include <gmock/gmock.h>
-
 #include <QClipboard>
 #include <QInputMethodEvent>
 #include <QLabel>
@@ -7,6 +5,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 
+#include "Matchers.h"
 #include "input/Preferences.h"
 #include "platform/qt/OwnTextField.h"
 #include "ui/Extent.h"
@@ -19,7 +18,6 @@ namespace {
 
 using testing::child;
 using testing::eventuallyInLoop;
-using ::testing::IsEmpty;
 using testing::shows;
 
 class SnippetEditorViewTest : public testing::SettingsTest {
@@ -86,35 +84,32 @@ TEST_F(SnippetEditorViewTest, StoresANewSnippetAsTyped) {
 }
 
 TEST_F(SnippetEditorViewTest, StoresAnEditedSnippetInItsPlace) {
-  store->addSnippet(mine("first"));
+  store->addSnippet(mine("first", "a\u00a0b"));
   store->addSnippet({"id", "Name", "c++", "a\u00a0b\r\nc", {"x", "y z"}, "Theirs", false});
   open(store->userSnippets()[1]);
   QTest::mouseClick(button("Save"), Qt::LeftButton);
   EXPECT_EQ(store->userSnippets()[1],
             (Snippet{"id", "Name", "c", "a\u00a0b\r\nc", {"x", "y z"}, "Custom", false}));
-  EXPECT_EQ(store->userSnippets().size(), 2U);
-}
-
-TEST_F(SnippetEditorViewTest, KeepsSpecialSpacesWhileAReplacementIsChanged) {
-  store->addSnippet(mine("t", "a\u00a0b"));
   open(store->userSnippets()[0]);
   replacement->moveCursor(QTextCursor::End);
   type(replacement, "c");
   QTest::mouseClick(button("Save"), Qt::LeftButton);
-  EXPECT_EQ(store->userSnippets()[0].replacement, "a\u00a0bc");
+  EXPECT_EQ(store->userSnippets()[0].replacement, "a\u00a0bc") << "special spaces are kept";
+  EXPECT_EQ(store->userSnippets().size(), 2U);
 }
 
-TEST_F(SnippetEditorViewTest, EscapeStoresNothing) {
+TEST_F(SnippetEditorViewTest, EscapeStoresNothingAndReturnConfirmsWhereItMakesNoLine) {
   open();
   fill();
   QTest::keyClick(replacement, Qt::Key_Escape);
   EXPECT_TRUE(isClosed());
   EXPECT_THAT(triggers(), IsEmpty());
-}
-
-TEST_F(SnippetEditorViewTest, ReturnConfirmsWhereItMakesNoLine) {
   open();
   fill();
+  QTest::keyClick(replacement, Qt::Key_Tab);
+  EXPECT_FALSE(replacement->hasFocus());
+  EXPECT_EQ(replacement->toPlainText(), "r") << "Tab leaves the field";
+  replacement->setFocus();
   QTest::keyClick(replacement, Qt::Key_Return);
   EXPECT_FALSE(isClosed());
   QTest::keyClick(replacement, Qt::Key_Return, Qt::ControlModifier);
@@ -126,15 +121,6 @@ TEST_F(SnippetEditorViewTest, ReturnConfirmsWhereItMakesNoLine) {
   ASSERT_EQ(store->userSnippets().size(), 2U);
   EXPECT_EQ(store->userSnippets()[0].replacement, "r\n");
   EXPECT_EQ(store->userSnippets()[1].replacement, "r");
-}
-
-TEST_F(SnippetEditorViewTest, TabLeavesTheReplacement) {
-  open();
-  fill();
-  replacement->setFocus();
-  QTest::keyClick(replacement, Qt::Key_Tab);
-  EXPECT_FALSE(replacement->hasFocus());
-  EXPECT_EQ(replacement->toPlainText(), "r");
 }
 
 TEST_F(SnippetEditorViewTest, TheTriggerIsFilteredAroundTheCaret) {
@@ -149,18 +135,13 @@ TEST_F(SnippetEditorViewTest, TheTriggerIsFilteredAroundTheCaret) {
   QGuiApplication::clipboard()->clear();
   EXPECT_EQ(trigger->text(), "axé2b");
   EXPECT_EQ(trigger->cursorPosition(), 4);
-}
-
-TEST_F(SnippetEditorViewTest, TheTriggerLeavesComposedTextAlone) {
-  open();
-  type(trigger, "a");
   QInputMethodEvent composing("n'i!", {});
   QCoreApplication::sendEvent(trigger, &composing);
-  EXPECT_EQ(trigger->text(), "a");
+  EXPECT_EQ(trigger->text(), "axé2b") << "composed text is left alone";
   QInputMethodEvent commit;
   commit.setCommitString("你!");
   QCoreApplication::sendEvent(trigger, &commit);
-  EXPECT_EQ(trigger->text(), "a你");
+  EXPECT_EQ(trigger->text(), "axé2你b");
 }
 
 TEST_F(SnippetEditorViewTest, ShortcodesAreExpandedInEveryFieldButTheTrigger) {

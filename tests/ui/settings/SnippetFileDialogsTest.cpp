@@ -15,40 +15,31 @@ namespace fs = std::filesystem;
 using testing::ensureApplication;
 using testing::TemporaryFolder;
 
-class SnippetFileDialogsTest : public ::testing::Test {
- protected:
-  SnippetFileDialogsTest() {
-    ensureApplication();
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    window = std::make_unique<QWidget>();
-    window->show();
-  }
-  QFileDialog& ask(const ChooseFile& choose) {
-    choose(*window, [this](const fs::path& file) { chosen = file; });
-    return *window->findChild<QFileDialog*>();
-  }
-
-  TemporaryFolder folder;
-  std::unique_ptr<QWidget> window;
+TEST(SnippetFileDialogsTest, AskForAFileOrProposeANameAndMayBeCancelled) {
+  ensureApplication();
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+  QWidget window;
+  window.show();
   std::optional<fs::path> chosen;
-};
+  const auto ask = [&](const ChooseFile& choose) -> QFileDialog& {
+    choose(window, [&](const fs::path& file) { chosen = file; });
+    return *window.findChildren<QFileDialog*>().last();
+  };
 
-TEST_F(SnippetFileDialogsTest, ImportAnswersWithTheFile) {
-  folder.write("in é.json", "[]");
-  QFileDialog& dialog = ask(SnippetFileDialogs::native().open);
-  EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
-  EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
-  Q_EMIT dialog.fileSelected(QString::fromStdString((folder / "in é.json").string()));
-  EXPECT_EQ(chosen, folder / "in é.json");
-}
-
-TEST_F(SnippetFileDialogsTest, ExportProposesANameAndMayBeCancelled) {
-  QFileDialog& dialog = ask(SnippetFileDialogs::native().save);
-  EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
-  ASSERT_EQ(dialog.selectedFiles().size(), 1);
-  EXPECT_EQ(QFileInfo(dialog.selectedFiles()[0]).fileName(), "tessarin-snippets.json");
-  dialog.reject();
+  QFileDialog& saving = ask(SnippetFileDialogs::native().save);
+  EXPECT_EQ(saving.acceptMode(), QFileDialog::AcceptSave);
+  ASSERT_EQ(saving.selectedFiles().size(), 1);
+  EXPECT_EQ(QFileInfo(saving.selectedFiles()[0]).fileName(), "tessarin-snippets.json");
+  saving.reject();
   EXPECT_EQ(chosen, std::nullopt);
+
+  const TemporaryFolder folder;
+  folder.write("in é.json", "[]");
+  QFileDialog& opening = ask(SnippetFileDialogs::native().open);
+  EXPECT_EQ(opening.acceptMode(), QFileDialog::AcceptOpen);
+  EXPECT_EQ(opening.fileMode(), QFileDialog::ExistingFile);
+  Q_EMIT opening.fileSelected(QString::fromStdString((folder / "in é.json").string()));
+  EXPECT_EQ(chosen, folder / "in é.json");
 }
 
 }  // namespace

@@ -1,6 +1,3 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <QAbstractButton>
 #include <QApplication>
 #include <QImage>
@@ -8,6 +5,7 @@
 #include <QTest>
 #include <QTextBrowser>
 
+#include "Matchers.h"
 #include "platform/qt/TestApplication.h"
 #include "support/FakeWorkspace.h"
 #include "support/TemporaryFolder.h"
@@ -17,10 +15,7 @@
 namespace tessarin::ui {
 namespace {
 
-using ::testing::ElementsAre;
 using testing::eventuallyInLoop;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 class WindowsAboutUpdates : public ::testing::Test {
  protected:
@@ -69,24 +64,26 @@ class WindowsAboutUpdates : public ::testing::Test {
 };
 
 TEST_F(WindowsAboutUpdates, CancelACheckByButtonEscapeAndClosing) {
-  check();
-  clickButton("Cancel");
-  EXPECT_EQ(cancelled, 1);
-  check();
-  QTest::keyClick(&dialog(), Qt::Key_Escape);
-  EXPECT_EQ(cancelled, 2);
-  check();
-  dialog().close();
-  EXPECT_EQ(cancelled, 3);
-  EXPECT_THAT(shown(), IsEmpty());
+  const std::function<void()> ways[] = {[] { clickButton("Cancel"); },
+                                        [] { QTest::keyClick(&dialog(), Qt::Key_Escape); },
+                                        [] { dialog().close(); }};
+  for (const auto& cancel : ways) {
+    const int before = cancelled;
+    check();
+    cancel();
+    EXPECT_EQ(cancelled, before + 1) << &cancel - ways;
+    EXPECT_THAT(shown(), IsEmpty());
+  }
 }
 
-TEST_F(WindowsAboutUpdates, ReplaceOneAnotherWithoutACallback) {
+TEST_F(WindowsAboutUpdates, ReplaceOneAnotherWithoutACallbackAndPushForwardOnlyWhatWasAskedFor) {
   check();
   offer();
   check();
   windows.showUpToDate("1.2");
-  EXPECT_THAT(shown(), ::testing::SizeIs(1));
+  EXPECT_TRUE(eventuallyInLoop([this] { return dialog().isActiveWindow(); }));
+  offer("x", "1.3", UpdateUserDriver::Manner::unobtrusive);
+  EXPECT_TRUE(dialog().testAttribute(Qt::WA_ShowWithoutActivating));
   windows.dismiss();
   EXPECT_THAT(shown(), IsEmpty());
   EXPECT_EQ(cancelled, 0);
@@ -107,25 +104,15 @@ TEST_F(WindowsAboutUpdates, TakeAnAnswerByButtonsAndKeys) {
                                    UpdateChoice::download, UpdateChoice::later));
 }
 
-TEST_F(WindowsAboutUpdates, TellBothVersionsAndTheNotes) {
+TEST_F(WindowsAboutUpdates, TellTheNotesAndBothVersionsAsPlainTextOfBoundedLength) {
   offer("<h1>New</h1><p>Things</p>");
   EXPECT_THAT(texts(), HasSubstr("Tessarin 1.3 can be downloaded now. This is version 1.2."));
   EXPECT_EQ(dialog().findChild<QTextBrowser*>()->toPlainText(), "New\nThings");
   offer("a < b & c\nd");
   EXPECT_EQ(dialog().findChild<QTextBrowser*>()->toPlainText(), "a < b & c\nd");
-}
-
-TEST_F(WindowsAboutUpdates, ShowAVersionAsPlainTextOfBoundedLength) {
   offer("", "<b>2</b>\n" + std::string(5000, '1'));
   EXPECT_THAT(texts(), HasSubstr("Tessarin <b>2</b> 111"));
   EXPECT_LT(texts().size(), 300u);
-}
-
-TEST_F(WindowsAboutUpdates, PushForwardOnlyWhatTheUserAskedFor) {
-  windows.showUpToDate("1.2");
-  EXPECT_TRUE(eventuallyInLoop([this] { return dialog().isActiveWindow(); }));
-  offer("x", "1.3", UpdateUserDriver::Manner::unobtrusive);
-  EXPECT_TRUE(dialog().testAttribute(Qt::WA_ShowWithoutActivating));
 }
 
 TEST_F(WindowsAboutUpdates, SayInOneSentenceWhatWentWrong) {
@@ -134,7 +121,7 @@ TEST_F(WindowsAboutUpdates, SayInOneSentenceWhatWentWrong) {
        ++i) {
     windows.showFailure(static_cast<UpdateFailure>(i));
     const std::string text = texts();
-    EXPECT_THAT(sentences, ::testing::Not(::testing::Contains(text)));
+    EXPECT_THAT(sentences, Not(Contains(text)));
     sentences.push_back(text);
     QTest::keyClick(&dialog(), Qt::Key_Return);
     EXPECT_THAT(shown(), IsEmpty());
