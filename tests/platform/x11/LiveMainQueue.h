@@ -2,11 +2,9 @@
 
 #include <condition_variable>
 #include <deque>
-#include <functional>
 #include <mutex>
 #include <thread>
 #include <utility>
-#include <vector>
 
 #include "platform/MainQueue.h"
 

@@ -1,6 +1,3 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 #include <fstream>
 #include <thread>
@@ -56,8 +53,7 @@ struct X11PasteboardWorld {
     peer.takeFocus();
     return peer.read("CLIPBOARD", "UTF8_STRING");
   }
-  template <class Condition>
-  bool waitFor(Condition condition) {
+  bool waitFor(auto condition) {
     return eventually(condition, [this] { queue.runReady(); });
   }
   SnapshotRef startSnapshot() {
@@ -83,8 +79,7 @@ struct FakePasteboardWorld {
   Pasteboard& pasteboard() { return fake; }
   void copyElsewhere(Items items) { fake.copyElsewhere(std::move(items)); }
   std::optional<std::string> pasteIntoFocusedApplication() { return fake.readByApplication(); }
-  template <class Condition>
-  bool waitFor(Condition condition) {
+  bool waitFor(auto condition) {
     queue.runReady();
     return condition();
   }
@@ -99,6 +94,15 @@ class X11PasteboardTest : public ::testing::Test {
  protected:
   Pasteboard& pasteboard() { return world.pasteboard(); }
   SelectionPeer& peer() { return world.peer; }
+  /// By now, as everything that has happened so far has been dealt with.
+  bool hasBeenRead() {
+    pasteboard().string();
+    world.queue.runReady();
+    return pasteboard().hasBeenRead();
+  }
+  bool becomesRead() {
+    return world.waitFor([this] { return pasteboard().hasBeenRead(); });
+  }
 
   X11PasteboardWorld world;
 };
@@ -179,11 +183,14 @@ TEST_F(X11PasteboardTest, PutsBackTextUnderTheTypeThatItHad) {
   EXPECT_EQ(peer().lastReadType(), "UTF8_STRING");
 }
 
-TEST_F(X11PasteboardTest, KeepsTheTwoSelectionsApart) {
+TEST_F(X11PasteboardTest, KeepsTheTwoSelectionsApartAndForgetsWhatAnotherProgramTakes) {
   world.selections->primary().writeText("selected");
   pasteboard().writeText("copied");
   EXPECT_EQ(peer().read("PRIMARY", "UTF8_STRING"), "selected");
   EXPECT_EQ(peer().read("CLIPBOARD", "UTF8_STRING"), "copied");
+  world.copyElsewhere({{"UTF8_STRING", "theirs"}});
+  EXPECT_EQ(pasteboard().string(), "theirs");
+  EXPECT_EQ(world.selections->primary().string(), "selected");
 }
 
 TEST_F(X11PasteboardTest, OffersTextInEveryUsualForm) {
@@ -202,13 +209,13 @@ TEST_F(X11PasteboardTest, OffersTextInEveryUsualForm) {
 }
 
 TEST_F(X11PasteboardTest, ReadsOlderForms) {
-  peer().own("CLIPBOARD", {{"STRING", "caf\xe9"}});
-  EXPECT_EQ(pasteboard().string(), "café");
-  peer().own("CLIPBOARD", {{"text/plain;charset=utf-8", "café"}});
-  EXPECT_EQ(pasteboard().string(), "café");
-  for (const char* bytes : {"café", "caf\xe9"}) {
-    peer().own("CLIPBOARD", {{"text/plain", bytes}});
-    EXPECT_EQ(pasteboard().string(), "café");
+  const PasteboardItem forms[] = {{"STRING", "caf\xe9"},
+                                  {"text/plain;charset=utf-8", "café"},
+                                  {"text/plain", "café"},
+                                  {"text/plain", "caf\xe9"}};
+  for (const PasteboardItem& form : forms) {
+    peer().own("CLIPBOARD", {form});
+    EXPECT_EQ(pasteboard().string(), "café") << form.type;
   }
   peer().setPieceSize(1000);
   peer().own("CLIPBOARD", {{"UTF8_STRING", std::string(9999, 'x')}});
@@ -265,68 +272,41 @@ TEST_F(X11PasteboardTest, KeepsWhatAnOwnerDeliveredBeforeItEnded) {
   EXPECT_LT(std::chrono::steady_clock::now() - start, 900ms);
 }
 
-TEST_F(X11PasteboardTest, ForgetsWhatItOwnedWhenAnotherProgramCopies) {
-  pasteboard().writeText("ours");
-  world.copyElsewhere({{"UTF8_STRING", "theirs"}});
-  EXPECT_EQ(pasteboard().string(), "theirs");
-}
-
 TEST_F(X11PasteboardTest, CountsOneChangeForEachWrite) {
   for (int i = 0; i < 20; ++i) {
     const auto before = pasteboard().changeCount();
-    if (i % 3 == 0) {
-      pasteboard().write({});
-    } else {
-      pasteboard().writeText("text");
-    }
+    i % 3 == 0 ? pasteboard().write({}) : pasteboard().writeText("text");
     pasteboard().string();  // later news of our own writing would have come by now
     EXPECT_EQ(pasteboard().changeCount(), before + 1);
   }
 }
 
-TEST_F(X11PasteboardTest, CountsOnlyTheFocusedProgramReadingText) {
-  SelectionPeer manager(display().name());
-  peer().takeFocus();
-  pasteboard().writeText("text");
-  manager.read("CLIPBOARD", "UTF8_STRING");
-  peer().targets("CLIPBOARD");
-  peer().read("CLIPBOARD", "x-kde-passwordManagerHint");
-  pasteboard().string();
-  world.queue.runReady();
-  EXPECT_FALSE(pasteboard().hasBeenRead());
-  peer().read("CLIPBOARD", "text/plain");
-  EXPECT_TRUE(world.waitFor([&] { return pasteboard().hasBeenRead(); }));
-}
-
-TEST_F(X11PasteboardTest, CountsTheProgramThatHadTheFocusWhenTheTextWasWritten) {
+TEST_F(X11PasteboardTest, CountsOnlyTheFocusedProgramReadingTheText) {
   SelectionPeer other(display().name());
   peer().takeFocus();
+  pasteboard().writeText("the text before, whose read does not count for the next");
+  peer().read("CLIPBOARD", "UTF8_STRING");
   pasteboard().writeText("text");
+  other.read("CLIPBOARD", "UTF8_STRING");
+  peer().targets("CLIPBOARD");
+  peer().read("CLIPBOARD", "x-kde-passwordManagerHint");
+  EXPECT_FALSE(hasBeenRead());
+  peer().read("CLIPBOARD", "text/plain");
+  EXPECT_TRUE(becomesRead());
+  pasteboard().writeText("next");
   other.takeFocus();
   peer().read("CLIPBOARD", "UTF8_STRING");
-  EXPECT_TRUE(world.waitFor([&] { return pasteboard().hasBeenRead(); }));
+  EXPECT_TRUE(becomesRead()) << "it had the focus when the text was written";
 }
 
 TEST_F(X11PasteboardTest, CountsLargeTextOnlyWhenItWasReadToTheEnd) {
   const std::string text(2'000'000, 'x');
   peer().takeFocus();
   pasteboard().writeText(text);
-  peer().readPieces("CLIPBOARD", "UTF8_STRING", 2);
-  pasteboard().string();
-  world.queue.runReady();
-  EXPECT_FALSE(pasteboard().hasBeenRead());
+  peer().read("CLIPBOARD", "UTF8_STRING", 2);
+  EXPECT_FALSE(hasBeenRead());
   EXPECT_TRUE(peer().read("CLIPBOARD", "UTF8_STRING") == text);
-  EXPECT_TRUE(world.waitFor([&] { return pasteboard().hasBeenRead(); }));
-}
-
-TEST_F(X11PasteboardTest, AReadOfTheTextBeforeDoesNotCountForTheNext) {
-  peer().takeFocus();
-  pasteboard().writeText("one");
-  peer().read("CLIPBOARD", "UTF8_STRING");
-  pasteboard().writeText("two");
-  pasteboard().string();
-  world.queue.runReady();
-  EXPECT_FALSE(pasteboard().hasBeenRead());
+  EXPECT_TRUE(becomesRead());
 }
 
 TEST_F(X11PasteboardTest, ASlowReaderGetsTheWholeOfTheOldText) {
@@ -351,22 +331,19 @@ TEST_F(X11PasteboardTest, HandsOverToTheClipboardManagerAtTheEnd) {
   EXPECT_THAT(manager.requestedTargets(), ElementsAre("SAVE_TARGETS"));
 }
 
-TEST_F(X11PasteboardTest, KeepsSecretsFromTheClipboardManager) {
-  SelectionPeer manager(display().name());
-  manager.own("CLIPBOARD_MANAGER", {}, Manner::silent);
-  pasteboard().writeText("for one paste");
-  world.selections->shutdown();
-  EXPECT_EQ(manager.requests(), 0U);
-}
-
-TEST_F(X11PasteboardTest, DoesNotWaitForeverForTheClipboardManager) {
-  LogRecorder log;
-  SelectionPeer manager(display().name());
-  manager.own("CLIPBOARD_MANAGER", {}, Manner::silent);
-  pasteboard().write({{"UTF8_STRING", "kept"}});
-  world.selections->shutdown();
-  EXPECT_EQ(manager.requests(), 1U);
-  EXPECT_THAT(log.lines(), ElementsAre(HasSubstr("did not take over")));
+TEST_F(X11PasteboardTest, OffersNoSecretToAClipboardManagerAndWaitsForNoneThatHangs) {
+  for (const bool isSecret : {true, false}) {
+    LogRecorder log;
+    X11PasteboardWorld ending;
+    SelectionPeer manager(display().name());
+    manager.own("CLIPBOARD_MANAGER", {}, Manner::silent);
+    isSecret ? ending.pasteboard().writeText("for one paste")
+             : ending.pasteboard().write({{"UTF8_STRING", "kept"}});
+    ending.selections->shutdown();
+    EXPECT_EQ(manager.requests(), isSecret ? 0U : 1U);
+    if (isSecret) continue;
+    EXPECT_THAT(log.lines(), ElementsAre(HasSubstr("did not take over")));
+  }
 }
 
 TEST(X11Selections, AnswersThatThereIsNoServer) {

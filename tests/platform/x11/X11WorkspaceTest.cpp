@@ -1,6 +1,3 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <filesystem>
 
 #include "platform/x11/X11Workspace.h"
@@ -33,8 +30,7 @@ class Session {
   xcb_window_t show(const std::string& name, const WindowOptions& options = {}, double x = 0) {
     return peer->openWindow({x, 100, 200, 200}, name, options);
   }
-  template <class Condition>
-  bool waitFor(Condition condition) {
+  bool waitFor(auto condition) {
     return eventually(condition, [this] { queue.runReady(); });
   }
   std::string frontmost() {
@@ -68,10 +64,7 @@ struct UnmanagedWorld : Session {
 struct FakeWorld {
   Workspace& workspace() { return fake; }
   void activate(const std::string& name) { fake.activate(name); }
-  template <class Condition>
-  bool waitFor(Condition condition) {
-    return condition();
-  }
+  bool waitFor(auto condition) { return condition(); }
   FakeWorkspace fake;
 };
 
