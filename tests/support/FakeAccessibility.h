@@ -1,11 +1,7 @@
 #pragma once
 
-#include <chrono>
-#include <functional>
 #include <map>
-#include <memory>
 #include <set>
-#include <string>
 #include <vector>
 
 #include "base/Signal.h"

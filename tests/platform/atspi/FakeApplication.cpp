@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 #include "platform/atspi/BusCalls.h"
 #include "platform/atspi/ObjectReference.h"

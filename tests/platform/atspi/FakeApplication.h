@@ -5,14 +5,11 @@
 #include <array>
 #include <atomic>
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <mutex>
 #include <optional>
-#include <string>
 #include <thread>
 #include <type_traits>
-#include <vector>
 
 #include "platform/atspi/DBusHandles.h"
 
