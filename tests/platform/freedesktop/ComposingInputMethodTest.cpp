@@ -1,10 +1,4 @@
-#include <dbus/dbus.h>
-#include <gtest/gtest.h>
-
-#include <fstream>
-#include <memory>
 #include <mutex>
-#include <optional>
 
 #include "platform/freedesktop/ComposingInputMethod.h"
 #include "support/Eventually.h"
@@ -60,11 +54,8 @@ class Daemon final : public BusService {
     }
     DBusMessage* reply = dbus_message_new_method_return(question);
     const char* name = engine_.c_str();
-    if (kind_ == Kind::ibus) {
-      appendDescription(reply, name);
-    } else {
-      dbus_message_append_args(reply, DBUS_TYPE_STRING, &name, DBUS_TYPE_INVALID);
-    }
+    if (kind_ == Kind::ibus) appendDescription(reply, name);
+    if (kind_ == Kind::fcitx) dbus_message_append_args(reply, DBUS_TYPE_STRING, &name, DBUS_TYPE_INVALID);
     return reply;
   }
   static void appendDescription(DBusMessage* reply, const char* name) {
@@ -93,18 +84,16 @@ class Daemon final : public BusService {
 class ComposingInputMethodTest : public ::testing::Test {
  protected:
   void leaveAddress(const std::string& address) {
-    std::ofstream(folder.path() / "address")
-        << "# a comment\nIBUS_ADDRESS=" << address << "\nIBUS_DAEMON_PID=1\n";
+    folder.write("address", "# a comment\nIBUS_ADDRESS=" + address + "\nIBUS_DAEMON_PID=1\n");
   }
   bool becomes(State state) {
     return eventually([&] { return method->state() == state; });
   }
   void connect(const std::string& sessionAddress) {
-    method = std::make_unique<ComposingInputMethod>(
-        sessionAddress, [this](const std::string& name) -> std::optional<std::string> {
-          if (name == "IBUS_ADDRESS_FILE") return (folder.path() / "address").string();
-          return std::nullopt;
-        });
+    method = std::make_unique<ComposingInputMethod>(sessionAddress, [this](const std::string& name) {
+      const bool isAsked = name == "IBUS_ADDRESS_FILE";
+      return isAsked ? std::optional((folder / "address").string()) : std::nullopt;
+    });
   }
 
   TemporaryFolder folder;

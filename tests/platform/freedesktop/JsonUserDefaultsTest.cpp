@@ -1,8 +1,3 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <filesystem>
-
 #include "platform/freedesktop/JsonUserDefaults.h"
 #include "support/Eventually.h"
 #include "support/FakeUserDefaults.h"

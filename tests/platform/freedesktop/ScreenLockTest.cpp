@@ -1,8 +1,3 @@
-#include <dbus/dbus.h>
-#include <gtest/gtest.h>
-
-#include <atomic>
-
 #include "platform/freedesktop/ScreenLock.h"
 #include "support/Eventually.h"
 #include "support/desktop/BusService.h"
