@@ -1,12 +1,5 @@
 #pragma once
 
-#include <chrono>
-#include <functional>
-#include <memory>
-#include <optional>
-#include <string>
-#include <vector>
-
 #include "platform/MainQueue.h"
 #include "platform/Pasteboard.h"
 

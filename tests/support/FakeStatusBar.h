@@ -3,11 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
 #include <optional>
-#include <string>
 #include <utility>
-#include <vector>
 
 #include "platform/StatusBar.h"
 

@@ -1,10 +1,7 @@
 #pragma once
 
 #include <map>
-#include <optional>
-#include <string>
 #include <utility>
-#include <vector>
 
 #include "base/Signal.h"
 #include "platform/Workspace.h"
