@@ -118,11 +118,15 @@ void TapFixture::finishWhenPasted(int pastes) {
   queue.after(std::chrono::milliseconds(1), [this, pastes] { finishWhenPasted(pastes); });
 }
 
+void TapFixture::settle(std::chrono::milliseconds time) {
+  typist->sync();
+  queue.runUntil([] { return false; }, time);
+}
+
 void TapFixture::expectDocument(const std::string& expected) {
   typist->sync();
   queue.runUntil([&] { return document->text() == expected; });
-  // Nothing may follow.
-  queue.runUntil([] { return false; }, std::chrono::milliseconds(20));
+  settle();
   EXPECT_EQ(document->text(), expected);
 }
 

@@ -29,6 +29,8 @@ class TapFixture : public ::testing::Test {
 
   /// Waits until the document is as expected and everything typed has been dealt with.
   void expectDocument(const std::string& expected);
+  /// Everything typed has arrived, and what follows it at once has happened.
+  void settle(std::chrono::milliseconds time = std::chrono::milliseconds(20));
   KeyVerdict judge(const KeyEvent& event);
   /// Types triggers until one is seen, and leaves an empty document.
   void waitUntilWatching();

@@ -128,14 +128,12 @@ TEST_F(X11EventTapTest, HoldsKeysWhereTheFocusGoes) {
   document->takeFocus();
   holdBack();
   typist->type("ab");
-  typist->sync();
-  queue.runUntil([] { return false; }, std::chrono::milliseconds(20));
+  settle();
   EXPECT_EQ(focusMoves, 0);
   other.takeFocus();
   ASSERT_TRUE(queue.runUntil([this] { return focusMoves == 1; }));
   typist->type("cd");
-  typist->sync();
-  queue.runUntil([] { return false; }, std::chrono::milliseconds(20));
+  settle();
   EXPECT_EQ(other.text(), "");
   attend(KeyAttention::triggerOnly);
   EXPECT_TRUE(queue.runUntil([&] { return other.text() == "abcd"; })) << other.text();
@@ -157,7 +155,7 @@ TEST_F(X11EventTapTest, HoldsTheKeyBehindAHeldOneWhereTheFocusHasGone) {
   typist->type(":a");
   typist->sync();
   ASSERT_TRUE(queue.runUntil([this] { return focusMoves == 1; }));
-  queue.runUntil([] { return false; }, std::chrono::milliseconds(20));
+  settle();
   EXPECT_EQ(other.text(), "a");
   attend(KeyAttention::triggerOnly);
   EXPECT_TRUE(queue.runUntil([&] { return other.text() == "ab"; })) << other.text();
@@ -251,8 +249,7 @@ TEST_F(X11EventTapTest, PassesKeptKeysOnWhenTheThreadEnds) {
   start();
   holdBack();
   typist->type("x:Ab");
-  typist->sync();
-  queue.runUntil([] { return false; }, std::chrono::milliseconds(50));
+  settle(std::chrono::milliseconds(50));
   tap.reset();
   poster.reset();
   keyboard.reset();
