@@ -47,23 +47,6 @@ std::u32string utf32(const std::string& text) {
   return result;
 }
 
-void append(DBusMessageIter* into, std::int32_t value) {
-  dbus_message_iter_append_basic(into, DBUS_TYPE_INT32, &value);
-}
-
-void append(DBusMessageIter* into, std::uint32_t value) {
-  dbus_message_iter_append_basic(into, DBUS_TYPE_UINT32, &value);
-}
-
-void append(DBusMessageIter* into, bool value) {
-  const dbus_bool_t number = value ? TRUE : FALSE;
-  dbus_message_iter_append_basic(into, DBUS_TYPE_BOOLEAN, &number);
-}
-
-void append(DBusMessageIter* into, const char* value) {
-  dbus_message_iter_append_basic(into, DBUS_TYPE_STRING, &value);
-}
-
 void contain(DBusMessageIter* into, int type, const char* signature,
              const std::function<void(DBusMessageIter*)>& fill) {
   DBusMessageIter inner;
@@ -157,10 +140,6 @@ void FakeApplication::join() {
   dbus_connection_flush(connection_.get());
 }
 
-void FakeApplication::refuse(const std::string& member) {
-  answer(member, nullptr);
-}
-
 void FakeApplication::hold(const std::string& member) {
   const std::lock_guard lock(mutex_);
   heldMember_ = member;
@@ -186,8 +165,7 @@ std::u32string FakeApplication::text() const {
 
 int FakeApplication::calls(const std::string& member) const {
   const std::lock_guard lock(mutex_);
-  const auto found = calls_.find(member);
-  return found == calls_.end() ? 0 : found->second;
+  return calls_.contains(member) ? calls_.at(member) : 0;
 }
 
 void FakeApplication::announceWindow(const char* event) {
