@@ -15,15 +15,13 @@ using State = ComposingInputMethod::State;
 enum class Kind { ibus, fcitx };
 
 /// The daemon of an input method with an engine in use.
-class Daemon final : public BusService {
+class Daemon {
  public:
   Daemon(Kind kind, const std::string& address, std::string engine)
-      : BusService(address, kind == Kind::ibus ? "org.freedesktop.IBus" : "org.fcitx.Fcitx5"),
-        kind_(kind),
-        engine_(std::move(engine)) {
-    start();
-  }
-  ~Daemon() override { stop(); }
+      : kind_(kind),
+        engine_(std::move(engine)),
+        service_(address, kind == Kind::ibus ? "org.freedesktop.IBus" : "org.fcitx.Fcitx5",
+                 [this](auto* question) { return answer(question); }) {}
 
   /// Changes without a word.
   void use(const std::string& engine) {
@@ -37,13 +35,13 @@ class Daemon final : public BusService {
             : dbus_message_new_signal("/kimpanel", "org.kde.kimpanel.inputmethod", "Enable");
     const char* name = engine_.c_str();
     dbus_message_append_args(signal, DBUS_TYPE_STRING, &name, DBUS_TYPE_INVALID);
-    send(signal);
+    service_.send(signal);
   }
   int questions() const { return questions_; }
   std::atomic<bool> isHanging = false;
 
  private:
-  DBusMessage* answer(DBusMessage* question) override {
+  DBusMessage* answer(DBusMessage* question) {
     const char* member = kind_ == Kind::ibus ? "Get" : "CurrentInputMethod";
     if (dbus_message_has_member(question, member) == 0) return nullptr;
     ++questions_;
@@ -79,6 +77,7 @@ class Daemon final : public BusService {
   std::atomic<int> questions_ = 0;
   std::mutex mutex_;
   std::string engine_;
+  BusService service_;
 };
 
 class ComposingInputMethodTest : public ::testing::Test {

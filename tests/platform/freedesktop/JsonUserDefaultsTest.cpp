@@ -142,7 +142,7 @@ TEST_F(JsonUserDefaultsTest, IsReplacedBehindALinkEvenADanglingOne) {
 
 class WatchedPreferences : public JsonUserDefaultsTest {
  protected:
-  bool waitFor(const std::function<bool()>& condition) {
+  bool waitFor(auto condition) {
     return eventually(condition, [this] { queue.runReady(); });
   }
   ManualMainQueue queue;

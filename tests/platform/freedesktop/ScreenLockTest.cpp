@@ -13,13 +13,10 @@ constexpr const char* noBus = "unix:path=/nonexistent/bus";
 constexpr const char* sessionList = "org.freedesktop.login1";
 
 /// A service that says whether the screen is locked: a locker, or the list of sessions with one in it.
-class Locker final : public BusService {
+class Locker {
  public:
   Locker(const std::string& address, const std::string& name, bool isLocked)
-      : BusService(address, name), name_(name), isLocked_(isLocked) {
-    start();
-  }
-  ~Locker() override { stop(); }
+      : name_(name), isLocked_(isLocked), service_(address, name, [this](auto* q) { return answer(q); }) {}
 
   void tell(bool isLocked) {
     isLocked_ = isLocked;
@@ -34,7 +31,7 @@ class Locker final : public BusService {
       signal = dbus_message_new_signal("/locker", name_.c_str(), "ActiveChanged");
       dbus_message_append_args(signal, DBUS_TYPE_BOOLEAN, &value, DBUS_TYPE_INVALID);
     }
-    send(signal);
+    service_.send(signal);
   }
 
  private:
@@ -46,7 +43,7 @@ class Locker final : public BusService {
                                  DBUS_TYPE_INVALID) != 0 &&
            std::string(property) == "LockedHint";
   }
-  DBusMessage* answer(DBusMessage* question) override {
+  DBusMessage* answer(DBusMessage* question) const {
     const bool isMark = name_ == sessionList;
     if (isMark ? !asksForTheMark(question) : dbus_message_has_member(question, "GetActive") == 0)
       return nullptr;
@@ -63,6 +60,7 @@ class Locker final : public BusService {
 
   std::string name_;
   std::atomic<bool> isLocked_;
+  BusService service_;
 };
 
 /// A service on the system's bus or on the session's.
