@@ -107,12 +107,6 @@ class X11PasteboardTest : public ::testing::Test {
   X11PasteboardWorld world;
 };
 
-struct Copied {
-  std::string name;
-  Items items;
-  std::size_t pieceSize = 0;
-};
-
 Items fortyTypes() {
   Items items;
   for (std::size_t i = 0; i < 40; ++i) {
@@ -121,39 +115,40 @@ Items fortyTypes() {
   return items;
 }
 
-class X11Restoring : public X11PasteboardTest, public ::testing::WithParamInterface<Copied> {};
-
-TEST_P(X11Restoring, PutsBackEveryByteInOrder) {
-  peer().setPieceSize(GetParam().pieceSize);
-  peer().own("CLIPBOARD", GetParam().items);
-  const auto saved = world.wholeSnapshot();
-  ASSERT_EQ(saved->items, GetParam().items);
-  pasteboard().writeText("for one paste");
-  pasteboard().write(saved->items);
-  auto offered = peer().targets("CLIPBOARD");
-  std::erase_if(offered, [](const std::string& name) { return !x11::isContentTarget(name); });
-  ASSERT_EQ(offered.size(), GetParam().items.size());
-  for (std::size_t i = 0; i < offered.size(); ++i) {
-    EXPECT_EQ(offered[i], GetParam().items[i].type);
-    EXPECT_TRUE(peer().read("CLIPBOARD", offered[i]) == GetParam().items[i].data) << offered[i];
+TEST_F(X11PasteboardTest, PutsBackEveryByteInOrder) {
+  const struct {
+    const char* name;
+    Items items;
+    std::size_t pieceSize = 0;
+  } cases[] = {
+      {"text", {{"UTF8_STRING", "Grüße 👋🏽\n"}, {"STRING", "Gr\xfc\xdf"}}},
+      {"empty text", {{"UTF8_STRING", ""}}},
+      {"HTML and text", {{"text/html", std::string("<p>a\0b</p>", 10)}, {"text/plain;charset=utf-8", "ab"}}},
+      {"picture", {{"image/png", blob(5'000'000)}}},
+      {"picture in pieces", {{"image/png", blob(5'000'000)}, {"text/html", blob(70'000)}}, 65'536},
+      {"files",
+       {{"x-special/gnome-copied-files", "copy\nfile:///a%20b"}, {"text/uri-list", "file:///a%20b\r\n"}}},
+      {"forty types", fortyTypes()},
+      {"forty types in pieces", fortyTypes(), 10'000},
+      {"secret", {{"UTF8_STRING", "pass"}, {"x-kde-passwordManagerHint", "secret"}}},
+  };
+  for (const auto& [name, items, pieceSize] : cases) {
+    SCOPED_TRACE(name);
+    peer().setPieceSize(pieceSize);
+    peer().own("CLIPBOARD", items);
+    const auto saved = world.wholeSnapshot();
+    ASSERT_EQ(saved->items, items);
+    pasteboard().writeText("for one paste");
+    pasteboard().write(saved->items);
+    auto offered = peer().targets("CLIPBOARD");
+    std::erase_if(offered, [](const std::string& type) { return !x11::isContentTarget(type); });
+    ASSERT_EQ(offered.size(), items.size());
+    for (std::size_t i = 0; i < offered.size(); ++i) {
+      EXPECT_EQ(offered[i], items[i].type);
+      EXPECT_TRUE(peer().read("CLIPBOARD", offered[i]) == items[i].data) << offered[i];
+    }
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Contents, X11Restoring,
-    ::testing::Values(
-        Copied{"text", {{"UTF8_STRING", "Grüße 👋🏽\n"}, {"STRING", "Gr\xfc\xdf"}}},
-        Copied{"emptyText", {{"UTF8_STRING", ""}}},
-        Copied{"htmlAndText",
-               {{"text/html", std::string("<p>a\0b</p>", 10)}, {"text/plain;charset=utf-8", "ab"}}},
-        Copied{"picture", {{"image/png", blob(5'000'000)}}},
-        Copied{"pictureInPieces", {{"image/png", blob(5'000'000)}, {"text/html", blob(70'000)}}, 65'536},
-        Copied{"files",
-               {{"x-special/gnome-copied-files", "copy\nfile:///a%20b"},
-                {"text/uri-list", "file:///a%20b\r\n"}}},
-        Copied{"fortyTypes", fortyTypes()}, Copied{"fortyTypesInPieces", fortyTypes(), 10'000},
-        Copied{"secret", {{"UTF8_STRING", "pass"}, {"x-kde-passwordManagerHint", "secret"}}}),
-    [](const auto& tested) { return tested.param.name; });
 
 TEST_F(X11PasteboardTest, WorksWithACommandLineClient) {
   const TemporaryFolder folder;
@@ -248,21 +243,20 @@ TEST_F(X11PasteboardTest, LosesPatienceWithAHungOwner) {
   EXPECT_THAT(log.lines().front(), Not(HasSubstr("secret")));
 }
 
-class X11LateDelivery : public X11PasteboardTest, public ::testing::WithParamInterface<Manner> {};
-
-TEST_P(X11LateDelivery, FillsTheSnapshotAfterTheSelectionHasChangedHands) {
+TEST_F(X11PasteboardTest, FillsTheSnapshotAfterTheSelectionHasChangedHands) {
   const Items items = {{"UTF8_STRING", "b"}, {"text/html", blob(100'000)}, {"image/png", blob(1000)}};
-  peer().own("CLIPBOARD", items, GetParam());
-  const auto taken = world.startSnapshot();
-  ASSERT_FALSE(taken->isComplete);
-  pasteboard().writeText("ours");
-  peer().becomePrompt();
-  EXPECT_TRUE(world.waitFor([&] { return taken->isComplete; }));
-  EXPECT_EQ(taken->items, items);
-  EXPECT_EQ(pasteboard().string(), "ours");
+  for (const Manner manner : {Manner::silent, Manner::onlyTargets}) {
+    SCOPED_TRACE(static_cast<int>(manner));
+    peer().own("CLIPBOARD", items, manner);
+    const auto taken = world.startSnapshot();
+    ASSERT_FALSE(taken->isComplete);
+    pasteboard().writeText("ours");
+    peer().becomePrompt();
+    EXPECT_TRUE(world.waitFor([&] { return taken->isComplete; }));
+    EXPECT_EQ(taken->items, items);
+    EXPECT_EQ(pasteboard().string(), "ours");
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(Owners, X11LateDelivery, ::testing::Values(Manner::silent, Manner::onlyTargets));
 
 TEST_F(X11PasteboardTest, KeepsWhatAnOwnerDeliveredBeforeItEnded) {
   auto leaving = std::make_unique<SelectionPeer>(display().name());
