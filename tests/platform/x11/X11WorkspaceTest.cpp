@@ -49,16 +49,14 @@ class Session {
   std::unique_ptr<XClient> peer;
 };
 
-struct ManagedWorld : Session {
-  ManagedWorld() : Session(true) {}
+template <bool isManaged>
+struct X11World : Session {
+  X11World() : Session(isManaged) {}
   Workspace& workspace() { return *Session::workspace; }
-  void activate(const std::string& name) { show(name); }
-};
-
-struct UnmanagedWorld : Session {
-  UnmanagedWorld() : Session(false) {}
-  Workspace& workspace() { return *Session::workspace; }
-  void activate(const std::string& name) { peer->focus(show(name)); }
+  void activate(const std::string& name) {
+    const auto window = show(name);
+    if (!isManaged) peer->focus(window);
+  }
 };
 
 struct FakeWorld {
@@ -68,8 +66,8 @@ struct FakeWorld {
   FakeWorkspace fake;
 };
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Managed, WorkspaceSuite, ::testing::Types<ManagedWorld>);
-INSTANTIATE_TYPED_TEST_SUITE_P(Unmanaged, WorkspaceSuite, ::testing::Types<UnmanagedWorld>);
+INSTANTIATE_TYPED_TEST_SUITE_P(Managed, WorkspaceSuite, ::testing::Types<X11World<true>>);
+INSTANTIATE_TYPED_TEST_SUITE_P(Unmanaged, WorkspaceSuite, ::testing::Types<X11World<false>>);
 INSTANTIATE_TYPED_TEST_SUITE_P(Fake, WorkspaceSuite, ::testing::Types<FakeWorld>);
 
 class X11WorkspaceTest : public ::testing::Test {
