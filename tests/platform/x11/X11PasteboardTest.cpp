@@ -134,18 +134,19 @@ TEST_F(X11PasteboardTest, PutsBackEveryByteInOrder) {
   };
   for (const auto& [name, items, pieceSize] : cases) {
     SCOPED_TRACE(name);
-    peer().setPieceSize(pieceSize);
-    peer().own("CLIPBOARD", items);
-    const auto saved = world.wholeSnapshot();
+    X11PasteboardWorld fresh;
+    fresh.peer.setPieceSize(pieceSize);
+    fresh.peer.own("CLIPBOARD", items);
+    const auto saved = fresh.wholeSnapshot();
     ASSERT_EQ(saved->items, items);
-    pasteboard().writeText("for one paste");
-    pasteboard().write(saved->items);
-    auto offered = peer().targets("CLIPBOARD");
+    fresh.pasteboard().writeText("for one paste");
+    fresh.pasteboard().write(saved->items);
+    auto offered = fresh.peer.targets("CLIPBOARD");
     std::erase_if(offered, [](const std::string& type) { return !x11::isContentTarget(type); });
     ASSERT_EQ(offered.size(), items.size());
     for (std::size_t i = 0; i < offered.size(); ++i) {
       EXPECT_EQ(offered[i], items[i].type);
-      EXPECT_TRUE(peer().read("CLIPBOARD", offered[i]) == items[i].data) << offered[i];
+      EXPECT_TRUE(fresh.peer.read("CLIPBOARD", offered[i]) == items[i].data) << offered[i];
     }
   }
 }
@@ -247,14 +248,15 @@ TEST_F(X11PasteboardTest, FillsTheSnapshotAfterTheSelectionHasChangedHands) {
   const Items items = {{"UTF8_STRING", "b"}, {"text/html", blob(100'000)}, {"image/png", blob(1000)}};
   for (const Manner manner : {Manner::silent, Manner::onlyTargets}) {
     SCOPED_TRACE(static_cast<int>(manner));
-    peer().own("CLIPBOARD", items, manner);
-    const auto taken = world.startSnapshot();
+    X11PasteboardWorld fresh;
+    fresh.peer.own("CLIPBOARD", items, manner);
+    const auto taken = fresh.startSnapshot();
     ASSERT_FALSE(taken->isComplete);
-    pasteboard().writeText("ours");
-    peer().becomePrompt();
-    EXPECT_TRUE(world.waitFor([&] { return taken->isComplete; }));
+    fresh.pasteboard().writeText("ours");
+    fresh.peer.becomePrompt();
+    EXPECT_TRUE(fresh.waitFor([&] { return taken->isComplete; }));
     EXPECT_EQ(taken->items, items);
-    EXPECT_EQ(pasteboard().string(), "ours");
+    EXPECT_EQ(fresh.pasteboard().string(), "ours");
   }
 }
 
@@ -299,6 +301,12 @@ TEST_F(X11PasteboardTest, CountsLargeTextOnlyWhenItWasReadToTheEnd) {
   pasteboard().writeText(text);
   peer().read("CLIPBOARD", "UTF8_STRING", 2);
   EXPECT_FALSE(hasBeenRead());
+  {
+    SelectionPeer leaving(display().name());
+    leaving.takeFocus();
+    leaving.read("CLIPBOARD", "UTF8_STRING", 2);
+  }
+  EXPECT_FALSE(hasBeenRead()) << "nor by one that ended on the way";
   EXPECT_TRUE(peer().read("CLIPBOARD", "UTF8_STRING") == text);
   EXPECT_TRUE(becomesRead());
 }
