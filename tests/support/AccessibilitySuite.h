@@ -2,13 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <optional>
-#include <string>
-
 #include "platform/Accessibility.h"
 
 namespace tessarin::testing {
+
+/// None where no application has the focus, or the one that has it tells of none.
+inline ElementRef focusedElement(Accessibility& accessibility) {
+  const auto application =
+      readAttribute<ElementRef>(accessibility, accessibility.systemWide(), attribute::focusedApplication);
+  if (!application) return nullptr;
+  return readAttribute<ElementRef>(accessibility, *application, attribute::focusedElement).value_or(nullptr);
+}
 
 /// How an Accessibility behaves, whoever implements it. A `World` has a text field with the focus, and
 /// offers:
@@ -25,13 +29,7 @@ class AccessibilitySuite : public ::testing::Test {
     field = focused();
   }
   Accessibility& accessibility() { return world.accessibility(); }
-  ElementRef focused() {
-    const auto application = readAttribute<ElementRef>(accessibility(), accessibility().systemWide(),
-                                                       attribute::focusedApplication);
-    if (!application) return nullptr;
-    return readAttribute<ElementRef>(accessibility(), *application, attribute::focusedElement)
-        .value_or(nullptr);
-  }
+  ElementRef focused() { return focusedElement(accessibility()); }
   /// So many characters before the caret.
   TextRange before(std::int64_t count) {
     const auto caret = readAttribute<TextRange>(accessibility(), field, attribute::selectedTextRange);

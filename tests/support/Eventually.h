@@ -7,9 +7,7 @@ namespace tessarin::testing {
 
 /// Waits for a condition that another thread or process brings about. `turn` runs between two looks, to let
 /// queued work happen. False when it has not come about in time.
-template <class Condition, class Turn>
-bool eventually(Condition condition, Turn turn,
-                std::chrono::milliseconds patience = std::chrono::seconds(20)) {
+bool eventually(auto condition, auto turn, std::chrono::milliseconds patience = std::chrono::seconds(20)) {
   const auto deadline = std::chrono::steady_clock::now() + patience;
   for (;;) {
     turn();
@@ -19,8 +17,7 @@ bool eventually(Condition condition, Turn turn,
   }
 }
 
-template <class Condition>
-bool eventually(Condition condition) {
+bool eventually(auto condition) {
   return eventually(condition, [] {});
 }
 

@@ -18,10 +18,6 @@ void FakeAccessibility::beginBudget(std::chrono::milliseconds budget) {
   deadline_ = elapsed_ + budget;
 }
 
-bool FakeAccessibility::pause(std::chrono::milliseconds duration) {
-  return spend(duration);
-}
-
 std::optional<AttributeValue> FakeAccessibility::attribute(const ElementRef& element, std::string_view name) {
   const FakeElement* found = answering(element, name);
   if (!found) return std::nullopt;

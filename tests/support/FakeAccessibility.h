@@ -1,11 +1,7 @@
 #pragma once
 
-#include <chrono>
-#include <functional>
 #include <map>
-#include <memory>
 #include <set>
-#include <string>
 #include <vector>
 
 #include "base/Signal.h"
@@ -56,7 +52,7 @@ class FakeAccessibility final : public Accessibility {
   bool isBusy(const ElementRef& element) override {
     return busy && dynamic_cast<const FakeElement*>(element.get()) != nullptr;
   }
-  bool pause(std::chrono::milliseconds duration) override;
+  bool pause(std::chrono::milliseconds duration) override { return spend(duration); }
 
   /// Puts the focus there, and tells of it.
   void focus(const std::shared_ptr<FakeElement>& element);

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include "platform/EventTap.h"
 #include "platform/KeyCodes.h"
 #include "platform/TextInsertion.h"

@@ -2,7 +2,6 @@
 
 #include <deque>
 #include <optional>
-#include <string>
 #include <utility>
 #include <vector>
 

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <chrono>
-#include <functional>
 #include <utility>
-#include <vector>
 
 #include "platform/KeyPoster.h"
 #include "platform/MainQueue.h"

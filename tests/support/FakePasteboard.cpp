@@ -37,14 +37,6 @@ void FakePasteboard::carryOutHeldWrite() {
   if (const auto text = std::exchange(heldWrite, std::nullopt)) change({{"UTF8_STRING", *text}}, true);
 }
 
-void FakePasteboard::write(const std::vector<PasteboardItem>& items) {
-  change(items, false);
-}
-
-void FakePasteboard::copyElsewhere(std::vector<PasteboardItem> items) {
-  change(std::move(items), false);
-}
-
 std::optional<std::string> FakePasteboard::readByApplication() {
   if (!isOurText_) return std::nullopt;
   const std::string text = contents_.front().data;

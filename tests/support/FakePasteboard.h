@@ -1,12 +1,5 @@
 #pragma once
 
-#include <chrono>
-#include <functional>
-#include <memory>
-#include <optional>
-#include <string>
-#include <vector>
-
 #include "platform/MainQueue.h"
 #include "platform/Pasteboard.h"
 
@@ -21,14 +14,14 @@ class FakePasteboard final : public Pasteboard {
   std::optional<std::string> string() override;
   void snapshot(SnapshotReady ready) override;
   void writeText(const std::string& text) override;
-  void write(const std::vector<PasteboardItem>& items) override;
+  void write(const std::vector<PasteboardItem>& items) override { change(items, false); }
   bool isWriteDone() const override { return !heldWrite; }
   std::int64_t changeCount() const override { return changeCount_; }
   bool hasBeenRead() const override { return hasBeenRead_; }
   void onRead(std::function<void()> callback) override { onRead_ = std::move(callback); }
 
   /// Another program copies.
-  void copyElsewhere(std::vector<PasteboardItem> items);
+  void copyElsewhere(std::vector<PasteboardItem> items) { change(std::move(items), false); }
   void copyElsewhere(const std::string& text) { copyElsewhere({{"UTF8_STRING", text}}); }
   /// The application that was sent the chord reads our text to its end. What it got, or nothing when the text
   /// is no longer ours.

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <functional>
 #include <utility>
-#include <vector>
 
 #include "platform/PopupPresenter.h"
 

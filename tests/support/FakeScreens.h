@@ -1,8 +1,5 @@
 #pragma once
 
-#include <optional>
-#include <vector>
-
 #include "platform/Screens.h"
 
 namespace tessarin::testing {

@@ -3,11 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
 #include <optional>
-#include <string>
 #include <utility>
-#include <vector>
 
 #include "platform/StatusBar.h"
 
@@ -30,10 +27,8 @@ class FakeStatusBar final : public StatusBar {
   /// The item of the menu last set, by its title; none when there is no such item.
   std::optional<MenuItem> item(const std::string& title) const {
     if (menus.empty()) return std::nullopt;
-    const auto& menu = menus.back();
-    const auto found =
-        std::find_if(menu.begin(), menu.end(), [&](const auto& i) { return i.title == title; });
-    return found == menu.end() ? std::nullopt : std::optional(*found);
+    const auto found = std::ranges::find(menus.back(), title, &MenuItem::title);
+    return found == menus.back().end() ? std::nullopt : std::optional(*found);
   }
   /// Chooses an item as the user does; one that is missing or disabled fails the test.
   void choose(const std::string& title) {

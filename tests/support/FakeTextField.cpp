@@ -1,5 +1,6 @@
 #include "support/FakeTextField.h"
 
+#include <numeric>
 #include <utility>
 
 #include "text/Graphemes.h"
@@ -46,9 +47,7 @@ void FakeTextField::setCaret(std::size_t position) {
 }
 
 std::string FakeTextField::document() const {
-  std::string whole;
-  for (const std::string& character : characters_) whole += character;
-  return whole;
+  return std::accumulate(characters_.begin(), characters_.end(), std::string());
 }
 
 std::optional<AttributeValue> FakeTextField::textIn(const TextRange& range) const {

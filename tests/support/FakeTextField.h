@@ -1,11 +1,5 @@
 #pragma once
 
-#include <cstddef>
-#include <memory>
-#include <optional>
-#include <string>
-#include <vector>
-
 #include "support/FakeAccessibility.h"
 
 namespace tessarin::testing {

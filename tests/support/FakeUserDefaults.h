@@ -1,9 +1,7 @@
 #pragma once
 
 #include <map>
-#include <string>
 #include <variant>
-#include <vector>
 
 #include "base/Signal.h"
 #include "platform/UserDefaults.h"

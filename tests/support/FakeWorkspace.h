@@ -1,10 +1,7 @@
 #pragma once
 
 #include <map>
-#include <optional>
-#include <string>
 #include <utility>
-#include <vector>
 
 #include "base/Signal.h"
 #include "platform/Workspace.h"
@@ -17,9 +14,8 @@ class FakeWorkspace final : public Workspace {
   std::optional<Application> frontmostApplication() override { return frontmost; }
   std::vector<Application> runningApplications() override { return running; }
   std::optional<ApplicationInfo> application(const std::string& bundleIdentifier) override {
-    const auto found = installed.find(bundleIdentifier);
-    if (found == installed.end()) return std::nullopt;
-    return found->second;
+    return installed.contains(bundleIdentifier) ? std::optional(installed.at(bundleIdentifier))
+                                                : std::nullopt;
   }
   void openUrl(const std::string& url) override { openedUrls.push_back(url); }
   Subscription onContextChanged(std::function<void()> callback) override {

@@ -11,7 +11,6 @@ namespace tessarin::testing {
 /// Collects the log lines written while it lives, by whatever thread.
 class LogRecorder {
  public:
-  LogRecorder() : capture_([this](const std::string& line) { add(line); }) {}
   std::vector<std::string> lines() const {
     const std::lock_guard lock(mutex_);
     return lines_;
@@ -22,14 +21,12 @@ class LogRecorder {
   }
 
  private:
-  void add(const std::string& line) {
-    const std::lock_guard lock(mutex_);
-    lines_.push_back(line);
-  }
-
   mutable std::mutex mutex_;
   std::vector<std::string> lines_;
-  LogCapture capture_;
+  LogCapture capture_{[this](const std::string& line) {
+    const std::lock_guard lock(mutex_);
+    lines_.push_back(line);
+  }};
 };
 
 }  // namespace tessarin::testing

@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
-#include <string>
-
 #include "platform/LoginItem.h"
 
 namespace tessarin::testing {

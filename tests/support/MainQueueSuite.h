@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
 #include <memory>
 #include <thread>
 #include <vector>
@@ -18,8 +17,6 @@ namespace tessarin::testing {
 template <class World>
 class MainQueueSuite : public ::testing::Test {
  protected:
-  using Milliseconds = std::chrono::milliseconds;
-
   MainQueue& queue() { return world.queue(); }
   /// Work that notes a number.
   MainQueue::Work note(int number) {
@@ -60,47 +57,43 @@ TYPED_TEST_P(MainQueueSuite, TakesWorkFromOtherThreads) {
 
 TYPED_TEST_P(MainQueueSuite, RunsDelayedWorkOnceAndNotTooEarly) {
   const auto begun = this->queue().now();
-  this->queue().after(typename TestFixture::Milliseconds(30), this->note(2));
-  this->queue().after(typename TestFixture::Milliseconds(10), this->note(1));
+  this->queue().after(std::chrono::milliseconds(30), this->note(2));
+  this->queue().after(std::chrono::milliseconds(10), this->note(1));
   ASSERT_TRUE(this->untilNoted(2));
   EXPECT_EQ(this->noted, (std::vector<int>{1, 2}));
-  EXPECT_GE(this->queue().now() - begun, typename TestFixture::Milliseconds(30));
+  EXPECT_GE(this->queue().now() - begun, std::chrono::milliseconds(30));
 }
 
 TYPED_TEST_P(MainQueueSuite, RepeatsWorkAsLongAsTheTokenLives) {
-  Subscription token = this->queue().repeat(typename TestFixture::Milliseconds(5), this->note(1));
-  ASSERT_TRUE(this->untilNoted(3));
-  token.reset();
-  const std::size_t count = this->noted.size();
-  this->queue().after(typename TestFixture::Milliseconds(20), this->note(2));
-  ASSERT_TRUE(this->untilNoted(count + 1));
-  EXPECT_EQ(this->noted.back(), 2);
-  EXPECT_EQ(this->noted.size(), count + 1);
-}
-
-TYPED_TEST_P(MainQueueSuite, LetsRepeatedWorkEndItself) {
-  Subscription token;
-  token = this->queue().repeat(typename TestFixture::Milliseconds(5), [&] {
-    this->noted.push_back(1);
-    token.reset();
-  });
-  this->queue().after(typename TestFixture::Milliseconds(25), this->note(2));
-  ASSERT_TRUE(this->untilNoted(2));
-  EXPECT_EQ(this->noted, (std::vector<int>{1, 2}));
+  for (const bool endsItself : {false, true}) {
+    this->noted.clear();
+    Subscription token;
+    token = this->queue().repeat(std::chrono::milliseconds(5), [&] {
+      this->noted.push_back(1);
+      if (endsItself) token.reset();
+    });
+    ASSERT_TRUE(this->untilNoted(endsItself ? 1 : 3));
+    if (!endsItself) token.reset();
+    const std::size_t count = this->noted.size();
+    this->queue().after(std::chrono::milliseconds(25), this->note(2));
+    ASSERT_TRUE(this->untilNoted(count + 1));
+    EXPECT_EQ(this->noted.back(), 2);
+    EXPECT_EQ(this->noted.size(), count + 1) << "ends itself: " << endsItself;
+  }
 }
 
 TYPED_TEST_P(MainQueueSuite, LetsGoOfWorkThatHasRun) {
   const auto owner = std::make_shared<int>(1);
   this->queue().async([owner] {});
-  this->queue().after(typename TestFixture::Milliseconds(1), [owner] {});
+  this->queue().after(std::chrono::milliseconds(1), [owner] {});
   {
-    const Subscription token = this->queue().repeat(typename TestFixture::Milliseconds(5), [owner] {});
+    const Subscription token = this->queue().repeat(std::chrono::milliseconds(5), [owner] {});
   }
   EXPECT_TRUE(this->world.until([&] { return owner.use_count() == 1; }));
 }
 
 REGISTER_TYPED_TEST_SUITE_P(MainQueueSuite, RunsWorkLaterInTheOrderOfTheCalls, TakesWorkFromOtherThreads,
                             RunsDelayedWorkOnceAndNotTooEarly, RepeatsWorkAsLongAsTheTokenLives,
-                            LetsRepeatedWorkEndItself, LetsGoOfWorkThatHasRun);
+                            LetsGoOfWorkThatHasRun);
 
 }  // namespace tessarin::testing

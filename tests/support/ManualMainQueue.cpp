@@ -10,14 +10,6 @@ void ManualMainQueue::add(std::chrono::milliseconds delay, std::shared_ptr<Job> 
   state_->jobs.emplace(Key(now_ + delay, state_->next++), std::move(job));
 }
 
-void ManualMainQueue::async(Work work) {
-  after(std::chrono::milliseconds(0), std::move(work));
-}
-
-void ManualMainQueue::after(std::chrono::milliseconds delay, Work work) {
-  add(delay, std::make_shared<Job>(Job{std::move(work)}));
-}
-
 Subscription ManualMainQueue::repeat(std::chrono::milliseconds interval, Work work) {
   auto job = std::make_shared<Job>(Job{std::move(work), interval});
   add(interval, job);
@@ -37,10 +29,6 @@ std::shared_ptr<ManualMainQueue::Job> ManualMainQueue::takeNext(Clock::time_poin
   state_->jobs.erase(first);
   if (job->interval.count() > 0) state_->jobs.emplace(Key(now_ + job->interval, state_->next++), job);
   return job;
-}
-
-void ManualMainQueue::runReady() {
-  advance(std::chrono::milliseconds(0));
 }
 
 void ManualMainQueue::advance(std::chrono::milliseconds duration) {

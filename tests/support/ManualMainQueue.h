@@ -1,6 +1,5 @@
 #pragma once
 
-#include <chrono>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -16,13 +15,15 @@ class ManualMainQueue final : public MainQueue {
  public:
   using Clock = std::chrono::steady_clock;
 
-  void async(Work work) override;
-  void after(std::chrono::milliseconds delay, Work work) override;
+  void async(Work work) override { after(std::chrono::milliseconds(0), std::move(work)); }
+  void after(std::chrono::milliseconds delay, Work work) override {
+    add(delay, std::make_shared<Job>(Job{std::move(work)}));
+  }
   [[nodiscard]] Subscription repeat(std::chrono::milliseconds interval, Work work) override;
   Clock::time_point now() const override { return now_; }
 
   /// Runs what is due now, and what that work makes due.
-  void runReady();
+  void runReady() { advance(std::chrono::milliseconds(0)); }
   /// Moves the clock and runs everything that becomes due on the way, each at its own time.
   void advance(std::chrono::milliseconds duration);
   /// How many pieces of work are waiting: queued, delayed and repeating.

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <chrono>
-
 #include "platform/WallClock.h"
 
 namespace tessarin::testing {

@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <optional>
-#include <string>
-#include <vector>
 
 #include "platform/PopupPresenter.h"
 

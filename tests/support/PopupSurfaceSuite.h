@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <optional>
-#include <vector>
 
 #include "platform/PopupSurface.h"
 #include "ui/PopupContents.h"

@@ -5,8 +5,6 @@
 
 #include <cerrno>
 #include <cstring>
-#include <fstream>
-#include <stdexcept>
 
 #include "support/TemporaryFolder.h"
 

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include "platform/Workspace.h"
 
 namespace tessarin::testing {

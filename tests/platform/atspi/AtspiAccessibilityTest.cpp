@@ -1,9 +1,4 @@
-#include <gtest/gtest.h>
-
 #include <limits>
-#include <memory>
-#include <optional>
-#include <string>
 
 #include "platform/atspi/AtspiAccessibility.h"
 #include "platform/atspi/FakeApplication.h"
@@ -15,22 +10,12 @@
 #include "support/ManualMainQueue.h"
 #include "support/desktop/PrivateSession.h"
 
-namespace tessarin::atspi {
+namespace tessarin::testing {
 namespace {
 
-using testing::Answer;
-using testing::bounds;
-using testing::eventually;
-using testing::extents;
-using testing::FakeApplication;
-using testing::interfaces;
-using testing::ManualMainQueue;
-using testing::onlyAttribute;
-using testing::parent;
-using testing::PrivateSession;
-using testing::property;
-using testing::states;
-using testing::value;
+using atspi::AtspiAccessibility;
+namespace busRole = atspi::busRole;
+namespace busState = atspi::busState;
 using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds longestCall{50};
@@ -69,16 +54,11 @@ class AtspiAccessibilityTest : public ::testing::Test {
     field = focus(FakeApplication::fieldPath);
   }
 
-  ElementRef focusedElement() {
-    const auto focused =
-        readAttribute<ElementRef>(*accessibility, accessibility->systemWide(), attribute::focusedApplication);
-    if (!focused) return nullptr;
-    return readAttribute<ElementRef>(*accessibility, *focused, attribute::focusedElement).value_or(nullptr);
-  }
+  ElementRef focusedElement() { return testing::focusedElement(*accessibility); }
 
   std::string focusedPath() {
     const ElementRef element = focusedElement();
-    return element ? dynamic_cast<const AtspiElement&>(*element).object().path : "";
+    return element ? dynamic_cast<const atspi::AtspiElement&>(*element).object().path : "";
   }
 
   /// Events that came before our listening are lost, so they are told again.
@@ -101,8 +81,22 @@ class AtspiAccessibilityTest : public ::testing::Test {
     return accessibility->setAttribute(field, attribute::selectedText, text);
   }
 
+  void countMoves() {
+    queue.runReady();
+    subscription = accessibility->onFocusMoved([this] { ++moves; });
+  }
+  void announceFocusedField() {
+    application->announceWindow("Activate");
+    application->announceFocus(FakeApplication::fieldPath, true);
+    queue.runReady();
+  }
+  bool becomesFocused(const std::string& path) {
+    return eventually([&] { return focusedPath() == path; });
+  }
+
   static std::unique_ptr<PrivateSession> session;
-  testing::LogRecorder log;
+  const std::uint32_t ours = static_cast<std::uint32_t>(getpid());
+  LogRecorder log;
   ManualMainQueue queue;
   std::optional<std::uint32_t> activeProcess;
   std::optional<Rect> windowFrame;
@@ -110,6 +104,8 @@ class AtspiAccessibilityTest : public ::testing::Test {
   std::unique_ptr<AtspiAccessibility> accessibility;
   std::unique_ptr<FakeApplication> application;
   ElementRef field;
+  int moves = 0;
+  Subscription subscription;
 };
 
 std::unique_ptr<PrivateSession> AtspiAccessibilityTest::session;
@@ -119,12 +115,11 @@ class AtspiWorld {
   AtspiWorld() { moveFocus(); }
   Accessibility& accessibility() { return accessibility_; }
   void setText(const std::string& text) {
-    application_.setText(testing::utf32(text), static_cast<std::int32_t>(testing::utf32(text).size()));
+    application_.setText(utf32(text), static_cast<std::int32_t>(utf32(text).size()));
   }
-  std::string text() const { return testing::utf8(application_.text()); }
+  std::string text() const { return utf8(application_.text()); }
   void moveFocus() { std::swap(here_, there_); }
-  template <class Condition>
-  bool waitFor(Condition condition) {
+  bool waitFor(auto condition) {
     // Events that came before our listening are lost, so they are told again.
     return eventually(condition, [this] {
       application_.announceWindow("Activate");
@@ -156,25 +151,12 @@ class FakeWorld {
   }
   std::string text() const { return fields_[0]->document(); }
   void moveFocus() { accessibility_.focus(fields_[moves_++ % 2]); }
-  template <class Condition>
-  bool waitFor(Condition condition) {
-    return condition();
-  }
+  bool waitFor(auto condition) { return condition(); }
 
  private:
-  testing::FakeAccessibility accessibility_;
-  std::shared_ptr<testing::FakeTextField> fields_[2] = {testing::FakeTextField::create(),
-                                                        testing::FakeTextField::create()};
+  FakeAccessibility accessibility_;
+  std::shared_ptr<FakeTextField> fields_[2] = {FakeTextField::create(), FakeTextField::create()};
   std::size_t moves_ = 0;
-};
-
-/// A call or property that is answered in its own way, and what is asked for then.
-struct Spoilt {
-  const char* name;
-  const char* member;
-  Answer answer;
-  std::string_view attribute = {};
-  std::optional<TextRange> range = {};
 };
 
 TEST_F(AtspiAccessibilityTest, namesRoles) {
@@ -204,12 +186,19 @@ TEST_F(AtspiAccessibilityTest, believesNoGarbage) {
   constexpr auto caret = attribute::selectedTextRange;
   constexpr auto text = attribute::stringForRange;
   constexpr auto place = attribute::boundsForRange;
-  const Spoilt cases[] = {
+  /// A call or property that is answered in its own way, and what is asked for then.
+  const struct {
+    const char* name;
+    const char* member;
+    Answer answer;
+    std::string_view attribute;
+    std::optional<TextRange> range = {};
+  } cases[] = {
       {"negative caret", "CaretOffset", property(-1), caret},
       {"caret is a string", "CaretOffset", property("ten"), caret},
       {"empty role", "GetRole", [](auto*, auto*) {}, attribute::role},
       {"parent has no address", "Parent", parent("not a name", "/x"), attribute::parent},
-      {"parent is none", "Parent", parent(":1.1", nullPath), attribute::parent},
+      {"parent is none", "Parent", parent(":1.1", atspi::nullPath), attribute::parent},
       {"less text", "GetText", value("abc"), text, TextRange{4, 6}},
       {"huge text", "GetText", value(std::string(8 << 20, 'x')), text, TextRange{4, 6}},
       {"range of negative length", "", nullptr, text, TextRange{10, -3}},
@@ -224,7 +213,7 @@ TEST_F(AtspiAccessibilityTest, believesNoGarbage) {
       {"value without a role", "GetRole", nullptr, attribute::value},
       {"value without states", "GetState", value("all of them"), attribute::value},
   };
-  for (const Spoilt& spoilt : cases) {
+  for (const auto& spoilt : cases) {
     SCOPED_TRACE(spoilt.name);
     openApplication();
     application->answer(spoilt.member, spoilt.answer);
@@ -448,8 +437,7 @@ TEST_F(AtspiAccessibilityTest, spendsNoMoreThanTheBudget) {
 TEST_F(AtspiAccessibilityTest, aFocusLetGoByTheActiveProcessIsStillThere) {
   openApplication();
   application->announceWindow("deactivate");
-  ASSERT_TRUE(eventually([this] { return focusedPath().empty(); })) << "the active process is not known";
-  const auto ours = static_cast<std::uint32_t>(getpid());
+  ASSERT_TRUE(becomesFocused("")) << "the active process is not known";
   activeProcess = ours;
   EXPECT_EQ(focusedPath(), FakeApplication::fieldPath);
   EXPECT_EQ(read(attribute::role), AttributeValue(std::string(role::textField)));
@@ -458,13 +446,13 @@ TEST_F(AtspiAccessibilityTest, aFocusLetGoByTheActiveProcessIsStillThere) {
   activeProcess = ours;
   EXPECT_EQ(focusedPath(), FakeApplication::fieldPath);
   application.reset();
-  EXPECT_TRUE(eventually([this] { return focusedPath().empty(); }));
+  EXPECT_TRUE(becomesFocused(""));
 }
 
 TEST_F(AtspiAccessibilityTest, whatHungWhenTheUserWentElsewhereHasNoFocus) {
   openApplication();
   ASSERT_EQ(focusedPath(), FakeApplication::fieldPath);
-  processInBackground = static_cast<std::uint32_t>(getpid());
+  processInBackground = ours;
   accessibility->beginBudget(std::chrono::seconds(5));
   EXPECT_EQ(focusedPath(), "");
   processInBackground.reset();
@@ -474,9 +462,7 @@ TEST_F(AtspiAccessibilityTest, whatHungWhenTheUserWentElsewhereHasNoFocus) {
 
 TEST_F(AtspiAccessibilityTest, believesNoPaneThatTakesTheFocusOfItsField) {
   openApplication();
-  queue.runReady();
-  int moves = 0;
-  const Subscription subscription = accessibility->onFocusMoved([&moves] { ++moves; });
+  countMoves();
   application->answer("GetState", [](DBusMessage* call, DBusMessageIter* reply) {
     const bool isField = std::string_view(dbus_message_get_path(call)) == FakeApplication::fieldPath;
     // Not visible, so that a search, which the looks below may bring about, finds nothing.
@@ -484,46 +470,38 @@ TEST_F(AtspiAccessibilityTest, believesNoPaneThatTakesTheFocusOfItsField) {
     states(shown | (isField ? busState::editable : 0))(call, reply);
   });
   application->announceWindow("deactivate");
-  ASSERT_TRUE(eventually([this] { return focusedPath().empty(); }));
+  ASSERT_TRUE(becomesFocused(""));
   application->announceWindow("activate");
-  ASSERT_TRUE(eventually([this] { return focusedPath() == FakeApplication::fieldPath; }));
+  ASSERT_TRUE(becomesFocused(FakeApplication::fieldPath));
   application->announceFocus(FakeApplication::otherFieldPath, true);
   application->announceFocus(FakeApplication::fieldPath, false);
-  ASSERT_TRUE(eventually([this] { return focusedPath().empty(); })) << "all events have been judged";
+  ASSERT_TRUE(becomesFocused("")) << "all events have been judged";
   queue.runReady();
   EXPECT_EQ(moves, 0);
 }
 
 TEST_F(AtspiAccessibilityTest, leavesOutOurOwnWindows) {
   openApplication();
-  openAccessibility(static_cast<std::uint32_t>(getpid()));
-  int moves = 0;
-  const Subscription subscription = accessibility->onFocusMoved([&moves] { ++moves; });
+  openAccessibility(ours);
+  countMoves();
   ASSERT_TRUE(eventually([this] { return read(attribute::role).has_value(); })) << "now it listens";
-  const auto announce = [this] {
-    application->announceWindow("Activate");
-    application->announceFocus(FakeApplication::fieldPath, true);
-    queue.runReady();
-  };
   const int calls = application->calls("GetRole");
-  EXPECT_FALSE(
-      eventually([this] { return focusedElement() != nullptr; }, announce, std::chrono::milliseconds(300)));
+  EXPECT_FALSE(eventually([this] { return focusedElement() != nullptr; }, [this] { announceFocusedField(); },
+                          std::chrono::milliseconds(300)));
   EXPECT_EQ(moves, 0);
   EXPECT_EQ(application->calls("GetRole"), calls) << "a call would have waited for ourselves";
 }
 
 TEST_F(AtspiAccessibilityTest, leavesOutWindowsInTheBackground) {
   openApplication();
-  queue.runReady();
-  int moves = 0;
-  const Subscription subscription = accessibility->onFocusMoved([&moves] { ++moves; });
+  countMoves();
   FakeApplication background(session->accessibilityBusAddress());
   background.answer("GetState", states(busState::visible | busState::editable | busState::focused));
   background.announceFocus(FakeApplication::otherFieldPath, true);
   ASSERT_TRUE(eventually([&] { return background.calls("GetState") > 0; }));
   application->announceFocus(FakeApplication::fieldPath, false);
   application->announceFocus(FakeApplication::fieldPath, true);
-  EXPECT_TRUE(eventually([this] { return focusedPath() == FakeApplication::fieldPath; }));
+  EXPECT_TRUE(becomesFocused(FakeApplication::fieldPath));
   queue.runReady();
   EXPECT_EQ(moves, 0);
 }
@@ -542,7 +520,7 @@ TEST_F(AtspiAccessibilityTest, looksForTheElementOfAWindowThatOnlyTellsItself) {
   EXPECT_TRUE(eventually(isLooking, announce)) << "as soon as somebody asks";
   application->answerChildren();
   application->release();
-  EXPECT_TRUE(eventually([this] { return focusedPath() == FakeApplication::fieldPath; }));
+  EXPECT_TRUE(becomesFocused(FakeApplication::fieldPath));
   EXPECT_FALSE(eventually(
       isLooking, [] {}, std::chrono::milliseconds(300)));
 }
@@ -556,25 +534,21 @@ TEST_F(AtspiAccessibilityTest, looksForAWindowThatOpenedWithoutAWordWhileWeStart
   application = std::make_unique<FakeApplication>(session->accessibilityBusAddress());
   application->answerChildren();
   application->join();
-  EXPECT_TRUE(eventually([this] { return focusedPath() == FakeApplication::fieldPath; }));
+  EXPECT_TRUE(becomesFocused(FakeApplication::fieldPath));
 }
 
 TEST_F(AtspiAccessibilityTest, comesBackWithTheAccessibilityBus) {
   openApplication();
   session->stopAccessibility();
-  EXPECT_TRUE(eventually([this] { return focusedElement() == nullptr; }));
+  EXPECT_TRUE(becomesFocused(""));
   EXPECT_FALSE(read(attribute::role));
   session->startAccessibility();
   openApplication();
   EXPECT_EQ(read(attribute::role), AttributeValue(std::string(role::textField)));
 }
 
+INSTANTIATE_TYPED_TEST_SUITE_P(Atspi, AccessibilitySuite, ::testing::Types<AtspiWorld>);
+INSTANTIATE_TYPED_TEST_SUITE_P(Fake, AccessibilitySuite, ::testing::Types<FakeWorld>);
+
 }  // namespace
-}  // namespace tessarin::atspi
-
-namespace tessarin::testing {
-
-INSTANTIATE_TYPED_TEST_SUITE_P(Atspi, AccessibilitySuite, ::testing::Types<atspi::AtspiWorld>);
-INSTANTIATE_TYPED_TEST_SUITE_P(Fake, AccessibilitySuite, ::testing::Types<atspi::FakeWorld>);
-
 }  // namespace tessarin::testing

@@ -1,26 +1,16 @@
-#include <gtest/gtest.h>
-
 #include <algorithm>
-#include <fstream>
-#include <memory>
-#include <optional>
-#include <string>
-#include <vector>
 
 #include "platform/atspi/AtspiAccessibility.h"
+#include "support/AccessibilitySuite.h"
 #include "support/Eventually.h"
 #include "support/ManualMainQueue.h"
 #include "support/desktop/PrivateDisplay.h"
 #include "support/desktop/PrivateSession.h"
 
-namespace tessarin::atspi {
+namespace tessarin::testing {
 namespace {
 
-using testing::ChildProcess;
-using testing::eventually;
-using testing::ManualMainQueue;
-using testing::PrivateDisplay;
-using testing::PrivateSession;
+using atspi::AtspiAccessibility;
 
 /// One display for all tests of this file. Each has a session of its own, for editors open what was open
 /// last.
@@ -45,19 +35,9 @@ class EditorTest : public ::testing::Test {
     accessibility = std::make_unique<AtspiAccessibility>(queue, options);
   }
 
-  std::string fileWith(const std::string& text) {
-    const auto file = session.folder() / ("text" + std::to_string(++files) + ".txt");
-    std::ofstream(file) << text;
-    return file.string();
-  }
-
   ElementRef focusedElement() {
     accessibility->beginBudget(std::chrono::seconds(10));
-    const auto application =
-        readAttribute<ElementRef>(*accessibility, accessibility->systemWide(), attribute::focusedApplication);
-    if (!application) return nullptr;
-    return readAttribute<ElementRef>(*accessibility, *application, attribute::focusedElement)
-        .value_or(nullptr);
+    return testing::focusedElement(*accessibility);
   }
 
   bool hasValue() {
@@ -65,9 +45,16 @@ class EditorTest : public ::testing::Test {
     return element && accessibility->attribute(element, attribute::value);
   }
 
+  std::optional<TextRange> caret(const ElementRef& element) {
+    return readAttribute<TextRange>(*accessibility, element, attribute::selectedTextRange);
+  }
+  std::optional<std::string> role() {
+    return readAttribute<std::string>(*accessibility, focusedElement(), attribute::role);
+  }
+
   std::string before(std::int64_t characters) {
     const ElementRef element = focusedElement();
-    const auto range = readAttribute<TextRange>(*accessibility, element, attribute::selectedTextRange);
+    const auto range = caret(element);
     if (!range) return "(no caret)";
     const auto text = accessibility->parameterizedAttribute(
         element, attribute::stringForRange, TextRange{range->location - characters, characters});
@@ -76,7 +63,7 @@ class EditorTest : public ::testing::Test {
 
   AccessibilityStatus replace(std::int64_t characters, const std::string& text) {
     const ElementRef element = focusedElement();
-    const auto range = readAttribute<TextRange>(*accessibility, element, attribute::selectedTextRange);
+    const auto range = caret(element);
     if (!range) return AccessibilityStatus::failure;
     const std::int64_t start = std::max<std::int64_t>(range->location - characters, 0);
     accessibility->setAttribute(element, attribute::selectedTextRange,
@@ -92,7 +79,6 @@ class EditorTest : public ::testing::Test {
   ManualMainQueue queue;
   std::unique_ptr<AtspiAccessibility> accessibility;
   std::optional<Rect> windowFrame;
-  int files = 0;
 };
 
 std::unique_ptr<PrivateDisplay> EditorTest::display;
@@ -106,8 +92,9 @@ class EachEditorTest : public EditorTest, public ::testing::WithParamInterface<E
  protected:
   /// Starts the editor on a text and puts the caret at its end.
   void open(const std::string& text) {
+    session.folder().write("text.txt", text);
     std::vector<std::string> command = GetParam().command;
-    command.push_back(fileWith(text));
+    command.push_back(session.folder() / "text.txt");
     editor = session.start(command);
     ASSERT_TRUE(eventually([this] { return hasValue(); }));
     // The file may be read after the window has come, and the caret is set back then.
@@ -128,7 +115,7 @@ TEST_P(EachEditorTest, replacesInTheMiddleByTextOfManyUnits) {
   for (int i = 0; i < 5; ++i) press("Left");
   type(":a");
   ASSERT_TRUE(eventually([this] { return before(2) == ":a"; }));
-  EXPECT_EQ(readAttribute<std::string>(*accessibility, focusedElement(), attribute::role), role::textArea);
+  EXPECT_EQ(role(), role::textArea);
   EXPECT_EQ(replace(2, "👩‍🚀é\nZ"), AccessibilityStatus::success);
   EXPECT_EQ(before(4), "👩‍🚀é\nZ");
   // What is typed next stands behind the text, so the caret does.
@@ -141,7 +128,7 @@ TEST_P(EachEditorTest, tellsWhereTheCaretIs) {
   if (std::string(GetParam().name) == "gtk4") windowFrame = Rect{};
   ASSERT_NO_FATAL_FAILURE(open("one two"));
   const ElementRef element = focusedElement();
-  const auto range = readAttribute<TextRange>(*accessibility, element, attribute::selectedTextRange);
+  const auto range = caret(element);
   ASSERT_TRUE(range);
   const auto bounds = accessibility->parameterizedAttribute(element, attribute::boundsForRange, *range);
   ASSERT_TRUE(bounds);
@@ -179,8 +166,8 @@ TEST_F(EditorTest, tellsOfTheFocusMovingInsideAnApplication) {
     queue.runReady();
     return moves == 1;
   }));
-  EXPECT_EQ(readAttribute<std::string>(*accessibility, focusedElement(), attribute::role), role::textField);
+  EXPECT_EQ(role(), role::textField);
 }
 
 }  // namespace
-}  // namespace tessarin::atspi
+}  // namespace tessarin::testing

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 #include "platform/atspi/BusCalls.h"
 #include "platform/atspi/ObjectReference.h"
@@ -46,23 +45,6 @@ std::u32string utf32(const std::string& text) {
   UErrorCode error = U_ZERO_ERROR;
   whole.toUTF32(reinterpret_cast<UChar32*>(result.data()), whole.countChar32(), error);
   return result;
-}
-
-void append(DBusMessageIter* into, std::int32_t value) {
-  dbus_message_iter_append_basic(into, DBUS_TYPE_INT32, &value);
-}
-
-void append(DBusMessageIter* into, std::uint32_t value) {
-  dbus_message_iter_append_basic(into, DBUS_TYPE_UINT32, &value);
-}
-
-void append(DBusMessageIter* into, bool value) {
-  const dbus_bool_t number = value ? TRUE : FALSE;
-  dbus_message_iter_append_basic(into, DBUS_TYPE_BOOLEAN, &number);
-}
-
-void append(DBusMessageIter* into, const char* value) {
-  dbus_message_iter_append_basic(into, DBUS_TYPE_STRING, &value);
 }
 
 void contain(DBusMessageIter* into, int type, const char* signature,
@@ -163,10 +145,6 @@ void FakeApplication::join() {
   dbus_connection_flush(connection_.get());
 }
 
-void FakeApplication::refuse(const std::string& member) {
-  answer(member, nullptr);
-}
-
 void FakeApplication::hold(const std::string& member) {
   const std::lock_guard lock(mutex_);
   heldMember_ = member;
@@ -192,8 +170,7 @@ std::u32string FakeApplication::text() const {
 
 int FakeApplication::calls(const std::string& member) const {
   const std::lock_guard lock(mutex_);
-  const auto found = calls_.find(member);
-  return found == calls_.end() ? 0 : found->second;
+  return calls_.contains(member) ? calls_.at(member) : 0;
 }
 
 void FakeApplication::announceWindow(const char* event) {

@@ -5,14 +5,11 @@
 #include <array>
 #include <atomic>
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <mutex>
 #include <optional>
-#include <string>
 #include <thread>
 #include <type_traits>
-#include <vector>
 
 #include "platform/atspi/DBusHandles.h"
 
@@ -24,12 +21,17 @@ std::u32string utf32(const std::string& text);
 /// Fills in the reply to a call.
 using Answer = std::function<void(DBusMessage* call, DBusMessageIter* reply)>;
 
-void append(DBusMessageIter* into, std::int32_t value);
-void append(DBusMessageIter* into, std::uint32_t value);
-void append(DBusMessageIter* into, bool value);
-void append(DBusMessageIter* into, const char* value);
-inline void append(DBusMessageIter* into, const std::string& value) {
-  append(into, value.c_str());
+template <class T>
+void append(DBusMessageIter* into, const T& value) {
+  if constexpr (std::is_same_v<T, bool>) {
+    const dbus_bool_t number = value ? TRUE : FALSE;
+    dbus_message_iter_append_basic(into, DBUS_TYPE_BOOLEAN, &number);
+  } else if constexpr (std::is_integral_v<T>) {
+    dbus_message_iter_append_basic(into, std::is_signed_v<T> ? DBUS_TYPE_INT32 : DBUS_TYPE_UINT32, &value);
+  } else {
+    const char* text = std::string_view(value).data();
+    dbus_message_iter_append_basic(into, DBUS_TYPE_STRING, &text);
+  }
 }
 /// Opens a container of this type and signature, has it filled and closes it.
 void contain(DBusMessageIter* into, int type, const char* signature,
@@ -76,7 +78,7 @@ class FakeApplication {
   /// Has the desktop count it among its applications.
   void join();
   /// As if the application did not know it.
-  void refuse(const std::string& member);
+  void refuse(const std::string& member) { answer(member, nullptr); }
   /// Keeps the call, and all that come behind it, unanswered until `release`, and carries them out then.
   void hold(const std::string& member);
   void release();

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <array>
 #include <string_view>
 
@@ -29,6 +27,8 @@ int judge(FocusModel& model, char event, std::size_t number) {
   if (event == 'u') model.elementUnfocused(element);
   if (event == 'g') model.applicationGone(window.bus);
   if (event == 'o') model.ownFocused();
+  if (event == 's') model.found({element, window});
+  if (event == 'w') model.found({std::nullopt, window});
   return event == 'f' && model.elementFocused(element) ? 1 : 0;
 }
 
@@ -56,6 +56,10 @@ TEST(FocusModelTest, followsTheEventsOfAllToolkits) {
       {"another application follows", "+1f1-1+3", {{}, other}},
       {"another element follows", "+1f1-1f3", {otherField, {}}},
       {"ours follows", "+1f1-1o1", {}},
+      {"told of what a search found", "+1s1f1", whole},
+      {"on from what a search found", "+1s1f2", {field2, window1}, 1},
+      {"a search finds no element", "+1f1-1w1", {{}, window1}, 0, whole},
+      {"a search finds another element", "+1f1-1w1s2", {field2, window2}},
       {"let go and gone", "+1f1-1g1", {}},
       {"let go, and another one gone", "+1f1-1g3", {}, 0, whole},
   };
@@ -72,25 +76,12 @@ TEST(FocusModelTest, followsTheEventsOfAllToolkits) {
   }
 }
 
-TEST(FocusModelTest, whatASearchFindsIsNoMove) {
+TEST(FocusModelTest, aWindowWithoutAnElementIsToBeSearched) {
   FocusModel model;
   model.windowActivated(window1);
   EXPECT_EQ(model.windowToSearch(), window1);
   model.found({field1, window1});
   EXPECT_FALSE(model.windowToSearch());
-  EXPECT_FALSE(model.elementFocused(field1));
-  EXPECT_TRUE(model.elementFocused(field2));
-}
-
-TEST(FocusModelTest, whatASearchFindsTakesThePlaceOfWhatWasLost) {
-  FocusModel model;
-  model.windowActivated(window1);
-  model.elementFocused(field1);
-  model.windowDeactivated(window1);
-  model.found({std::nullopt, window1});
-  EXPECT_EQ(model.lost(), (FocusModel::Focus{field1, window1})) << "it found no element";
-  model.found({field2, window1});
-  EXPECT_EQ(model.lost(), FocusModel::Focus{});
 }
 
 }  // namespace

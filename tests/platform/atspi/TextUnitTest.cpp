@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "platform/atspi/TextUnit.h"
 
 namespace tessarin::atspi {

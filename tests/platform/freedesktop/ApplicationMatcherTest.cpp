@@ -1,6 +1,3 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <filesystem>
 
 #include "platform/freedesktop/ApplicationMatcher.h"
@@ -36,51 +33,41 @@ class ApplicationMatcherTest : public ::testing::Test {
       std::make_shared<DesktopEntries>(std::vector<fs::path>{folder.path()}, std::vector<std::string>{})};
 };
 
-struct Match {
-  const char* name;
-  WindowIdentity window;
-  const char* identifier;
-  bool isTerminal = false;
-};
-
-class Matching : public ApplicationMatcherTest, public ::testing::WithParamInterface<Match> {
- protected:
-  Matching() {
-    install("org.example.Editor", entry("Editor"));
-    install("writer", entry("Writer", "StartupWMClass=office-writer\n"));
-    install("debian-xterm", entry("XTerm", "StartupWMClass=XTerm\nCategories=System;TerminalEmulator;\n"));
-    install("some-terminal", entry("Some", "Categories=GTK;TerminalEmulator\n"));
-    install("google-chrome", entry("Chrome", "StartupWMClass=Google-chrome\n"));
-    install("chrome-notes-Default", entry("Notes", "StartupWMClass=crx_notes\n"));
-    install("firefox-esr", entry("Firefox", "StartupWMClass=firefox-esr\n"));
-    install("painter", entry("Painter", "Exec=/opt/painter/bin/paint %U\n"));
+TEST_F(ApplicationMatcherTest, FindsTheApplicationOfAWindow) {
+  install("org.example.Editor", entry("Editor"));
+  install("writer", entry("Writer", "StartupWMClass=office-writer\n"));
+  install("debian-xterm", entry("XTerm", "StartupWMClass=XTerm\nCategories=System;TerminalEmulator;\n"));
+  install("some-terminal", entry("Some", "Categories=GTK;TerminalEmulator\n"));
+  install("google-chrome", entry("Chrome", "StartupWMClass=Google-chrome\n"));
+  install("chrome-notes-Default", entry("Notes", "StartupWMClass=crx_notes\n"));
+  install("firefox-esr", entry("Firefox", "StartupWMClass=firefox-esr\n"));
+  install("painter", entry("Painter", "Exec=/opt/painter/bin/paint %U\n"));
+  const struct {
+    const char* name;
+    WindowIdentity window;
+    const char* identifier;
+    bool isTerminal = false;
+  } cases[] = {
+      {"application id", {"org.example.Editor", "Other", "other", ""}, "org.example.Editor"},
+      {"startup class", {"", "Office-Writer", "soffice", ""}, "writer"},
+      {"class is id", {"", "Writer", "w", ""}, "writer"},
+      {"last part of id", {"", "editor", "editor", ""}, "org.example.Editor"},
+      {"not installed", {"", "Plain-Program", "plain", ""}, "Plain-Program"},
+      {"only a program", {"", "", "", "paint"}, "painter"},
+      {"listed by id", {"", "firefox-esr", "Navigator", ""}, "org.mozilla.firefox"},
+      {"browser", {"", "Google-chrome", "google-chrome", ""}, "com.google.Chrome"},
+      {"web application", {"", "Google-chrome", "crx_notes", ""}, "chrome-notes-Default"},
+      {"terminal", {"", "XTerm", "xterm", ""}, "debian-xterm", true},
+      {"unknown terminal", {"", "UXTerm", "uxterm", ""}, "UXTerm", true},
+      {"terminal by category", {"", "some-terminal", "x", ""}, "some-terminal", true},
+      {"listed terminal", {"", "kitty", "kitty", ""}, "net.kovidgoyal.kitty", true},
+  };
+  for (const auto& [name, window, identifier, isTerminal] : cases) {
+    SCOPED_TRACE(name);
+    EXPECT_EQ(identifierOf(window), identifier);
+    EXPECT_EQ(matcher.applicationOf(window).value_or(Application{}).isTerminal, isTerminal);
   }
-};
-
-TEST_P(Matching, FindsTheApplicationOfAWindow) {
-  const auto application = matcher.applicationOf(GetParam().window);
-  ASSERT_TRUE(application);
-  EXPECT_EQ(application->bundleIdentifier, GetParam().identifier);
-  EXPECT_EQ(application->isTerminal, GetParam().isTerminal);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Windows, Matching,
-    ::testing::Values(
-        Match{"ApplicationId", {"org.example.Editor", "Other", "other", ""}, "org.example.Editor"},
-        Match{"StartupClass", {"", "Office-Writer", "soffice", ""}, "writer"},
-        Match{"ClassIsId", {"", "Writer", "w", ""}, "writer"},
-        Match{"LastPartOfId", {"", "editor", "editor", ""}, "org.example.Editor"},
-        Match{"NotInstalled", {"", "Plain-Program", "plain", ""}, "Plain-Program"},
-        Match{"OnlyAProgram", {"", "", "", "paint"}, "painter"},
-        Match{"ListedById", {"", "firefox-esr", "Navigator", ""}, "org.mozilla.firefox"},
-        Match{"Browser", {"", "Google-chrome", "google-chrome", ""}, "com.google.Chrome"},
-        Match{"WebApplication", {"", "Google-chrome", "crx_notes", ""}, "chrome-notes-Default"},
-        Match{"Terminal", {"", "XTerm", "xterm", ""}, "debian-xterm", true},
-        Match{"UnknownTerminal", {"", "UXTerm", "uxterm", ""}, "UXTerm", true},
-        Match{"TerminalByCategory", {"", "some-terminal", "x", ""}, "some-terminal", true},
-        Match{"ListedTerminal", {"", "kitty", "kitty", ""}, "net.kovidgoyal.kitty", true}),
-    [](const auto& tested) { return tested.param.name; });
 
 TEST_F(ApplicationMatcherTest, NoticesWhatIsInstalledAndRemovedLater) {
   EXPECT_EQ(identifierOf({"", "Foo", "", ""}), "Foo");

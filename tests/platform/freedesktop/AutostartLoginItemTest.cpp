@@ -1,7 +1,3 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <filesystem>
 #include <map>
 
 #include "platform/freedesktop/AutostartLoginItem.h"
@@ -18,8 +14,7 @@ using freedesktop::DesktopEntryText;
 using ::testing::HasSubstr;
 
 /// A home folder with an autostart entry in it, and one for everybody beside it.
-class Home {
- public:
+struct Home {
   Home() {
     for (const char* name : {"bin", "config", "system/autostart"}) {
       std::filesystem::create_directories(folder / name);
@@ -27,12 +22,13 @@ class Home {
     folder.write("bin/tessarin", "");
     std::filesystem::permissions(folder / "bin/tessarin", std::filesystem::perms::owner_all);
   }
-
-  void writeOwn(const std::string& content) {
+  void writeOwn(const std::string& content) const {
     std::filesystem::create_directories(folder / "config/autostart");
     folder.write(own, content);
   }
-  void writeForEverybody(const std::string& content) { folder.write(everybodys, content); }
+  void writeForEverybody(const std::string& content) const {
+    folder.write("system/autostart/tessarin.desktop", content);
+  }
   std::string content() const { return folder.read(own); }
   bool hasOwn() const { return std::filesystem::exists(folder / own); }
   AutostartLoginItem makeItem() const {
@@ -41,18 +37,14 @@ class Home {
         {"XDG_CONFIG_DIRS", "relative:" + (folder / "system").string()},
         {"XDG_CURRENT_DESKTOP", "ubuntu:GNOME"},
         {"PATH", folder / "bin"}};
-    const auto environment = [variables](const std::string& name) -> std::optional<std::string> {
-      const auto found = variables.find(name);
-      return found == variables.end() ? std::nullopt : std::optional(found->second);
+    const auto environment = [variables](const std::string& name) {
+      return variables.contains(name) ? std::optional(variables.at(name)) : std::nullopt;
     };
     return AutostartLoginItem(folder / "bin/tessarin", environment);
   }
 
   TemporaryFolder folder;
-
- private:
   const std::string own = "config/autostart/tessarin.desktop";
-  const std::string everybodys = "system/autostart/tessarin.desktop";
 };
 
 class AutostartWorld {
@@ -60,10 +52,8 @@ class AutostartWorld {
   LoginItem& item() { return item_; }
   /// A folder in the file's place keeps even the administrator from writing it.
   void breakDown() {
-    const auto autostart = home_.folder / "config/autostart";
-    if (!std::filesystem::exists(autostart)) return home_.folder.write("config/autostart", "");
-    home_.writeForEverybody(home_.content());
-    std::filesystem::remove_all(autostart);
+    if (home_.hasOwn()) home_.writeForEverybody(home_.content());
+    std::filesystem::remove_all(home_.folder / "config/autostart");
     home_.folder.write("config/autostart", "");
   }
   void disableOutside() { home_.writeOwn(home_.content() + "X-GNOME-Autostart-enabled=false\n"); }

@@ -1,10 +1,4 @@
-#include <dbus/dbus.h>
-#include <gtest/gtest.h>
-
-#include <fstream>
-#include <memory>
 #include <mutex>
-#include <optional>
 
 #include "platform/freedesktop/ComposingInputMethod.h"
 #include "support/Eventually.h"
@@ -21,15 +15,13 @@ using State = ComposingInputMethod::State;
 enum class Kind { ibus, fcitx };
 
 /// The daemon of an input method with an engine in use.
-class Daemon final : public BusService {
+class Daemon {
  public:
   Daemon(Kind kind, const std::string& address, std::string engine)
-      : BusService(address, kind == Kind::ibus ? "org.freedesktop.IBus" : "org.fcitx.Fcitx5"),
-        kind_(kind),
-        engine_(std::move(engine)) {
-    start();
-  }
-  ~Daemon() override { stop(); }
+      : kind_(kind),
+        engine_(std::move(engine)),
+        service_(address, kind == Kind::ibus ? "org.freedesktop.IBus" : "org.fcitx.Fcitx5",
+                 [this](auto* question) { return answer(question); }) {}
 
   /// Changes without a word.
   void use(const std::string& engine) {
@@ -43,13 +35,13 @@ class Daemon final : public BusService {
             : dbus_message_new_signal("/kimpanel", "org.kde.kimpanel.inputmethod", "Enable");
     const char* name = engine_.c_str();
     dbus_message_append_args(signal, DBUS_TYPE_STRING, &name, DBUS_TYPE_INVALID);
-    send(signal);
+    service_.send(signal);
   }
   int questions() const { return questions_; }
   std::atomic<bool> isHanging = false;
 
  private:
-  DBusMessage* answer(DBusMessage* question) override {
+  DBusMessage* answer(DBusMessage* question) {
     const char* member = kind_ == Kind::ibus ? "Get" : "CurrentInputMethod";
     if (dbus_message_has_member(question, member) == 0) return nullptr;
     ++questions_;
@@ -60,11 +52,8 @@ class Daemon final : public BusService {
     }
     DBusMessage* reply = dbus_message_new_method_return(question);
     const char* name = engine_.c_str();
-    if (kind_ == Kind::ibus) {
-      appendDescription(reply, name);
-    } else {
-      dbus_message_append_args(reply, DBUS_TYPE_STRING, &name, DBUS_TYPE_INVALID);
-    }
+    if (kind_ == Kind::ibus) appendDescription(reply, name);
+    if (kind_ == Kind::fcitx) dbus_message_append_args(reply, DBUS_TYPE_STRING, &name, DBUS_TYPE_INVALID);
     return reply;
   }
   static void appendDescription(DBusMessage* reply, const char* name) {
@@ -88,23 +77,22 @@ class Daemon final : public BusService {
   std::atomic<int> questions_ = 0;
   std::mutex mutex_;
   std::string engine_;
+  BusService service_;
 };
 
 class ComposingInputMethodTest : public ::testing::Test {
  protected:
   void leaveAddress(const std::string& address) {
-    std::ofstream(folder.path() / "address")
-        << "# a comment\nIBUS_ADDRESS=" << address << "\nIBUS_DAEMON_PID=1\n";
+    folder.write("address", "# a comment\nIBUS_ADDRESS=" + address + "\nIBUS_DAEMON_PID=1\n");
   }
   bool becomes(State state) {
     return eventually([&] { return method->state() == state; });
   }
   void connect(const std::string& sessionAddress) {
-    method = std::make_unique<ComposingInputMethod>(
-        sessionAddress, [this](const std::string& name) -> std::optional<std::string> {
-          if (name == "IBUS_ADDRESS_FILE") return (folder.path() / "address").string();
-          return std::nullopt;
-        });
+    method = std::make_unique<ComposingInputMethod>(sessionAddress, [this](const std::string& name) {
+      const bool isAsked = name == "IBUS_ADDRESS_FILE";
+      return isAsked ? std::optional((folder / "address").string()) : std::nullopt;
+    });
   }
 
   TemporaryFolder folder;

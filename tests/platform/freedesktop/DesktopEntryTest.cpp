@@ -1,6 +1,3 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "platform/freedesktop/BaseFolders.h"
 #include "platform/freedesktop/DesktopEntry.h"
 
@@ -68,10 +65,8 @@ TEST(DesktopEntry, EscapesAreUndone) {
 }
 
 Environment environment(const std::map<std::string, std::string>& variables) {
-  return [variables](const std::string& name) -> std::optional<std::string> {
-    const auto found = variables.find(name);
-    if (found == variables.end()) return std::nullopt;
-    return found->second;
+  return [variables](const std::string& name) {
+    return variables.contains(name) ? std::optional(variables.at(name)) : std::nullopt;
   };
 }
 

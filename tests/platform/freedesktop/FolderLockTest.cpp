@@ -1,6 +1,3 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "platform/freedesktop/FolderLock.h"
 #include "support/LogRecorder.h"
 #include "support/TemporaryFolder.h"

@@ -1,46 +1,40 @@
-#include <gtest/gtest.h>
 #include <poll.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 
 #include <atomic>
-#include <chrono>
-#include <cstdlib>
-#include <filesystem>
 #include <thread>
 
 #include "base/FileDescriptor.h"
 #include "platform/freedesktop/InstanceSocket.h"
+#include "support/TemporaryFolder.h"
 
 namespace tessarin::freedesktop {
 namespace {
 
 class InstanceSocketTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    std::string pattern = (std::filesystem::temp_directory_path() / "tessarin-socket-XXXXXX").string();
-    folder_ = mkdtemp(pattern.data());
-    setenv("XDG_RUNTIME_DIR", folder_.c_str(), 1);
-  }
-  void TearDown() override {
-    unsetenv("XDG_RUNTIME_DIR");
-    std::filesystem::remove_all(folder_);
-  }
+  void SetUp() override { setenv("XDG_RUNTIME_DIR", folder.path().c_str(), 1); }
+  void TearDown() override { unsetenv("XDG_RUNTIME_DIR"); }
 
   /// Serves one request on this thread while another asks.
   static std::string served(const InstanceSocket& socket) {
     std::string seen;
     pollfd waiting{socket.descriptor(), POLLIN, 0};
-    if (poll(&waiting, 1, 5000) == 1) {
-      socket.serve([&](const std::string& request) {
-        seen = request;
-        return "done: " + request;
-      });
-    }
+    if (poll(&waiting, 1, 5000) != 1) return seen;
+    socket.serve([&](const std::string& request) { return "done: " + (seen = request); });
     return seen;
   }
+  /// What another instance gets that asks for "toggle".
+  static std::optional<std::string> answerTo(const std::string& dataFolder, const InstanceSocket& socket) {
+    std::optional<std::string> answer;
+    std::thread asking([&] { answer = requestOfRunningInstance(dataFolder, "toggle"); });
+    EXPECT_EQ(served(socket), "toggle");
+    asking.join();
+    return answer;
+  }
 
-  std::string folder_;
+  const testing::TemporaryFolder folder;
 };
 
 TEST_F(InstanceSocketTest, RequestReachesTheInstanceOfTheSameFolderOnly) {
@@ -48,37 +42,28 @@ TEST_F(InstanceSocketTest, RequestReachesTheInstanceOfTheSameFolderOnly) {
   const auto socket = InstanceSocket::listen("/data/one");
   ASSERT_TRUE(socket);
   EXPECT_EQ(requestOfRunningInstance("/data/two", "toggle"), std::nullopt);
-  std::optional<std::string> answer;
-  std::thread client([&] { answer = requestOfRunningInstance("/data/one", "toggle"); });
-  EXPECT_EQ(served(*socket), "toggle");
-  client.join();
-  EXPECT_EQ(answer, "done: toggle");
+  EXPECT_EQ(answerTo("/data/one", *socket), "done: toggle");
 }
 
 TEST_F(InstanceSocketTest, IsFoundWithAnotherRuntimeFolderAndUnderAnotherNameOfTheDataFolder) {
-  const std::string data = folder_ + "/data";
-  const std::string alias = folder_ + "/alias";
+  const std::string data = folder / "data";
   std::filesystem::create_directory(data);
-  std::filesystem::create_symlink(data, alias);
+  std::filesystem::create_symlink(data, folder / "alias");
   {
     const auto socket = InstanceSocket::listen(data);
-    for (const std::string& runtime : {folder_, std::string(), data}) {
+    for (const std::string& runtime : {folder.path().string(), std::string(), data}) {
       setenv("XDG_RUNTIME_DIR", runtime.c_str(), 1);
-      std::optional<std::string> answer;
-      std::thread asking([&] { answer = requestOfRunningInstance(alias, "toggle"); });
-      served(*socket);
-      asking.join();
-      EXPECT_EQ(answer, "done: toggle") << runtime;
+      EXPECT_EQ(answerTo(folder / "alias", *socket), "done: toggle") << runtime;
     }
   }
   EXPECT_TRUE(std::filesystem::is_empty(data));
 }
 
 TEST_F(InstanceSocketTest, AClientThatSpeaksTooSlowlyIsNotHeardOut) {
-  const auto socket = InstanceSocket::listen(folder_);
+  const auto socket = InstanceSocket::listen(folder.path());
   ASSERT_TRUE(socket);
   sockaddr_un place{AF_UNIX, {}};
-  (folder_ + "/instance.socket").copy(place.sun_path, sizeof place.sun_path - 1);
+  (folder / "instance.socket").string().copy(place.sun_path, sizeof place.sun_path - 1);
   const FileDescriptor client(::socket(AF_UNIX, SOCK_STREAM, 0));
   ASSERT_EQ(connect(client.get(), reinterpret_cast<const sockaddr*>(&place), sizeof place), 0);
   std::atomic<bool> isServed{false};

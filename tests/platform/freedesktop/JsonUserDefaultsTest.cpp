@@ -1,8 +1,3 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <filesystem>
-
 #include "platform/freedesktop/JsonUserDefaults.h"
 #include "support/Eventually.h"
 #include "support/FakeUserDefaults.h"
@@ -147,7 +142,7 @@ TEST_F(JsonUserDefaultsTest, IsReplacedBehindALinkEvenADanglingOne) {
 
 class WatchedPreferences : public JsonUserDefaultsTest {
  protected:
-  bool waitFor(const std::function<bool()>& condition) {
+  bool waitFor(auto condition) {
     return eventually(condition, [this] { queue.runReady(); });
   }
   ManualMainQueue queue;

@@ -1,16 +1,11 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
 #include <atomic>
 #include <csignal>
 #include <map>
-#include <new>
-#include <optional>
 #include <random>
 #include <thread>
 
@@ -76,6 +71,11 @@ class StorageFault : public ::testing::TestWithParam<Fault> {
     }
   }
   const fs::path& root() const { return disk->folder().path(); }
+  static void saveSomething(Data& data) {
+    data.store.addSnippet(snippet("1", "before"));
+    data.store.usageTracker().recordUsage("a");
+    data.defaults.set("kept", "before");
+  }
   void expectOnDisk(const Data& data) const {
     const Data later(root());
     EXPECT_EQ(later.store.userSnippets(), data.store.userSnippets());
@@ -89,9 +89,7 @@ class StorageFault : public ::testing::TestWithParam<Fault> {
 
 TEST_P(StorageFault, LosesNothingAndSaysWhatHappened) {
   Data data(root());
-  data.store.addSnippet(snippet("1", "before"));
-  data.store.usageTracker().recordUsage("a");
-  data.defaults.set("kept", "before");
+  saveSomething(data);
   const auto before = contents(root());
   log.clear();
 
@@ -119,9 +117,7 @@ TEST_P(StorageFault, LosesNothingAndSaysWhatHappened) {
 
 TEST_P(StorageFault, IsMadeGoodAtTheEndAtLatest) {
   Data data(root());
-  data.store.addSnippet(snippet("1", "before"));
-  data.store.usageTracker().recordUsage("a");
-  data.defaults.set("kept", "before");
+  saveSomething(data);
   GetParam().strike(*disk);
   data.defaults.set("text", "after");
   if (GetParam().failsSaves) data.store.usageTracker().recordUsage("b");

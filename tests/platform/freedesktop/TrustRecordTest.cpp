@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "platform/freedesktop/TrustRecord.h"
 #include "support/TemporaryFolder.h"
 

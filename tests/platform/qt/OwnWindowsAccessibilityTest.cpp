@@ -1,25 +1,17 @@
-#include <gtest/gtest.h>
-
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTextEdit>
-#include <memory>
-#include <string>
 
 #include "platform/qt/OwnWindowsAccessibility.h"
 #include "platform/qt/TestApplication.h"
 #include "support/AccessibilitySuite.h"
 #include "support/FakeAccessibility.h"
 
-namespace tessarin::ui {
+namespace tessarin::testing {
 namespace {
 
-using testing::ensureApplication;
-using testing::eventuallyInLoop;
-using testing::FakeAccessibility;
-using testing::FakeElement;
-using testing::showFocused;
+using ui::OwnWindowsAccessibility;
 
 template <class Edit>
 std::string textOf(const Edit& edit) {
@@ -45,10 +37,7 @@ class OwnWorld {
   }
   std::string text() const { return textOf(*first_); }
   void moveFocus() { (first_->hasFocus() ? second_ : first_)->setFocus(); }
-  template <class Condition>
-  bool waitFor(Condition condition) {
-    return eventuallyInLoop(condition);
-  }
+  bool waitFor(auto condition) { return eventuallyInLoop(condition); }
 
  private:
   bool hasApplication_ = (ensureApplication(), true);
@@ -71,9 +60,7 @@ class World : public ::testing::Test {
   ElementRef focusedApplication() {
     return read<ElementRef>(accessibility().systemWide(), attribute::focusedApplication).value_or(nullptr);
   }
-  ElementRef focused() {
-    return read<ElementRef>(focusedApplication(), attribute::focusedElement).value_or(nullptr);
-  }
+  ElementRef focused() { return focusedElement(accessibility()); }
   std::optional<std::string> string(const ElementRef& element, const TextRange& range) {
     const auto value = accessibility().parameterizedAttribute(element, attribute::stringForRange, range);
     return value ? std::optional(std::get<std::string>(*value)) : std::nullopt;
@@ -240,9 +227,7 @@ TEST_F(OtherApplications, AreNotAskedForOurFocus) {
 
 using OwnWorlds = ::testing::Types<OwnWorld<QLineEdit>, OwnWorld<QTextEdit>, OwnWorld<QPlainTextEdit>>;
 
-}  // namespace
-}  // namespace tessarin::ui
+INSTANTIATE_TYPED_TEST_SUITE_P(OwnWindows, AccessibilitySuite, OwnWorlds);
 
-namespace tessarin::testing {
-INSTANTIATE_TYPED_TEST_SUITE_P(OwnWindows, AccessibilitySuite, ui::OwnWorlds);
+}  // namespace
 }  // namespace tessarin::testing

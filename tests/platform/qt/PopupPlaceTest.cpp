@@ -1,5 +1,3 @@
-#include <gmock/gmock.h>
-
 #include "platform/CoordinateSpace.h"
 #include "support/Eventually.h"
 #include "support/desktop/PrivateDisplay.h"

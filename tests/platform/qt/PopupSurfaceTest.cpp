@@ -23,10 +23,7 @@ class WindowWorld {
   void clickVariant(const PopupContent& content, int index) {
     click(layoutOf(content).variant(index).center());
   }
-  template <class Condition>
-  bool waitFor(Condition condition) {
-    return eventuallyInLoop(condition);
-  }
+  bool waitFor(auto condition) { return eventuallyInLoop(condition); }
 
  private:
   static ui::PopupLayout layoutOf(const PopupContent& content) {
@@ -50,10 +47,7 @@ class FakeWorld {
   }
   void clickRow(const PopupContent&, int index) { std::function(fake_.clickRow)(index); }
   void clickVariant(const PopupContent&, int index) { std::function(fake_.clickVariant)(index); }
-  template <class Condition>
-  bool waitFor(Condition condition) {
-    return condition();
-  }
+  bool waitFor(auto condition) { return condition(); }
 
  private:
   FakePopupSurface fake_;

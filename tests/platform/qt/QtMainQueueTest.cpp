@@ -9,10 +9,7 @@ namespace {
 class QtWorld {
  public:
   MainQueue& queue() { return *queue_; }
-  template <class Condition>
-  bool until(Condition condition) {
-    return eventuallyInLoop(condition);
-  }
+  bool until(auto condition) { return eventuallyInLoop(condition); }
 
  private:
   std::unique_ptr<ui::QtMainQueue> queue_ = (ensureApplication(), std::make_unique<ui::QtMainQueue>());
@@ -21,8 +18,7 @@ class QtWorld {
 class ManualWorld {
  public:
   MainQueue& queue() { return queue_; }
-  template <class Condition>
-  bool until(Condition condition) {
+  bool until(auto condition) {
     constexpr int longest = 1000;
     for (int i = 0; i < longest && !condition(); ++i) queue_.advance(std::chrono::milliseconds(1));
     return condition();

@@ -1,5 +1,3 @@
-#include <gmock/gmock.h>
-
 #include <QAbstractNativeEventFilter>
 #include <QGuiApplication>
 #include <cstdint>
@@ -13,11 +11,11 @@
 #include "support/desktop/ChildProcess.h"
 #include "support/desktop/XClient.h"
 
-namespace tessarin::ui {
+namespace tessarin::testing {
 namespace {
 
 using ::testing::ElementsAre;
-using testing::XClient;
+using ui::QtScreens;
 
 /// The display of the test program: 1280 x 1024 pixels, no window manager, scale 1.
 class Monitors {
@@ -31,7 +29,7 @@ class Monitors {
   /// With everything taken in that the server has told so far.
   QtScreens& screens() {
     client.setRootNumbers(mark, {++marks_});
-    EXPECT_TRUE(testing::eventuallyInLoop([this] { return seen_.count == marks_; }));
+    EXPECT_TRUE(eventuallyInLoop([this] { return seen_.count == marks_; }));
     return screens_;
   }
   /// The right one is the primary and lower than the left one.
@@ -59,7 +57,7 @@ class Monitors {
       if ((event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY && event->atom == atom) ++count;
       return false;
     }
-    const xcb_atom_t atom = qtConnection()->atom(mark);
+    const xcb_atom_t atom = ui::qtConnection()->atom(mark);
     std::uint32_t count = 0;
   };
   Seen seen_;
@@ -80,7 +78,7 @@ class FakeWorld {
   void movePointer(Point point) { fake_.mouse = point; }
 
  private:
-  testing::FakeScreens fake_;
+  FakeScreens fake_;
 };
 
 class QtScreensTest : public ::testing::Test {
@@ -110,17 +108,15 @@ TEST_F(QtScreensTest, FollowsTheMonitorsAndTheCompositor) {
   EXPECT_EQ(screens().screens().size(), 2U);
   EXPECT_EQ(screens().space().flipped(Rect{0, 0, 10, 10}), (Rect{0, 914, 10, 10}));
   {
-    testing::XClient compositor(std::getenv("DISPLAY"));
+    XClient compositor(std::getenv("DISPLAY"));
     compositor.becomeCompositor();
     EXPECT_TRUE(screens().isComposited());
   }
-  EXPECT_TRUE(testing::eventuallyInLoop([this] { return !screens().isComposited(); }));
+  EXPECT_TRUE(eventuallyInLoop([this] { return !screens().isComposited(); }));
 }
 
-}  // namespace
-}  // namespace tessarin::ui
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, ScreensSuite, ::testing::Types<Monitors>);
+INSTANTIATE_TYPED_TEST_SUITE_P(Fake, ScreensSuite, ::testing::Types<FakeWorld>);
 
-namespace tessarin::testing {
-INSTANTIATE_TYPED_TEST_SUITE_P(Qt, ScreensSuite, ::testing::Types<ui::Monitors>);
-INSTANTIATE_TYPED_TEST_SUITE_P(Fake, ScreensSuite, ::testing::Types<ui::FakeWorld>);
+}  // namespace
 }  // namespace tessarin::testing

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QPalette>
 #include <QTest>
@@ -11,10 +9,10 @@
 #include "support/StatusBarSuite.h"
 #include "support/desktop/XClient.h"
 
-namespace tessarin::ui {
+namespace tessarin::testing {
 namespace {
 
-using testing::eventuallyInLoop;
+using ui::QtStatusBar;
 
 /// In an old-style tray, where it is a widget of ours.
 QWidget* icon() {
@@ -56,7 +54,7 @@ class TrayWorld {
   }
 
  private:
-  testing::XClient tray_{std::getenv("DISPLAY")};
+  XClient tray_{std::getenv("DISPLAY")};
   QtStatusBar statusBar_;
 };
 
@@ -76,7 +74,7 @@ class FakeTrayWorld {
   void choose(const std::string& title) { fake_.choose(title); }
 
  private:
-  testing::FakeStatusBar fake_;
+  FakeStatusBar fake_;
 };
 
 class QtStatusBarTest : public ::testing::Test {
@@ -104,7 +102,7 @@ class QtStatusBarTest : public ::testing::Test {
     return false;
   }
 
-  testing::XClient tray{std::getenv("DISPLAY")};
+  XClient tray{std::getenv("DISPLAY")};
   QtStatusBar statusBar;
   int openings = 0;
   std::string chosen;
@@ -155,12 +153,9 @@ TEST_F(QtStatusBarTest, TheSymbolFollowsTheColoursOfTheDesktop) {
   QApplication::setPalette(before);
 }
 
+INSTANTIATE_TYPED_TEST_SUITE_P(Tray, StatusBarSuite, ::testing::Types<TrayWorld>);
+INSTANTIATE_TYPED_TEST_SUITE_P(Fake, StatusBarSuite, ::testing::Types<FakeTrayWorld>);
+
 }  // namespace
-}  // namespace tessarin::ui
-
-namespace tessarin::testing {
-
-INSTANTIATE_TYPED_TEST_SUITE_P(Tray, StatusBarSuite, ::testing::Types<ui::TrayWorld>);
-INSTANTIATE_TYPED_TEST_SUITE_P(Fake, StatusBarSuite, ::testing::Types<ui::FakeTrayWorld>);
 
 }  // namespace tessarin::testing

@@ -18,8 +18,7 @@ inline void ensureApplication() {
   static const QApplication application(count, arguments);
 }
 
-template <class Condition>
-bool eventuallyInLoop(Condition condition) {
+bool eventuallyInLoop(auto condition) {
   return eventually(condition, [] { QCoreApplication::processEvents(); });
 }
 

@@ -1,9 +1,5 @@
 #pragma once
 
-#include <memory>
-#include <string>
-#include <vector>
-
 #include "platform/x11/Handles.h"
 #include "platform/x11/KeyboardLayout.h"
 

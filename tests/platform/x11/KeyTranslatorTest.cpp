@@ -1,4 +1,3 @@
-#include <gtest/gtest.h>
 #include <xkbcommon/xkbcommon-keysyms.h>
 
 #include "platform/KeyCodes.h"
@@ -15,9 +14,7 @@ using x11::TypedKey;
 class KeyTranslatorTest : public ::testing::Test {
  protected:
   void use(const std::vector<std::string>& arguments) {
-    std::vector<std::string> command{"setxkbmap"};
-    command.insert(command.end(), arguments.begin(), arguments.end());
-    ASSERT_EQ(display_.run(command), 0);
+    display_.setLayout(arguments);
     const x11::Connection connection(xcb_connect(display_.name().c_str(), nullptr));
     layout = x11::KeyboardLayout::read(connection.get());
     ASSERT_TRUE(layout);

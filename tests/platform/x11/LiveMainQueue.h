@@ -1,12 +1,11 @@
 #pragma once
 
+#include <algorithm>
 #include <condition_variable>
 #include <deque>
-#include <functional>
 #include <mutex>
 #include <thread>
 #include <utility>
-#include <vector>
 
 #include "platform/MainQueue.h"
 
@@ -37,18 +36,14 @@ class LiveMainQueue final : public MainQueue {
 
  private:
   void runOne() {
-    Work work;
-    {
-      std::unique_lock lock(mutex_);
-      if (due_.empty()) changed_.wait_for(lock, std::chrono::milliseconds(1));
-      for (auto at = due_.begin(); at != due_.end(); ++at) {
-        if (at->first > now()) continue;
-        work = std::move(at->second);
-        due_.erase(at);
-        break;
-      }
-    }
-    if (work) work();
+    std::unique_lock lock(mutex_);
+    if (due_.empty()) changed_.wait_for(lock, std::chrono::milliseconds(1));
+    const auto next = std::ranges::find_if(due_, [this](const auto& job) { return job.first <= now(); });
+    if (next == due_.end()) return;
+    const Work work = std::move(next->second);
+    due_.erase(next);
+    lock.unlock();
+    work();
   }
 
   std::mutex mutex_;

@@ -6,6 +6,8 @@
 #include <cstring>
 #include <stdexcept>
 
+#include "support/Eventually.h"
+
 namespace tessarin::testing {
 namespace {
 
@@ -14,6 +16,11 @@ constexpr std::chrono::seconds patience{10};
 x11::XThread& running(const std::unique_ptr<x11::XThread>& thread) {
   if (!thread) throw std::runtime_error("no display");
   return *thread;
+}
+
+std::string bytesOf(const x11::Owned<xcb_get_property_reply_t>& reply) {
+  return {static_cast<const char*>(xcb_get_property_value(reply.get())),
+          static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
 }
 
 }  // namespace
@@ -34,61 +41,52 @@ SelectionPeer::~SelectionPeer() {
   thread_->stop();
 }
 
+auto SelectionPeer::onThread(auto work) {
+  std::optional<decltype(work())> result;
+  thread_->call([&] { result = work(); }, patience);
+  return result.value();
+}
+
 void SelectionPeer::own(const std::string& selection, std::vector<PasteboardItem> items, Manner manner) {
-  thread_->call(
-      [&] {
-        items_ = std::move(items);
-        manner_ = manner;
-        const auto time = thread_->serverTime(window_);
-        xcb_set_selection_owner(thread_->connection(), window_, atoms_.atom(selection), time);
-        thread_->serverTime(window_);
-      },
-      patience);
+  onThread([&] {
+    items_ = std::move(items);
+    manner_ = manner;
+    const auto time = thread_->serverTime(window_);
+    xcb_set_selection_owner(thread_->connection(), window_, atoms_.atom(selection), time);
+    return thread_->serverTime(window_);
+  });
 }
 
 void SelectionPeer::setPieceSize(std::size_t size) {
-  thread_->call([&] { pieceSize_ = size; }, patience);
+  onThread([&] { return pieceSize_ = size; });
 }
 
 void SelectionPeer::becomePrompt() {
-  thread_->call(
-      [&] {
-        manner_ = Manner::prompt;
-        for (const auto& request : unanswered_) answer(request);
-        unanswered_.clear();
-      },
-      patience);
+  onThread([&] {
+    manner_ = Manner::prompt;
+    for (const auto& request : unanswered_) answer(request);
+    unanswered_.clear();
+    return true;
+  });
 }
 
 std::size_t SelectionPeer::requests() {
-  std::size_t count = 0;
-  thread_->call([&] { count = requests_.size(); }, patience);
-  return count;
+  return onThread([&] { return requests_.size(); });
 }
 
 std::vector<std::string> SelectionPeer::requestedTargets() {
-  std::vector<std::string> names;
-  thread_->call(
-      [&] {
-        for (const auto& request : requests_) names.push_back(atoms_.name(request.target));
-      },
-      patience);
-  return names;
+  return onThread([&] { return atoms_.names(requests_); });
 }
 
 std::string SelectionPeer::lastReadType() {
-  std::string name;
-  thread_->call([&] { name = atoms_.name(lastReadType_); }, patience);
-  return name;
+  return onThread([&] { return atoms_.name(reading_->type); });
 }
 
 void SelectionPeer::takeFocus() {
-  thread_->call(
-      [&] {
-        xcb_set_input_focus(thread_->connection(), XCB_INPUT_FOCUS_PARENT, window_, XCB_CURRENT_TIME);
-        thread_->serverTime(window_);
-      },
-      patience);
+  onThread([&] {
+    xcb_set_input_focus(thread_->connection(), XCB_INPUT_FOCUS_PARENT, window_, XCB_CURRENT_TIME);
+    return thread_->serverTime(window_);
+  });
 }
 
 void SelectionPeer::handle(const xcb_generic_event_t& event) {
@@ -111,7 +109,7 @@ void SelectionPeer::handle(const xcb_generic_event_t& event) {
 // Owning
 
 void SelectionPeer::handleRequest(const xcb_selection_request_event_t& request) {
-  requests_.push_back(request);
+  requests_.push_back(request.target);
   const bool asksWhat = request.target == atoms_.atom("TARGETS");
   const bool answers = manner_ == Manner::prompt || manner_ == Manner::noTargets ||
                        manner_ == Manner::leavesMidway || (manner_ == Manner::onlyTargets && asksWhat);
@@ -188,84 +186,61 @@ void SelectionPeer::notify(const xcb_selection_request_event_t& request, bool an
 
 // Reading
 
-std::shared_ptr<SelectionPeer::Reading> SelectionPeer::startReading(const std::string& selection,
-                                                                    const std::string& target, int pieces) {
-  auto reading = std::make_shared<Reading>();
-  reading->piecesLeft = pieces;
-  thread_->post([this, reading, selection, target] {
-    reading_ = reading;
-    xcb_convert_selection(thread_->connection(), window_, atoms_.atom(selection), atoms_.atom(target),
-                          atoms_.atom("PEER_DATA"), XCB_CURRENT_TIME);
+std::optional<std::string> SelectionPeer::read(const std::string& selection, const std::string& target,
+                                               int pieces) {
+  onThread([&] {
+    reading_.emplace().piecesLeft = pieces;
+    return xcb_convert_selection(thread_->connection(), window_, atoms_.atom(selection), atoms_.atom(target),
+                                 atoms_.atom("PEER_DATA"), XCB_CURRENT_TIME);
   });
-  return reading;
-}
-
-std::optional<std::string> SelectionPeer::read(const std::string& selection, const std::string& target) {
-  const auto reading = startReading(selection, target, -1);
-  std::unique_lock lock(reading->mutex);
-  reading->changed.wait_for(lock, patience, [&] { return reading->isDone; });
-  return reading->isDone ? reading->data : std::nullopt;
-}
-
-void SelectionPeer::readPieces(const std::string& selection, const std::string& target, int pieces) {
-  const auto reading = startReading(selection, target, pieces);
-  std::unique_lock lock(reading->mutex);
-  reading->changed.wait_for(lock, patience, [&] { return reading->piecesLeft == 0; });
+  const auto isOver = [&] { return onThread([&] { return reading_->isDone || reading_->piecesLeft == 0; }); };
+  if (!eventually(
+          isOver, [] {}, patience))
+    return std::nullopt;
+  return onThread([&] { return reading_->data; });
 }
 
 std::vector<std::string> SelectionPeer::targets(const std::string& selection) {
-  const auto data = read(selection, "TARGETS");
-  if (!data) return {};
-  std::vector<xcb_atom_t> atoms(data->size() / 4);
-  std::memcpy(atoms.data(), data->data(), atoms.size() * 4);
-  std::vector<std::string> names;
-  thread_->call([&] { names = atoms_.names(atoms); }, patience);
-  return names;
+  const std::string data = read(selection, "TARGETS").value_or("");
+  std::vector<xcb_atom_t> atoms(data.size() / 4);
+  std::memcpy(atoms.data(), data.data(), atoms.size() * 4);
+  return onThread([&] { return atoms_.names(atoms); });
 }
 
 std::map<std::string, std::string> SelectionPeer::readMultiple(const std::string& selection,
                                                                const std::vector<std::string>& targets) {
-  thread_->call(
-      [&] {
-        std::vector<xcb_atom_t> pairs;
-        for (const auto& target : targets) {
-          pairs.push_back(atoms_.atom(target));
-          pairs.push_back(atoms_.atom("PEER_" + target));
-        }
-        xcb_change_property(thread_->connection(), XCB_PROP_MODE_REPLACE, window_, atoms_.atom("PEER_DATA"),
-                            atoms_.atom("ATOM_PAIR"), 32, static_cast<std::uint32_t>(pairs.size()),
-                            pairs.data());
-      },
-      patience);
-  const auto pairs = read(selection, "MULTIPLE");
-  std::map<std::string, std::string> values;
-  thread_->call(
-      [&] {
-        for (std::size_t i = 0; pairs && i < pairs->size() / 8; ++i) {
-          xcb_atom_t property = XCB_ATOM_NONE;
-          std::memcpy(&property, pairs->data() + i * 8 + 4, 4);
-          if (property != XCB_ATOM_NONE) values[targets[i]] = takenProperty(property);
-        }
-      },
-      patience);
-  return values;
+  onThread([&] {
+    std::vector<xcb_atom_t> pairs;
+    for (const auto& target : targets) {
+      pairs.push_back(atoms_.atom(target));
+      pairs.push_back(atoms_.atom("PEER_" + target));
+    }
+    return xcb_change_property(thread_->connection(), XCB_PROP_MODE_REPLACE, window_,
+                               atoms_.atom("PEER_DATA"), atoms_.atom("ATOM_PAIR"), 32,
+                               static_cast<std::uint32_t>(pairs.size()), pairs.data());
+  });
+  const std::string pairs = read(selection, "MULTIPLE").value_or("");
+  return onThread([&] {
+    std::map<std::string, std::string> values;
+    for (std::size_t i = 0; i < pairs.size() / 8; ++i) {
+      xcb_atom_t property = XCB_ATOM_NONE;
+      std::memcpy(&property, pairs.data() + i * 8 + 4, 4);
+      if (property != XCB_ATOM_NONE) values[targets[i]] = bytesOf(takenProperty(property));
+    }
+    return values;
+  });
 }
 
-std::string SelectionPeer::takenProperty(xcb_atom_t property) {
-  const x11::Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-      thread_->connection(),
-      xcb_get_property(thread_->connection(), 1, window_, property, XCB_GET_PROPERTY_TYPE_ANY, 0, 0x1fffffff),
-      nullptr));
-  return {static_cast<const char*>(xcb_get_property_value(reply.get())),
-          static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
+x11::Owned<xcb_get_property_reply_t> SelectionPeer::takenProperty(xcb_atom_t property) {
+  const auto c = thread_->connection();
+  const auto asked = xcb_get_property(c, 1, window_, property, XCB_GET_PROPERTY_TYPE_ANY, 0, 0x1fffffff);
+  return x11::Owned<xcb_get_property_reply_t>(xcb_get_property_reply(c, asked, nullptr));
 }
 
 void SelectionPeer::handleNotify(const xcb_selection_notify_event_t& event) {
   if (!reading_) return;
   if (event.property == XCB_ATOM_NONE) {
-    const std::lock_guard lock(reading_->mutex);
     reading_->isDone = true;
-    reading_->changed.notify_all();
     return;
   }
   reading_->property = event.property;
@@ -273,23 +248,18 @@ void SelectionPeer::handleNotify(const xcb_selection_notify_event_t& event) {
 }
 
 void SelectionPeer::takeProperty(xcb_atom_t property) {
-  const auto connection = thread_->connection();
   if (reading_->piecesLeft == 0) return;
-  const x11::Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-      connection, xcb_get_property(connection, 1, window_, property, 0, 0, 0x1fffffff), nullptr));
+  const auto reply = takenProperty(property);
   if (!reply) return;
-  const std::lock_guard lock(reading_->mutex);
   if (reply->type == atoms_.atom("INCR")) {
     reading_->isIncremental = true;
     return;
   }
-  const auto length = static_cast<std::size_t>(xcb_get_property_value_length(reply.get()));
-  lastReadType_ = reply->type;
-  if (!reading_->data) reading_->data.emplace();
-  reading_->data->append(static_cast<const char*>(xcb_get_property_value(reply.get())), length);
-  reading_->isDone = !reading_->isIncremental || length == 0;
+  const std::string piece = bytesOf(reply);
+  reading_->type = reply->type;
+  reading_->data = reading_->data.value_or("") + piece;
+  reading_->isDone = !reading_->isIncremental || piece.empty();
   if (reading_->piecesLeft > 0) --reading_->piecesLeft;
-  reading_->changed.notify_all();
 }
 
 }  // namespace tessarin::testing

@@ -1,15 +1,6 @@
 #pragma once
 
-#include <xcb/xcb.h>
-
-#include <condition_variable>
 #include <map>
-#include <memory>
-#include <mutex>
-#include <optional>
-#include <string>
-#include <utility>
-#include <vector>
 
 #include "platform/Pasteboard.h"
 #include "platform/x11/Atoms.h"
@@ -42,14 +33,13 @@ class SelectionPeer {
   /// The names of what it was asked for.
   std::vector<std::string> requestedTargets();
 
-  /// Everything that a selection's owner gives for the target; none when it refuses or takes 10 s.
-  std::optional<std::string> read(const std::string& selection, const std::string& target);
+  /// What a selection's owner gives for the target, at most this many pieces of it; none when it refuses or
+  /// takes 10 s.
+  std::optional<std::string> read(const std::string& selection, const std::string& target, int pieces = -1);
   /// The type under which the owner gave what was read last.
   std::string lastReadType();
   /// What the owner says it offers.
   std::vector<std::string> targets(const std::string& selection);
-  /// Asks for the target and takes at most this many pieces of it.
-  void readPieces(const std::string& selection, const std::string& target, int pieces);
   /// Asks for several targets at once; the values that came, by target.
   std::map<std::string, std::string> readMultiple(const std::string& selection,
                                                   const std::vector<std::string>& targets);
@@ -64,15 +54,16 @@ class SelectionPeer {
     bool lastSent;
   };
   struct Reading {
-    std::mutex mutex;
-    std::condition_variable changed;
     xcb_atom_t property = XCB_ATOM_NONE;
     bool isIncremental = false;
     bool isDone = false;
     int piecesLeft = -1;
+    xcb_atom_t type = XCB_ATOM_NONE;
     std::optional<std::string> data;
   };
 
+  /// Runs on the thread, and gives what the work gives.
+  auto onThread(auto work);
   void handle(const xcb_generic_event_t& event);
   void handleRequest(const xcb_selection_request_event_t& request);
   void answer(const xcb_selection_request_event_t& request);
@@ -82,8 +73,7 @@ class SelectionPeer {
   void sendNextPiece(xcb_window_t requestor, xcb_atom_t property);
   void handleNotify(const xcb_selection_notify_event_t& event);
   void takeProperty(xcb_atom_t property);
-  std::string takenProperty(xcb_atom_t property);
-  std::shared_ptr<Reading> startReading(const std::string& selection, const std::string& target, int pieces);
+  x11::Owned<xcb_get_property_reply_t> takenProperty(xcb_atom_t property);
 
   std::unique_ptr<x11::XThread> thread_;
   x11::Atoms atoms_;
@@ -91,11 +81,10 @@ class SelectionPeer {
   Manner manner_ = Manner::prompt;
   std::size_t pieceSize_ = 0;
   std::vector<PasteboardItem> items_;
-  std::vector<xcb_selection_request_event_t> requests_;
+  std::vector<xcb_atom_t> requests_;
   std::vector<xcb_selection_request_event_t> unanswered_;
   std::vector<Sending> sendings_;
-  std::shared_ptr<Reading> reading_;
-  xcb_atom_t lastReadType_ = XCB_ATOM_NONE;
+  std::optional<Reading> reading_;
 };
 
 }  // namespace tessarin::testing

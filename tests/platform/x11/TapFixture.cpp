@@ -5,15 +5,9 @@
 
 namespace tessarin::testing {
 
-void TapFixture::setLayout(const std::vector<std::string>& layout) {
-  std::vector<std::string> command{"setxkbmap"};
-  command.insert(command.end(), layout.begin(), layout.end());
-  ASSERT_EQ(display.run(command), 0);
-}
-
 void TapFixture::start(const std::vector<std::string>& layout, bool withManager) {
   if (withManager) display.startWindowManager();
-  setLayout(layout);
+  display.setLayout(layout);
   document = std::make_unique<DocumentWindow>(display.name());
   document->clipboard = "😀";
   typist = std::make_unique<Typist>(display.name());
@@ -124,11 +118,15 @@ void TapFixture::finishWhenPasted(int pastes) {
   queue.after(std::chrono::milliseconds(1), [this, pastes] { finishWhenPasted(pastes); });
 }
 
+void TapFixture::settle(std::chrono::milliseconds time) {
+  typist->sync();
+  queue.runUntil([] { return false; }, time);
+}
+
 void TapFixture::expectDocument(const std::string& expected) {
   typist->sync();
   queue.runUntil([&] { return document->text() == expected; });
-  // Nothing may follow.
-  queue.runUntil([] { return false; }, std::chrono::milliseconds(20));
+  settle();
   EXPECT_EQ(document->text(), expected);
 }
 

@@ -1,12 +1,6 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <chrono>
-#include <functional>
-#include <memory>
-#include <string>
-#include <vector>
 
 #include "DocumentWindow.h"
 #include "LiveMainQueue.h"
@@ -17,6 +11,12 @@
 
 namespace tessarin::testing {
 
+inline std::string repeated(const std::string& text, int times) {
+  std::string result;
+  for (int i = 0; i < times; ++i) result += text;
+  return result;
+}
+
 /// A display with a document, a typist, and a tap whose owner collects after ":" like the program does:
 /// letters pass, Return is swallowed and starts an insertion, anything else ends the collecting.
 class TapFixture : public ::testing::Test {
@@ -26,10 +26,11 @@ class TapFixture : public ::testing::Test {
   /// Sets the layout (arguments of setxkbmap) before anybody looks at it.
   void start(const std::vector<std::string>& layout = {"us"}, bool withManager = false);
   void typeAs(Typist::Keyboard device) { typist = std::make_unique<Typist>(display.name(), device); }
-  void setLayout(const std::vector<std::string>& layout);
 
   /// Waits until the document is as expected and everything typed has been dealt with.
   void expectDocument(const std::string& expected);
+  /// Everything typed has arrived, and what follows it at once has happened.
+  void settle(std::chrono::milliseconds time = std::chrono::milliseconds(20));
   KeyVerdict judge(const KeyEvent& event);
   /// Types triggers until one is seen, and leaves an empty document.
   void waitUntilWatching();

@@ -5,10 +5,10 @@
 #include <xkbcommon/xkbcommon-keysyms.h>
 
 #include <stdexcept>
-#include <string_view>
 
 #include "platform/x11/KeyTranslator.h"
 #include "platform/x11/XkbProtocol.h"
+#include "text/Graphemes.h"
 
 namespace tessarin::testing {
 namespace {
@@ -26,11 +26,6 @@ std::uint8_t realKeyboard(xcb_connection_t* connection) {
     }
   }
   throw std::runtime_error("the server has no keyboard");
-}
-
-xkb_keysym_t symbolOf(char32_t c) {
-  if (c == '\n') return XKB_KEY_Return;
-  return xkb_utf32_to_keysym(c);
 }
 
 }  // namespace
@@ -57,7 +52,7 @@ void Typist::lock(std::uint8_t group, std::uint8_t modifiers) {
 }
 
 void Typist::switchGroup(std::uint8_t group) {
-  if (group != group_) tap(XKB_KEY_ISO_Next_Group);
+  if (group != group_) type("<ISO_Next_Group>");
   group_ = group;
 }
 
@@ -90,30 +85,34 @@ void Typist::setModifiers(bool down, std::uint8_t modifiers) {
   }
 }
 
-void Typist::type(const std::string& text) {
-  for (const char16_t c : x11::utf16Text(text)) {
-    const x11::TypedKey found = find(symbolOf(c));
-    setModifiers(true, found.modifiers);
-    key(true, found.code);
-    key(false, found.code);
-    setModifiers(false, found.modifiers);
+void Typist::type(std::string_view keys) {
+  while (!keys.empty()) {
+    const bool isNamed = keys.front() == '<';
+    const std::string key(isNamed ? keys.substr(0, keys.find('>') + 1) : text::firstCharacter(keys));
+    keys.remove_prefix(key.size());
+    isNamed ? typeNamed(key) : typeCharacter(key);
   }
   xcb_flush(connection_.get());
 }
 
-void Typist::press(xkb_keysym_t symbol) {
-  key(true, find(symbol).code);
-  xcb_flush(connection_.get());
+void Typist::typeCharacter(const std::string& character) {
+  const char16_t c = x11::utf16Text(character).front();
+  const x11::TypedKey found = find(c == '\n' ? XKB_KEY_Return : xkb_utf32_to_keysym(c));
+  setModifiers(true, found.modifiers);
+  key(true, found.code);
+  key(false, found.code);
+  setModifiers(false, found.modifiers);
 }
 
-void Typist::release(xkb_keysym_t symbol) {
-  key(false, find(symbol).code);
-  xcb_flush(connection_.get());
-}
-
-void Typist::tap(xkb_keysym_t symbol) {
-  press(symbol);
-  release(symbol);
+void Typist::typeNamed(const std::string& key) {
+  const std::string name = key.substr(1, key.size() - 2);
+  const char sign = name.front();
+  const bool isSigned = sign == '+' || sign == '-';
+  const auto symbol = xkb_keysym_from_name(name.c_str() + (isSigned ? 1 : 0), XKB_KEYSYM_NO_FLAGS);
+  if (symbol == XKB_KEY_NoSymbol) throw std::runtime_error("no symbol " + name);
+  const std::uint8_t code = find(symbol).code;
+  if (sign != '-') this->key(true, code);
+  if (sign != '+') this->key(false, code);
 }
 
 }  // namespace tessarin::testing

@@ -3,8 +3,7 @@
 #include <xkbcommon/xkbcommon.h>
 
 #include <cstdint>
-#include <memory>
-#include <string>
+#include <string_view>
 
 #include "platform/x11/Handles.h"
 #include "platform/x11/KeyboardLayout.h"
@@ -19,11 +18,9 @@ class Typist {
 
   explicit Typist(const std::string& display, Keyboard keyboard = Keyboard::synthetic);
 
-  /// Each character with the modifiers that it needs; "\n" is Return.
-  void type(const std::string& text);
-  void tap(xkb_keysym_t symbol);
-  void press(xkb_keysym_t symbol);
-  void release(xkb_keysym_t symbol);
+  /// Each character with the modifiers that it needs; "\n" is Return. "<Left>" taps the key of that name as
+  /// it is, "<+Shift_L>" presses it and "<-Shift_L>" lets it go.
+  void type(std::string_view keys);
   /// Returns when the server has taken all keys.
   void sync();
   /// After a change of the mapping.
@@ -35,6 +32,8 @@ class Typist {
 
  private:
   void key(bool down, std::uint8_t code);
+  void typeCharacter(const std::string& character);
+  void typeNamed(const std::string& key);
   x11::TypedKey find(xkb_keysym_t symbol) const;
   void setModifiers(bool down, std::uint8_t modifiers);
 

@@ -1,5 +1,3 @@
-#include <xkbcommon/xkbcommon-keysyms.h>
-
 #include "TapFixture.h"
 #include "platform/KeyCodes.h"
 
@@ -9,9 +7,9 @@ namespace {
 /// Keys typed on the synthetic device (as by remote desktops) and on a keyboard.
 class X11EventTapModifierTest : public TapFixture, public ::testing::WithParamInterface<Typist::Keyboard> {
  protected:
-  void startPasting() {
+  void startPasting(const std::vector<std::string>& layout = {"us"}) {
     insertion = Insertion::paste;
-    start();
+    start(layout);
     typeAs(GetParam());
   }
 };
@@ -22,83 +20,50 @@ INSTANTIATE_TEST_SUITE_P(Keyboards, X11EventTapModifierTest,
                            return param.param == Typist::Keyboard::real ? "Real" : "Synthetic";
                          });
 
-TEST_P(X11EventTapModifierTest, PostsWithoutTheShiftThatTheUserHolds) {
+TEST_P(X11EventTapModifierTest, KeepsWhatEachKeyWasTypedWithAndLeavesNothingBehind) {
+  struct Case {
+    const char* name;
+    bool areKept;  ///< the first keys, until all of them have been typed
+    std::vector<std::pair<std::string, std::string>> steps;  ///< keys and the document then
+  };
+  const Case cases[] = {
+      {"pastes without the Shift that is held",
+       false,
+       {{":ab<+Shift_L><semicolon>", "😀"}, {"<c>", "😀C"}, {"<-Shift_L><d>", "😀Cd"}}},
+      {"each key with its own",
+       false,
+       {{repeated(":ab<+Shift_L><semicolon><c><-Shift_L><d><+Shift_R><e><-Shift_R>f ", 20),
+         repeated("😀CdEf ", 20)}}},
+      {"held again when it is over",
+       true,
+       {{"<+Shift_L><a><-Shift_L><b><+Shift_L>", "Ab"}, {"<c><-Shift_L><d>", "AbCd"}}},
+      {"let go before it is over", true, {{"<+Shift_L>12<-Shift_L>", "!@"}, {"<a>", "!@a"}}},
+      {"a chord stays one", true, {{"<+Control_L><s><-Control_L><a>", "<Control-s>a"}}},
+  };
   startPasting();
-  typist->type(":ab");
-  typist->press(XKB_KEY_Shift_L);
-  typist->tap(XKB_KEY_semicolon);
-  expectDocument("😀");
-  typist->tap(XKB_KEY_c);
-  expectDocument("😀C");
-  typist->release(XKB_KEY_Shift_L);
-  typist->tap(XKB_KEY_d);
-  expectDocument("😀Cd");
-}
-
-TEST_P(X11EventTapModifierTest, KeepsWhatEachKeyWasTypedWith) {
-  startPasting();
-  for (int i = 0; i < 20; ++i) {
-    typist->type(":ab");
-    typist->press(XKB_KEY_Shift_L);
-    typist->tap(XKB_KEY_semicolon);
-    typist->tap(XKB_KEY_c);
-    typist->release(XKB_KEY_Shift_L);
-    typist->tap(XKB_KEY_d);
-    typist->press(XKB_KEY_Shift_R);
-    typist->tap(XKB_KEY_e);
-    typist->release(XKB_KEY_Shift_R);
-    typist->type("f ");
+  for (const auto& [name, areKept, steps] : cases) {
+    SCOPED_TRACE(name);
+    document->clear();
+    if (areKept) holdBack();
+    for (const auto& [keys, expected] : steps) {
+      typist->type(keys);
+      if (areKept) attend(KeyAttention::triggerOnly);
+      expectDocument(expected);
+    }
+    // Whoever types synthetic keys next finds the device as it was.
+    Typist other(display.name());
+    other.type("Ef");
+    expectDocument(steps.back().second + "Ef");
   }
-  std::string expected;
-  for (int i = 0; i < 20; ++i) expected += "😀CdEf ";
-  expectDocument(expected);
-}
-
-TEST_P(X11EventTapModifierTest, LeavesNoModifierBehind) {
-  startPasting();
-  holdBack();
-  typist->press(XKB_KEY_Shift_L);
-  typist->tap(XKB_KEY_a);
-  typist->release(XKB_KEY_Shift_L);
-  typist->tap(XKB_KEY_b);
-  typist->press(XKB_KEY_Shift_L);
-  attend(KeyAttention::triggerOnly);
-  expectDocument("Ab");
-  typist->tap(XKB_KEY_c);
-  typist->release(XKB_KEY_Shift_L);
-  typist->tap(XKB_KEY_d);
-  expectDocument("AbCd");
-  // Whoever types synthetic keys next finds the device as it was.
-  Typist other(display.name());
-  other.type("Ef");
-  expectDocument("AbCdEf");
-}
-
-TEST_P(X11EventTapModifierTest, DoesNotPressAgainWhatWasLetGo) {
-  startPasting();
-  holdBack();
-  typist->press(XKB_KEY_Shift_L);
-  typist->type("12");
-  typist->release(XKB_KEY_Shift_L);
-  attend(KeyAttention::triggerOnly);
-  expectDocument("!@");
-  typist->tap(XKB_KEY_a);
-  expectDocument("!@a");
 }
 
 TEST_P(X11EventTapModifierTest, RestoresCapsLockAndGroup) {
-  insertion = Insertion::paste;
-  start({"us,ru", "-option", "grp:menu_toggle"});
-  typeAs(GetParam());
+  startPasting({"us,ru", "-option", "grp:menu_toggle"});
   holdBack();
   const int before = document->presses();
-  typist->tap(XKB_KEY_Caps_Lock);
-  typist->type("a");
-  typist->tap(XKB_KEY_Caps_Lock);
-  typist->type("b");
+  typist->type("<Caps_Lock>a<Caps_Lock>b");
   typist->switchGroup(1);
-  typist->type("й");
-  typist->tap(XKB_KEY_Shift_L);
+  typist->type("й<Shift_L>");
   // Keys that type nothing are not kept, so they tell how far it has got.
   ASSERT_TRUE(queue.runUntil([&] { return document->text().empty() && document->presses() == before + 4; }));
   attend(KeyAttention::triggerOnly);
@@ -110,24 +75,10 @@ TEST_P(X11EventTapModifierTest, RestoresCapsLockAndGroup) {
   expectDocument("Abйцd");
 }
 
-TEST_P(X11EventTapModifierTest, TypesKeptChordsAsChords) {
-  startPasting();
-  holdBack();
-  typist->press(XKB_KEY_Control_L);
-  typist->tap(XKB_KEY_s);
-  typist->release(XKB_KEY_Control_L);
-  typist->tap(XKB_KEY_a);
-  attend(KeyAttention::triggerOnly);
-  expectDocument("<Control-s>a");
-}
-
 TEST_P(X11EventTapModifierTest, TellsChordsFromLevels) {
   start({"de"});
   typeAs(GetParam());
-  typist->type(":@");
-  typist->press(XKB_KEY_Control_L);
-  typist->tap(XKB_KEY_q);
-  typist->release(XKB_KEY_Control_L);
+  typist->type(":@<+Control_L><q><-Control_L>");
   expectDocument(":@<Control-q>");
   ASSERT_GE(seen.size(), 2U);
   EXPECT_EQ(seen[1].text, u"@");

@@ -1,5 +1,3 @@
-#include <xkbcommon/xkbcommon-keysyms.h>
-
 #include "TapFixture.h"
 #include "platform/KeyCodes.h"
 #include "support/EventTapSuite.h"
@@ -9,12 +7,6 @@
 
 namespace tessarin::testing {
 namespace {
-
-std::string repeated(const std::string& text, int times) {
-  std::string result;
-  for (int i = 0; i < times; ++i) result += text;
-  return result;
-}
 
 class X11World {
  public:
@@ -62,6 +54,12 @@ class X11EventTapTest : public TapFixture {
       {Typist::Keyboard::synthetic, Insertion::direct},
       {Typist::Keyboard::synthetic, Insertion::paste},
       {Typist::Keyboard::real, Insertion::paste}};
+
+  void use(const std::pair<Typist::Keyboard, Insertion>& manner) {
+    typeAs(manner.first);
+    insertion = manner.second;
+    document->clear();
+  }
 };
 
 TEST_F(X11EventTapTest, SeesAndHoldsNothingButTheTriggerWhileIdle) {
@@ -71,11 +69,7 @@ TEST_F(X11EventTapTest, SeesAndHoldsNothingButTheTriggerWhileIdle) {
   const int before = document->grabs();
   EXPECT_GT(before, 0);
   seen.clear();
-  typist->type("hello; World 123\n;e");
-  typist->press(XKB_KEY_Control_L);
-  typist->tap(XKB_KEY_e);
-  typist->tap(XKB_KEY_semicolon);
-  typist->release(XKB_KEY_Control_L);
+  typist->type("hello; World 123\n;e<+Control_L><e><semicolon><-Control_L>");
   expectDocument("a😀 hello; World 123\n;e<Control-e><Control-semicolon>");
   EXPECT_EQ(document->grabs(), before);
   EXPECT_TRUE(seen.empty());
@@ -93,9 +87,7 @@ TEST_F(X11EventTapTest, LeavesAWindowManagerItsCombinations) {
   xcb_flush(manager.get());
   typist->type(":oO");
   expectDocument(":oO");
-  typist->press(XKB_KEY_Super_L);
-  typist->tap(XKB_KEY_o);
-  typist->release(XKB_KEY_Super_L);
+  typist->type("<+Super_L><o><-Super_L>");
   typist->sync();
   int got = 0;
   EXPECT_TRUE(queue.runUntil([&] {
@@ -108,11 +100,9 @@ TEST_F(X11EventTapTest, LeavesAWindowManagerItsCombinations) {
 
 TEST_F(X11EventTapTest, HoldsEveryKeyOfEitherKeyboardAtAnySpeed) {
   start();
-  for (const auto& [device, how] : manners) {
-    typeAs(device);
-    insertion = how;
+  for (const auto& manner : manners) {
+    use(manner);
     insertions = 0;
-    document->clear();
     for (int i = 0; i < 100; ++i) typist->type("A:Smile\nb C");
     expectDocument(repeated("A😀b C", 100));
     EXPECT_EQ(insertions, 100);
@@ -138,14 +128,12 @@ TEST_F(X11EventTapTest, HoldsKeysWhereTheFocusGoes) {
   document->takeFocus();
   holdBack();
   typist->type("ab");
-  typist->sync();
-  queue.runUntil([] { return false; }, std::chrono::milliseconds(20));
+  settle();
   EXPECT_EQ(focusMoves, 0);
   other.takeFocus();
   ASSERT_TRUE(queue.runUntil([this] { return focusMoves == 1; }));
   typist->type("cd");
-  typist->sync();
-  queue.runUntil([] { return false; }, std::chrono::milliseconds(20));
+  settle();
   EXPECT_EQ(other.text(), "");
   attend(KeyAttention::triggerOnly);
   EXPECT_TRUE(queue.runUntil([&] { return other.text() == "abcd"; })) << other.text();
@@ -167,7 +155,7 @@ TEST_F(X11EventTapTest, HoldsTheKeyBehindAHeldOneWhereTheFocusHasGone) {
   typist->type(":a");
   typist->sync();
   ASSERT_TRUE(queue.runUntil([this] { return focusMoves == 1; }));
-  queue.runUntil([] { return false; }, std::chrono::milliseconds(20));
+  settle();
   EXPECT_EQ(other.text(), "a");
   attend(KeyAttention::triggerOnly);
   EXPECT_TRUE(queue.runUntil([&] { return other.text() == "ab"; })) << other.text();
@@ -176,9 +164,8 @@ TEST_F(X11EventTapTest, HoldsTheKeyBehindAHeldOneWhereTheFocusHasGone) {
 
 TEST_F(X11EventTapTest, KeepsOrderUnderAWindowManagerThatOwnsCombinations) {
   start({"us"}, true);
-  for (const Insertion how : {Insertion::direct, Insertion::paste}) {
-    insertion = how;
-    document->clear();
+  for (const auto& manner : manners) {
+    use(manner);
     for (int i = 0; i < 30; ++i) typist->type("a:eEdDrR\nE ");
     expectDocument(repeated("a😀E ", 30));
   }
@@ -186,23 +173,11 @@ TEST_F(X11EventTapTest, KeepsOrderUnderAWindowManagerThatOwnsCombinations) {
 
 TEST_F(X11EventTapTest, KeepsOverlappingKeysInOrderBehindAnInsertion) {
   start();
-  for (const auto& [device, how] : manners) {
-    insertion = how;
-    typeAs(device);
-    document->clear();
-    typist->type(":a");
-    typist->press(XKB_KEY_b);
-    typist->press(XKB_KEY_Return);
-    typist->press(XKB_KEY_c);
-    typist->press(XKB_KEY_d);
-    typist->release(XKB_KEY_c);
-    typist->press(XKB_KEY_c);
-    typist->release(XKB_KEY_b);
-    typist->release(XKB_KEY_Return);
+  for (const auto& manner : manners) {
+    use(manner);
+    typist->type(":a<+b><+Return><+c><+d><-c><+c><-b><-Return>");
     expectDocument("😀cdc");
-    typist->release(XKB_KEY_c);
-    typist->release(XKB_KEY_d);
-    typist->type("dc");
+    typist->type("<-c><-d>dc");
     expectDocument("😀cdcdc");
   }
 }
@@ -212,11 +187,10 @@ TEST_F(X11EventTapTest, KeepsAutoRepeatBehindAnInsertion) {
   ASSERT_EQ(display.run({"xset", "r", "rate", "120", "100"}), 0);
   holdBack();
   const int before = document->grabs();
-  typist->press(XKB_KEY_o);
+  typist->type("<+o>");
   // Each key that is kept takes the keyboard away from the window for a moment.
   ASSERT_TRUE(queue.runUntil([&] { return document->text().empty() && document->grabs() >= before + 6; }));
-  typist->release(XKB_KEY_o);
-  typist->type("p");
+  typist->type("<-o>p");
   typist->sync();
   EXPECT_EQ(document->text(), "");
   attend(KeyAttention::triggerOnly);
@@ -232,21 +206,13 @@ TEST_F(X11EventTapTest, TakesTheKeyboardOnceWhenHundredsOfKeysAreKept) {
     typeAs(device);
     holdBack();
     const int before = document->grabs();
-    typist->type(repeated("abCd", 75));
-    typist->press(XKB_KEY_Control_L);
-    typist->tap(XKB_KEY_e);
-    typist->tap(XKB_KEY_Left);
-    typist->release(XKB_KEY_Control_L);
-    typist->press(XKB_KEY_Shift_L);
-    typist->tap(XKB_KEY_x);
+    typist->type(repeated("abCd", 75) + "<+Control_L><e><Left><-Control_L><+Shift_L><x>");
     typist->sync();
     EXPECT_TRUE(queue.runUntil([&] { return document->text().empty() && document->grabs() >= before + 8; }));
     queue.runUntil([] { return false; }, std::chrono::milliseconds(50));
     EXPECT_LE(document->grabs(), before + 10);
     attend(KeyAttention::triggerOnly);
-    typist->tap(XKB_KEY_y);
-    typist->release(XKB_KEY_Shift_L);
-    typist->tap(XKB_KEY_z);
+    typist->type("<y><-Shift_L><z>");
     expectDocument(repeated("abCd", 75) + "<Control-e><Control-Left>XYz");
     document->clear();
   }
@@ -283,8 +249,7 @@ TEST_F(X11EventTapTest, PassesKeptKeysOnWhenTheThreadEnds) {
   start();
   holdBack();
   typist->type("x:Ab");
-  typist->sync();
-  queue.runUntil([] { return false; }, std::chrono::milliseconds(50));
+  settle(std::chrono::milliseconds(50));
   tap.reset();
   poster.reset();
   keyboard.reset();

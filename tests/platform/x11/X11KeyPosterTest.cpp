@@ -1,6 +1,3 @@
-#include <gtest/gtest.h>
-#include <xkbcommon/xkbcommon-keysyms.h>
-
 #include "DocumentWindow.h"
 #include "LiveMainQueue.h"
 #include "Typist.h"
@@ -30,9 +27,7 @@ class X11PosterWorld {
   std::string typeTwo() {
     document_.clipboard = "P";
     typist_.lock(layouts[number].group, x11::ModifierBits::capsLock);
-    typist_.tap(XKB_KEY_1);
-    typist_.tap(XKB_KEY_2);
-    typist_.press(XKB_KEY_Shift_R);
+    typist_.type("<1><2><+Shift_R>");
     EXPECT_TRUE(waitFor([this] { return !document().empty() && document_.presses() == 3; }));
     return document();
   }
@@ -40,9 +35,7 @@ class X11PosterWorld {
 
  private:
   static std::string prepared(const PrivateDisplay& display) {
-    std::vector<std::string> command{"setxkbmap"};
-    command.insert(command.end(), layouts[number].arguments.begin(), layouts[number].arguments.end());
-    EXPECT_EQ(display.run(command), 0);
+    display.setLayout(layouts[number].arguments);
     return display.name();
   }
 

@@ -1,6 +1,3 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 #include <fstream>
 #include <thread>
@@ -56,8 +53,7 @@ struct X11PasteboardWorld {
     peer.takeFocus();
     return peer.read("CLIPBOARD", "UTF8_STRING");
   }
-  template <class Condition>
-  bool waitFor(Condition condition) {
+  bool waitFor(auto condition) {
     return eventually(condition, [this] { queue.runReady(); });
   }
   SnapshotRef startSnapshot() {
@@ -83,8 +79,7 @@ struct FakePasteboardWorld {
   Pasteboard& pasteboard() { return fake; }
   void copyElsewhere(Items items) { fake.copyElsewhere(std::move(items)); }
   std::optional<std::string> pasteIntoFocusedApplication() { return fake.readByApplication(); }
-  template <class Condition>
-  bool waitFor(Condition condition) {
+  bool waitFor(auto condition) {
     queue.runReady();
     return condition();
   }
@@ -99,14 +94,17 @@ class X11PasteboardTest : public ::testing::Test {
  protected:
   Pasteboard& pasteboard() { return world.pasteboard(); }
   SelectionPeer& peer() { return world.peer; }
+  /// By now, as everything that has happened so far has been dealt with.
+  bool hasBeenRead() {
+    pasteboard().string();
+    world.queue.runReady();
+    return pasteboard().hasBeenRead();
+  }
+  bool becomesRead() {
+    return world.waitFor([this] { return pasteboard().hasBeenRead(); });
+  }
 
   X11PasteboardWorld world;
-};
-
-struct Copied {
-  std::string name;
-  Items items;
-  std::size_t pieceSize = 0;
 };
 
 Items fortyTypes() {
@@ -117,39 +115,41 @@ Items fortyTypes() {
   return items;
 }
 
-class X11Restoring : public X11PasteboardTest, public ::testing::WithParamInterface<Copied> {};
-
-TEST_P(X11Restoring, PutsBackEveryByteInOrder) {
-  peer().setPieceSize(GetParam().pieceSize);
-  peer().own("CLIPBOARD", GetParam().items);
-  const auto saved = world.wholeSnapshot();
-  ASSERT_EQ(saved->items, GetParam().items);
-  pasteboard().writeText("for one paste");
-  pasteboard().write(saved->items);
-  auto offered = peer().targets("CLIPBOARD");
-  std::erase_if(offered, [](const std::string& name) { return !x11::isContentTarget(name); });
-  ASSERT_EQ(offered.size(), GetParam().items.size());
-  for (std::size_t i = 0; i < offered.size(); ++i) {
-    EXPECT_EQ(offered[i], GetParam().items[i].type);
-    EXPECT_TRUE(peer().read("CLIPBOARD", offered[i]) == GetParam().items[i].data) << offered[i];
+TEST_F(X11PasteboardTest, PutsBackEveryByteInOrder) {
+  const struct {
+    const char* name;
+    Items items;
+    std::size_t pieceSize = 0;
+  } cases[] = {
+      {"text", {{"UTF8_STRING", "Grüße 👋🏽\n"}, {"STRING", "Gr\xfc\xdf"}}},
+      {"empty text", {{"UTF8_STRING", ""}}},
+      {"HTML and text", {{"text/html", std::string("<p>a\0b</p>", 10)}, {"text/plain;charset=utf-8", "ab"}}},
+      {"picture", {{"image/png", blob(5'000'000)}}},
+      {"picture in pieces", {{"image/png", blob(5'000'000)}, {"text/html", blob(70'000)}}, 65'536},
+      {"files",
+       {{"x-special/gnome-copied-files", "copy\nfile:///a%20b"}, {"text/uri-list", "file:///a%20b\r\n"}}},
+      {"forty types", fortyTypes()},
+      {"forty types in pieces", fortyTypes(), 10'000},
+      {"secret", {{"UTF8_STRING", "pass"}, {"x-kde-passwordManagerHint", "secret"}}},
+  };
+  for (const auto& [name, items, pieceSize] : cases) {
+    SCOPED_TRACE(name);
+    X11PasteboardWorld fresh;
+    fresh.peer.setPieceSize(pieceSize);
+    fresh.peer.own("CLIPBOARD", items);
+    const auto saved = fresh.wholeSnapshot();
+    ASSERT_EQ(saved->items, items);
+    fresh.pasteboard().writeText("for one paste");
+    fresh.pasteboard().write(saved->items);
+    auto offered = fresh.peer.targets("CLIPBOARD");
+    std::erase_if(offered, [](const std::string& type) { return !x11::isContentTarget(type); });
+    ASSERT_EQ(offered.size(), items.size());
+    for (std::size_t i = 0; i < offered.size(); ++i) {
+      EXPECT_EQ(offered[i], items[i].type);
+      EXPECT_TRUE(fresh.peer.read("CLIPBOARD", offered[i]) == items[i].data) << offered[i];
+    }
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Contents, X11Restoring,
-    ::testing::Values(
-        Copied{"text", {{"UTF8_STRING", "Grüße 👋🏽\n"}, {"STRING", "Gr\xfc\xdf"}}},
-        Copied{"emptyText", {{"UTF8_STRING", ""}}},
-        Copied{"htmlAndText",
-               {{"text/html", std::string("<p>a\0b</p>", 10)}, {"text/plain;charset=utf-8", "ab"}}},
-        Copied{"picture", {{"image/png", blob(5'000'000)}}},
-        Copied{"pictureInPieces", {{"image/png", blob(5'000'000)}, {"text/html", blob(70'000)}}, 65'536},
-        Copied{"files",
-               {{"x-special/gnome-copied-files", "copy\nfile:///a%20b"},
-                {"text/uri-list", "file:///a%20b\r\n"}}},
-        Copied{"fortyTypes", fortyTypes()}, Copied{"fortyTypesInPieces", fortyTypes(), 10'000},
-        Copied{"secret", {{"UTF8_STRING", "pass"}, {"x-kde-passwordManagerHint", "secret"}}}),
-    [](const auto& tested) { return tested.param.name; });
 
 TEST_F(X11PasteboardTest, WorksWithACommandLineClient) {
   const TemporaryFolder folder;
@@ -179,11 +179,14 @@ TEST_F(X11PasteboardTest, PutsBackTextUnderTheTypeThatItHad) {
   EXPECT_EQ(peer().lastReadType(), "UTF8_STRING");
 }
 
-TEST_F(X11PasteboardTest, KeepsTheTwoSelectionsApart) {
+TEST_F(X11PasteboardTest, KeepsTheTwoSelectionsApartAndForgetsWhatAnotherProgramTakes) {
   world.selections->primary().writeText("selected");
   pasteboard().writeText("copied");
   EXPECT_EQ(peer().read("PRIMARY", "UTF8_STRING"), "selected");
   EXPECT_EQ(peer().read("CLIPBOARD", "UTF8_STRING"), "copied");
+  world.copyElsewhere({{"UTF8_STRING", "theirs"}});
+  EXPECT_EQ(pasteboard().string(), "theirs");
+  EXPECT_EQ(world.selections->primary().string(), "selected");
 }
 
 TEST_F(X11PasteboardTest, OffersTextInEveryUsualForm) {
@@ -202,13 +205,13 @@ TEST_F(X11PasteboardTest, OffersTextInEveryUsualForm) {
 }
 
 TEST_F(X11PasteboardTest, ReadsOlderForms) {
-  peer().own("CLIPBOARD", {{"STRING", "caf\xe9"}});
-  EXPECT_EQ(pasteboard().string(), "café");
-  peer().own("CLIPBOARD", {{"text/plain;charset=utf-8", "café"}});
-  EXPECT_EQ(pasteboard().string(), "café");
-  for (const char* bytes : {"café", "caf\xe9"}) {
-    peer().own("CLIPBOARD", {{"text/plain", bytes}});
-    EXPECT_EQ(pasteboard().string(), "café");
+  const PasteboardItem forms[] = {{"STRING", "caf\xe9"},
+                                  {"text/plain;charset=utf-8", "café"},
+                                  {"text/plain", "café"},
+                                  {"text/plain", "caf\xe9"}};
+  for (const PasteboardItem& form : forms) {
+    peer().own("CLIPBOARD", {form});
+    EXPECT_EQ(pasteboard().string(), "café") << form.type;
   }
   peer().setPieceSize(1000);
   peer().own("CLIPBOARD", {{"UTF8_STRING", std::string(9999, 'x')}});
@@ -241,21 +244,21 @@ TEST_F(X11PasteboardTest, LosesPatienceWithAHungOwner) {
   EXPECT_THAT(log.lines().front(), Not(HasSubstr("secret")));
 }
 
-class X11LateDelivery : public X11PasteboardTest, public ::testing::WithParamInterface<Manner> {};
-
-TEST_P(X11LateDelivery, FillsTheSnapshotAfterTheSelectionHasChangedHands) {
+TEST_F(X11PasteboardTest, FillsTheSnapshotAfterTheSelectionHasChangedHands) {
   const Items items = {{"UTF8_STRING", "b"}, {"text/html", blob(100'000)}, {"image/png", blob(1000)}};
-  peer().own("CLIPBOARD", items, GetParam());
-  const auto taken = world.startSnapshot();
-  ASSERT_FALSE(taken->isComplete);
-  pasteboard().writeText("ours");
-  peer().becomePrompt();
-  EXPECT_TRUE(world.waitFor([&] { return taken->isComplete; }));
-  EXPECT_EQ(taken->items, items);
-  EXPECT_EQ(pasteboard().string(), "ours");
+  for (const Manner manner : {Manner::silent, Manner::onlyTargets}) {
+    SCOPED_TRACE(static_cast<int>(manner));
+    X11PasteboardWorld fresh;
+    fresh.peer.own("CLIPBOARD", items, manner);
+    const auto taken = fresh.startSnapshot();
+    ASSERT_FALSE(taken->isComplete);
+    fresh.pasteboard().writeText("ours");
+    fresh.peer.becomePrompt();
+    EXPECT_TRUE(fresh.waitFor([&] { return taken->isComplete; }));
+    EXPECT_EQ(taken->items, items);
+    EXPECT_EQ(fresh.pasteboard().string(), "ours");
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(Owners, X11LateDelivery, ::testing::Values(Manner::silent, Manner::onlyTargets));
 
 TEST_F(X11PasteboardTest, KeepsWhatAnOwnerDeliveredBeforeItEnded) {
   auto leaving = std::make_unique<SelectionPeer>(display().name());
@@ -265,68 +268,47 @@ TEST_F(X11PasteboardTest, KeepsWhatAnOwnerDeliveredBeforeItEnded) {
   EXPECT_LT(std::chrono::steady_clock::now() - start, 900ms);
 }
 
-TEST_F(X11PasteboardTest, ForgetsWhatItOwnedWhenAnotherProgramCopies) {
-  pasteboard().writeText("ours");
-  world.copyElsewhere({{"UTF8_STRING", "theirs"}});
-  EXPECT_EQ(pasteboard().string(), "theirs");
-}
-
 TEST_F(X11PasteboardTest, CountsOneChangeForEachWrite) {
   for (int i = 0; i < 20; ++i) {
     const auto before = pasteboard().changeCount();
-    if (i % 3 == 0) {
-      pasteboard().write({});
-    } else {
-      pasteboard().writeText("text");
-    }
+    i % 3 == 0 ? pasteboard().write({}) : pasteboard().writeText("text");
     pasteboard().string();  // later news of our own writing would have come by now
     EXPECT_EQ(pasteboard().changeCount(), before + 1);
   }
 }
 
-TEST_F(X11PasteboardTest, CountsOnlyTheFocusedProgramReadingText) {
-  SelectionPeer manager(display().name());
-  peer().takeFocus();
-  pasteboard().writeText("text");
-  manager.read("CLIPBOARD", "UTF8_STRING");
-  peer().targets("CLIPBOARD");
-  peer().read("CLIPBOARD", "x-kde-passwordManagerHint");
-  pasteboard().string();
-  world.queue.runReady();
-  EXPECT_FALSE(pasteboard().hasBeenRead());
-  peer().read("CLIPBOARD", "text/plain");
-  EXPECT_TRUE(world.waitFor([&] { return pasteboard().hasBeenRead(); }));
-}
-
-TEST_F(X11PasteboardTest, CountsTheProgramThatHadTheFocusWhenTheTextWasWritten) {
+TEST_F(X11PasteboardTest, CountsOnlyTheFocusedProgramReadingTheText) {
   SelectionPeer other(display().name());
   peer().takeFocus();
+  pasteboard().writeText("the text before, whose read does not count for the next");
+  peer().read("CLIPBOARD", "UTF8_STRING");
   pasteboard().writeText("text");
+  other.read("CLIPBOARD", "UTF8_STRING");
+  peer().targets("CLIPBOARD");
+  peer().read("CLIPBOARD", "x-kde-passwordManagerHint");
+  EXPECT_FALSE(hasBeenRead());
+  peer().read("CLIPBOARD", "text/plain");
+  EXPECT_TRUE(becomesRead());
+  pasteboard().writeText("next");
   other.takeFocus();
   peer().read("CLIPBOARD", "UTF8_STRING");
-  EXPECT_TRUE(world.waitFor([&] { return pasteboard().hasBeenRead(); }));
+  EXPECT_TRUE(becomesRead()) << "it had the focus when the text was written";
 }
 
 TEST_F(X11PasteboardTest, CountsLargeTextOnlyWhenItWasReadToTheEnd) {
   const std::string text(2'000'000, 'x');
   peer().takeFocus();
   pasteboard().writeText(text);
-  peer().readPieces("CLIPBOARD", "UTF8_STRING", 2);
-  pasteboard().string();
-  world.queue.runReady();
-  EXPECT_FALSE(pasteboard().hasBeenRead());
+  peer().read("CLIPBOARD", "UTF8_STRING", 2);
+  EXPECT_FALSE(hasBeenRead());
+  {
+    SelectionPeer leaving(display().name());
+    leaving.takeFocus();
+    leaving.read("CLIPBOARD", "UTF8_STRING", 2);
+  }
+  EXPECT_FALSE(hasBeenRead()) << "nor by one that ended on the way";
   EXPECT_TRUE(peer().read("CLIPBOARD", "UTF8_STRING") == text);
-  EXPECT_TRUE(world.waitFor([&] { return pasteboard().hasBeenRead(); }));
-}
-
-TEST_F(X11PasteboardTest, AReadOfTheTextBeforeDoesNotCountForTheNext) {
-  peer().takeFocus();
-  pasteboard().writeText("one");
-  peer().read("CLIPBOARD", "UTF8_STRING");
-  pasteboard().writeText("two");
-  pasteboard().string();
-  world.queue.runReady();
-  EXPECT_FALSE(pasteboard().hasBeenRead());
+  EXPECT_TRUE(becomesRead());
 }
 
 TEST_F(X11PasteboardTest, ASlowReaderGetsTheWholeOfTheOldText) {
@@ -351,22 +333,19 @@ TEST_F(X11PasteboardTest, HandsOverToTheClipboardManagerAtTheEnd) {
   EXPECT_THAT(manager.requestedTargets(), ElementsAre("SAVE_TARGETS"));
 }
 
-TEST_F(X11PasteboardTest, KeepsSecretsFromTheClipboardManager) {
-  SelectionPeer manager(display().name());
-  manager.own("CLIPBOARD_MANAGER", {}, Manner::silent);
-  pasteboard().writeText("for one paste");
-  world.selections->shutdown();
-  EXPECT_EQ(manager.requests(), 0U);
-}
-
-TEST_F(X11PasteboardTest, DoesNotWaitForeverForTheClipboardManager) {
-  LogRecorder log;
-  SelectionPeer manager(display().name());
-  manager.own("CLIPBOARD_MANAGER", {}, Manner::silent);
-  pasteboard().write({{"UTF8_STRING", "kept"}});
-  world.selections->shutdown();
-  EXPECT_EQ(manager.requests(), 1U);
-  EXPECT_THAT(log.lines(), ElementsAre(HasSubstr("did not take over")));
+TEST_F(X11PasteboardTest, OffersNoSecretToAClipboardManagerAndWaitsForNoneThatHangs) {
+  for (const bool isSecret : {true, false}) {
+    LogRecorder log;
+    X11PasteboardWorld ending;
+    SelectionPeer manager(display().name());
+    manager.own("CLIPBOARD_MANAGER", {}, Manner::silent);
+    isSecret ? ending.pasteboard().writeText("for one paste")
+             : ending.pasteboard().write({{"UTF8_STRING", "kept"}});
+    ending.selections->shutdown();
+    EXPECT_EQ(manager.requests(), isSecret ? 0U : 1U);
+    if (isSecret) continue;
+    EXPECT_THAT(log.lines(), ElementsAre(HasSubstr("did not take over")));
+  }
 }
 
 TEST(X11Selections, AnswersThatThereIsNoServer) {

@@ -1,6 +1,3 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <filesystem>
 
 #include "platform/x11/X11Workspace.h"
@@ -33,8 +30,7 @@ class Session {
   xcb_window_t show(const std::string& name, const WindowOptions& options = {}, double x = 0) {
     return peer->openWindow({x, 100, 200, 200}, name, options);
   }
-  template <class Condition>
-  bool waitFor(Condition condition) {
+  bool waitFor(auto condition) {
     return eventually(condition, [this] { queue.runReady(); });
   }
   std::string frontmost() {
@@ -53,30 +49,25 @@ class Session {
   std::unique_ptr<XClient> peer;
 };
 
-struct ManagedWorld : Session {
-  ManagedWorld() : Session(true) {}
+template <bool isManaged>
+struct X11World : Session {
+  X11World() : Session(isManaged) {}
   Workspace& workspace() { return *Session::workspace; }
-  void activate(const std::string& name) { show(name); }
-};
-
-struct UnmanagedWorld : Session {
-  UnmanagedWorld() : Session(false) {}
-  Workspace& workspace() { return *Session::workspace; }
-  void activate(const std::string& name) { peer->focus(show(name)); }
+  void activate(const std::string& name) {
+    const auto window = show(name);
+    if (!isManaged) peer->focus(window);
+  }
 };
 
 struct FakeWorld {
   Workspace& workspace() { return fake; }
   void activate(const std::string& name) { fake.activate(name); }
-  template <class Condition>
-  bool waitFor(Condition condition) {
-    return condition();
-  }
+  bool waitFor(auto condition) { return condition(); }
   FakeWorkspace fake;
 };
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Managed, WorkspaceSuite, ::testing::Types<ManagedWorld>);
-INSTANTIATE_TYPED_TEST_SUITE_P(Unmanaged, WorkspaceSuite, ::testing::Types<UnmanagedWorld>);
+INSTANTIATE_TYPED_TEST_SUITE_P(Managed, WorkspaceSuite, ::testing::Types<X11World<true>>);
+INSTANTIATE_TYPED_TEST_SUITE_P(Unmanaged, WorkspaceSuite, ::testing::Types<X11World<false>>);
 INSTANTIATE_TYPED_TEST_SUITE_P(Fake, WorkspaceSuite, ::testing::Types<FakeWorld>);
 
 class X11WorkspaceTest : public ::testing::Test {

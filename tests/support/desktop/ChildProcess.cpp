@@ -6,20 +6,13 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <stdexcept>
 #include <string_view>
 
 namespace tessarin::testing {
 namespace {
-
-bool replaces(const std::vector<std::string>& entries, std::string_view ours) {
-  const std::string_view name = ours.substr(0, ours.find('=') + 1);
-  for (const std::string& entry : entries) {
-    if (entry.starts_with(name)) return true;
-  }
-  return false;
-}
 
 std::vector<char*> pointers(const std::vector<std::string>& strings) {
   std::vector<char*> result;
@@ -31,7 +24,9 @@ std::vector<char*> pointers(const std::vector<std::string>& strings) {
 std::vector<char*> fullEnvironment(const std::vector<std::string>& own) {
   std::vector<char*> result = pointers(own);
   for (char** entry = environ; *entry != nullptr; ++entry) {
-    if (!replaces(own, *entry)) result.push_back(*entry);
+    const std::string_view name = std::string_view(*entry).substr(0, std::string_view(*entry).find('=') + 1);
+    const auto replaces = [name](const std::string& ours) { return ours.starts_with(name); };
+    if (std::ranges::none_of(own, replaces)) result.push_back(*entry);
   }
   result.push_back(nullptr);
   return result;

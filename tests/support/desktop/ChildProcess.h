@@ -25,7 +25,6 @@ class ChildProcess {
 
   bool isRunning();
   void stop();
-  pid_t pid() const { return pid_; }
 
  private:
   pid_t pid_ = -1;

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "support/desktop/ChildProcess.h"
 
 namespace tessarin::testing {

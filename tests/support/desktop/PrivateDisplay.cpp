@@ -33,6 +33,12 @@ void PrivateDisplay::startWindowManager() {
   if (!isManaging || !isSettled) throw std::runtime_error("no window manager came up");
 }
 
+void PrivateDisplay::setLayout(const std::vector<std::string>& arguments) const {
+  std::vector<std::string> command{"setxkbmap"};
+  command.insert(command.end(), arguments.begin(), arguments.end());
+  if (run(command) != 0) throw std::runtime_error("no such layout");
+}
+
 int PrivateDisplay::run(const std::vector<std::string>& command) const {
   return testing::run(command, {variable()});
 }

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "support/desktop/ChildProcess.h"
 
 namespace tessarin::testing {
@@ -18,7 +15,8 @@ class PrivateDisplay {
 
   /// Starts openbox and answers once it manages the display.
   void startWindowManager();
-  void stopWindowManager() { windowManager_.stop(); }
+  /// `arguments`: those of setxkbmap.
+  void setLayout(const std::vector<std::string>& arguments) const;
 
   /// For xcb_connect and the DISPLAY variable, e.g. ":7".
   const std::string& name() const { return name_; }

@@ -1,6 +1,5 @@
 #include "support/desktop/PrivateSession.h"
 
-#include <fstream>
 #include <stdexcept>
 
 #include "platform/atspi/BusCalls.h"
@@ -9,23 +8,7 @@
 namespace tessarin::testing {
 namespace {
 
-namespace fs = std::filesystem;
-
-atspi::MessagePtr askLauncher(const std::string& busAddress, const char* interface, const char* method,
-                              const char* property) {
-  const atspi::ConnectionPtr connection = atspi::connectTo(busAddress);
-  if (!connection) return nullptr;
-  const atspi::MessagePtr request(
-      dbus_message_new_method_call("org.a11y.Bus", "/org/a11y/bus", interface, method));
-  if (property != nullptr) {
-    const char* owner = "org.a11y.Status";
-    dbus_message_append_args(request.get(), DBUS_TYPE_STRING, &owner, DBUS_TYPE_STRING, &property,
-                             DBUS_TYPE_INVALID);
-  }
-  return atspi::callAndWait(connection.get(), request.get(), std::chrono::seconds(5));
-}
-
-std::string configuration(const fs::path& folder) {
+std::string configuration(const std::filesystem::path& folder) {
   return "<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\" "
          "\"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">"
          "<busconfig><type>session</type><listen>unix:path=" +
@@ -43,9 +26,9 @@ PrivateSession::PrivateSession(const std::string& display) : display_(display) {
 }
 
 void PrivateSession::startBus() {
-  const fs::path file = folder_.path() / "session.conf";
-  std::ofstream(file) << configuration(folder_.path());
-  bus_ = ChildProcess({"dbus-daemon", "--nofork", "--config-file=" + file.string(), "--print-address=3"},
+  folder_.write("session.conf", configuration(folder_.path()));
+  const std::string file = folder_ / "session.conf";
+  bus_ = ChildProcess({"dbus-daemon", "--nofork", "--config-file=" + file, "--print-address=3"},
                       environment(), &busAddress_);
   if (busAddress_.empty()) throw std::runtime_error("no session bus came up");
 }
@@ -62,25 +45,17 @@ void PrivateSession::stopAccessibility() {
 }
 
 std::string PrivateSession::accessibilityBusAddress() const {
-  const atspi::MessagePtr reply = askLauncher(busAddress_, "org.a11y.Bus", "GetAddress", nullptr);
+  const atspi::ConnectionPtr connection = atspi::connectTo(busAddress_);
+  if (!connection) return {};
+  const atspi::MessagePtr request(
+      dbus_message_new_method_call("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress"));
+  const atspi::MessagePtr reply =
+      atspi::callAndWait(connection.get(), request.get(), std::chrono::seconds(5));
   const char* address = nullptr;
   if (!reply || !dbus_message_get_args(reply.get(), nullptr, DBUS_TYPE_STRING, &address, DBUS_TYPE_INVALID)) {
     return {};
   }
   return address;
-}
-
-bool PrivateSession::isAccessibilityEnabled() const {
-  const atspi::MessagePtr reply = askLauncher(busAddress_, DBUS_INTERFACE_PROPERTIES, "Get", "IsEnabled");
-  DBusMessageIter iterator;
-  DBusMessageIter value;
-  dbus_bool_t enabled = FALSE;
-  if (!reply || !dbus_message_iter_init(reply.get(), &iterator)) return false;
-  dbus_message_iter_recurse(&iterator, &value);
-  if (dbus_message_iter_get_arg_type(&value) == DBUS_TYPE_BOOLEAN) {
-    dbus_message_iter_get_basic(&value, &enabled);
-  }
-  return enabled != FALSE;
 }
 
 std::vector<std::string> PrivateSession::environment() const {

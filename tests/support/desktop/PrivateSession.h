@@ -1,9 +1,5 @@
 #pragma once
 
-#include <filesystem>
-#include <string>
-#include <vector>
-
 #include "support/TemporaryFolder.h"
 #include "support/desktop/ChildProcess.h"
 
@@ -25,12 +21,9 @@ class PrivateSession {
   void stopAccessibility();
   /// Answers once the accessibility bus is there.
   void startAccessibility();
-  /// Whether the session's accessibility is switched on.
-  bool isAccessibilityEnabled() const;
-
   const std::string& busAddress() const { return busAddress_; }
   std::string accessibilityBusAddress() const;
-  const std::filesystem::path& folder() const { return folder_.path(); }
+  const TemporaryFolder& folder() const { return folder_; }
 
  private:
   std::vector<std::string> environment() const;
