@@ -18,11 +18,10 @@ constexpr double keyToLabel = 3;
 constexpr double keyRadius = 3;
 
 struct Hint {
-  QString key;
-  QString label;
-  double capWidth;
-  double labelWidth;
-  double width() const { return capWidth + keyToLabel + labelWidth; }
+  TextLines::Line key;
+  TextLines::Line label;
+  double capWidth() const { return key.width + 2 * keyPaddingX; }
+  double width() const { return capWidth() + keyToLabel + label.width; }
 };
 
 struct Fonts {
@@ -30,11 +29,9 @@ struct Fonts {
   QFont label;
 };
 
-Hint measure(const PopupKeyHint& hint, const Fonts& fonts) {
-  const QString key = QString::fromStdString(hint.key);
-  const QString label = QString::fromStdString(hint.label);
-  return {key, label, std::ceil(QFontMetricsF(fonts.key).horizontalAdvance(key)) + 2 * keyPaddingX,
-          std::ceil(QFontMetricsF(fonts.label).horizontalAdvance(label))};
+Hint measure(const PopupKeyHint& hint, const Fonts& fonts, TextLines& lines) {
+  return {lines.line(fonts.key, QString::fromStdString(hint.key)),
+          lines.line(fonts.label, QString::fromStdString(hint.label))};
 }
 
 double totalWidth(const std::vector<Hint>& hints) {
@@ -46,27 +43,26 @@ double totalWidth(const std::vector<Hint>& hints) {
 void drawHint(QPainter& painter, const QRectF& band, double x, const Hint& hint, const Fonts& fonts,
               const PopupTheme& theme) {
   const double height = std::ceil(QFontMetricsF(fonts.key).height()) + 2 * keyPaddingY;
-  const QRectF cap(x, std::round(band.center().y() - height / 2), hint.capWidth, height);
+  const QRectF cap(x, std::round(band.center().y() - height / 2), hint.capWidth(), height);
   painter.setPen(Qt::NoPen);
   painter.setBrush(theme.primaryAt(0.1));
   painter.drawRoundedRect(cap, keyRadius, keyRadius);
   painter.setFont(fonts.key);
   painter.setPen(theme.primary);
-  painter.drawText(cap, Qt::AlignCenter, hint.key);
+  TextLines::draw(painter, cap, cap.left() + keyPaddingX, hint.key);
   painter.setFont(fonts.label);
   painter.setPen(theme.secondary);
-  painter.drawText(QRectF(cap.right() + keyToLabel, cap.top(), hint.labelWidth + 1, height),
-                   Qt::AlignLeft | Qt::AlignVCenter, hint.label);
+  TextLines::draw(painter, cap, cap.right() + keyToLabel, hint.label);
 }
 
 }  // namespace
 
 void drawKeyHints(QPainter& painter, const QRectF& band, const std::vector<PopupKeyHint>& hints,
-                  const PopupTheme& theme) {
+                  const PopupTheme& theme, TextLines& lines) {
   const Fonts hintFonts{fonts::system(9, QFont::DemiBold), fonts::system(9)};
   std::vector<Hint> measured;
   measured.reserve(hints.size());
-  for (const PopupKeyHint& hint : hints) measured.push_back(measure(hint, hintFonts));
+  for (const PopupKeyHint& hint : hints) measured.push_back(measure(hint, hintFonts, lines));
   const double room = band.width() - 2 * bandPadding;
   const double gaps = std::max<double>(1, static_cast<double>(measured.size()) - 1);
   const double spacing = std::clamp((room - totalWidth(measured)) / gaps, leastSpacing, hintSpacing);

@@ -1,7 +1,6 @@
 #include "ui/PopupPainter.h"
 
 #include <QCoreApplication>
-#include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
@@ -24,43 +23,10 @@ double pixelRatioOf(const QPainter& painter) {
   return painter.device()->devicePixelRatio() * painter.transform().m11();
 }
 
-/// Draws one line, vertically centred, from x on, and answers where it ended.
-double drawLeft(QPainter& painter, const QRectF& band, double x, double maxWidth, const QString& text) {
-  const QFontMetricsF metrics(painter.font());
-  QString shown = text;
-  double width = metrics.horizontalAdvance(shown);
-  if (width > maxWidth) {
-    shown = metrics.elidedText(text, Qt::ElideRight, maxWidth);
-    width = metrics.horizontalAdvance(shown);
-  }
-  painter.drawText(QRectF(x, band.top(), maxWidth, band.height()),
-                   Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine, shown);
-  return x + std::min(maxWidth, std::ceil(width));
-}
-
-/// Draws one line that ends at `right`, and answers where it began.
-double drawRight(QPainter& painter, const QRectF& band, double right, const QString& text) {
-  const double width = std::ceil(QFontMetricsF(painter.font()).horizontalAdvance(text));
-  painter.drawText(QRectF(right - width, band.top(), width, band.height()),
-                   Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
-  return right - width;
-}
-
 QString matchCount(std::size_t count) {
   if (count == 1) return QCoreApplication::translate("Popup", "1 match");
   const int shown = static_cast<int>(count);
   return QCoreApplication::translate("Popup", "%n matches", nullptr, shown);
-}
-
-/// What is seen where `above` is painted on `below`.
-QColor blended(const QColor& above, const QColor& below) {
-  const float share = above.alphaF();
-  const float rest = below.alphaF() * (1 - share);
-  const auto mixed = [&](float first, float second) {
-    return (first * share + second * rest) / (share + rest);
-  };
-  return QColor::fromRgbF(mixed(above.redF(), below.redF()), mixed(above.greenF(), below.greenF()),
-                          mixed(above.blueF(), below.blueF()), share + rest);
 }
 
 constexpr int cornerSide = static_cast<int>(PopupLayout::cornerRadius) + 1;
@@ -77,6 +43,19 @@ QColor whiteAt(double opacity) {
 
 }  // namespace
 
+double PopupPainter::drawLeft(QPainter& painter, const QRectF& band, double x, double most,
+                              const QString& text) {
+  const TextLines::Line& line = lines_.line(painter.font(), text, most);
+  TextLines::draw(painter, band, x, line);
+  return x + std::min(most, line.width);
+}
+
+double PopupPainter::drawRight(QPainter& painter, const QRectF& band, double right, const QString& text) {
+  const TextLines::Line& line = lines_.line(painter.font(), text);
+  TextLines::draw(painter, band, right - line.width, line);
+  return right - line.width;
+}
+
 void PopupPainter::paint(QPainter& painter, const PopupContent& content, const PopupLayout& layout,
                          const PopupView& view) {
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
@@ -84,7 +63,7 @@ void PopupPainter::paint(QPainter& painter, const PopupContent& content, const P
   if (!layout.header().isNull()) paintHeader(painter, layout.header(), content);
   if (!layout.picker().isNull()) paintPicker(painter, content, layout);
   paintList(painter, content, layout, view);
-  if (!layout.footer().isNull()) drawKeyHints(painter, layout.footer(), content.hints, theme_);
+  if (!layout.footer().isNull()) drawKeyHints(painter, layout.footer(), content.hints, theme_, lines_);
   paintDividers(painter, layout);
 }
 
@@ -112,19 +91,23 @@ void PopupPainter::paintCard(QPainter& painter, const PopupLayout& layout, bool 
 // of the card has none.
 void PopupPainter::paintSides(QPainter& painter, const QRectF& card, const QColor& ground,
                               double width) const {
-  const QColor line = blended(theme_.primaryAt(0.1), ground);
   painter.save();
-  painter.setCompositionMode(QPainter::CompositionMode_Source);
   painter.setRenderHint(QPainter::Antialiasing, false);
   const QRectF across = card.adjusted(0, cornerSide, 0, -cornerSide);
   const QRectF upright = card.adjusted(cornerSide, 0, -cornerSide, 0);
-  for (const QRectF& band : {across, upright}) painter.fillRect(band, line);
-  painter.fillRect(across.adjusted(width, 0, -width, 0), ground);
-  painter.fillRect(upright.adjusted(0, width, 0, -width), ground);
+  const QRectF top(upright.topLeft(), QSizeF(upright.width(), cornerSide));
+  const QRectF bottom = top.translated(0, card.height() - cornerSide);
+  for (const QRectF& part : {across, top, bottom}) painter.fillRect(part, ground);
+  const QRectF left(across.topLeft(), QSizeF(width, across.height()));
+  const QRectF upper(upright.topLeft(), QSizeF(upright.width(), width));
+  for (const QRectF& edge :
+       {left, left.translated(card.width() - width, 0), upper, upper.translated(0, card.height() - width)}) {
+    painter.fillRect(edge, theme_.primaryAt(0.1));
+  }
   painter.restore();
 }
 
-void PopupPainter::paintHeader(QPainter& painter, const QRectF& band, const PopupContent& content) const {
+void PopupPainter::paintHeader(QPainter& painter, const QRectF& band, const PopupContent& content) {
   constexpr double spacing = 4;
   painter.setFont(fonts::system(10));
   painter.setPen(theme_.secondary);
@@ -133,7 +116,7 @@ void PopupPainter::paintHeader(QPainter& painter, const QRectF& band, const Popu
 
   painter.setFont(fonts::system(12));
   const QString dots = QStringLiteral("…");
-  const double dotsWidth = QFontMetricsF(painter.font()).horizontalAdvance(dots);
+  const double dotsWidth = lines_.line(painter.font(), dots).width;
   const double room = counter - headerPadding - dotsWidth - 2 * spacing;
 
   painter.setFont(fonts::monospaced(12, QFont::Medium));
@@ -142,7 +125,7 @@ void PopupPainter::paintHeader(QPainter& painter, const QRectF& band, const Popu
                               QString::fromStdString(content.triggerCharacter + content.query));
   painter.setFont(fonts::system(12));
   painter.setPen(theme_.secondary);
-  drawLeft(painter, band, end + spacing, dotsWidth + 1, dots);
+  drawLeft(painter, band, end + spacing, dotsWidth, dots);
 }
 
 void PopupPainter::paintPicker(QPainter& painter, const PopupContent& content, const PopupLayout& layout) {

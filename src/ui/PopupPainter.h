@@ -7,6 +7,7 @@
 #include "ui/EmojiGlyphs.h"
 #include "ui/PopupLayout.h"
 #include "ui/PopupTheme.h"
+#include "ui/TextLines.h"
 
 class QPainter;
 class QPalette;
@@ -37,7 +38,7 @@ class PopupPainter {
  private:
   void paintCard(QPainter& painter, const PopupLayout& layout, bool isTranslucent) const;
   void paintSides(QPainter& painter, const QRectF& card, const QColor& ground, double width) const;
-  void paintHeader(QPainter& painter, const QRectF& band, const PopupContent& content) const;
+  void paintHeader(QPainter& painter, const QRectF& band, const PopupContent& content);
   void paintPicker(QPainter& painter, const PopupContent& content, const PopupLayout& layout);
   void paintList(QPainter& painter, const PopupContent& content, const PopupLayout& layout,
                  const PopupView& view);
@@ -46,7 +47,13 @@ class PopupPainter {
   void paintScrollIndicator(QPainter& painter, const PopupLayout& layout, double scroll) const;
   void paintDividers(QPainter& painter, const PopupLayout& layout) const;
 
+  /// Draws one line, vertically centred, from x on, and answers where it ended.
+  double drawLeft(QPainter& painter, const QRectF& band, double x, double most, const QString& text);
+  /// Draws one line that ends at `right`, and answers where it began.
+  double drawRight(QPainter& painter, const QRectF& band, double right, const QString& text);
+
   PopupTheme theme_;
+  TextLines lines_;
   EmojiGlyphs glyphs_;
 };
 
