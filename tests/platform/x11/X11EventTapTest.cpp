@@ -78,6 +78,17 @@ TEST_F(X11EventTapTest, SeesAndHoldsNothingButTheTriggerWhileIdle) {
   EXPECT_EQ(seen[0].flags, keyflag::shift);
 }
 
+TEST_F(X11EventTapTest, GoesOnWithItsWorkWhenTheKeyHasGone) {
+  start();
+  std::vector<std::size_t> arrived;
+  onKey = [&](const KeyEvent&) { queue.async([&] { arrived.push_back(document->text().size()); }); };
+  const std::string keys = ":" + std::string(40, 'a');
+  typist->type(keys);
+  expectDocument(keys);
+  ASSERT_EQ(arrived.size(), keys.size());
+  for (std::size_t i = 0; i < arrived.size(); ++i) EXPECT_GT(arrived[i], i);
+}
+
 TEST_F(X11EventTapTest, LeavesAWindowManagerItsCombinations) {
   start();
   const x11::Connection manager(xcb_connect(display.name().c_str(), nullptr));
