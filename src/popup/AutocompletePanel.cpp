@@ -52,7 +52,8 @@ void AutocompletePanel::hide() {
   ++requests_;
   presented_ = {};
   caret_.reset();
-  if (!std::exchange(shown_, std::nullopt)) return;
+  shown_.reset();
+  if (!std::exchange(isInUse_, false)) return;
   isLeaving_ = true;
   queue_.async([this, alive = std::weak_ptr<char>(alive_)] {
     if (!alive.expired()) takeAway();
@@ -74,6 +75,7 @@ void AutocompletePanel::onVariantClicked(std::function<void(int index)> callback
 void AutocompletePanel::showPresented() {
   if (!isSameListAsShown()) {
     // The application, which the caret is asked of, is busy with the key meanwhile.
+    isInUse_ = true;
     surface_.prepare(presented_);
     goOn(caret_ ? &AutocompletePanel::showWhereItWas : &AutocompletePanel::locate);
     return;
@@ -135,6 +137,7 @@ Rect AutocompletePanel::frameAt(const std::optional<Rect>& caret, const ScreenLa
 }
 
 void AutocompletePanel::showInFrame() {
+  isInUse_ = true;
   isLeaving_ = false;
   shown_ = Shown{presented_, frame_};
   surface_.show(presented_, frame_);

@@ -67,7 +67,8 @@ class AutocompletePanel final : public PopupPresenter {
   PopupContent presented_;
   bool isVisible_ = false;
   std::optional<Shown> shown_;
-  bool isLeaving_ = false;     ///< the window still stands there, for nothing
+  bool isInUse_ = false;       ///< the surface holds a picture, shown or not
+  bool isLeaving_ = false;     ///< what the surface holds is not wanted any more
   Rect frame_;                 ///< for what is presented
   std::optional<Rect> caret_;  ///< where it was found last
   std::uint64_t requests_ = 0;

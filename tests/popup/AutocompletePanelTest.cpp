@@ -143,6 +143,12 @@ TEST_F(AutocompletePanelTest, givesABusyApplicationTimeToSayWhereItsCaretIs) {
   show("x");
   queue.advance(milliseconds(299));
   EXPECT_FALSE(surface.isShown);
+  const int hides = surface.hides;
+  panel->hide();
+  queue.runReady();
+  EXPECT_EQ(surface.hides, hides + 1) << "what is prepared holds memory";
+  show("x");
+  queue.advance(milliseconds(299));
   queue.advance(milliseconds(26));
   EXPECT_TRUE(surface.isShown) << "beside the pointer";
   queue.advance(milliseconds(5000));
