@@ -29,6 +29,17 @@ QString matchCount(std::size_t count) {
   return QCoreApplication::translate("Popup", "%n matches", nullptr, shown);
 }
 
+/// What is seen where `above` is painted on `below`.
+QColor blended(const QColor& above, const QColor& below) {
+  const float share = above.alphaF();
+  const float rest = below.alphaF() * (1 - share);
+  const auto mixed = [&](float first, float second) {
+    return (first * share + second * rest) / (share + rest);
+  };
+  return QColor::fromRgbF(mixed(above.redF(), below.redF()), mixed(above.greenF(), below.greenF()),
+                          mixed(above.blueF(), below.blueF()), share + rest);
+}
+
 constexpr int cornerSide = static_cast<int>(PopupLayout::cornerRadius) + 1;
 
 QRegion corners(const QRectF& card) {
@@ -79,7 +90,9 @@ void PopupPainter::paintCard(QPainter& painter, const PopupLayout& layout, bool 
   const double inset = width / 2;
   painter.setPen(Qt::NoPen);
   painter.setBrush(ground);
+  painter.setCompositionMode(QPainter::CompositionMode_Source);  // as the sides are painted
   painter.drawRoundedRect(card, PopupLayout::cornerRadius, PopupLayout::cornerRadius);
+  painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
   painter.setPen(QPen(theme_.primaryAt(0.1), width));
   painter.setBrush(Qt::NoBrush);
   painter.drawRoundedRect(card.adjusted(inset, inset, -inset, -inset), PopupLayout::cornerRadius - inset,
@@ -91,19 +104,15 @@ void PopupPainter::paintCard(QPainter& painter, const PopupLayout& layout, bool 
 // of the card has none.
 void PopupPainter::paintSides(QPainter& painter, const QRectF& card, const QColor& ground,
                               double width) const {
+  const QColor line = blended(theme_.primaryAt(0.1), ground);
   painter.save();
+  painter.setCompositionMode(QPainter::CompositionMode_Source);
   painter.setRenderHint(QPainter::Antialiasing, false);
   const QRectF across = card.adjusted(0, cornerSide, 0, -cornerSide);
   const QRectF upright = card.adjusted(cornerSide, 0, -cornerSide, 0);
-  const QRectF top(upright.topLeft(), QSizeF(upright.width(), cornerSide));
-  const QRectF bottom = top.translated(0, card.height() - cornerSide);
-  for (const QRectF& part : {across, top, bottom}) painter.fillRect(part, ground);
-  const QRectF left(across.topLeft(), QSizeF(width, across.height()));
-  const QRectF upper(upright.topLeft(), QSizeF(upright.width(), width));
-  for (const QRectF& edge :
-       {left, left.translated(card.width() - width, 0), upper, upper.translated(0, card.height() - width)}) {
-    painter.fillRect(edge, theme_.primaryAt(0.1));
-  }
+  for (const QRectF& band : {across, upright}) painter.fillRect(band, line);
+  painter.fillRect(across.adjusted(width, 0, -width, 0), ground);
+  painter.fillRect(upright.adjusted(0, width, 0, -width), ground);
   painter.restore();
 }
 
