@@ -11,6 +11,13 @@ namespace {
 /// Some queries' worth, of about twenty lines each.
 constexpr qsizetype mostLines = 96;
 
+QString inOneLine(QString text) {
+  for (QChar& character : text) {
+    if (character.isSpace()) character = u' ';
+  }
+  return text;
+}
+
 }  // namespace
 
 const TextLines::Line& TextLines::line(const QFont& font, const QString& text, double most) {
@@ -18,10 +25,11 @@ const TextLines::Line& TextLines::line(const QFont& font, const QString& text, d
   if (const auto known = lines_.constFind(key); known != lines_.cend()) return *known;
   if (lines_.size() >= mostLines) lines_.clear();
   const QFontMetricsF metrics(font);
+  const QString whole = inOneLine(text);
   Line line;
-  line.width = metrics.horizontalAdvance(text);
+  line.width = metrics.horizontalAdvance(whole);
   const bool isTooWide = line.width > most;
-  line.text.setText(isTooWide ? metrics.elidedText(text, Qt::ElideRight, most) : text);
+  line.text.setText(isTooWide ? metrics.elidedText(whole, Qt::ElideRight, most) : whole);
   if (isTooWide) line.width = metrics.horizontalAdvance(line.text.text());
   line.width = std::ceil(line.width);
   line.text.setTextFormat(Qt::PlainText);

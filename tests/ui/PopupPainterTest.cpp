@@ -67,6 +67,24 @@ QImage paint(const PopupContent& content, const PopupView& view = {}, double rat
   return image;
 }
 
+TEST(PopupPainter, DrawsANameOfSeveralLinesInOne) {
+  PopupContent content = popupWithRows(2);
+  content.rows[0].name = "a name";
+  const QImage inOne = paint(content);
+  content.rows[0].name = "a\nname";
+  EXPECT_EQ(paint(content), inOne);
+}
+
+TEST(PopupPainter, PaintsTheCardAlikeInItsCornersOnAnyGround) {
+  const PopupContent content = popupWithRows(2);
+  QImage image(sizeOf(content).toSize(), QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::black);
+  QPainter painter(&image);
+  const PopupView view{0, {}, true};
+  PopupPainter(lightPalette()).paint(painter, content, layoutOf(content), view);
+  EXPECT_EQ(image.pixelColor(8, 8), image.pixelColor(8, 20)) << "both left of the header's text";
+}
+
 /// Between the highlight's left edge and the emoji, where nothing but the row's ground is seen.
 QColor groundOfRow(const QImage& image, const PopupContent& content, int index) {
   const QPointF spot(7, layoutOf(content).row(index, 0).center().y());
