@@ -18,6 +18,7 @@ std::optional<KeyVerdict> KeyJudge::ask(const KeyEvent& event) {
   {
     const std::lock_guard lock(mutex_);
     if (closed_) return std::nullopt;
+    if (question_) question_->makeWay();
     question_ = question;
   }
   queue_.async([question, owner = owner_, event = KeyEvent(event)]() mutable {
@@ -28,7 +29,7 @@ std::optional<KeyVerdict> KeyJudge::ask(const KeyEvent& event) {
     question->answer(owner->judge(event));
     // What comes next is painting. On the same processor as the X server or the application, which the system
     // does not interrupt it for, it would keep the key from them.
-    question->awaitDeparture();
+    question->standBack();
   });
   return question->await();
 }

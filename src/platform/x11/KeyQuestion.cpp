@@ -41,9 +41,16 @@ void KeyQuestion::depart() {
   changed_.notify_all();
 }
 
-void KeyQuestion::awaitDeparture() {
+void KeyQuestion::makeWay() {
+  const std::lock_guard lock(mutex_);
+  isNextWaiting_ = true;
+  changed_.notify_all();
+}
+
+void KeyQuestion::standBack() {
   std::unique_lock lock(mutex_);
-  changed_.wait_for(lock, departureTime, [this] { return hasDeparted_; });
+  if (!changed_.wait_until(lock, deadline_, [this] { return hasDeparted_; })) return;
+  if (verdict_ == KeyVerdict::pass) changed_.wait_for(lock, arrivalTime, [this] { return isNextWaiting_; });
 }
 
 std::optional<KeyVerdict> KeyQuestion::await() {

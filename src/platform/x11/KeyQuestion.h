@@ -21,8 +21,8 @@ class KeyQuestion {
   /// How much longer it may take once the main thread is at work on it: the answer is then near, and letting
   /// the key by would do twice what it does.
   static constexpr std::chrono::milliseconds graceTime{50};
-  /// How long the main thread stands back for the key to go. It takes a fifth of that.
-  static constexpr std::chrono::milliseconds departureTime{2};
+  /// What the application gets to take the key in before the main thread goes on, unless the next key waits.
+  static constexpr std::chrono::microseconds arrivalTime{250};
 
   explicit KeyQuestion(std::chrono::milliseconds time = answerTime) : deadline_(Clock::now() + time) {}
 
@@ -33,13 +33,15 @@ class KeyQuestion {
   bool commitSwallow();
   /// Main thread, after `claim`.
   void answer(KeyVerdict verdict);
-  /// Main thread, after `answer`: returns when the key has gone its way, or soon.
-  void awaitDeparture();
+  /// Main thread, after `answer`: returns when the key has gone its way and arrived, or its time is over.
+  void standBack();
 
   /// The asking thread: waits. None when it gave up.
   std::optional<KeyVerdict> await();
   /// The asking thread, after `await`: the answer has been carried out.
   void depart();
+  /// The asking thread: there is another question.
+  void makeWay();
   /// Any thread: an unclaimed question is given up at once.
   void cancel();
 
@@ -52,6 +54,7 @@ class KeyQuestion {
   State state_ = State::asked;
   KeyVerdict verdict_ = KeyVerdict::pass;
   bool hasDeparted_ = false;
+  bool isNextWaiting_ = false;
 };
 
 }  // namespace tessarin::x11
