@@ -14,7 +14,6 @@ from typist import Typist
 SNIPPETS = {
     "zqxone": "first",
     "zqxtwo": "second",
-    "today": "{{date}}",
     "quote": "[{{clipboard}}]",
 } | {"k" * length: f"<{length}>" for length in range(1, 64)}
 

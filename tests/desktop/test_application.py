@@ -30,8 +30,7 @@ class ApplicationTest(unittest.TestCase):
         return json.loads(self.preferences_path.read_text()).get(key)
 
     def window(self, title):
-        """The size of the window of this title, once it is there."""
-        return wait_for(lambda: self.typist.titled(title), what=f"the window “{title}”").get_geometry()
+        return wait_for(lambda: self.typist.titled(title), what=f"the window “{title}”")
 
     def import_snippet(self, trigger, replacement):
         path = self.session.folder / "mine.json"
@@ -73,8 +72,7 @@ class ApplicationTest(unittest.TestCase):
 
 class FirstRun(ApplicationTest):
     def test_from_launch_to_quit(self):
-        frame = self.window("Welcome to Tessarin")
-        self.assertEqual((frame.width, frame.height), (520, 480))
+        self.window("Welcome to Tessarin")
         self.wait_until_heard("System-wide :shortcode: autocomplete for macOS")
         self.typist.press("Return")
         self.wait_until_heard("Tessarin needs two permissions to work:")
@@ -104,8 +102,7 @@ class FirstRun(ApplicationTest):
 
     def look_at_the_statistics(self):
         self.tessarin.command("--settings")
-        frame = self.window("Tessarin Settings")
-        self.assertEqual((frame.width, frame.height), (640, 480))
+        self.window("Tessarin Settings")
         wait_for(lambda: self.typist.titled("Tessarin Settings").id == self.typist.active_window(),
                  what="the settings to be in front")
         for _ in range(2):

@@ -30,10 +30,6 @@ class TrayTest(unittest.TestCase):
     def setUp(self):
         self.session = self.enterContext(Session())
 
-    def preferences(self, **values):
-        path = pathlib.Path(self.session.env["XDG_CONFIG_HOME"]) / "tessarin/preferences.json"
-        path.write_text(json.dumps({"hasCompletedOnboarding": True} | values))
-
     def test_a_tray_may_come_late_and_come_back(self):
         with Tessarin(self.session):
             for _ in range(2):
@@ -80,41 +76,6 @@ class TrayTest(unittest.TestCase):
                 events = (x.next_event() for _ in range(x.pending_events()))
                 return any(e.type == X.ClientMessage and e.client_type == opcode for e in events)
             wait_for(is_docked, what="an icon in the old-style tray")
-
-    def test_the_item_follows_switch_and_preference(self):
-        with Tray(self.session) as tray, Tessarin(self.session) as program:
-            tray.wait_for_items(1)
-            on = tray.icon()
-            tray.choose("Disable Tessarin")
-            wait_for(lambda: tray.icon() != on, what="the dimmed look")
-            program.command("--toggle")
-            wait_for(lambda: tray.icon() == on, what="the usual look")
-            self.preferences(showMenuBarIcon=False)
-            tray.wait_for_items(0)
-            self.preferences(showMenuBarIcon=True)
-            tray.wait_for_items(1)
-            self.assertIn("Disable Tessarin", tray.open_menu())
-            self.preferences(showMenuBarIcon=False)
-            tray.wait_for_items(0)
-            program.stop()
-            start_anew(program)
-            self.assertEqual(tray.items(), [])
-
-    def test_opening_the_menu_and_switching_let_go_of_the_keys(self):
-        with Tray(self.session) as tray, Tessarin(self.session) as program:
-            tray.wait_for_items(1)
-            typist = Typist(self.session)
-            self.addCleanup(typist.close)
-            with Mousepad(self.session, typist) as editor:
-                typist.type("a:smile")
-                wait_for(typist.popup, what="the popup")
-                tray.open_menu()
-                wait_for(lambda: not typist.popup(), what="the popup to go")
-                typist.type("\nb:smile")
-                wait_for(typist.popup, what="the popup")
-                program.command("--toggle")
-                typist.type("\nc")
-                self.assertEqual(editor.wait_for_document("a:smile\nb:smile\nc"), "a:smile\nb:smile\nc")
 
 
 class CommandLineTest(unittest.TestCase):
@@ -179,16 +140,6 @@ class CommandLineTest(unittest.TestCase):
             self.assertEqual(len(json.loads(self.own.read_text())), 3)
             self.assertEqual(self.tessarin("--quit"), (0, "quitting\n", ""))
             wait_for(lambda: not pathlib.Path(f"/proc/{program.pid}/exe").exists(), what="its end")
-
-    def test_a_request_waits_for_one_that_is_only_starting(self):
-        Tessarin(self.session)
-        self.session.start(PROGRAM)
-
-        def is_answered():
-            status, _, problem = self.tessarin("--toggle")
-            self.assertIn((status, problem), [(0, ""), (1, "tessarin: no instance is running\n")])
-            return status == 0
-        wait_for(is_answered, what="an answer")
 
     def test_what_a_killed_instance_left_is_cleared_away(self):
         with Tessarin(self.session) as program:
