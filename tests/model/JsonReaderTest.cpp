@@ -26,9 +26,7 @@ TEST(JsonReader, NamesWhatIsWrongWithoutQuotingTheText) {
     const char* error;
   } cases[] = {
       {"", "ends too early (line 1, column 1)"},
-      {" \n ", "ends too early (line 2, column 2)"},
       {"[1, 2", "ends too early"},
-      {R"(["secret)", "ends too early"},
       {"[]\n[\"secret\"]", "goes on after its end (line 2, column 1)"},
       {"[\"secret\xFF\"]", "not valid UTF-8"},
       {R"(["secret\u0000"])", "zero character"},

