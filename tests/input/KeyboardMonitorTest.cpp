@@ -111,12 +111,6 @@ TEST_F(KeyboardMonitorTest, StartsAndStopsOnceThereIsTrustAndATap) {
   EXPECT_EQ(queue.pending(), 0u);
   EXPECT_TRUE(monitor->start());
   EXPECT_TRUE(tap.isOn);
-  EXPECT_THAT(
-      log.lines(),
-      ElementsAre("[KeyboardMonitor] No Accessibility permission — requesting",
-                  "[KeyboardMonitor] Failed to create event tap — check Accessibility permission",
-                  "[KeyboardMonitor] Event tap started (.defaultTap)", "[KeyboardMonitor] Event tap stopped",
-                  "[KeyboardMonitor] Event tap started (.defaultTap)"));
 }
 
 TEST_F(KeyboardMonitorTest, ADisabledTapIsEnabledAndReported) {
@@ -131,7 +125,6 @@ TEST_F(KeyboardMonitorTest, ADisabledTapIsEnabledAndReported) {
   queue.advance(5000ms);
   EXPECT_TRUE(tap.isOn) << "though nobody said so";
   EXPECT_EQ(interruptions, 3);
-  EXPECT_EQ(log.lines().back(), "[KeyboardMonitor] Re-enabling disabled event tap");
   queue.advance(20s);
   EXPECT_EQ(interruptions, 3) << "nothing more while the tap is on";
 }

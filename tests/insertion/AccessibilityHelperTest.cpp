@@ -78,21 +78,11 @@ TEST(AccessibilityRefusal, leavesTheDocumentAlone) {
   using Apps = std::vector<std::string>;
   const std::pair<const char*, void (*)(World)> reasons[] = {
       {"not trusted", [](World w) { w.accessibility.trusted = false; }},
-      {"no application", [](World w) { makeFail(*w.accessibility.system, attribute::focusedApplication); }},
       {"no element", [](World w) { makeFail(*w.accessibility.application, attribute::focusedElement); }},
       {"web area", [](World w) { setRole(*w.field, role::webArea); }},
-      {"HTML text area", [](World w) { setRole(*w.field, role::htmlTextArea); }},
       {"web as fifth ancestor", [](World w) { w.putAncestors(5, role::webArea); }},
-      {"built-in paste mode",
-       [](World w) {
-         w.defaults.set("pasteFallbackApps", Apps{});
-         w.workspace.frontmost->bundleIdentifier = "org.mozilla.firefox";
-       }},
       {"user's paste mode", [](World w) { w.defaults.set("pasteFallbackApps", Apps{"org.example.Editor"}); }},
       {"no value", [](World w) { makeFail(*w.field, attribute::value); }},
-      {"no selection", [](World w) { makeFail(*w.field, attribute::selectedTextRange); }},
-      {"selection of another type",
-       [](World w) { w.field->attributes[std::string(attribute::selectedTextRange)] = true; }},
       {"text not readable", [](World w) { makeFail(*w.field, attribute::stringForRange); }},
       {"text not writable", [](World w) { w.field->writeResult = AccessibilityStatus::failure; }},
       {"nothing before the caret", [](World w) { w.field->setCaret(0); }},
@@ -118,12 +108,6 @@ TEST_F(AccessibilityHelperTest, leavesAloneWhatIsNotTheShortcode) {
   EXPECT_EQ(helper.stands(":smile", 6), true);
   field->setCaret(0);
   EXPECT_EQ(helper.stands(":smile", 6), std::nullopt) << "an element that does not tell of its text";
-}
-
-TEST_F(AccessibilityHelperTest, saysWhenOnlyTheErasingWorked) {
-  field->writeResult = AccessibilityStatus::erasedOnly;
-  EXPECT_EQ(insert(), InsertionOutcome::erasedOnly);
-  EXPECT_EQ(field->document(), "hi ");
 }
 
 TEST_F(AccessibilityHelperTest, waitsSixtyMillisecondsForLettersOnTheirWay) {
@@ -185,8 +169,7 @@ TEST_F(AccessibilityHelperTest, knowsATerminalByApplicationOrRole) {
   EXPECT_FALSE(helper.isTerminal());
   setRole(*field, role::terminal);
   EXPECT_TRUE(helper.isTerminal());
-  accessibility.trusted = false;
-  EXPECT_FALSE(helper.isTerminal());
+  setRole(*field, role::textField);
   workspace.frontmost->isTerminal = true;
   EXPECT_TRUE(helper.isTerminal());
 }

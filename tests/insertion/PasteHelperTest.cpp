@@ -251,22 +251,5 @@ TEST_F(PasteHelperTest, itsEndGivesTheContentsBackAtOnce) {
   }
 }
 
-TEST_F(PasteHelperTest, finishingAfterTheReadOnlyRestores) {
-  paste(1, "x");
-  readAfter(120ms);
-  helper->finish();
-  EXPECT_TRUE(isRestored());
-  EXPECT_THAT(outcomes, ElementsAre(inserted));
-}
-
-TEST_F(PasteHelperTest, knowsTheUsersTextWhileItIsLent) {
-  EXPECT_EQ(helper->userText(), "user's");
-  paste(0, "x");
-  for (const milliseconds step : {50ms, 50ms, 199ms}) {
-    queue.advance(step);
-    EXPECT_EQ(helper->userText(), "user's") << step.count();
-  }
-}
-
 }  // namespace
 }  // namespace tessarin::testing

@@ -115,16 +115,6 @@ TEST_F(TextReplacerTest, answersAtOnceWhenTheUserGoesElsewhere) {
   EXPECT_EQ(pasteHelper.userText(), "user's");
 }
 
-TEST_F(TextReplacerTest, pastesByShiftInsertInATerminal) {
-  workspace.frontmost->isTerminal = true;
-  field->failing.insert(std::string(attribute::value));
-  replace("😀");
-  queue.advance(milliseconds(220));
-  EXPECT_EQ(keys.posted.back().press, (KeyPress{keycode::insert, keyflag::shift}));
-  EXPECT_EQ(primary.readByApplication(), "😀");
-  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted)) << "at once: its text cannot be read";
-}
-
 TEST(TextReplacerArrival, isWaitedForAsFarAsItCanBeTold) {
   constexpr milliseconds never{9999};
   const struct {
