@@ -152,7 +152,6 @@ TEST_F(Fetching, BringsTheFeed) {
   server.answer("/feed.xml?a=b", "200 OK", content);
   EXPECT_EQ(fetchPath("/feed.xml?a=b"), AppcastSource::Result(content));
   ASSERT_THAT(server.requests, SizeIs(1));
-  EXPECT_THAT(server.requests[0], HasSubstr("User-Agent: Tessarin\r\n"));
   EXPECT_THAT(server.requests[0], Not(HasSubstr("gzip")));
   EXPECT_THAT(log.lines(), IsEmpty());
 }

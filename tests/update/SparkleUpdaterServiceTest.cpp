@@ -1,4 +1,3 @@
-#include <thread>
 
 #include "Matchers.h"
 #include "support/FakeUserDefaults.h"
@@ -44,13 +43,11 @@ class Service : public ::testing::Test {
 };
 
 TEST_F(Service, ChecksUnaskedOnlyIfThePreferenceSaysSo) {
-  defaults.set("automaticallyDownloadsUpdates", true);
   EXPECT_FALSE(start().updaterController()->automaticallyChecksForUpdates());
   defaults.set("automaticallyChecksForUpdates", "true");
   EXPECT_FALSE(start().updaterController()->automaticallyChecksForUpdates()) << "no Boolean";
   defaults.set("automaticallyChecksForUpdates", true);
   EXPECT_TRUE(start().updaterController()->automaticallyChecksForUpdates());
-  EXPECT_FALSE(service->updaterController()->automaticallyDownloadsUpdates());
 }
 
 TEST_F(Service, TellsOfAnUpdateBeforeTheCheckEndsAndForgetsOneThatIsNoLongerThere) {
@@ -67,13 +64,6 @@ TEST_F(Service, TellsOfAnUpdateBeforeTheCheckEndsAndForgetsOneThatIsNoLongerTher
   source.answer(UpdateFailure::noConnection);
   queue.runReady();
   EXPECT_THAT(changes, ElementsAre("checking", "not available", "no info", "not checking"));
-}
-
-TEST_F(Service, MayBeToldFromAnyThread) {
-  start();
-  std::thread([this] { service->didFindValidUpdate({}); }).join();
-  queue.runReady();
-  EXPECT_TRUE(service->updateAvailable());
 }
 
 TEST_F(Service, LeavesNothingBehind) {

@@ -86,7 +86,6 @@ TEST_F(Updating, SaysWhyItFailed) {
   source.answer("<html/>");
   EXPECT_THAT(user.shown, ElementsAre("checking", "failure 2", "checking", "failure 8"));
   EXPECT_THAT(delegate.told, ElementsAre("failed 2", "failed 8"));
-  EXPECT_THAT(log.lines(), ElementsAre("[Updater] The list of updates is damaged: line 1: this is no feed"));
 }
 
 TEST_F(Updating, IsShownWhileItRunsAndEndsWhenTheUserCancelsOrInSilenceWithTheProgram) {
@@ -170,10 +169,8 @@ TEST_F(Updating, ChecksUnaskedOnlyWhileToldTo) {
 }
 
 TEST_F(Updating, ShowsNothingUnaskedButAnUpdateAndDownloadsNone) {
-  EXPECT_FALSE(updater->automaticallyDownloadsUpdates());
   startAutomatic();
   updater->setAutomaticallyDownloadsUpdates(true);
-  EXPECT_TRUE(updater->automaticallyDownloadsUpdates());
   pass(minutes(60));
   source.answer(UpdateFailure::noConnection);
   pass(hours(24));
