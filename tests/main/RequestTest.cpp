@@ -10,8 +10,6 @@ using Kind = Request::Kind;
 TEST(Request, TravelsInOneLineWhateverThePath) {
   const Request requests[] = {
       {Kind::settings, {}},
-      {Kind::toggle, {}},
-      {Kind::quit, {}},
       {Kind::importFile, "/home/ä 😀/a%41.json"},
       {Kind::exportFile, "/a\nb\r\t\x01\x7f\xff%"},
       {Kind::importFile, "/" + std::string(4095, '\n')},

@@ -24,28 +24,6 @@ class SnippetFilesTest : public ::testing::Test {
   SnippetStore store{{.resources = folder.path(), .storage = folder / "storage"}, clock};
 };
 
-TEST_F(SnippetFilesTest, SaysHowManyWereImportedOrExported) {
-  writeImport({snippet("one", "1")});
-  EXPECT_EQ(importSnippets(store, folder / "import.json"), (Answer{true, "Imported 1 snippet"}));
-  EXPECT_EQ(exportSnippets(store, folder / "export.json"), (Answer{true, "Exported 1 snippet"}));
-  EXPECT_EQ(decodeSnippets(folder.read("export.json")), store.userSnippets());
-  writeImport({snippet("one", "1"), snippet("two", "2"), snippet("three", "3")});
-  EXPECT_EQ(importSnippets(store, folder / "import.json"), (Answer{true, "Imported 2 snippets"}));
-  EXPECT_EQ(importSnippets(store, folder / "import.json"), (Answer{true, "Imported 0 snippets"}));
-}
-
-TEST_F(SnippetFilesTest, SaysWhyAnImportOrExportFailed) {
-  folder.write("broken.json", "[{}]");
-  for (const char* name : {"broken.json", "missing.json", "."}) {
-    const Answer answer = importSnippets(store, folder / name);
-    EXPECT_FALSE(answer.isSuccess);
-    EXPECT_THAT(answer.text, StartsWith("Import failed: ")) << name;
-  }
-  const Answer answer = exportSnippets(store, folder / "missing/export.json");
-  EXPECT_FALSE(answer.isSuccess);
-  EXPECT_THAT(answer.text, StartsWith("Export failed: "));
-}
-
 TEST_F(SnippetFilesTest, AnImportSaysThatItIsNotYetOnTheDisk) {
   folder.write("storage", "a file where the folder should be");
   writeImport({snippet("one", "1")});
