@@ -153,24 +153,6 @@ class UnderAStrictWindowManager(FirstRunWithoutTrust):
     window_manager = ("metacity",)
 
 
-class FocusIsGuarded(ApplicationTest):
-    """Under a window manager that lets no program take the focus from where the user types."""
-
-    preferences = {"hasCompletedOnboarding": True}
-    window_manager = ("metacity",)
-
-    def test_a_second_start_brings_up_the_settings_all_the_same(self):
-        with Mousepad(self.session, self.typist):
-            editor = self.typist.active_window()
-            for _ in range(2):
-                self.typist.type("a")
-                self.tessarin.command()
-                wait_for(lambda: getattr(self.typist.titled("Tessarin Settings"), "id", None) == self.typist.active_window(),
-                         what="the settings to be in front")
-                self.session.run("xdotool", "windowactivate", str(editor))
-                wait_for(lambda: self.typist.active_window() == editor, what="the editor to be back")
-
-
 class SecondStart(ApplicationTest):
     preferences = {"hasCompletedOnboarding": True}
 

@@ -1,7 +1,6 @@
 #!/usr/bin/python3
 """One instance a data folder: later starts and commands hand over to it and lose nothing."""
 
-import fcntl
 import json
 import os
 import pathlib
@@ -83,17 +82,6 @@ class RaceTest(InstancesTest):
         self.assertEqual(self.session.run(PROGRAM, "--settings").stdout, b"settings\n")
         self.assertIsNone(running.poll(), self.said(running))
         self.session.stop(running, signal.SIGKILL)
-
-    def test_a_command_waits_its_turn_while_another_is_at_work(self):
-        self.own.parent.mkdir()
-        (self.session.folder / "one.json").write_text(snippets({"zqone": "x"}))
-        with (self.own.parent / "lock").open("w") as lock:
-            fcntl.flock(lock, fcntl.LOCK_EX)
-            waiting = self.start("waiting", "--import", self.session.folder / "one.json")
-            with self.assertRaises(TimeoutError):
-                wait_for(lambda: waiting.poll() is not None, 3)
-        self.assertEqual(waiting.wait(10), 0, self.said(waiting))
-        self.assertEqual(self.own_triggers(), ["zqone"])
 
 
 class HandingOverTest(InstancesTest):

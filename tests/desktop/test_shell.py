@@ -7,9 +7,6 @@ import pathlib
 import signal
 import unittest.mock
 
-from Xlib import X, display
-from Xlib.protocol import event
-
 from desktop_test import snippets
 from editors import Mousepad
 from session import PROGRAM, Session, Tessarin, wait_for
@@ -58,24 +55,6 @@ class TrayTest(unittest.TestCase):
                 wait_for(lambda: typist.unmanaged_windows() - before, what="the menu")
                 typist.press("q")
                 wait_for(lambda: "Event tap stopped" in program.log, what="an orderly end")
-
-    def test_an_old_style_tray_may_come_late(self):
-        with Tessarin(self.session):
-            x = display.Display(self.session.env["DISPLAY"])
-            tray = x.screen().root.create_window(0, 0, 10, 10, 0, X.CopyFromParent)
-            selection = x.intern_atom("_NET_SYSTEM_TRAY_S0")
-            tray.set_selection_owner(selection, X.CurrentTime)
-            x.screen().root.send_event(
-                event.ClientMessage(window=x.screen().root, client_type=x.intern_atom("MANAGER"),
-                                    data=(32, [X.CurrentTime, selection, tray.id, 0, 0])),
-                event_mask=X.StructureNotifyMask)
-            x.flush()
-            opcode = x.intern_atom("_NET_SYSTEM_TRAY_OPCODE")
-
-            def is_docked():
-                events = (x.next_event() for _ in range(x.pending_events()))
-                return any(e.type == X.ClientMessage and e.client_type == opcode for e in events)
-            wait_for(is_docked, what="an icon in the old-style tray")
 
 
 class CommandLineTest(unittest.TestCase):
