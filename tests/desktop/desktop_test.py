@@ -14,6 +14,7 @@ from typist import Typist
 SNIPPETS = {
     "zqxone": "first",
     "zqxtwo": "second",
+    "today": "{{date}}",
     "quote": "[{{clipboard}}]",
 } | {"k" * length: f"<{length}>" for length in range(1, 64)}
 

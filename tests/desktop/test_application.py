@@ -30,7 +30,8 @@ class ApplicationTest(unittest.TestCase):
         return json.loads(self.preferences_path.read_text()).get(key)
 
     def window(self, title):
-        return wait_for(lambda: self.typist.titled(title), what=f"the window “{title}”")
+        """The size of the window of this title, once it is there."""
+        return wait_for(lambda: self.typist.titled(title), what=f"the window “{title}”").get_geometry()
 
     def import_snippet(self, trigger, replacement):
         path = self.session.folder / "mine.json"
@@ -72,7 +73,8 @@ class ApplicationTest(unittest.TestCase):
 
 class FirstRun(ApplicationTest):
     def test_from_launch_to_quit(self):
-        self.window("Welcome to Tessarin")
+        frame = self.window("Welcome to Tessarin")
+        self.assertEqual((frame.width, frame.height), (520, 480))
         self.wait_until_heard("System-wide :shortcode: autocomplete for macOS")
         self.typist.press("Return")
         self.wait_until_heard("Tessarin needs two permissions to work:")
@@ -102,7 +104,8 @@ class FirstRun(ApplicationTest):
 
     def look_at_the_statistics(self):
         self.tessarin.command("--settings")
-        self.window("Tessarin Settings")
+        frame = self.window("Tessarin Settings")
+        self.assertEqual((frame.width, frame.height), (640, 480))
         wait_for(lambda: self.typist.titled("Tessarin Settings").id == self.typist.active_window(),
                  what="the settings to be in front")
         for _ in range(2):
@@ -151,6 +154,24 @@ class FirstRunWithoutTrust(ApplicationTest):
 
 class UnderAStrictWindowManager(FirstRunWithoutTrust):
     window_manager = ("metacity",)
+
+
+class FocusIsGuarded(ApplicationTest):
+    """Under a window manager that lets no program take the focus from where the user types."""
+
+    preferences = {"hasCompletedOnboarding": True}
+    window_manager = ("metacity",)
+
+    def test_a_second_start_brings_up_the_settings_all_the_same(self):
+        with Mousepad(self.session, self.typist):
+            editor = self.typist.active_window()
+            for _ in range(2):
+                self.typist.type("a")
+                self.tessarin.command()
+                wait_for(lambda: getattr(self.typist.titled("Tessarin Settings"), "id", None) == self.typist.active_window(),
+                         what="the settings to be in front")
+                self.session.run("xdotool", "windowactivate", str(editor))
+                wait_for(lambda: self.typist.active_window() == editor, what="the editor to be back")
 
 
 class SecondStart(ApplicationTest):

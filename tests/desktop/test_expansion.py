@@ -29,6 +29,7 @@ ROWS = [
     ("Escape cancels", ["a:smile", key("Escape"), "b"], "a:smileb"),
     ("a space cancels", ["a:smile b"], "a:smile b"),
     ("BackSpace shortens the query", ["a:smilex\b\nb"], "a😄b"),
+    ("BackSpace over the trigger ends it", ["a:s\b\bx:smile\nb"], "ax😄b"),
     ("an ordinary colon", ["ratio 1: 2:1 a::b"], "ratio 1: 2:1 a::b"),
 ]
 
@@ -74,6 +75,27 @@ class WithThePointer(DesktopTest):
             self.typist.click(x + width / 2, y + height - 28 - 18)  # the last row, above the hints
             wait_for(lambda: self.typist.popup() is None, what="the click to be taken before the keys that save")
             self.assertEqual(editor.wait_for_document("asecond"), "asecond")
+
+    def test_click_elsewhere_ends_it(self):
+        with Mousepad(self.session, self.typist) as editor:
+            self.play(["a:smile"])
+            left, top, width, height = self.wait_for_popup()
+            x, y, editor_width, editor_height = self.typist.active_frame()
+            places = [(x + editor_width * across, y + editor_height - 60) for across in (0.1, 0.9)]
+            self.typist.click(*next(place for place in places if not left <= place[0] < left + width))
+            wait_for(lambda: self.typist.popup() is None, what="the popup to go")
+            self.play([key("End", "Control_L"), "b"])
+            self.assertEqual(editor.wait_for_document("a:smileb"), "a:smileb")
+
+
+class Templates(DesktopTest):
+    def test_variables_are_filled_in(self):
+        owner = set_clipboard(self.session, "größer".encode())
+        with Mousepad(self.session, self.typist) as editor:
+            self.check(editor, [":quote\n"], "[größer]")
+            self.play([" :today\n"])
+            wait_for(lambda: re.search(r" \d+/\d+/\d+$", editor.document()), what="the date")
+        self.session.stop(owner)
 
 
 class HighResolution(unittest.TestCase):
@@ -142,6 +164,26 @@ class Modes(DesktopTest):
             wait_for(lambda: clipboard(self.session, selection="primary") == b"primary", 5, "PRIMARY to come back")
             for owner in owners:
                 self.session.stop(owner)
+
+    def test_blocked_application(self):
+        with Mousepad(self.session, self.typist) as editor:
+            self.check(editor, [":smile\n"], "😄")
+            self.set_preferences(blacklistedApps=["org.xfce.mousepad", "mousepad"])
+            self.check(editor, ["a:smile\tb"], "a:smile\tb")
+            self.assertIsNone(self.typist.popup())
+
+    def test_other_trigger_at_once(self):
+        with Mousepad(self.session, self.typist) as editor:
+            self.set_preferences(triggerCharacter=";")
+            time.sleep(0.3)  # another program's change of the file has to be noticed first
+            self.check(editor, ["a:smile\tb;smile;c"], "a:smile\tb😄c")
+
+    def test_switched_off_and_on(self):
+        with Mousepad(self.session, self.typist) as editor:
+            self.tessarin.command("--toggle")
+            self.check(editor, ["a:smile\tb"], "a:smile\tb")
+            self.tessarin.command("--toggle")
+            self.check(editor, [":smile\tb"], "😄b")
 
 
 class NeverInTheLog(DesktopTest):
