@@ -190,18 +190,6 @@ TEST_F(OwnWindows, SayWhenATextWasNotTaken) {
   EXPECT_EQ(replace(focused(), {3, 0}, "xyz"), AccessibilityStatus::failure);
 }
 
-TEST_F(OwnWindows, TellOfEveryMoveOfTheFocus) {
-  auto* first = new QLineEdit(&window);
-  auto* second = new QLineEdit(&window);
-  ASSERT_TRUE(showFocused(window, *first));
-  int moves = 0;
-  const Subscription token = accessibility().onFocusMoved([&moves] { ++moves; });
-  second->setFocus();
-  EXPECT_EQ(moves, 1);
-  others.focus(std::make_shared<FakeElement>());
-  EXPECT_EQ(moves, 2);
-}
-
 using OtherApplications = World;
 
 TEST_F(OtherApplications, AreAskedWhileNoWindowOfOursIsActive) {

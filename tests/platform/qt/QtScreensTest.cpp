@@ -6,21 +6,18 @@
 #include "platform/qt/QtConnection.h"
 #include "platform/qt/QtScreens.h"
 #include "platform/qt/TestApplication.h"
-#include "support/FakeScreens.h"
-#include "support/ScreensSuite.h"
 #include "support/desktop/ChildProcess.h"
 #include "support/desktop/XClient.h"
 
 namespace tessarin::testing {
 namespace {
 
-using ::testing::ElementsAre;
 using ui::QtScreens;
 
 /// The display of the test program: 1280 x 1024 pixels, no window manager, scale 1.
-class Monitors {
- public:
-  ~Monitors() {
+class QtScreensTest : public ::testing::Test {
+ protected:
+  ~QtScreensTest() override {
     for (const char* name : {"left", "right"}) testing::run({"xrandr", "--delmonitor", name});
     client.setRootNumbers("_NET_WORKAREA", {});
     client.setRootNumbers("_NET_CURRENT_DESKTOP", {});
@@ -36,13 +33,6 @@ class Monitors {
   static void layOut() {
     ASSERT_EQ(testing::run({"xrandr", "--setmonitor", "left", "640/300x900/300+0+0", "screen"}), 0);
     ASSERT_EQ(testing::run({"xrandr", "--setmonitor", "*right", "640/300x924/300+640+100", "none"}), 0);
-  }
-  void focus(std::size_t number) {
-    const auto window = client.openWindow({number == 0 ? 700.0 : 20.0, 300, 200, 100});
-    client.setRootNumbers("_NET_ACTIVE_WINDOW", {window});
-  }
-  void movePointer(Point point) {
-    client.movePointer(static_cast<int>(point.x), 1024 - static_cast<int>(point.y));
   }
 
   XClient client{std::getenv("DISPLAY")};
@@ -65,31 +55,24 @@ class Monitors {
   QtScreens screens_;
 };
 
-class FakeWorld {
- public:
-  Screens& screens() { return fake_; }
-  void layOut() {
-    fake_.all.clear();
-    for (const Rect& frame : {Rect{640, -100, 640, 924}, Rect{0, 24, 640, 900}}) {
-      fake_.all.push_back({frame, frame});
-    }
-  }
-  void focus(std::size_t number) { fake_.main = fake_.all.at(number); }
-  void movePointer(Point point) { fake_.mouse = point; }
-
- private:
-  FakeScreens fake_;
-};
-
-class QtScreensTest : public ::testing::Test {
- protected:
-  Monitors monitors;
-  XClient& client = monitors.client;
-  QtScreens& screens() { return monitors.screens(); }
-};
+TEST_F(QtScreensTest, KnowsMonitorsFocusAndPointer) {
+  client.movePointer(300, 200);
+  EXPECT_EQ(screens().mouseLocation(), (Point{300, 824}));
+  layOut();
+  const auto found = screens().screens();
+  ASSERT_EQ(found.size(), 2U);
+  EXPECT_EQ(found[0].frame, (Rect{640, -100, 640, 924}));
+  EXPECT_EQ(found[1].frame, (Rect{0, 24, 640, 900}));
+  for (const Screen& screen : found) EXPECT_EQ(screen.visibleFrame, screen.frame) << "there are no panels";
+  EXPECT_EQ(screens().mainScreen(), found[0]);
+  client.setRootNumbers("_NET_ACTIVE_WINDOW", {client.openWindow({20, 300, 200, 100})});
+  EXPECT_EQ(screens().mainScreen(), found[1]);
+  client.setRootNumbers("_NET_ACTIVE_WINDOW", {client.openWindow({700, 300, 200, 100})});
+  EXPECT_EQ(screens().mainScreen(), found[0]);
+}
 
 TEST_F(QtScreensTest, PanelsAreLessThanTheVisibleFrame) {
-  monitors.layOut();
+  layOut();
   client.setRootNumbers("_NET_CURRENT_DESKTOP", {1});
   client.setRootNumbers("_NET_WORKAREA", {0, 0, 10, 10, 0, 30, 1280, 994});
   const auto found = screens().screens();
@@ -104,7 +87,7 @@ TEST_F(QtScreensTest, PanelsAreLessThanTheVisibleFrame) {
 TEST_F(QtScreensTest, FollowsTheMonitorsAndTheCompositor) {
   EXPECT_EQ(screens().screens().size(), 1U);
   EXPECT_EQ(screens().space().flipped(Rect{0, 0, 10, 10}), (Rect{0, 1014, 10, 10}));
-  monitors.layOut();
+  layOut();
   EXPECT_EQ(screens().screens().size(), 2U);
   EXPECT_EQ(screens().space().flipped(Rect{0, 0, 10, 10}), (Rect{0, 914, 10, 10}));
   {
@@ -114,9 +97,6 @@ TEST_F(QtScreensTest, FollowsTheMonitorsAndTheCompositor) {
   }
   EXPECT_TRUE(eventuallyInLoop([this] { return !screens().isComposited(); }));
 }
-
-INSTANTIATE_TYPED_TEST_SUITE_P(Qt, ScreensSuite, ::testing::Types<Monitors>);
-INSTANTIATE_TYPED_TEST_SUITE_P(Fake, ScreensSuite, ::testing::Types<FakeWorld>);
 
 }  // namespace
 }  // namespace tessarin::testing

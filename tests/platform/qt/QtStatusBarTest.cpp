@@ -5,8 +5,6 @@
 
 #include "platform/qt/QtStatusBar.h"
 #include "platform/qt/TestApplication.h"
-#include "support/FakeStatusBar.h"
-#include "support/StatusBarSuite.h"
 #include "support/desktop/XClient.h"
 
 namespace tessarin::testing {
@@ -25,63 +23,10 @@ QMenu* menu() {
   return qobject_cast<QMenu*>(QApplication::activePopupWidget());
 }
 
-class TrayWorld {
- public:
-  TrayWorld() { tray_.becomeTray(); }
-  StatusBar& statusBar() { return statusBar_; }
-  bool isShown() {
-    QTest::qWait(100);
-    return icon() != nullptr;
-  }
-  std::vector<std::string> openMenu() {
-    QTest::mouseClick(icon(), Qt::LeftButton);
-    std::vector<std::string> seen;
-    if (menu() == nullptr) return seen;
-    for (const QAction* action : menu()->actions()) {
-      const std::string title = action->isSeparator() ? "-" : action->text().toStdString();
-      seen.push_back(action->isSeparator() || action->isEnabled() ? title : "(" + title + ")");
-    }
-    return seen;
-  }
-  void choose(const std::string& title) {
-    ASSERT_NE(menu(), nullptr);
-    for (QAction* action : menu()->actions()) {
-      if (action->text().toStdString() != title) continue;
-      QTest::mouseClick(menu(), Qt::LeftButton, {}, menu()->actionGeometry(action).center());
-      return;
-    }
-    ADD_FAILURE() << "not in the menu: " << title;
-  }
-
- private:
-  XClient tray_{std::getenv("DISPLAY")};
-  QtStatusBar statusBar_;
-};
-
-class FakeTrayWorld {
- public:
-  StatusBar& statusBar() { return fake_; }
-  bool isShown() const { return !fake_.descriptions.empty() && fake_.visible; }
-  std::vector<std::string> openMenu() {
-    fake_.openMenu();
-    std::vector<std::string> seen;
-    for (const MenuItem& item : fake_.menus.back()) {
-      const std::string title = item.isSeparator() ? "-" : item.title;
-      seen.push_back(item.isSeparator() || item.action ? title : "(" + title + ")");
-    }
-    return seen;
-  }
-  void choose(const std::string& title) { fake_.choose(title); }
-
- private:
-  FakeStatusBar fake_;
-};
-
 class QtStatusBarTest : public ::testing::Test {
  protected:
   QtStatusBarTest() {
     tray.becomeTray();
-    statusBar.onMenuOpening([this] { ++openings; });
     statusBar.createItem("Tessarin");
     statusBar.setMenu(
         {{.title = "Heading", .keyEquivalent = "h", .action = nullptr},
@@ -104,21 +49,8 @@ class QtStatusBarTest : public ::testing::Test {
 
   XClient tray{std::getenv("DISPLAY")};
   QtStatusBar statusBar;
-  int openings = 0;
   std::string chosen;
 };
-
-TEST_F(QtStatusBarTest, ALeftClickOpensTheMenuAtThePointer) {
-  QCursor::setPos(200, 100);
-  QTest::mouseClick(icon(), Qt::LeftButton);
-  ASSERT_NE(menu(), nullptr);
-  EXPECT_EQ(openings, 1);
-  EXPECT_TRUE(menu()->geometry().adjusted(-1, -1, 1, 1).contains(200, 100));
-  QTest::keyClick(menu(), Qt::Key_Escape);
-  EXPECT_EQ(menu(), nullptr);
-  QTest::mouseClick(icon(), Qt::MiddleButton);
-  EXPECT_EQ(menu(), nullptr);
-}
 
 TEST_F(QtStatusBarTest, TheOpenMenuAnswersToTheKeysOfItsItems) {
   const struct {
@@ -153,9 +85,5 @@ TEST_F(QtStatusBarTest, TheSymbolFollowsTheColoursOfTheDesktop) {
   QApplication::setPalette(before);
 }
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Tray, StatusBarSuite, ::testing::Types<TrayWorld>);
-INSTANTIATE_TYPED_TEST_SUITE_P(Fake, StatusBarSuite, ::testing::Types<FakeTrayWorld>);
-
 }  // namespace
-
 }  // namespace tessarin::testing
