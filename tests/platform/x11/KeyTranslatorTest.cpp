@@ -71,20 +71,5 @@ TEST_F(KeyTranslatorTest, GivesPlainTextAndTheFlagForAChord) {
   EXPECT_EQ(text(XKB_KEY_c, x11::ModifierBits::capsLock), u"C");
 }
 
-TEST_F(KeyTranslatorTest, NamesTheKeysThatMeanSomething) {
-  use({"us"});
-  const std::pair<xkb_keysym_t, std::int64_t> keys[] = {
-      {XKB_KEY_Return, keycode::returnKey},
-      {XKB_KEY_Tab, keycode::tab},
-      {XKB_KEY_Escape, keycode::escape},
-      {XKB_KEY_BackSpace, keycode::deleteBackward},
-      {XKB_KEY_Up, keycode::up},
-      {XKB_KEY_Down, keycode::down},
-      {XKB_KEY_Left, keycode::left},
-      {XKB_KEY_Right, keycode::right},
-  };
-  for (const auto& [symbol, code] : keys) EXPECT_EQ(translate(symbol)->keyCode, code) << symbol;
-}
-
 }  // namespace
 }  // namespace tessarin::testing

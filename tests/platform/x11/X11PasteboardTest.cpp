@@ -1,5 +1,4 @@
 #include <cstdlib>
-#include <fstream>
 #include <thread>
 
 #include "SelectionPeer.h"
@@ -10,7 +9,6 @@
 #include "support/LogRecorder.h"
 #include "support/ManualMainQueue.h"
 #include "support/PasteboardSuite.h"
-#include "support/TemporaryFolder.h"
 #include "support/desktop/PrivateDisplay.h"
 
 namespace tessarin::testing {
@@ -149,23 +147,6 @@ TEST_F(X11PasteboardTest, PutsBackEveryByteInOrder) {
       EXPECT_TRUE(fresh.peer.read("CLIPBOARD", offered[i]) == items[i].data) << offered[i];
     }
   }
-}
-
-TEST_F(X11PasteboardTest, WorksWithACommandLineClient) {
-  const TemporaryFolder folder;
-  folder.write("in", blob(1'000'000));
-  const auto shell = [](const std::string& command) { return display().run({"sh", "-c", command}); };
-  ASSERT_EQ(shell("xclip -selection clipboard -t image/png -i '" + (folder / "in").string() + "'"), 0);
-  // It takes the selection in the background.
-  ASSERT_TRUE(world.waitFor([&] { return !peer().targets("CLIPBOARD").empty(); }));
-  const auto saved = world.wholeSnapshot();
-  EXPECT_THAT(saved->items, ElementsAre(PasteboardItem{"image/png", folder.read("in")}));
-  pasteboard().writeText("für 😀");
-  ASSERT_EQ(shell("xclip -selection clipboard -o > '" + (folder / "text").string() + "'"), 0);
-  EXPECT_EQ(folder.read("text"), "für 😀");
-  pasteboard().write(saved->items);
-  ASSERT_EQ(shell("xclip -selection clipboard -t image/png -o > '" + (folder / "out").string() + "'"), 0);
-  EXPECT_TRUE(folder.read("out") == folder.read("in"));
 }
 
 TEST_F(X11PasteboardTest, PutsBackTextUnderTheTypeThatItHad) {

@@ -2,10 +2,8 @@
 
 #include "platform/x11/X11Workspace.h"
 #include "support/Eventually.h"
-#include "support/FakeWorkspace.h"
 #include "support/ManualMainQueue.h"
 #include "support/TemporaryFolder.h"
-#include "support/WorkspaceSuite.h"
 #include "support/desktop/PrivateDisplay.h"
 #include "support/desktop/XClient.h"
 
@@ -49,31 +47,34 @@ class Session {
   std::unique_ptr<XClient> peer;
 };
 
-template <bool isManaged>
-struct X11World : Session {
-  X11World() : Session(isManaged) {}
-  Workspace& workspace() { return *Session::workspace; }
-  void activate(const std::string& name) {
-    const auto window = show(name);
-    if (!isManaged) peer->focus(window);
-  }
-};
-
-struct FakeWorld {
-  Workspace& workspace() { return fake; }
-  void activate(const std::string& name) { fake.activate(name); }
-  bool waitFor(auto condition) { return condition(); }
-  FakeWorkspace fake;
-};
-
-INSTANTIATE_TYPED_TEST_SUITE_P(Managed, WorkspaceSuite, ::testing::Types<X11World<true>>);
-INSTANTIATE_TYPED_TEST_SUITE_P(Unmanaged, WorkspaceSuite, ::testing::Types<X11World<false>>);
-INSTANTIATE_TYPED_TEST_SUITE_P(Fake, WorkspaceSuite, ::testing::Types<FakeWorld>);
-
 class X11WorkspaceTest : public ::testing::Test {
  protected:
   Session session{true};
 };
+
+TEST(X11Workspace, TellsWhenAnotherApplicationComesToTheFront) {
+  for (const bool isManaged : {true, false}) {
+    SCOPED_TRACE(isManaged);
+    Session session(isManaged);
+    const auto activate = [&](const char* name) {
+      const auto window = session.show(name);
+      if (!isManaged) session.peer->focus(window);
+      return session.becomesFrontmost(name);
+    };
+    EXPECT_FALSE(session.workspace->application("org.example.not-installed"));
+    EXPECT_TRUE(activate("first"));
+    int told = 0;
+    auto subscription =
+        session.workspace->onContextChanged([&] { told += session.frontmost() == "second" ? 1 : 0; });
+    EXPECT_TRUE(activate("second"));
+    EXPECT_TRUE(session.waitFor([&] { return told > 0; })) << "the new one must be known when it is told";
+    subscription.reset();
+    told = 0;
+    EXPECT_TRUE(activate("first"));
+    EXPECT_TRUE(activate("second"));
+    EXPECT_EQ(told, 0) << "unsubscribed";
+  }
+}
 
 TEST_F(X11WorkspaceTest, FollowsTheWindowManager) {
   const auto first = session.show("starting");
