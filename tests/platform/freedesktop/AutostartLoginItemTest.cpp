@@ -2,8 +2,6 @@
 
 #include "platform/freedesktop/AutostartLoginItem.h"
 #include "platform/freedesktop/DesktopEntryText.h"
-#include "support/FakeLoginItem.h"
-#include "support/LoginItemSuite.h"
 #include "support/TemporaryFolder.h"
 
 namespace tessarin::testing {
@@ -47,36 +45,31 @@ struct Home {
   const std::string own = "config/autostart/tessarin.desktop";
 };
 
-class AutostartWorld {
- public:
-  LoginItem& item() { return item_; }
-  /// A folder in the file's place keeps even the administrator from writing it.
-  void breakDown() {
-    if (home_.hasOwn()) home_.writeForEverybody(home_.content());
-    std::filesystem::remove_all(home_.folder / "config/autostart");
-    home_.folder.write("config/autostart", "");
-  }
-  void disableOutside() { home_.writeOwn(home_.content() + "X-GNOME-Autostart-enabled=false\n"); }
-
- private:
-  Home home_;
-  AutostartLoginItem item_ = home_.makeItem();
-};
-
-class FakeWorld {
- public:
-  LoginItem& item() { return item_; }
-  void breakDown() { item_.failure = "the disk is full"; }
-  void disableOutside() { item_.enabled = false; }
-
- private:
-  FakeLoginItem item_;
-};
-
-using Worlds = ::testing::Types<AutostartWorld, FakeWorld>;
-INSTANTIATE_TYPED_TEST_SUITE_P(LoginItems, LoginItemSuite, Worlds);
-
 const std::string entry = "[Desktop Entry]\nType=Application\nName=Tessarin\nExec=tessarin\n";
+
+TEST(AutostartLoginItem, IsEnabledWhileRegisteredOnceOrTwice) {
+  const Home home;
+  AutostartLoginItem item = home.makeItem();
+  EXPECT_FALSE(item.isEnabled());
+  for (const bool isOn : {true, false}) {
+    for (int times = 0; times < 2; ++times) {
+      EXPECT_EQ(isOn ? item.registerItem() : item.unregisterItem(), std::nullopt);
+      EXPECT_EQ(item.isEnabled(), isOn);
+    }
+  }
+}
+
+TEST(AutostartLoginItem, AFailureSaysWhyAndChangesNothing) {
+  for (const bool wasOn : {false, true}) {
+    const Home home;
+    if (wasOn) home.writeForEverybody(entry);
+    home.folder.write("config/autostart", "");  // keeps even the administrator from writing below it
+    AutostartLoginItem item = home.makeItem();
+    const auto failure = wasOn ? item.unregisterItem() : item.registerItem();
+    EXPECT_FALSE(failure.value_or("").empty());
+    EXPECT_EQ(item.isEnabled(), wasOn);
+  }
+}
 
 TEST(AutostartLoginItem, JudgesAnEntryAsTheDesktopDoes) {
   struct Case {

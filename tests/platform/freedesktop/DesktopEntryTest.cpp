@@ -6,8 +6,6 @@ namespace {
 
 using freedesktop::localeCandidates;
 using freedesktop::parseDesktopEntry;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 constexpr const char* editor = R"(# comment
 [Desktop Entry]
@@ -45,12 +43,6 @@ TEST(DesktopEntry, HasTheNameOfTheLocale) {
     EXPECT_EQ(parseDesktopEntry(editor, localeCandidates(locale))->name, name) << locale;
 }
 
-TEST(LocaleCandidates, GoFromTheNarrowToTheWide) {
-  EXPECT_THAT(localeCandidates("sr_RS.UTF-8@latin"), ElementsAre("sr_RS@latin", "sr_RS", "sr@latin", "sr"));
-  EXPECT_THAT(localeCandidates("ca@valencia"), ElementsAre("ca@valencia", "ca"));
-  EXPECT_THAT(localeCandidates("C.UTF-8"), IsEmpty());
-}
-
 TEST(DesktopEntry, IsNotReadFromAnythingElse) {
   for (const char* content :
        {"", "\n\n", "Type=Application\nName=No group\n", "[Desktop Entry]\nType=Link\nName=Link\n",
@@ -76,17 +68,6 @@ TEST(BaseFolders, FollowTheEnvironment) {
             "/c/tessarin");
   EXPECT_EQ(freedesktop::configFolder(environment({{"HOME", "/h"}, {"XDG_CONFIG_HOME", "c"}})),
             "/h/.config/tessarin");
-}
-
-TEST(BaseFolders, TheUsersApplicationsComeFirstAndNoneTwice) {
-  EXPECT_THAT(
-      freedesktop::applicationFolders(
-          environment({{"HOME", "/h"}, {"XDG_DATA_DIRS", "/a/:relative:/var/lib/flatpak/exports/share:/a"}})),
-      ElementsAre(
-          "/h/.local/share/applications", "/a/applications", "/var/lib/flatpak/exports/share/applications",
-          "/h/.local/share/flatpak/exports/share/applications", "/var/lib/snapd/desktop/applications"));
-  EXPECT_THAT(freedesktop::applicationFolders(environment({{"HOME", "/h"}})),
-              ::testing::IsSupersetOf({"/usr/local/share/applications", "/usr/share/applications"}));
 }
 
 }  // namespace

@@ -1,10 +1,8 @@
 #include "platform/freedesktop/JsonUserDefaults.h"
 #include "support/Eventually.h"
-#include "support/FakeUserDefaults.h"
 #include "support/LogRecorder.h"
 #include "support/ManualMainQueue.h"
 #include "support/TemporaryFolder.h"
-#include "support/UserDefaultsSuite.h"
 
 namespace tessarin::testing {
 namespace {
@@ -15,18 +13,6 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
-struct JsonWorld {
-  UserDefaults& defaults() { return preferences; }
-  TemporaryFolder folder;
-  JsonUserDefaults preferences{folder / "tessarin" / "preferences.json"};
-};
-struct FakeWorld {
-  UserDefaults& defaults() { return preferences; }
-  FakeUserDefaults preferences;
-};
-INSTANTIATE_TYPED_TEST_SUITE_P(Json, UserDefaultsSuite, ::testing::Types<JsonWorld>);
-INSTANTIATE_TYPED_TEST_SUITE_P(Fake, UserDefaultsSuite, ::testing::Types<FakeWorld>);
-
 class JsonUserDefaultsTest : public ::testing::Test {
  protected:
   std::string content() const { return folder.read("preferences.json"); }
@@ -35,6 +21,36 @@ class JsonUserDefaultsTest : public ::testing::Test {
   TemporaryFolder folder;
   fs::path file = folder / "preferences.json";
 };
+
+TEST_F(JsonUserDefaultsTest, AnswersWhatWasSetLast) {
+  JsonUserDefaults defaults(folder / "tessarin" / "preferences.json");
+  EXPECT_EQ(defaults.boolean("flag"), std::nullopt);
+  defaults.set("text", ";");
+  defaults.set("flag", true);
+  defaults.set("flag", false);
+  defaults.set("list", std::vector<std::string>{"b", "", "😀"});
+  EXPECT_EQ(defaults.string("text"), ";");
+  EXPECT_EQ(defaults.boolean("flag"), false);
+  EXPECT_EQ(defaults.stringArray("list"), (std::vector<std::string>{"b", "", "😀"}));
+  EXPECT_EQ(defaults.boolean("text"), std::nullopt) << "a value of another type is absent";
+  EXPECT_EQ(defaults.stringArray("flag"), std::nullopt);
+  EXPECT_EQ(defaults.string("list"), std::nullopt);
+  defaults.set("list", std::vector<std::string>{});
+  EXPECT_EQ(defaults.stringArray("list"), std::vector<std::string>());
+  defaults.set("text", "true");
+  EXPECT_EQ(defaults.boolean("text"), std::nullopt);
+}
+
+TEST_F(JsonUserDefaultsTest, TellsAfterEveryChangeUntilUnsubscribed) {
+  JsonUserDefaults defaults(folder / "tessarin" / "preferences.json");
+  std::vector<std::string> seen;
+  auto subscription = defaults.onChange([&] { seen.push_back(defaults.string("text").value_or("none")); });
+  defaults.set("text", "a");
+  defaults.set("text", "b");
+  subscription.reset();
+  defaults.set("text", "c");
+  EXPECT_EQ(seen, (std::vector<std::string>{"a", "b"}));
+}
 
 TEST_F(JsonUserDefaultsTest, KeepsWhatItDoesNotKnow) {
   write(R"({"other": {"a": [1, 2.5, null]}, "showMenuBarIcon": true})");
