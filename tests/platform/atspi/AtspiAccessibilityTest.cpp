@@ -311,11 +311,9 @@ TEST_F(AtspiAccessibilityTest, saysExactlyWhatAReplacementDid) {
   const auto held = [](const char* call) { return [call](auto& a) { a.hold(call); }; };
   const Case cases[] = {
       {"deleting is refused", refused("DeleteText"), AccessibilityStatus::failure},
-      {"deleting is unknown", unknown("DeleteText"), AccessibilityStatus::failure},
       {"deletes and denies it", deniesIt, AccessibilityStatus::erasedOnly},
       {"deleting is not answered", held("DeleteText"), AccessibilityStatus::erasedOnly},
       {"inserting is refused", refused("InsertText"), AccessibilityStatus::erasedOnly},
-      {"inserting is unknown", unknown("InsertText"), AccessibilityStatus::erasedOnly},
       {"reading is refused", unknown("GetText"), AccessibilityStatus::failure},
       {"inserting is not answered", held("InsertText"), AccessibilityStatus::success},
   };

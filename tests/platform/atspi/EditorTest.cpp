@@ -151,23 +151,5 @@ TEST_P(EachEditorTest, isFoundWhenItHadTheFocusBeforeUsAndLosesItToAWindowThatIs
   EXPECT_TRUE(eventually([this] { return focusedElement() == nullptr; }));
 }
 
-TEST_F(EditorTest, tellsOfTheFocusMovingInsideAnApplication) {
-  const ChildProcess editor = session.start({"mousepad", "--disable-server"});
-  ASSERT_TRUE(eventually([this] { return hasValue(); }));
-  queue.runReady();
-  int moves = 0;
-  const Subscription subscription = accessibility->onFocusMoved([&moves] { ++moves; });
-  type("abc");
-  ASSERT_TRUE(eventually([this] { return before(3) == "abc"; }));
-  queue.runReady();
-  EXPECT_EQ(moves, 0) << "typing is no move";
-  press("ctrl+f");
-  EXPECT_TRUE(eventually([&] {
-    queue.runReady();
-    return moves == 1;
-  }));
-  EXPECT_EQ(role(), role::textField);
-}
-
 }  // namespace
 }  // namespace tessarin::testing
