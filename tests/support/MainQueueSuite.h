@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <memory>
 #include <thread>
 #include <vector>
 
@@ -82,18 +81,7 @@ TYPED_TEST_P(MainQueueSuite, RepeatsWorkAsLongAsTheTokenLives) {
   }
 }
 
-TYPED_TEST_P(MainQueueSuite, LetsGoOfWorkThatHasRun) {
-  const auto owner = std::make_shared<int>(1);
-  this->queue().async([owner] {});
-  this->queue().after(std::chrono::milliseconds(1), [owner] {});
-  {
-    const Subscription token = this->queue().repeat(std::chrono::milliseconds(5), [owner] {});
-  }
-  EXPECT_TRUE(this->world.until([&] { return owner.use_count() == 1; }));
-}
-
 REGISTER_TYPED_TEST_SUITE_P(MainQueueSuite, RunsWorkLaterInTheOrderOfTheCalls, TakesWorkFromOtherThreads,
-                            RunsDelayedWorkOnceAndNotTooEarly, RepeatsWorkAsLongAsTheTokenLives,
-                            LetsGoOfWorkThatHasRun);
+                            RunsDelayedWorkOnceAndNotTooEarly, RepeatsWorkAsLongAsTheTokenLives);
 
 }  // namespace tessarin::testing

@@ -53,21 +53,5 @@ TEST_P(PopupPlace, IsTheFrameGivenToThePixel) {
 
 INSTANTIATE_TEST_SUITE_P(Dpi, PopupPlace, ::testing::Values(96, 144, 192));
 
-TEST(PopupFocus, StaysWithTheApplicationWhenThePopupOpensAndIsClicked) {
-  PrivateDisplay display;
-  display.startWindowManager();
-  XClient client(display.name());
-  client.movePointer(600, 600);
-  const auto application = client.openWindow({100, 100, 400, 300});
-  ASSERT_TRUE(eventually([&] { return client.focusedWindow() == application; },
-                         [&] { client.activate(application); }));
-  const ChildProcess child = startPopupChild(display.variable(), 3, {700, 500});
-  ASSERT_TRUE(eventually([&] { return client.popup().has_value(); }));
-  const auto window = *client.popup();
-  ASSERT_TRUE(eventually([&] { return isClickSeen(client, window, 1); }));
-  EXPECT_EQ(client.focusedWindow(), application);
-  EXPECT_EQ(client.activeWindow(), application);
-}
-
 }  // namespace
 }  // namespace tessarin::testing
