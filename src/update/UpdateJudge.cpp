@@ -11,9 +11,12 @@
 namespace tessarin {
 namespace {
 
-bool isSoundHttpsAddress(const std::string& address) {
+/// As links are handed to the desktop, which looks for a handler by the scheme as it is written.
+std::optional<std::string> soundHttpsAddress(const std::string& address) {
   const QUrl url(QString::fromStdString(address), QUrl::StrictMode);
-  return url.isValid() && url.scheme() == u"https" && !url.host().isEmpty() && url.userInfo().isEmpty();
+  const bool isSound =
+      url.isValid() && url.scheme() == u"https" && !url.host().isEmpty() && url.userInfo().isEmpty();
+  return isSound ? std::optional(url.toEncoded().toStdString()) : std::nullopt;
 }
 
 std::weak_ordering compareReleases(const AppcastItem& a, const AppcastItem& b) {
@@ -37,7 +40,7 @@ bool isUpdate(const AppcastItem& item, const Installation& installation) {
 
 std::optional<std::string> downloadAddress(const AppcastItem& item) {
   for (const std::string& address : {item.downloadUrl, item.link}) {
-    if (isSoundHttpsAddress(address)) return address;
+    if (auto sound = soundHttpsAddress(address)) return sound;
   }
   return std::nullopt;
 }

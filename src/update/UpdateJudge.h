@@ -15,7 +15,7 @@ struct Installation {
 };
 
 /// Where the release can be had: the enclosure's address or else the page about it, whichever is a sound
-/// HTTPS address. Nothing when neither is.
+/// HTTPS address, percent-encoded and with its scheme and host in small letters. Nothing when neither is.
 std::optional<std::string> downloadAddress(const AppcastItem& item);
 
 /// Whether the release is newer. Versions as people know them are compared first; where they are equal, the

@@ -66,6 +66,8 @@ TEST(UpdateJudge, LeadsToThePageWhereThereIsNoSafeDownload) {
   EXPECT_EQ(downloadAddress(item), "https://example.org/page");
   item.link = "javascript:alert(1)";
   EXPECT_EQ(downloadAddress(item), std::nullopt);
+  item.link = "HTTPS://Example.org/für%20alle";
+  EXPECT_EQ(downloadAddress(item), "https://example.org/f%C3%BCr%20alle") << "as handlers are looked up";
 }
 
 const std::string huge(5000, '9');
