@@ -107,6 +107,14 @@ class HandingOverTest(InstancesTest):
         self.assertEqual(self.own_triggers(), ["zqone", "zqtwo"])
         self.assertIn("Saved the user snippets again, which were missing from the disk", self.program.log)
 
+    def test_without_a_runtime_folder_and_through_another_name(self):
+        alias = self.session.folder / "alias"
+        alias.symlink_to(self.own.parents[1])
+        bare = {k: v for k, v in self.session.env.items() if k != "XDG_RUNTIME_DIR"}
+        for env in (bare, self.session.env | {"XDG_DATA_HOME": str(alias)}):
+            self.assertEqual(self.program.command("--toggle", env=env).returncode, 0)
+        self.assertEqual(self.program.command("--toggle").stdout, b"off\n")
+
     def test_an_instance_whose_log_nobody_reads_goes_on(self):
         self.program.stop()
         reader, writer = os.pipe()

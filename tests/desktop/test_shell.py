@@ -7,6 +7,9 @@ import pathlib
 import signal
 import unittest.mock
 
+from Xlib import X, display
+from Xlib.protocol import event
+
 from desktop_test import snippets
 from editors import Mousepad
 from session import PROGRAM, Session, Tessarin, wait_for
@@ -26,6 +29,10 @@ def start_anew(program):
 class TrayTest(unittest.TestCase):
     def setUp(self):
         self.session = self.enterContext(Session())
+
+    def preferences(self, **values):
+        path = pathlib.Path(self.session.env["XDG_CONFIG_HOME"]) / "tessarin/preferences.json"
+        path.write_text(json.dumps({"hasCompletedOnboarding": True} | values))
 
     def test_a_tray_may_come_late_and_come_back(self):
         with Tessarin(self.session):
@@ -55,6 +62,43 @@ class TrayTest(unittest.TestCase):
                 wait_for(lambda: typist.unmanaged_windows() - before, what="the menu")
                 typist.press("q")
                 wait_for(lambda: "Event tap stopped" in program.log, what="an orderly end")
+
+    def test_an_old_style_tray_may_come_late(self):
+        with Tessarin(self.session):
+            x = display.Display(self.session.env["DISPLAY"])
+            tray = x.screen().root.create_window(0, 0, 10, 10, 0, X.CopyFromParent)
+            selection = x.intern_atom("_NET_SYSTEM_TRAY_S0")
+            tray.set_selection_owner(selection, X.CurrentTime)
+            x.screen().root.send_event(
+                event.ClientMessage(window=x.screen().root, client_type=x.intern_atom("MANAGER"),
+                                    data=(32, [X.CurrentTime, selection, tray.id, 0, 0])),
+                event_mask=X.StructureNotifyMask)
+            x.flush()
+            opcode = x.intern_atom("_NET_SYSTEM_TRAY_OPCODE")
+
+            def is_docked():
+                events = (x.next_event() for _ in range(x.pending_events()))
+                return any(e.type == X.ClientMessage and e.client_type == opcode for e in events)
+            wait_for(is_docked, what="an icon in the old-style tray")
+
+    def test_the_item_follows_switch_and_preference(self):
+        with Tray(self.session) as tray, Tessarin(self.session) as program:
+            tray.wait_for_items(1)
+            on = tray.icon()
+            tray.choose("Disable Tessarin")
+            wait_for(lambda: tray.icon() != on, what="the dimmed look")
+            program.command("--toggle")
+            wait_for(lambda: tray.icon() == on, what="the usual look")
+            self.preferences(showMenuBarIcon=False)
+            tray.wait_for_items(0)
+            self.preferences(showMenuBarIcon=True)
+            tray.wait_for_items(1)
+            self.assertIn("Disable Tessarin", tray.open_menu())
+            self.preferences(showMenuBarIcon=False)
+            tray.wait_for_items(0)
+            program.stop()
+            start_anew(program)
+            self.assertEqual(tray.items(), [])
 
 
 class CommandLineTest(unittest.TestCase):

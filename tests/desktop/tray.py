@@ -79,6 +79,10 @@ class Tray:
         return self._call("/StatusNotifierItem", "org.freedesktop.DBus.Properties", "Get",
                           GLib.Variant("(ss)", (ITEM, name)))[0]
 
+    def icon(self):
+        """The picture's bytes, of every size that is offered."""
+        return self._property("IconPixmap")
+
     def title(self):
         """What the host calls the item."""
         return self._property("Title")

@@ -55,5 +55,12 @@ TEST_F(X11EventTapLayoutTest, ReportsAComposedCharacterOnce) {
   ASSERT_TRUE(queue.runUntil([this] { return insertions == 1; }));
 }
 
+TEST_F(X11EventTapLayoutTest, SendsNoEventForModifiersLocksAndMediaKeys) {
+  start();
+  typist->type(":<Shift_L><Control_R><Caps_Lock><Caps_Lock><XF86AudioMute><Super_L>a");
+  ASSERT_TRUE(queue.runUntil([this] { return seen.size() >= 2; }));
+  EXPECT_EQ(seen[1].text, u"a");
+}
+
 }  // namespace
 }  // namespace tessarin::testing
