@@ -127,10 +127,5 @@ TEST(SnippetDraftTest, ATriggerKeepsLettersNumbersAndTwoSigns) {
   }
 }
 
-TEST(SnippetDraftTest, KeywordsStandBetweenCommas) {
-  EXPECT_THAT(parseKeywords(" , ,,\t"), IsEmpty());
-  EXPECT_THAT(parseKeywords(" a b ,   ,b,,c,"), ElementsAre("a b", "b", "c"));
-}
-
 }  // namespace
 }  // namespace tessarin::testing

@@ -36,25 +36,6 @@ TEST(EmojiGlyphs, DrawsEmojiInColour) {
   }
 }
 
-int linesOf(const QImage& picture) {
-  int lines = 0;
-  bool wasInLine = false;
-  for (int y = 0; y < picture.height(); ++y) {
-    bool isInLine = false;
-    for (int x = 0; x < picture.width(); ++x) isInLine |= picture.pixelColor(x, y).alpha() > 0;
-    if (isInLine && !wasInLine) ++lines;
-    wasInLine = isInLine;
-  }
-  return lines;
-}
-
-TEST(EmojiGlyphs, BreaksOnlyWhatWouldBeTooSmallInOneLine) {
-  EmojiGlyphs glyphs;
-  for (const auto& [letters, lines] : {std::pair(3, 1), std::pair(5, 1), std::pair(12, 2)}) {
-    EXPECT_EQ(linesOf(drawn(glyphs, QString(letters, u'x'), 2, 10)), lines) << letters;
-  }
-}
-
 TEST(EmojiGlyphs, KeepsABoundedNumberOfPictures) {
   EmojiGlyphs glyphs;
   for (char32_t face = 0x1F600; face < 0x1F640; ++face) drawn(glyphs, QString::fromUcs4(&face, 1), 2);

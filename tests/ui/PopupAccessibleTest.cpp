@@ -83,17 +83,6 @@ TEST_F(PopupAccessibleTest, ShowsItsRowsAsAListInWhichAPressIsAClick) {
   EXPECT_THAT(clicked, ElementsAre(1));
 }
 
-TEST_F(PopupAccessibleTest, ShowsSkinTonesWhileThePickerIsOpen) {
-  auto content = withPicker(popupWithRows(3));
-  content.skinToneSelectedIndex = 5;
-  show(content);
-  QAccessibleInterface* tones = popup()->child(0);
-  EXPECT_EQ(tones->text(QAccessible::Name), "Skin tones");
-  EXPECT_THAT(names(tones), ElementsAre("no skin tone", "light skin tone", "medium-light skin tone",
-                                        "medium skin tone", "medium-dark skin tone", "dark skin tone"));
-  EXPECT_TRUE(tones->child(5)->state().selected);
-}
-
 TEST_F(PopupAccessibleTest, SaysWhatIsSelectedAndNeverTakesTheFocus) {
   show(popupWithRows(8));
   EXPECT_THAT(heard(), IsEmpty()) << "the picture comes first";

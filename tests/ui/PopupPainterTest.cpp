@@ -20,16 +20,6 @@ PopupLayout layoutOf(const PopupContent& content) {
   return {content, testing::sizeOf(content)};
 }
 
-TEST(PopupLayout, ShowsEveryRowWholeWithoutAPicker) {
-  for (const int rows : {1, 8}) {
-    const PopupLayout layout = layoutOf(popupWithRows(rows));
-    EXPECT_EQ(layout.maxScroll(), 0);
-    EXPECT_EQ(layout.row(0, 0).top(), layout.list().top());
-    EXPECT_EQ(layout.row(rows - 1, 0).bottom(), layout.list().bottom());
-    EXPECT_EQ(layout.footer().bottom(), layout.size().height());
-  }
-}
-
 TEST(PopupLayout, CentresTheSelectedRowAsFarAsTheListReaches) {
   const PopupLayout layout = layoutOf(withPicker(popupWithRows(8)));
   EXPECT_EQ(layout.scrollCentring(0), 0);

@@ -69,14 +69,6 @@ TEST_F(PopupWindowTest, TheWheelMovesTheListAndClicksFollowIt) {
   EXPECT_THAT(rows, ElementsAre(1));
 }
 
-TEST_F(PopupWindowTest, GlidesToTheSelectedRowButOpensThere) {
-  show(withPicker(popupWithRows(8, 7)));
-  EXPECT_EQ(window.scroll(), layout.maxScroll());
-  show(withPicker(popupWithRows(8, 0)));
-  EXPECT_EQ(window.scroll(), layout.maxScroll()) << "the way has only begun";
-  EXPECT_TRUE(becomes([this] { return window.scroll() == 0; }));
-}
-
 TEST_F(PopupWindowTest, PaintedAheadShowsTheSame) {
   const auto picture = [this] { return window.grab().toImage(); };
   const PopupContent before = popupWithRows(3, 1);
@@ -92,16 +84,6 @@ TEST_F(PopupWindowTest, PaintedAheadShowsTheSame) {
   EXPECT_EQ(picture(), first);
   show(after);
   EXPECT_EQ(picture(), second) << "something else was shown than was painted";
-}
-
-TEST_F(PopupWindowTest, ThePointerTintsTheRowBelowIt) {
-  show(popupWithRows(3));
-  const QPoint spot(7, static_cast<int>(layout.row(1, 0).center().y()));
-  const QColor before = window.grab().toImage().pixelColor(spot);
-  client.movePointer(200 + 150, 100 + spot.y());
-  EXPECT_TRUE(becomes([&] { return window.grab().toImage().pixelColor(spot) != before; }));
-  client.movePointer(0, 0);
-  EXPECT_TRUE(becomes([&] { return window.grab().toImage().pixelColor(spot) == before; }));
 }
 
 TEST_F(PopupWindowTest, LeavesItsCornersToACompositor) {

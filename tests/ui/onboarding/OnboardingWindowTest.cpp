@@ -96,13 +96,6 @@ TEST_F(OnboardingWindowTest, PermissionsAreLive) {
   EXPECT_THAT(textsOf<QPushButton>(), ElementsAre("Back", "Continue"));
 }
 
-TEST_F(OnboardingWindowTest, NamesTheTriggerInForce) {
-  defaults.set("triggerCharacter", "/");
-  presentStep(2);
-  defaults.set("triggerCharacter", ";");
-  EXPECT_THAT(textsOf<QLabel>(), Contains("Type ;smile; in any text field"));
-}
-
 TEST_F(OnboardingWindowTest, LargeTypeIsNotCutOff) {
   const QFont before = QApplication::font();
   QFont large = before;

@@ -162,20 +162,6 @@ TEST_F(AppListSettingsTabTest, longTextsAreCutAndLeaveTheButtonsInReach) {
   EXPECT_LT(tab->findChildren<QPushButton*>().front()->width(), 300);
 }
 
-TEST_F(AppListSettingsTabTest, theTabKeyGoesFromTopToBottom) {
-  workspace.running = {{"org.example.a", "Alpha", false}, {"org.example.b", "beta", false}};
-  openFocused();
-  tab->findChild<QLineEdit*>()->setText("org.example.c");
-  for (const char* name : {"Remove com.apple.MobileSMS", "Remove com.tinyspeck.slackmacgap", "Add Alpha",
-                           "Add beta", "Bundle ID", ""}) {
-    press(Qt::Key_Tab);
-    EXPECT_EQ(focused(), name);
-  }
-  press(Qt::Key_Space);
-  EXPECT_THAT(stored(), Contains("org.example.c"));
-  EXPECT_EQ(list()->count(), 3);
-}
-
 TEST_F(AppListSettingsTabTest, theDeleteKeyRemovesTheCurrentEntry) {
   openFocused();
   press(Qt::Key_Down);

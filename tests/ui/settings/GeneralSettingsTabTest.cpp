@@ -19,7 +19,6 @@ class GeneralSettingsTabTest : public testing::SettingsTest {
     tab->show();
   }
   QCheckBox* launch() const { return child<QCheckBox>(*tab, "Launch at login"); }
-  QCheckBox* icon() const { return child<QCheckBox>(*tab, "Show menu bar icon"); }
   void press(QWidget* widget) const { QTest::keyClick(widget, Qt::Key_Space); }
 
   std::unique_ptr<GeneralSettingsTab> tab;
@@ -60,16 +59,6 @@ TEST_F(GeneralSettingsTabTest, theTriggerCharacterIsShownEverywhereAtOnceAndMayB
   EXPECT_TRUE(shows<QLabel>(*tab, "Type !shortcode! to trigger autocomplete"));
   press(child<QRadioButton>(*tab, "/"));
   EXPECT_EQ(defaults.string("triggerCharacter"), "/");
-}
-
-TEST_F(GeneralSettingsTabTest, theMenuBarIconIsShownUnlessStoredOtherwise) {
-  open();
-  EXPECT_TRUE(icon()->isChecked());
-  EXPECT_THAT(defaults.writes, ElementsAre());
-  press(icon());
-  EXPECT_EQ(defaults.boolean("showMenuBarIcon"), false);
-  defaults.set("showMenuBarIcon", true);
-  EXPECT_TRUE(icon()->isChecked());
 }
 
 }  // namespace

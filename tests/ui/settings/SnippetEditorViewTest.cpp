@@ -8,8 +8,6 @@
 #include "Matchers.h"
 #include "input/Preferences.h"
 #include "platform/qt/OwnTextField.h"
-#include "ui/Extent.h"
-#include "ui/settings/ReplacementEditor.h"
 #include "ui/settings/SettingsTest.h"
 #include "ui/settings/SnippetEditorView.h"
 
@@ -165,23 +163,6 @@ TEST_F(SnippetEditorViewTest, PreviewsTheExpandedText) {
   type(replacement, " {{clipboard}} {{none}}");
   EXPECT_TRUE(shows<QLabel>(*sheet, "r copied {{clipboard}} {{none}}"));
   EXPECT_EQ(pasteboard.stringReads, 1);
-}
-
-TEST(ReplacementEditor, HintBeginsWhereTextBegins) {
-  testing::ensureApplication();
-  for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
-    ReplacementEditor editor("mmm");
-    editor.setLayoutDirection(direction);
-    editor.resize(300, 80);
-    editor.show();
-    QImage picture(editor.viewport()->size(), QImage::Format_RGB32);
-    picture.fill(Qt::white);
-    editor.viewport()->render(&picture, {}, {}, {});
-    const auto hint = testing::Extent::of(picture, [](const QColor& color) { return color != Qt::white; });
-    const int gap = direction == Qt::LeftToRight ? hint.first : picture.width() - 1 - hint.last;
-    EXPECT_GE(gap, 4);
-    EXPECT_LT(gap, 8);
-  }
 }
 
 }  // namespace

@@ -176,14 +176,6 @@ TEST_F(SnippetsSettingsTabTest, EveryRowCanBeDeletedByPointerAndKeys) {
   EXPECT_TRUE(button("Add")->hasFocus());
 }
 
-TEST_F(SnippetsSettingsTabTest, APressThatLeavesTheButtonDoesNothing) {
-  openWith({"a", "b"});
-  QTest::mousePress(list->viewport(), Qt::LeftButton, {}, place(1, RowButton::remove));
-  QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, place(0, RowButton::remove));
-  QTest::mouseClick(list->viewport(), Qt::RightButton, {}, place(0, RowButton::remove));
-  EXPECT_EQ(triggers().size(), 2U);
-}
-
 TEST_F(SnippetsSettingsTabTest, ImportSaysHowManyItAdded) {
   open();
   import(json({mine("a")}));

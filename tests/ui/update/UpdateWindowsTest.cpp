@@ -115,19 +115,6 @@ TEST_F(WindowsAboutUpdates, TellTheNotesAndBothVersionsAsPlainTextOfBoundedLengt
   EXPECT_LT(texts().size(), 300u);
 }
 
-TEST_F(WindowsAboutUpdates, SayInOneSentenceWhatWentWrong) {
-  std::vector<std::string> sentences;
-  for (int i = static_cast<int>(UpdateFailure::noConnection); i <= static_cast<int>(UpdateFailure::malformed);
-       ++i) {
-    windows.showFailure(static_cast<UpdateFailure>(i));
-    const std::string text = texts();
-    EXPECT_THAT(sentences, Not(Contains(text)));
-    sentences.push_back(text);
-    QTest::keyClick(&dialog(), Qt::Key_Return);
-    EXPECT_THAT(shown(), IsEmpty());
-  }
-}
-
 /// Where the text begins, in the coordinates of the widget that draws it.
 QPoint placeOf(const QTextBrowser& view, const QString& text) {
   const QTextCursor found = view.document()->find(text);
