@@ -2,6 +2,7 @@
 
 #include <random>
 
+#include "model/MatchScore.h"
 #include "model/SearchIndex.h"
 #include "support/PlainSearch.h"
 
@@ -42,51 +43,74 @@ class Generator {
   std::mt19937 random_;
 };
 
-class SearchIndexComparison : public ::testing::TestWithParam<unsigned> {
- protected:
-  void append() {
-    plain_.snippets.push_back(generator_.next());
-    index_.append(plain_.snippets.back());
-  }
-
-  void change() {
-    const std::size_t kind = generator_.below(10);
-    if (kind < 3 || plain_.snippets.empty()) return append();
-    const std::size_t at = generator_.below(plain_.snippets.size());
-    if (kind < 5) {
-      plain_.snippets[at] = generator_.next();
-      index_.replace(at, plain_.snippets[at]);
-    } else if (kind < 7) {
-      plain_.snippets.erase(plain_.snippets.begin() + static_cast<std::ptrdiff_t>(at));
-      index_.remove(at);
-    } else {
-      const std::string trigger = generator_.below(5) == 0 ? generator_.text(3) : plain_.snippets[at].trigger;
-      const auto count = static_cast<std::int64_t>(generator_.below(14)) - 1;
-      plain_.counts[trigger] = count;
-      index_.setUsageCount(trigger, count);
-    }
-  }
-
-  Generator generator_{GetParam()};
-  PlainSearch plain_;
-  SearchIndex index_;
-};
+class SearchIndexComparison : public ::testing::TestWithParam<unsigned> {};
 
 TEST_P(SearchIndexComparison, AnswersAsThePlainPassDoes) {
+  Generator generator(GetParam());
+  PlainSearch plain;
+  SearchIndex index;
+  const auto change = [&](std::size_t kind) {
+    const std::size_t at = plain.snippets.empty() ? 0 : generator.below(plain.snippets.size());
+    if (kind < 3 || plain.snippets.empty()) {
+      plain.snippets.push_back(generator.next());
+      index.append(plain.snippets.back());
+    } else if (kind < 5) {
+      plain.snippets[at] = generator.next();
+      index.replace(at, plain.snippets[at]);
+    } else if (kind < 7) {
+      plain.snippets.erase(plain.snippets.begin() + static_cast<std::ptrdiff_t>(at));
+      index.remove(at);
+    } else {
+      const std::string trigger = generator.below(5) == 0 ? generator.text(3) : plain.snippets[at].trigger;
+      const auto count = static_cast<std::int64_t>(generator.below(14)) - 1;
+      plain.counts[trigger] = count;
+      index.setUsageCount(trigger, count);
+    }
+  };
   const std::size_t sizes[] = {5, 90, 300, 900};
   const std::size_t limits[] = {0, 1, 3, 8, 8, 8, 8, 64, 1000};
-  for (std::size_t n = sizes[GetParam() % 4]; n > 0; --n) append();
+  for (std::size_t n = sizes[GetParam() % 4]; n > 0; --n) change(0);
   for (int round = 0; round < 150; ++round) {
-    for (unsigned changes = round % 3 == 0 ? GetParam() % 7 : 0; changes > 0; --changes) change();
-    const std::string query = generator_.text(generator_.below(3) == 0 ? 6 : 2);
-    const std::size_t limit = limits[generator_.below(std::size(limits))];
-    ASSERT_EQ(index_.search(query, limit), plain_.search(query, limit))
-        << "query " << query << ", limit " << limit;
-    ASSERT_EQ(index_.size(), plain_.snippets.size());
+    for (unsigned n = round % 3 == 0 ? GetParam() % 7 : 0; n > 0; --n) change(generator.below(10));
+    const std::string query = generator.text(generator.below(3) == 0 ? 6 : 2);
+    const std::size_t limit = limits[generator.below(std::size(limits))];
+    ASSERT_EQ(index.search(query, limit), plain.search(query, limit)) << query << ", limit " << limit;
   }
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, SearchIndexComparison, ::testing::Range(1U, 13U));
 
+TEST(MatchScore, FollowsTheTiers) {
+  const std::string longTrigger(1099, 'a');
+  const struct {
+    std::string query;
+    std::string trigger;
+    std::vector<std::string> keywords;
+    int score;
+  } cases[] = {
+      {"sm", "sm", {}, 10000},
+      {"sm", "smile", {}, 1095},
+      {"sm", "slightly_smiling", {}, 584},
+      {"sm", "grin", {"smile", "happy"}, 495},
+      {"sm", "wave", {"sm"}, 800},
+      {"", "wave", {"sm"}, 0},
+      // Segments
+      {"b", "a_b", {}, 597},
+      {"a_b", "a_bc", {}, 1096},
+      {"b", "a__b", {}, 596},
+      // Letters
+      {"\u00e9", "e\u0301tude", {}, 1095},
+      {"e", "e\u0301tud", {}, 0},
+      {"\u1e9e", "\u00df", {}, 10000},
+      {"x", "wave", {"xe\u0301e\u0301"}, 497},
+      // Long ones
+      {"a", longTrigger, {}, 1},
+      {"a", longTrigger + "aa", {"a"}, -1},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(matchScore(c.query, c.trigger, c.keywords), c.score)
+        << c.query << " in " << c.trigger.substr(0, 40);
+  }
+}
 }  // namespace
 }  // namespace tessarin::testing

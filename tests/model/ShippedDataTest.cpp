@@ -3,8 +3,10 @@
 #include <set>
 #include <sstream>
 
+#include "Matchers.h"
 #include "base/Files.h"
 #include "model/SearchIndex.h"
+#include "model/SkinToneVariants.h"
 #include "model/SnippetCoding.h"
 #include "text/Graphemes.h"
 
@@ -94,5 +96,14 @@ TEST(ShippedData, IsFoundByWhatUsersType) {
   EXPECT_EQ(all[shrugs.at(1)].replacement, "¯\\_(ツ)_/¯");
 }
 
+TEST(SkinToneVariants, StandForOneCharacter) {
+  EXPECT_THAT(makeSkinToneVariants("👋"),
+              ElementsAre("👋", "👋\U0001F3FB", "👋\U0001F3FC", "👋\U0001F3FD", "👋\U0001F3FE", "👋\U0001F3FF"));
+  for (const char* text : {"😀", "👩‍🚀", "🇩🇪", "e\u0301"}) EXPECT_TRUE(supportsSkinTones(text)) << text;
+  for (const char* text : {"", "ab", "👋👋", "\r\n", "🇩🇪🇫🇷"}) {
+    EXPECT_FALSE(supportsSkinTones(text)) << text;
+    EXPECT_THAT(makeSkinToneVariants(text), ElementsAre(text));
+  }
+}
 }  // namespace
 }  // namespace tessarin::testing

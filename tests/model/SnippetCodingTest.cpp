@@ -22,14 +22,6 @@ TEST(SnippetCoding, WritesTheUsersFileInOneLine) {
             R"("category":"Custom","isBuiltIn":false}])");
 }
 
-TEST(SnippetCoding, ReadsBackWhatItWrote) {
-  const std::vector<Snippet> snippets = {
-      signature, {"", "", "", "", {}, "", true}, {"é", "日本", "ʰ", "\t\x7F", {""}, "/", false}};
-  for (const JsonStyle style : {JsonStyle::compact, JsonStyle::pretty}) {
-    EXPECT_EQ(decodeSnippets(encodeSnippets(snippets, style)), snippets);
-  }
-}
-
 TEST(SnippetCoding, TakesAnyOrderAndDropsUnknownKeys) {
   const auto snippets =
       decodeSnippets(R"([{"isBuiltIn":false,"trigger":"t","shelf":{"a":[1]},"category":"c","name":"n",)"

@@ -51,29 +51,5 @@ TEST_F(TemplateVariablesTest, DatesFollowLocaleAndZone) {
   EXPECT_EQ(expand("{{date}}", "", "POSIX", "UTC"), "3/14/26");
 }
 
-/// Sets an environment variable; it is as before when it goes.
-class Variable {
- public:
-  Variable(const char* name, const char* value) : name_(name) {
-    if (const char* previous = std::getenv(name)) previous_ = previous;
-    ::setenv(name, value, 1);
-  }
-  ~Variable() { previous_ ? ::setenv(name_, previous_->c_str(), 1) : ::unsetenv(name_); }
-
- private:
-  const char* name_;
-  std::optional<std::string> previous_;
-};
-
-TEST_F(TemplateVariablesTest, TheEnvironmentDecidesWithoutARestart) {
-  const Variable all("LC_ALL", "");
-  const Variable language("LANG", "en_US.UTF-8");
-  const Variable zone("TZ", "UTC");
-  EXPECT_EQ(expand("{{date}}", "", "", ""), "3/14/26");
-  const Variable time("LC_TIME", "de_DE.UTF-8");
-  const Variable otherZone("TZ", "Asia/Tokyo");
-  EXPECT_EQ(expand("{{datetime}}", "", "", ""), "15.03.26, 08:05");
-}
-
 }  // namespace
 }  // namespace tessarin::testing

@@ -31,13 +31,6 @@ TEST(Characters, AreTakenWhole) {
   EXPECT_EQ(text::withoutLastCharacter(flags), flags.substr(0, 8));
 }
 
-TEST(Characters, AreNotDividedByABoundary) {
-  EXPECT_FALSE(text::isBoundary("ab", 3));
-  EXPECT_FALSE(text::isBoundary(decomposed, 1));
-  EXPECT_FALSE(text::isBoundary(flags, 4));
-  EXPECT_TRUE(text::isBoundary(flags, 8));
-}
-
 TEST(Equality, IsCanonicalAndOtherwiseExact) {
   EXPECT_FALSE(text::equals("a", "A"));
   EXPECT_TRUE(text::equals(composed, decomposed));
