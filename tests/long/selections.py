@@ -122,25 +122,6 @@ class Reader(Client):
         return bytes(value.value) if value and value.format == 8 else b""
 
 
-class ClipboardManager(Reader):
-    """Reads each new text at once, unless it is marked as a secret, and keeps a history."""
-
-    def __init__(self, session):
-        super().__init__(session)
-        self.history = []
-        self.watch()
-
-    def handle(self, event):
-        if event.type == X.SelectionNotify:
-            if event.target == self.atom("x-kde-passwordManagerHint"):
-                if self.answer(event) != b"secret":
-                    self.ask()
-            else:
-                self.history.append(self.answer(event).decode())
-        elif event.type == self.display.extension_event.SetSelectionOwnerNotify[0]:
-            self.ask(target="x-kde-passwordManagerHint")
-
-
 class LateReader(Reader):
     """A field that takes letters and BackSpace at once, and reads the clipboard up to 1.5 s after Control-V. One
     that watches also reads whenever the clipboard changes hands, and forgets what it read."""

@@ -67,14 +67,6 @@ class Contents(DesktopTest):
             self.assertEqual(clipboard(self.session), TEXT)
         self.assertIn("2 types were not delivered in time", self.tessarin.log)
 
-    def test_managers_keep_no_history_of_ours(self):
-        with ClipboardManager(self.session) as manager, Mousepad(self.session, self.typist) as editor:
-            owner = set_clipboard(self.session, TEXT)
-            self.check(editor, ["a:smile\n:tada\tb" * 5], "a😄🎉b" * 5)
-            wait_for(lambda: clipboard(self.session) == TEXT, 5, "the text to come back")
-            self.assertEqual(set(manager.history), {TEXT.decode()})
-            self.session.stop(owner)
-
     def test_the_next_expansion_sees_the_users_text(self):
         with Mousepad(self.session, self.typist) as editor:
             owner = set_clipboard(self.session, TEXT)

@@ -1,7 +1,6 @@
 #!/usr/bin/python3
 """What is in the package, and that its documents agree with the program and with each other."""
 
-import configparser
 import pathlib
 import re
 import unittest
@@ -59,6 +58,7 @@ class Options(PackageTest):
             text = (self.package / path).read_text()
             options = {"--" + name for name in re.findall(r"complete .*-l (\w+)", text)} if shell == "fish" else OPTION.findall(text)
             self.assertEqual(set(options), self.explained, shell)
+            output(shell, "-n", self.package / path)
 
 
 class Manual(PackageTest):
@@ -76,21 +76,6 @@ class Manual(PackageTest):
         self.assertEqual(metadata.find("releases/release").get("version"), project_version())
         changelog = output("gzip", "-dc", self.package / "usr/share/doc/tessarin/changelog.gz")
         self.assertEqual(re.match(r"tessarin \((.*?)\)", changelog).group(1), project_version())
-
-
-class DesktopEntry(PackageTest):
-    def setUp(self):
-        self.entry = configparser.ConfigParser(interpolation=None, delimiters=["="])
-        self.entry.optionxform = str
-        self.entry.read(self.package / "usr/share/applications/tessarin.desktop", encoding="utf-8")
-
-    def test_starts_the_program_with_options_that_are_explained(self):
-        manual = self.package.manual()
-        for group in self.entry.sections():
-            program, *options = self.entry[group]["Exec"].split()
-            self.assertTrue((self.package / "usr/bin" / program).exists())
-            for option in options:
-                self.assertIn(f".B {option}\n", manual)
 
 
 class Validators(PackageTest):
