@@ -1,38 +1,22 @@
 #include "Matchers.h"
 #include "main/SessionInputMonitoring.h"
 #include "platform/OwnAddresses.h"
-#include "support/FakeInputMonitoring.h"
-#include "support/FakeWorkspace.h"
-#include "support/InputMonitoringSuite.h"
+#include "support/FakeDesktop.h"
 
 namespace tessarin::testing {
 namespace {
 
-class SessionWorld {
- public:
-  InputMonitoring& monitoring() { return monitoring_; }
-  void setUsable(bool isUsable) { state_ = isUsable ? KeyTapState::usable : KeyTapState::noServer; }
-  int explanations() const { return explanations_; }
-
- private:
-  KeyTapState state_ = KeyTapState::usable;
-  int explanations_ = 0;
-  SessionInputMonitoring monitoring_{[this] { return state_; },
-                                     [this](const Explanation&) { ++explanations_; }};
-};
-
-class FakeWorld {
- public:
-  InputMonitoring& monitoring() { return fake_; }
-  void setUsable(bool isUsable) { fake_.granted = isUsable; }
-  int explanations() const { return fake_.explanations; }
-
- private:
-  FakeInputMonitoring fake_;
-};
-
-INSTANTIATE_TYPED_TEST_SUITE_P(Session, InputMonitoringSuite, ::testing::Types<SessionWorld>);
-INSTANTIATE_TYPED_TEST_SUITE_P(Fake, InputMonitoringSuite, ::testing::Types<FakeWorld>);
+TEST(SessionInputMonitoring, IsAskedAfreshAndExplainsOnlyWhatIsMissing) {
+  KeyTapState state = KeyTapState::usable;
+  int explanations = 0;
+  SessionInputMonitoring monitoring([&] { return state; }, [&](const Explanation&) { ++explanations; });
+  for (const int expected : {0, 1, 1, 2}) {
+    EXPECT_EQ(monitoring.isGranted(), state == KeyTapState::usable);
+    monitoring.request();
+    EXPECT_EQ(explanations, expected);
+    state = state == KeyTapState::usable ? KeyTapState::noServer : KeyTapState::usable;
+  }
+}
 
 TEST(OwnAddresses, AnswersItsOwnAndPassesOnAllElse) {
   FakeWorkspace desktop;

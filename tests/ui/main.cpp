@@ -5,12 +5,10 @@
 
 #include "support/desktop/PrivateDisplay.h"
 #include "support/desktop/PrivateSession.h"
-#include "ui/PopupChild.h"
 
 /// The tests of windows run on an X server and in a session of their own, with assistive technologies at
-/// work. The program also starts itself anew, for windows at another scale: see PopupChild.h.
+/// work.
 int main(int argc, char** argv) {
-  if (tessarin::testing::isPopupChild(argc, argv)) return tessarin::testing::runPopupChild(argc, argv);
   ::testing::InitGoogleMock(&argc, argv);
   const tessarin::testing::PrivateDisplay display;
   const tessarin::testing::PrivateSession session;

@@ -7,7 +7,7 @@
 #include <optional>
 
 #include "Matchers.h"
-#include "support/Eventually.h"
+#include "platform/qt/TestApplication.h"
 #include "support/LogRecorder.h"
 #include "support/TemporaryFolder.h"
 #include "update/AppcastFetcher.h"
@@ -54,10 +54,7 @@ class TestCertificate {
 
 /// Made once, in a program with an event loop.
 const TestCertificate& certificate() {
-  static int count = 1;
-  static char name[] = "update_tests";
-  static char* arguments[] = {name, nullptr};
-  static const QCoreApplication application(count, arguments);
+  ensureApplication();
   static const TestCertificate made;
   return made;
 }
@@ -119,10 +116,6 @@ class HttpsServer {
 
 class Fetching : public ::testing::Test {
  protected:
-  template <class Condition>
-  static bool eventuallyInLoop(Condition condition) {
-    return eventually(condition, [] { QCoreApplication::processEvents(); });
-  }
   void start(const std::string& address) {
     AppcastFetcher fetcher(limits, tls);
     token = fetcher.fetch(address, [this](const AppcastSource::Result& answer) {

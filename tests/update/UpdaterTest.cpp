@@ -1,19 +1,87 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <optional>
 #include <random>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "Matchers.h"
+#include "support/FakeDesktop.h"
 #include "support/FakeUserDefaults.h"
-#include "support/FakeWorkspace.h"
 #include "support/LogRecorder.h"
 #include "support/ManualMainQueue.h"
 #include "support/ManualWallClock.h"
-#include "update/FakeUpdates.h"
+#include "update/AppcastSource.h"
+#include "update/SparkleUpdaterService.h"
+#include "update/UpdateUserDriver.h"
 #include "update/Updater.h"
+#include "update/UpdaterDelegate.h"
 
 namespace tessarin::testing {
 namespace {
 
 using std::chrono::hours;
 using std::chrono::minutes;
+
+/// A server that answers when the test says so.
+class FakeAppcastSource final : public AppcastSource {
+ public:
+  Subscription fetch(const std::string& address, std::function<void(Result)> done) override {
+    addresses.push_back(address);
+    done_ = std::move(done);
+    return Subscription([this] { done_ = nullptr; });
+  }
+  bool isRunning() const { return static_cast<bool>(done_); }
+  void answer(Result result) {
+    const auto done = done_;
+    ASSERT_TRUE(done) << "nobody asks";
+    done(std::move(result));
+  }
+
+  std::vector<std::string> addresses;
+
+ private:
+  std::function<void(Result)> done_;
+};
+
+/// Writes down what the user is shown and answers for the user.
+class FakeUpdateUserDriver final : public UpdateUserDriver {
+ public:
+  void showChecking(std::function<void()> cancelled) override {
+    shown.emplace_back("checking");
+    cancel = std::move(cancelled);
+  }
+  void showUpdate(const AppcastItem& item, const std::string& currentVersion, Manner manner,
+                  std::function<void(UpdateChoice)> chosen) override {
+    shown.push_back("update " + item.displayVersion() + " for " + currentVersion +
+                    (manner == Manner::unobtrusive ? " unobtrusively" : ""));
+    choose = std::move(chosen);
+  }
+  void showUpToDate(const std::string& currentVersion) override {
+    shown.push_back("up to date at " + currentVersion);
+  }
+  void showFailure(UpdateFailure failure) override {
+    shown.push_back("failure " + std::to_string(static_cast<int>(failure)));
+  }
+  void focus() override { shown.emplace_back("focus"); }
+  void dismiss() override { shown.emplace_back("nothing"); }
+
+  std::vector<std::string> shown;
+  std::function<void()> cancel;
+  std::function<void(UpdateChoice)> choose;
+};
+
+/// A feed of one release a version, each with an address to download it from.
+std::string feedOf(const std::vector<std::string>& versions) {
+  std::string items;
+  for (const std::string& version : versions) {
+    items += "<item><x:version>" + version + "</x:version><enclosure url='https://example.org/" + version +
+             ".tar'/></item>";
+  }
+  return "<rss xmlns:x='urn:example'><channel>" + items + "</channel></rss>";
+}
 
 class RecordingDelegate final : public UpdaterDelegate {
  public:
@@ -28,13 +96,20 @@ class RecordingDelegate final : public UpdaterDelegate {
   std::vector<std::string> told;
 };
 
-class Updating : public ::testing::Test {
+struct UpdateWorld : ::testing::Test {
+  FakeUserDefaults defaults;
+  ManualMainQueue queue;
+  ManualWallClock clock;
+  FakeWorkspace workspace;
+  FakeAppcastSource source;
+  FakeUpdateUserDriver user;
+  UpdaterSeams seams{defaults, queue, clock, workspace, source, user};
+};
+
+class Updating : public UpdateWorld {
  protected:
   Updating() { start(); }
-  void start() {
-    updater.emplace(UpdaterSeams{defaults, queue, clock, workspace, source, user}, delegate,
-                    Installation{"1.2", "", "6.1"});
-  }
+  void start() { updater.emplace(seams, delegate, Installation{"1.2", "", "6.1"}); }
   /// The user asks, and the feed holds the versions.
   void check(const std::vector<std::string>& versions) {
     updater->checkForUpdates();
@@ -59,12 +134,6 @@ class Updating : public ::testing::Test {
     answer(versions);
   }
 
-  FakeUserDefaults defaults;
-  ManualMainQueue queue;
-  ManualWallClock clock;
-  FakeWorkspace workspace;
-  FakeAppcastSource source;
-  FakeUpdateUserDriver user;
   RecordingDelegate delegate;
   std::optional<Updater> updater;
 };
@@ -215,17 +284,71 @@ TEST_F(Updating, TurnsAnUnaskedCheckIntoOneThatTheUserSees) {
   EXPECT_EQ(source.addresses.size(), 1u);
 }
 
-TEST_F(Updating, GoesOnAfterTheClockJumpsBackAndAfterADayThatWasSleptThrough) {
-  startAutomatic();
-  runAutomatic({"1.2"});
-  clock.time -= hours(24 * 365);
-  pass(hours(2));
-  EXPECT_EQ(source.addresses.size(), 2u);
-  answer({"1.2"});
-  clock.time += hours(30);
-  pass(hours(1));
-  EXPECT_EQ(source.addresses.size(), 3u);
+using Property = SparkleUpdaterService::Property;
+
+class Service : public UpdateWorld {
+ protected:
+  SparkleUpdaterService& start(BuildSettings settings = {"1.2", "", "https://example.org/feed"}) {
+    service.emplace(seams, std::move(settings));
+    observation = service->onChange([this](Property property) { changes.push_back(describe(property)); });
+    return *service;
+  }
+  std::string describe(Property property) const {
+    switch (property) {
+      case Property::isCheckingForUpdates:
+        return service->isCheckingForUpdates() ? "checking" : "not checking";
+      case Property::updateAvailable:
+        return service->updateAvailable() ? "available" : "not available";
+      case Property::updateInfo:
+        break;
+    }
+    return service->updateInfo() ? "info " + service->updateInfo()->version : "no info";
+  }
+
+  std::vector<std::string> changes;
+  std::optional<SparkleUpdaterService> service;
+  Subscription observation;
+};
+
+TEST_F(Service, ChecksUnaskedOnlyIfThePreferenceSaysSo) {
+  EXPECT_FALSE(start().updaterController()->automaticallyChecksForUpdates());
+  defaults.set("automaticallyChecksForUpdates", "true");
+  EXPECT_FALSE(start().updaterController()->automaticallyChecksForUpdates()) << "no Boolean";
+  defaults.set("automaticallyChecksForUpdates", true);
+  EXPECT_TRUE(start().updaterController()->automaticallyChecksForUpdates());
 }
 
+TEST_F(Service, TellsOfAnUpdateBeforeTheCheckEndsAndForgetsOneThatIsNoLongerThere) {
+  defaults.set("feedUrl", "https://elsewhere.example/");
+  start().checkForUpdates();
+  EXPECT_THAT(source.addresses, ElementsAre("https://example.org/feed")) << "no stored address";
+  EXPECT_EQ(defaults.string("feedUrl"), "");
+  source.answer(feedOf({"1.3"}));
+  EXPECT_THAT(changes, ElementsAre("checking")) << "the rest comes later";
+  queue.runReady();
+  EXPECT_THAT(changes, ElementsAre("checking", "available", "info 1.3", "not checking", "not checking"));
+  changes.clear();
+  service->checkForUpdates();
+  source.answer(UpdateFailure::noConnection);
+  queue.runReady();
+  EXPECT_THAT(changes, ElementsAre("checking", "not available", "no info", "not checking"));
+}
+
+TEST_F(Service, LeavesNothingBehind) {
+  start().checkForUpdates();
+  source.answer(feedOf({"1.3"}));
+  service.reset();
+  queue.advance(std::chrono::hours(48));
+  EXPECT_THAT(changes, ElementsAre("checking"));
+}
+
+TEST_F(Service, DoesNothingWithoutAFeed) {
+  defaults.set("automaticallyChecksForUpdates", true);
+  start({"1.2", "", ""}).checkForUpdates();
+  EXPECT_EQ(service->updaterController(), nullptr);
+  EXPECT_EQ(queue.pending(), 0u);
+  EXPECT_THAT(changes, IsEmpty());
+  EXPECT_THAT(user.shown, IsEmpty());
+}
 }  // namespace
 }  // namespace tessarin::testing

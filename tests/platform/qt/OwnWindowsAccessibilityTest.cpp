@@ -5,8 +5,8 @@
 
 #include "platform/qt/OwnWindowsAccessibility.h"
 #include "platform/qt/TestApplication.h"
-#include "support/AccessibilitySuite.h"
 #include "support/FakeAccessibility.h"
+#include "support/FocusedElement.h"
 
 namespace tessarin::testing {
 namespace {
@@ -20,33 +20,6 @@ std::string textOf(const Edit& edit) {
   else
     return edit.toPlainText().toStdString();
 }
-
-/// Two editors of a window of our own, the first with the focus.
-template <class Edit>
-class OwnWorld {
- public:
-  OwnWorld() {
-    for (Edit* edit : {first_, second_}) edit->setParent(&window_);
-    EXPECT_TRUE(showFocused(window_, *first_));
-  }
-  Accessibility& accessibility() { return accessibility_; }
-  void setText(const std::string& text) {
-    first_->clear();
-    QKeyEvent typing(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromStdString(text));
-    QApplication::sendEvent(first_, &typing);
-  }
-  std::string text() const { return textOf(*first_); }
-  void moveFocus() { (first_->hasFocus() ? second_ : first_)->setFocus(); }
-  bool waitFor(auto condition) { return eventuallyInLoop(condition); }
-
- private:
-  bool hasApplication_ = (ensureApplication(), true);
-  QWidget window_;
-  Edit* first_ = new Edit;
-  Edit* second_ = new Edit;
-  FakeAccessibility others_;
-  OwnWindowsAccessibility accessibility_{others_};
-};
 
 /// A window of our own beside other applications that are scripted.
 class World : public ::testing::Test {
@@ -114,6 +87,20 @@ TYPED_TEST(OwnEditors, TakeASelectionWithinTheRangeAndNoOther) {
   EXPECT_EQ(this->replace(this->focused(), {1, 3}, "x"), AccessibilityStatus::failure);
   EXPECT_EQ(this->replace(this->focused(), {1, 6}, "x"), AccessibilityStatus::success);
   EXPECT_EQ(textOf(*this->edit), "ax");
+}
+
+TYPED_TEST(OwnEditors, CountCharactersAsTheUserDoesAndAreWrittenToOnlyWhereSelected) {
+  this->edit->clear();
+  this->press(0, Qt::NoModifier, "é😀a👩‍🚀🇩🇪e\u0301");
+  const auto caret = this->template read<TextRange>(this->focused(), attribute::selectedTextRange);
+  ASSERT_TRUE(caret);
+  const TextRange lastThree{caret->location - 3, 3};
+  EXPECT_EQ(this->string(this->focused(), lastThree), "👩‍🚀🇩🇪e\u0301");
+  EXPECT_EQ(this->template read<std::string>(this->focused(), "AXColor"), std::nullopt);
+  EXPECT_EQ(this->replace(this->focused(), lastThree, "👍🏽"), AccessibilityStatus::success);
+  EXPECT_EQ(this->accessibility().setAttribute(this->focused(), attribute::selectedText, std::string("x")),
+            AccessibilityStatus::failure);
+  EXPECT_EQ(textOf(*this->edit), "é😀a👍🏽");
 }
 
 TYPED_TEST(OwnEditors, ShowTheCaretWithinTheirFrame) {
@@ -213,9 +200,18 @@ TEST_F(OtherApplications, AreNotAskedForOurFocus) {
   EXPECT_TRUE(eventuallyInLoop([this] { return focusedApplication() == others.application; }));
 }
 
-using OwnWorlds = ::testing::Types<OwnWorld<QLineEdit>, OwnWorld<QTextEdit>, OwnWorld<QPlainTextEdit>>;
-
-INSTANTIATE_TYPED_TEST_SUITE_P(OwnWindows, AccessibilitySuite, OwnWorlds);
+TEST_F(OwnWindows, TellWhenTheFocusMovesUntilUnsubscribed) {
+  auto* first = new QLineEdit(&window);
+  auto* second = new QTextEdit(&window);
+  ASSERT_TRUE(showFocused(window, *first));
+  int moves = 0;
+  Subscription subscription = accessibility().onFocusMoved([&moves] { ++moves; });
+  second->setFocus();
+  EXPECT_EQ(moves, 1);
+  subscription.reset();
+  first->setFocus();
+  EXPECT_EQ(moves, 1);
+}
 
 }  // namespace
 }  // namespace tessarin::testing

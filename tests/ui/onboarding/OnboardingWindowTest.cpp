@@ -1,3 +1,4 @@
+#include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
@@ -8,10 +9,10 @@
 #include "platform/qt/OwnWindowsAccessibility.h"
 #include "platform/qt/TestApplication.h"
 #include "support/FakeAccessibility.h"
-#include "support/FakeInputMonitoring.h"
+#include "support/FakeDesktop.h"
 #include "support/FakeUserDefaults.h"
-#include "support/FakeWorkspace.h"
 #include "support/ManualMainQueue.h"
+#include "ui/TrustPrompt.h"
 #include "ui/onboarding/OnboardingView.h"
 #include "ui/onboarding/OnboardingWindow.h"
 
@@ -96,33 +97,32 @@ TEST_F(OnboardingWindowTest, PermissionsAreLive) {
   EXPECT_THAT(textsOf<QPushButton>(), ElementsAre("Back", "Continue"));
 }
 
-TEST_F(OnboardingWindowTest, LargeTypeIsNotCutOff) {
-  const QFont before = QApplication::font();
-  QFont large = before;
-  large.setPointSizeF(17);
-  QApplication::setFont(large);
-  presentStep(2);
-  QApplication::processEvents();
-  const auto* field = window.findChild<QLineEdit*>();
-  const auto* page = field->parentWidget()->parentWidget();
-  const QRect place(field->mapTo(page, QPoint()), field->size());
-  EXPECT_TRUE(page->rect().contains(place)) << place.bottom() << " of " << page->height();
-  QApplication::setFont(before);
+TEST(TrustPrompt, OnlyAPlainYesIsAYes) {
+  std::vector<bool> answers;
+  TrustPrompt prompt([&](bool isTrusted) { answers.push_back(isTrusted); });
+  const auto dialog = []() -> QMessageBox* {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+      auto* box = qobject_cast<QMessageBox*>(widget);
+      if (box != nullptr && box->isVisible()) return box;
+    }
+    return nullptr;
+  };
+  const auto ask = [&]() -> QMessageBox& {
+    prompt.ask(PromptManner::inFront);
+    return *dialog();
+  };
+  QTest::keyClick(&ask(), Qt::Key_Return);
+  EXPECT_THAT(answers, ElementsAre(false));
+  QTest::keyClick(&ask(), Qt::Key_Escape);
+  EXPECT_THAT(answers, ElementsAre(false, false));
+  ask().close();
+  EXPECT_THAT(answers, ElementsAre(false, false)) << "no answer";
+  QMessageBox& last = ask();
+  for (QAbstractButton* button : last.buttons()) {
+    if (last.buttonRole(button) == QMessageBox::AcceptRole) QTest::mouseClick(button, Qt::LeftButton);
+  }
+  EXPECT_THAT(answers, ElementsAre(false, false, true));
+  EXPECT_EQ(dialog(), nullptr);
 }
-
-TEST_F(OnboardingWindowTest, TheExerciseTakesTextAtOnceAndIsExpandedIn) {
-  presentStep(2);
-  QTest::keyClicks(QApplication::focusWidget(), "a:smile");
-  OwnWindowsAccessibility accessibility(others);
-  const auto application =
-      readAttribute<ElementRef>(accessibility, accessibility.systemWide(), attribute::focusedApplication);
-  const auto field = readAttribute<ElementRef>(accessibility, *application, attribute::focusedElement);
-  EXPECT_EQ(readAttribute<TextRange>(accessibility, *field, attribute::selectedTextRange), (TextRange{7, 0}));
-  accessibility.setAttribute(*field, attribute::selectedTextRange, TextRange{1, 6});
-  accessibility.setAttribute(*field, attribute::selectedText, std::string("😄"));
-  EXPECT_EQ(window.findChild<QLineEdit*>()->text(), "a😄");
-  EXPECT_EQ(step(), 2);
-}
-
 }  // namespace
 }  // namespace tessarin::ui

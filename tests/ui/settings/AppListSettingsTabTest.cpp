@@ -78,12 +78,9 @@ class AppListSettingsTabTest : public testing::SettingsTest {
 
 TEST_F(AppListSettingsTabTest, listsTheStoredAndTheBuiltInOnes) {
   const auto& builtIn = preferences::defaultBlockedApps();
+  defaults.set("blacklistedApps", std::vector<std::string>{"org.example.b", *builtIn.begin()});
   open();
-  EXPECT_THAT(listed(), ::testing::ElementsAreArray(builtIn));
-  defaults.set("blacklistedApps",
-               std::vector<std::string>{"org.example.b", "Org.example.a", *builtIn.begin()});
-  open();
-  EXPECT_EQ(listed().size(), builtIn.size() + 2);
+  EXPECT_EQ(listed().size(), builtIn.size() + 1);
   tab = std::make_unique<PasteFallbackAppsSettingsTab>(services());
   EXPECT_THAT(listed(), ::testing::UnorderedElementsAreArray(preferences::defaultPasteFallbackApps()));
 }
@@ -136,41 +133,6 @@ TEST_F(AppListSettingsTabTest, theKeyboardStaysInItsPlaceWhenItsRowGoes) {
   EXPECT_EQ(focused(), "Add Delta");
   press(Qt::Key_Space);
   EXPECT_EQ(focused(), "Add Gamma");
-}
-
-TEST_F(AppListSettingsTabTest, aButtonThatTheKeyboardComesToIsInView) {
-  std::vector<std::string> many;
-  for (char letter = 'a'; letter <= 'z'; ++letter) many.push_back(std::string("org.example.") + letter);
-  defaults.set("blacklistedApps", many);
-  openFocused();
-  for (std::size_t row = 0; row < many.size(); ++row) {
-    press(Qt::Key_Tab);
-    const QWidget* button = QApplication::focusWidget();
-    EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect()) << "row " << row;
-  }
-}
-
-TEST_F(AppListSettingsTabTest, longTextsAreCutAndLeaveTheButtonsInReach) {
-  const std::string endless(300, 'm');
-  defaults.set("blacklistedApps", std::vector<std::string>{endless});
-  workspace.installed["com.apple.MobileSMS"] = {endless, "sms.desktop", ""};
-  workspace.running = {{"org.example.a", endless, false}};
-  openFocused();
-  for (const auto* button : tab->findChildren<QAbstractButton*>()) {
-    EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect());
-  }
-  EXPECT_LT(tab->findChildren<QPushButton*>().front()->width(), 300);
-}
-
-TEST_F(AppListSettingsTabTest, theDeleteKeyRemovesTheCurrentEntry) {
-  openFocused();
-  press(Qt::Key_Down);
-  press(Qt::Key_Delete);
-  EXPECT_THAT(stored(), ElementsAre("com.apple.MobileSMS"));
-  for (int time = 0; time < 2; ++time) {
-    press(Qt::Key_Delete);
-    EXPECT_THAT(listed(), IsEmpty());
-  }
 }
 
 }  // namespace

@@ -1,8 +1,13 @@
 #include <QAccessible>
+#include <QCheckBox>
+#include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTabBar>
 #include <QTabWidget>
 
+#include "Matchers.h"
+#include "ui/settings/GeneralSettingsTab.h"
 #include "ui/settings/SettingsTest.h"
 #include "ui/settings/SettingsWindow.h"
 #include "ui/style/PermissionRow.h"
@@ -24,23 +29,13 @@ class SettingsWindowTest : public testing::SettingsTest {
   SettingsWindow settings{services()};
 };
 
-TEST_F(SettingsWindowTest, showsSixTabsAndOpensOnTheFirst) {
-  settings.open();
-  QWidget* first = settings.window();
-  ASSERT_EQ(tabs()->count(), 6);
-  tabs()->setCurrentIndex(3);
-  settings.open();
-  EXPECT_EQ(settings.window(), first);
-  EXPECT_EQ(tabs()->currentIndex(), 3);
-  first->close();
-  settings.open();
-  EXPECT_EQ(tabs()->currentIndex(), 0);
-}
-
-TEST_F(SettingsWindowTest, keysCloseIt) {
-  const QKeyCombination cases[] = {Qt::Key_Escape, Qt::CTRL | Qt::Key_W};
-  for (const QKeyCombination keys : cases) {
+TEST_F(SettingsWindowTest, opensOnTheFirstOfItsTabsUnlessItIsOpenUntilKeysCloseIt) {
+  for (const QKeyCombination keys : {QKeyCombination(Qt::Key_Escape), Qt::CTRL | Qt::Key_W}) {
     settings.open();
+    EXPECT_EQ(tabs()->currentIndex(), 0);
+    tabs()->setCurrentIndex(3);
+    settings.open();
+    EXPECT_EQ(tabs()->currentIndex(), 3);
     ASSERT_TRUE(testing::showFocused(*settings.window(), *tabs()->tabBar()));
     QTest::keyClick(tabs()->tabBar(), keys.key(), keys.keyboardModifiers());
     EXPECT_FALSE(settings.window()->isVisible());
@@ -85,5 +80,55 @@ TEST_F(SettingsWindowTest, permissionsAreLiveWhileTheyAreShown) {
   EXPECT_EQ(grants().size(), 0) << "asked again when it is shown";
 }
 
+using testing::child;
+using testing::shows;
+
+class GeneralSettingsTabTest : public testing::SettingsTest {
+ protected:
+  void open() {
+    tab = std::make_unique<GeneralSettingsTab>(services());
+    tab->show();
+  }
+  QCheckBox* launch() const { return child<QCheckBox>(*tab, "Launch at login"); }
+  void press(QWidget* widget) const { QTest::keyClick(widget, Qt::Key_Space); }
+
+  std::unique_ptr<GeneralSettingsTab> tab;
+};
+
+TEST_F(GeneralSettingsTabTest, launchAtLoginFollowsTheLoginItemAndAFailureTurnsItBack) {
+  open();
+  EXPECT_FALSE(launch()->isChecked());
+  EXPECT_THAT(loginItem.calls, ElementsAre()) << "showing it changes nothing";
+  press(launch());
+  press(launch());
+  EXPECT_THAT(loginItem.calls, ElementsAre("register", "unregister"));
+  EXPECT_THAT(log.lines(), ElementsAre());
+  loginItem.calls.clear();
+  loginItem.failure = "the folder is read-only";
+  press(launch());
+  EXPECT_FALSE(launch()->isChecked());
+  EXPECT_THAT(loginItem.calls, ElementsAre("register", "unregister")) << "the correction is a change, too";
+  EXPECT_THAT(log.lines(), SizeIs(2));
+  loginItem.enabled = true;
+  open();
+  EXPECT_TRUE(launch()->isChecked());
+}
+
+TEST_F(GeneralSettingsTabTest, theTriggerCharacterIsShownEverywhereAtOnceAndMayBeNoneOfTheChoices) {
+  open();
+  EXPECT_TRUE(child<QRadioButton>(*tab, ":")->isChecked());
+  for (const char* character : {";", "/", ":"}) {
+    press(child<QRadioButton>(*tab, character));
+    EXPECT_EQ(defaults.string("triggerCharacter"), character);
+    EXPECT_TRUE(shows<QLabel>(*tab, QString("Type %1shortcode%1 to trigger autocomplete").arg(character)));
+  }
+  defaults.set("triggerCharacter", ";");
+  EXPECT_TRUE(child<QRadioButton>(*tab, ";")->isChecked()) << "changed by another program";
+  defaults.set("triggerCharacter", "!");
+  for (const auto* choice : tab->findChildren<QRadioButton*>()) EXPECT_FALSE(choice->isChecked());
+  EXPECT_TRUE(shows<QLabel>(*tab, "Type !shortcode! to trigger autocomplete"));
+  press(child<QRadioButton>(*tab, "/"));
+  EXPECT_EQ(defaults.string("triggerCharacter"), "/");
+}
 }  // namespace
 }  // namespace tessarin::ui
