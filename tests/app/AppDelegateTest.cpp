@@ -5,7 +5,6 @@
 #include "app/TestApp.h"
 #include "input/Preferences.h"
 #include "platform/KeyCodes.h"
-#include "support/KeyStream.h"
 
 namespace tessarin::testing {
 namespace {
@@ -59,15 +58,6 @@ TEST_F(AppDelegateTest, AChangedTriggerHoldsAtOnce) {
   EXPECT_FALSE(app.popup.visible);
   app.type(";smile;");
   EXPECT_EQ(app.document.text, ":s😄");
-}
-
-TEST_F(AppDelegateTest, LeftFromTheFirstVariantClosesThePickerAndIsSwallowed) {
-  app.type(":wave→→←");
-  EXPECT_TRUE(app.monitor().shouldConsumeArrows);
-  EXPECT_EQ(app.tap.press(key(keycode::left)), KeyVerdict::swallow);
-  EXPECT_FALSE(app.model().skinToneMode());
-  EXPECT_FALSE(app.monitor().shouldConsumeArrows);
-  EXPECT_EQ(app.tap.press(key(keycode::left)), KeyVerdict::pass);
 }
 
 TEST_F(AppDelegateTest, EndsInManyWays) {
@@ -138,21 +128,6 @@ TEST_F(AppDelegateTest, SwitchedFromOutsideItLetsGoOfTheKeysFirst) {
   }
 }
 
-TEST_F(AppDelegateTest, KeysAreHeldBackUntilTheLastInsertionIsDone) {
-  app.insertion.finishesAtOnce = false;
-  std::vector<KeyAttention> whenAsked;
-  app.insertion.onAsked = [&] { whenAsked.push_back(app.tap.attention()); };
-  for (const auto outcome :
-       {InsertionOutcome::inserted, InsertionOutcome::unchanged, InsertionOutcome::erasedOnly}) {
-    app.type(":smile");
-    app.popup.clickRow(0);
-    EXPECT_THAT(std::exchange(whenAsked, {}), ElementsAre(KeyAttention::holdBack));
-    EXPECT_EQ(app.tap.attention(), KeyAttention::holdBack);
-    app.insertion.finish(outcome);
-    EXPECT_EQ(app.tap.attention(), KeyAttention::triggerOnly);
-  }
-}
-
 TEST_F(AppDelegateTest, AnInsertionIsNotDisturbedFromOutside) {
   app.insertion.finishesAtOnce = false;
   app.type(":smile⏎");
@@ -174,6 +149,7 @@ TEST_F(AppDelegateTest, NothingThatItHandedOutOutlivesIt) {
   app.popup.clickVariant(0);
   app.workspace.changeContext();
   app.statusBar.openMenu();
+  app.statusBar.choose("Disable Tessarin");
   app.accessibility.focus(std::make_shared<FakeElement>());
   app.defaults.set(preferences::key::triggerCharacter, ";");
   app.queue.advance(std::chrono::seconds(10));

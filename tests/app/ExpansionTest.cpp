@@ -7,7 +7,6 @@
 #include "app/TestApp.h"
 #include "input/Preferences.h"
 #include "platform/KeyCodes.h"
-#include "support/KeyStream.h"
 
 namespace tessarin::testing {
 namespace {

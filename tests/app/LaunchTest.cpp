@@ -68,18 +68,5 @@ TEST_F(LaunchTest, RetriesWhileThereIsNoTapUntilShutdown) {
   EXPECT_EQ(app.tap.creations, 3);
 }
 
-TEST_F(LaunchTest, ShutdownEndsKeysAndTimers) {
-  app.launch();
-  app.type(":s");
-  app.app->applicationWillTerminate();
-  EXPECT_FALSE(app.tap.exists);
-  EXPECT_EQ(app.queue.pending(), 0u);
-  const int hides = app.popup.hides;
-  app.workspace.changeContext();
-  app.statusBar.openMenu();
-  app.accessibility.focus(std::make_shared<FakeElement>());
-  EXPECT_EQ(app.popup.hides, hides);
-}
-
 }  // namespace
 }  // namespace tessarin::testing

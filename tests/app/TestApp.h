@@ -2,21 +2,45 @@
 
 #include "app/AppDelegate.h"
 #include "model/SnippetCoding.h"
+#include "platform/EventTap.h"
+#include "platform/KeyCodes.h"
+#include "platform/TextInsertion.h"
 #include "platform/WallClock.h"
 #include "support/FakeAccessibility.h"
-#include "support/FakeDocument.h"
+#include "support/FakeDesktop.h"
 #include "support/FakeEventTap.h"
-#include "support/FakeInputMonitoring.h"
-#include "support/FakePopupPresenter.h"
-#include "support/FakeStatusBar.h"
+#include "support/FakePopup.h"
 #include "support/FakeTextInsertion.h"
 #include "support/FakeUserDefaults.h"
-#include "support/FakeWorkspace.h"
 #include "support/LogRecorder.h"
 #include "support/ManualMainQueue.h"
 #include "support/TemporaryFolder.h"
+#include "text/Graphemes.h"
 
 namespace tessarin::testing {
+
+/// A text with the caret at its end, which keys type into and replacements change. A replacement whose
+/// shortcode does not stand before the caret, or that would erase anything else, fails the test.
+class FakeDocument {
+ public:
+  void type(const KeyEvent& event) {
+    if (event.keyCode == keycode::deleteBackward) {
+      text = text::withoutLastCharacter(text);
+    } else if (!(event.flags & keyflag::chord)) {
+      text += text::fromUtf16(event.text);
+    }
+  }
+
+  void apply(const Replacement& replacement) {
+    const auto count = replacement.deleteCount + (replacement.includeTriggerChar ? 1 : 0);
+    const std::string erased = text::lastCharacters(text, static_cast<std::size_t>(count));
+    EXPECT_EQ(erased, replacement.typed) << "in the document: " << text;
+    text.resize(text.size() - erased.size());
+    text += replacement.text;
+  }
+
+  std::string text;
+};
 
 /// The controller on a desktop of fakes, with a document into which everything goes that it lets through.
 /// Its snippets: smile 😄, smirk 😏, small "tiny", wave 👋, and one whose trigger is 64 times the letter z.

@@ -5,7 +5,6 @@
 #include "platform/KeyCodes.h"
 #include "support/FakeAccessibility.h"
 #include "support/FakeEventTap.h"
-#include "support/KeyStream.h"
 #include "support/LogRecorder.h"
 #include "support/ManualMainQueue.h"
 
@@ -94,23 +93,6 @@ TEST_F(KeyboardMonitorTest, LooksForAPasswordFieldAtEachTriggerThatMayBegin) {
   tap.press(letter("b"));
   EXPECT_EQ(accessibility.calls, calls) << "not while collecting";
   EXPECT_THAT(heard, ElementsAre("a", ":", ":", "b"));
-}
-
-TEST_F(KeyboardMonitorTest, StartsAndStopsOnceThereIsTrustAndATap) {
-  accessibility.trusted = false;
-  EXPECT_FALSE(monitor->start());
-  EXPECT_EQ(tap.creations, 0);
-  accessibility.trusted = true;
-  tap.isUsable = false;
-  EXPECT_FALSE(monitor->start());
-  EXPECT_EQ(queue.pending(), 0u);
-  tap.isUsable = true;
-  EXPECT_TRUE(monitor->start());
-  monitor->stop();
-  EXPECT_FALSE(tap.exists);
-  EXPECT_EQ(queue.pending(), 0u);
-  EXPECT_TRUE(monitor->start());
-  EXPECT_TRUE(tap.isOn);
 }
 
 TEST_F(KeyboardMonitorTest, ADisabledTapIsEnabledAndReported) {

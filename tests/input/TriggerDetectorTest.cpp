@@ -2,8 +2,8 @@
 #include "input/Preferences.h"
 #include "input/TriggerDetector.h"
 #include "platform/KeyCodes.h"
+#include "support/FakeEventTap.h"
 #include "support/FakeUserDefaults.h"
-#include "support/KeyStream.h"
 #include "text/Graphemes.h"
 
 namespace tessarin::testing {

@@ -4,9 +4,9 @@
 
 #include "input/Preferences.h"
 #include "insertion/AccessibilityHelper.h"
-#include "support/FakeTextField.h"
+#include "support/FakeAccessibility.h"
+#include "support/FakeDesktop.h"
 #include "support/FakeUserDefaults.h"
-#include "support/FakeWorkspace.h"
 
 namespace tessarin::testing {
 namespace {
@@ -119,13 +119,6 @@ TEST_F(AccessibilityHelperTest, waitsSixtyMillisecondsForLettersOnTheirWay) {
   EXPECT_TRUE(accessibility.writes.empty());
   EXPECT_EQ(helper.insertText(":wave", 5, "👋"), InsertionOutcome::inserted);
   EXPECT_EQ(field->document(), "hi :smile 👋");
-}
-
-TEST_F(AccessibilityHelperTest, staysWithinItsBudgetWhileWaiting) {
-  accessibility.callDuration = milliseconds(8);
-  field->type("x");
-  EXPECT_EQ(insert(), InsertionOutcome::differs);
-  EXPECT_LE(accessibility.elapsed(), milliseconds(120));
 }
 
 TEST_F(AccessibilityHelperTest, tellsWhetherATextStandsBeforeTheCaret) {

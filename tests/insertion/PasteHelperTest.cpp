@@ -138,14 +138,6 @@ TEST_F(PasteHelperTest, givesUpAfterTwoSeconds) {
   EXPECT_THAT(outcomes, SizeIs(1));
 }
 
-TEST_F(PasteHelperTest, restoresAnEmptyPasteboardThatNobodyRead) {
-  general.copyElsewhere(Items{});
-  paste(0, "x");
-  queue.advance(3000ms);
-  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::unchanged));
-  EXPECT_THAT(general.contents(), IsEmpty());
-}
-
 TEST_F(PasteHelperTest, restoresWhatAHungOwnerStillDelivered) {
   general.readyAfter = 200ms;
   general.completeAfter = 1000ms;

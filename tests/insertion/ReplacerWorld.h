@@ -1,11 +1,11 @@
 #pragma once
 
 #include "insertion/TextReplacer.h"
+#include "support/FakeAccessibility.h"
+#include "support/FakeDesktop.h"
 #include "support/FakeKeyPoster.h"
 #include "support/FakePasteboard.h"
-#include "support/FakeTextField.h"
 #include "support/FakeUserDefaults.h"
-#include "support/FakeWorkspace.h"
 #include "support/ManualMainQueue.h"
 
 namespace tessarin::testing {

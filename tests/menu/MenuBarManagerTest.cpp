@@ -2,10 +2,8 @@
 #include "input/Preferences.h"
 #include "menu/MenuBarManager.h"
 #include "support/FakeAccessibility.h"
-#include "support/FakeInputMonitoring.h"
-#include "support/FakeStatusBar.h"
+#include "support/FakeDesktop.h"
 #include "support/FakeUserDefaults.h"
-#include "support/FakeWorkspace.h"
 #include "support/ManualMainQueue.h"
 
 namespace tessarin::testing {
@@ -80,17 +78,6 @@ TEST_F(MenuBarManagerTest, LeadsToSettingsUpdatesAndQuit) {
   queue.runReady();
   statusBar.choose("Quit Tessarin");
   EXPECT_THAT(calls, ElementsAre("settings", "updates", "quit"));
-}
-
-TEST_F(MenuBarManagerTest, AMenuThatOutlivesItDoesNothing) {
-  manager->setupStatusItem();
-  manager->checkForUpdates();
-  manager.reset();
-  queue.runReady();
-  statusBar.choose("Disable Tessarin");
-  statusBar.choose("Quit Tessarin");
-  EXPECT_THAT(calls, IsEmpty());
-  EXPECT_THAT(defaults.writes, IsEmpty());
 }
 
 }  // namespace

@@ -5,8 +5,8 @@
 
 #include "popup/AutocompletePanel.h"
 #include "support/FakeAccessibility.h"
-#include "support/FakePopupSurface.h"
-#include "support/FakeScreens.h"
+#include "support/FakeDesktop.h"
+#include "support/FakePopup.h"
 #include "support/ManualMainQueue.h"
 
 namespace tessarin::testing {

@@ -42,14 +42,11 @@ TEST(SkinTonePicker, stopsAtTheLastVariantAndClosesLeftOfTheFirst) {
   EXPECT_FALSE(model.skinToneMode());
 }
 
-Snippet makeSnippet(const std::string& trigger, const std::string& replacement) {
-  return {"id_" + trigger, "name of " + trigger, trigger, replacement, {}, "", false};
-}
-
 TEST(PopupContentBuilderTest, ShowsTheModelAndHintsAtSkinTonesWhereThePickerCanOpen) {
   AutocompleteViewModel model;
   EXPECT_THAT(buildPopupContent(model, ";").hints, IsEmpty());
-  model.updateResults({makeSnippet("wave", "👋"), makeSnippet("shrug", "(ツ)")}, "w");
+  const Snippet shrug{"id2", "name of shrug", "shrug", "(ツ)", {}, "", false};
+  model.updateResults({wave, shrug}, "w");
   EXPECT_THAT(buildPopupContent(model, ";").hints, Contains(PopupKeyHint{"→", "skin tone"}));
   model.enterSkinToneMode(*model.selectedSnippet());
   EXPECT_THAT(buildPopupContent(model, ";").hints, SizeIs(4)) << "the picker is open";
@@ -59,10 +56,9 @@ TEST(PopupContentBuilderTest, ShowsTheModelAndHintsAtSkinTonesWhereThePickerCanO
   EXPECT_EQ(content.triggerCharacter, ";");
   EXPECT_EQ(content.query, "w");
   EXPECT_EQ(content.selectedIndex, 1);
-  EXPECT_THAT(content.rows, ElementsAre(PopupRow{"id_wave", "👋", "wave", "name of wave", true},
-                                        PopupRow{"id_shrug", "(ツ)", "shrug", "name of shrug", false}));
-  EXPECT_THAT(content.hints, ElementsAre(PopupKeyHint{"↑↓", "navigate"}, PopupKeyHint{"↵", "select"},
-                                         PopupKeyHint{";", "confirm"}, PopupKeyHint{"esc", "cancel"}));
+  EXPECT_THAT(content.rows, ElementsAre(PopupRow{"id", "👋", "wave", "wave", true},
+                                        PopupRow{"id2", "(ツ)", "shrug", "name of shrug", false}));
+  EXPECT_THAT(content.hints, Contains(PopupKeyHint{";", "confirm"}));
 }
 
 }  // namespace

@@ -2,12 +2,22 @@
 
 #include <deque>
 #include <optional>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "platform/EventTap.h"
+#include "platform/KeyCodes.h"
 
 namespace tessarin::testing {
+
+/// A key-down event that produces `text` (UTF-8).
+KeyEvent key(std::int64_t keyCode, std::string_view text = "", std::uint64_t flags = 0);
+/// A key with no meaning but its text.
+KeyEvent letter(std::string_view text, std::uint64_t flags = 0);
+
+/// One event a character of `keys`; ⏎ ⇥ ⌫ ⎋ ← → ↑ ↓ and the space stand for the keys of that name.
+std::vector<KeyEvent> keyStream(std::string_view keys);
 
 /// A keyboard played by the test. Keeps the tap's promises: while the owner wants nothing held, everything is
 /// judged (or, when quiet, the trigger alone); while an insertion is under way keys are held back and judged

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <utility>
+
 #include "platform/MainQueue.h"
 #include "platform/Pasteboard.h"
 
@@ -11,9 +13,31 @@ class FakePasteboard final : public Pasteboard {
   /// The queue must outlive the pasteboard.
   explicit FakePasteboard(MainQueue& queue) : queue_(queue) {}
 
-  std::optional<std::string> string() override;
-  void snapshot(SnapshotReady ready) override;
-  void writeText(const std::string& text) override;
+  std::optional<std::string> string() override {
+    ++stringReads;
+    for (const PasteboardItem& item : contents_) {
+      if (item.type == "UTF8_STRING") return item.data;
+    }
+    return std::nullopt;
+  }
+  void snapshot(SnapshotReady ready) override {
+    ++snapshots;
+    auto taken = std::make_shared<PasteboardSnapshot>();
+    taken->items = contents_;
+    queue_.after(completeAfter, [taken, late = lateItems] {
+      taken->items.insert(taken->items.end(), late.begin(), late.end());
+      taken->isComplete = true;
+    });
+    queue_.after(readyAfter, [taken, ready = std::move(ready)] { ready(taken); });
+  }
+  void writeText(const std::string& text) override {
+    writtenTexts.push_back(text);
+    if (isHeldUp) {
+      heldWrite = text;
+      return;
+    }
+    change({{"UTF8_STRING", text}}, true);
+  }
   void write(const std::vector<PasteboardItem>& items) override { change(items, false); }
   bool isWriteDone() const override { return !heldWrite; }
   std::int64_t changeCount() const override { return changeCount_; }
@@ -25,7 +49,13 @@ class FakePasteboard final : public Pasteboard {
   void copyElsewhere(const std::string& text) { copyElsewhere({{"UTF8_STRING", text}}); }
   /// The application that was sent the chord reads our text to its end. What it got, or nothing when the text
   /// is no longer ours.
-  std::optional<std::string> readByApplication();
+  std::optional<std::string> readByApplication() {
+    if (!isOurText_) return std::nullopt;
+    const std::string text = contents_.front().data;
+    hasBeenRead_ = true;
+    if (const auto callback = onRead_) callback();
+    return text;
+  }
 
   const std::vector<PasteboardItem>& contents() const { return contents_; }
   bool isOurText() const { return isOurText_; }
@@ -38,14 +68,22 @@ class FakePasteboard final : public Pasteboard {
   /// While the server is held up, texts are not written but kept here; `carryOutHeldWrite` ends that.
   bool isHeldUp = false;
   std::optional<std::string> heldWrite;
-  void carryOutHeldWrite();
+  void carryOutHeldWrite() {
+    isHeldUp = false;
+    if (const auto text = std::exchange(heldWrite, std::nullopt)) change({{"UTF8_STRING", *text}}, true);
+  }
 
   int snapshots = 0;
   int stringReads = 0;
   std::vector<std::string> writtenTexts;
 
  private:
-  void change(std::vector<PasteboardItem> items, bool isOurText);
+  void change(std::vector<PasteboardItem> items, bool isOurText) {
+    contents_ = std::move(items);
+    isOurText_ = isOurText;
+    hasBeenRead_ = false;
+    ++changeCount_;
+  }
 
   MainQueue& queue_;
   std::vector<PasteboardItem> contents_;

@@ -34,7 +34,6 @@ class FakeTextInsertion final : public TextInsertion {
 
   void replace(const Replacement& replacement, Completion done) override {
     replacements.push_back(replacement);
-    if (onAsked) onAsked();
     underWay_.emplace_back(replacement, std::move(done));
     if (finishesAtOnce) finish();
   }
@@ -53,7 +52,6 @@ class FakeTextInsertion final : public TextInsertion {
   std::size_t underWay() const { return underWay_.size(); }
 
   bool finishesAtOnce = true;
-  std::function<void()> onAsked;  ///< before anything is inserted
   std::function<void(const Replacement&)> onInserted;
   std::vector<Replacement> replacements;
 

@@ -3,9 +3,8 @@
 #include "platform/atspi/AtspiAccessibility.h"
 #include "platform/atspi/FakeApplication.h"
 #include "platform/atspi/Roles.h"
-#include "support/AccessibilitySuite.h"
 #include "support/Eventually.h"
-#include "support/FakeTextField.h"
+#include "support/FocusedElement.h"
 #include "support/LogRecorder.h"
 #include "support/ManualMainQueue.h"
 #include "support/desktop/PrivateSession.h"
@@ -112,55 +111,6 @@ class AtspiAccessibilityTest : public ::testing::Test {
 
 std::unique_ptr<PrivateSession> AtspiAccessibilityTest::session;
 
-class AtspiWorld {
- public:
-  AtspiWorld() { moveFocus(); }
-  Accessibility& accessibility() { return accessibility_; }
-  void setText(const std::string& text) {
-    application_.setText(utf32(text), static_cast<std::int32_t>(utf32(text).size()));
-  }
-  std::string text() const { return utf8(application_.text()); }
-  void moveFocus() { std::swap(here_, there_); }
-  bool waitFor(auto condition) {
-    // Events that came before our listening are lost, so they are told again.
-    return eventually(condition, [this] {
-      application_.announceWindow("Activate");
-      application_.announceFocus(here_, true);
-      queue_.runReady();
-    });
-  }
-
- private:
-  static const PrivateSession& session() {
-    static const PrivateSession shared;
-    return shared;
-  }
-
-  ManualMainQueue queue_;
-  AtspiAccessibility accessibility_{queue_, optionsFor(session())};
-  FakeApplication application_{session().accessibilityBusAddress()};
-  const char* here_ = FakeApplication::otherFieldPath;
-  const char* there_ = FakeApplication::fieldPath;
-};
-
-class FakeWorld {
- public:
-  FakeWorld() { moveFocus(); }
-  Accessibility& accessibility() { return accessibility_; }
-  void setText(const std::string& text) {
-    fields_[0]->clear();
-    fields_[0]->type(text);
-  }
-  std::string text() const { return fields_[0]->document(); }
-  void moveFocus() { accessibility_.focus(fields_[moves_++ % 2]); }
-  bool waitFor(auto condition) { return condition(); }
-
- private:
-  FakeAccessibility accessibility_;
-  std::shared_ptr<FakeTextField> fields_[2] = {FakeTextField::create(), FakeTextField::create()};
-  std::size_t moves_ = 0;
-};
-
 TEST_F(AtspiAccessibilityTest, namesRoles) {
   struct Case {
     std::uint32_t role;
@@ -239,8 +189,11 @@ TEST_F(AtspiAccessibilityTest, remembersWhatTheFocusedElementLiesInUntilTheFocus
   EXPECT_EQ(askTwice(field, attribute::parent, "Parent"), 0) << "known already";
   EXPECT_EQ(askTwice(*window, attribute::role, "GetRole"), 1);
   EXPECT_EQ(askTwice(field, attribute::role, "GetRole"), 2) << "a password may be shown and hidden";
+  countMoves();
   focus(FakeApplication::otherFieldPath);
   EXPECT_EQ(askTwice(*window, attribute::role, "GetRole"), 1);
+  queue.runReady();
+  EXPECT_EQ(moves, 1);
 }
 
 TEST_F(AtspiAccessibilityTest, findsTheCaretsRectangleInPoints) {
@@ -391,6 +344,38 @@ TEST_F(AtspiAccessibilityTest, asksNothingTwiceForOneKey) {
   EXPECT_EQ(read(attribute::selectedTextRange), AttributeValue(TextRange{10, 0}));
   EXPECT_TRUE(accessibility->pause(std::chrono::milliseconds(1)));
   EXPECT_EQ(read(attribute::selectedTextRange), AttributeValue(TextRange{1, 0})) << "time has passed";
+}
+
+TEST_F(AtspiAccessibilityTest, readsAndReplacesCharactersAsTheUserCountsThem) {
+  std::string accented = "e";
+  for (int i = 0; i < 40; ++i) accented += "\u0301";
+  struct Case {
+    std::string before;
+    std::string last;
+    std::int64_t count;
+  };
+  const Case cases[] = {{"é😀 ", "ñ:smile", 7},
+                        {"a👩‍🚀🇩🇪", "e\u0301", 1},
+                        {"a", "👩‍🚀🇩🇪é", 3},
+                        {"ab", accented, 1}};
+  openApplication();
+  for (const auto& [before, last, count] : cases) {
+    SCOPED_TRACE(last);
+    const auto text = utf32(before + last);
+    application->setText(text, static_cast<std::int32_t>(text.size()));
+    accessibility->beginBudget(std::chrono::seconds(5));
+    const auto caret = readAttribute<TextRange>(*accessibility, field, attribute::selectedTextRange);
+    ASSERT_TRUE(caret);
+    const TextRange range{caret->location - count, count};
+    if (last != accented) {
+      EXPECT_EQ(read(attribute::stringForRange, range), AttributeValue(last));
+    }
+    EXPECT_EQ(replace(range, "👍🏽"), AccessibilityStatus::success);
+    EXPECT_EQ(utf8(application->text()), before + "👍🏽");
+    EXPECT_EQ(accessibility->setAttribute(field, attribute::selectedText, std::string("x")),
+              AccessibilityStatus::failure)
+        << "nothing is selected any more";
+  }
 }
 
 TEST_F(AtspiAccessibilityTest, writesOnlyTextAndOnlyInTheFieldWhereItWasSelected) {
@@ -546,9 +531,6 @@ TEST_F(AtspiAccessibilityTest, comesBackWithTheAccessibilityBus) {
   openApplication();
   EXPECT_EQ(read(attribute::role), AttributeValue(std::string(role::textField)));
 }
-
-INSTANTIATE_TYPED_TEST_SUITE_P(Atspi, AccessibilitySuite, ::testing::Types<AtspiWorld>);
-INSTANTIATE_TYPED_TEST_SUITE_P(Fake, AccessibilitySuite, ::testing::Types<FakeWorld>);
 
 }  // namespace
 }  // namespace tessarin::testing

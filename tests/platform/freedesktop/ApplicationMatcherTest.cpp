@@ -1,6 +1,8 @@
 #include <filesystem>
 
 #include "platform/freedesktop/ApplicationMatcher.h"
+#include "platform/freedesktop/BaseFolders.h"
+#include "platform/freedesktop/DesktopEntry.h"
 #include "support/TemporaryFolder.h"
 
 namespace tessarin::testing {
@@ -100,6 +102,45 @@ TEST(DesktopEntries, TheFirstFolderWinsAndCanRemove) {
   EXPECT_FALSE(entries.withId("gone"));
   EXPECT_FALSE(entries.withStartupWmClass("gone"));
   EXPECT_EQ(entries.withId("KDE-Deep")->id, "kde-deep");
+}
+
+using freedesktop::localeCandidates;
+using freedesktop::parseDesktopEntry;
+
+constexpr const char* editor = R"(# comment
+[Desktop Entry]
+Type=Application
+Name=Text Editor
+Name[de]=Texteditor
+Name[de_AT]=Schreiberl
+ Icon = org.example.Editor
+StartupWMClass=Org.example
+Exec="/opt/my editor/bin/edit" --new %U
+Categories=Utility;TerminalEmulator;
+
+[Desktop Action new]
+Name=New window
+Exec=other
+)";
+
+TEST(DesktopEntry, IsReadFromItsMainGroup) {
+  const auto entry = parseDesktopEntry(editor, {});
+  ASSERT_TRUE(entry);
+  EXPECT_EQ(entry->name, "Text Editor");
+  EXPECT_EQ(entry->icon, "org.example.Editor");
+  EXPECT_EQ(entry->startupWmClass, "Org.example");
+  EXPECT_EQ(entry->program, "edit");
+  EXPECT_TRUE(entry->isTerminalEmulator);
+  EXPECT_FALSE(entry->isHidden);
+}
+
+TEST(DesktopEntry, HasTheNameOfTheLocale) {
+  const std::pair<const char*, const char*> cases[] = {{"de_AT.UTF-8", "Schreiberl"},
+                                                       {"de_DE.UTF-8@euro", "Texteditor"},
+                                                       {"fr_FR", "Text Editor"},
+                                                       {"", "Text Editor"}};
+  for (const auto& [locale, name] : cases)
+    EXPECT_EQ(parseDesktopEntry(editor, localeCandidates(locale))->name, name) << locale;
 }
 
 }  // namespace

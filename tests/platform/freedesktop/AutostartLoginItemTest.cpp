@@ -47,18 +47,6 @@ struct Home {
 
 const std::string entry = "[Desktop Entry]\nType=Application\nName=Tessarin\nExec=tessarin\n";
 
-TEST(AutostartLoginItem, IsEnabledWhileRegisteredOnceOrTwice) {
-  const Home home;
-  AutostartLoginItem item = home.makeItem();
-  EXPECT_FALSE(item.isEnabled());
-  for (const bool isOn : {true, false}) {
-    for (int times = 0; times < 2; ++times) {
-      EXPECT_EQ(isOn ? item.registerItem() : item.unregisterItem(), std::nullopt);
-      EXPECT_EQ(item.isEnabled(), isOn);
-    }
-  }
-}
-
 TEST(AutostartLoginItem, AFailureSaysWhyAndChangesNothing) {
   for (const bool wasOn : {false, true}) {
     const Home home;

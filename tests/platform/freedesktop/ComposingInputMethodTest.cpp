@@ -4,7 +4,6 @@
 #include "support/Eventually.h"
 #include "support/TemporaryFolder.h"
 #include "support/desktop/BusService.h"
-#include "support/desktop/PrivateBus.h"
 
 namespace tessarin::testing {
 namespace {

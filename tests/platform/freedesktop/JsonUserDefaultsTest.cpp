@@ -41,26 +41,6 @@ TEST_F(JsonUserDefaultsTest, AnswersWhatWasSetLast) {
   EXPECT_EQ(defaults.boolean("text"), std::nullopt);
 }
 
-TEST_F(JsonUserDefaultsTest, TellsAfterEveryChangeUntilUnsubscribed) {
-  JsonUserDefaults defaults(folder / "tessarin" / "preferences.json");
-  std::vector<std::string> seen;
-  auto subscription = defaults.onChange([&] { seen.push_back(defaults.string("text").value_or("none")); });
-  defaults.set("text", "a");
-  defaults.set("text", "b");
-  subscription.reset();
-  defaults.set("text", "c");
-  EXPECT_EQ(seen, (std::vector<std::string>{"a", "b"}));
-}
-
-TEST_F(JsonUserDefaultsTest, KeepsWhatItDoesNotKnow) {
-  write(R"({"other": {"a": [1, 2.5, null]}, "showMenuBarIcon": true})");
-  JsonUserDefaults(file).set("showMenuBarIcon", false);
-  std::string text = content();
-  std::erase(text, ' ');
-  std::erase(text, '\n');
-  EXPECT_EQ(text, R"({"other":{"a":[1,2.5,null]},"showMenuBarIcon":false})");
-}
-
 TEST_F(JsonUserDefaultsTest, AMalformedFileIsLoggedOnceAndMovedAsideBeforeTheFirstWrite) {
   for (const char* malformed :
        {"", "[]", "{\"triggerCharacter\": \";\"", "{\"triggerCharacter\": \"\xff\"}"}) {
@@ -99,21 +79,6 @@ TEST_F(JsonUserDefaultsTest, AValueThatJsonCannotHoldStaysInMemory) {
   EXPECT_EQ(content(), "{\n  \"flag\": true\n}\n");
 }
 
-TEST_F(JsonUserDefaultsTest, WhatCouldNotBeSavedStaysInMemoryAndIsSavedLater) {
-  const fs::path blocked = folder / "blocked";
-  folder.write("blocked", "a file where the folder should be");
-  LogRecorder log;
-  JsonUserDefaults defaults(blocked / "preferences.json");
-  defaults.set("text", "a");
-  EXPECT_EQ(defaults.string("text"), "a");
-  EXPECT_THAT(log.lines(), ElementsAre(HasSubstr("Failed to save preferences"), HasSubstr("in memory only")));
-  fs::remove(blocked);
-  defaults.set("flag", true);
-  const JsonUserDefaults later(blocked / "preferences.json");
-  EXPECT_EQ(later.string("text"), "a");
-  EXPECT_EQ(later.boolean("flag"), true);
-}
-
 TEST_F(JsonUserDefaultsTest, SettingOneKeyKeepsWhatAnotherProgramWroteMeanwhile) {
   JsonUserDefaults defaults(file);
   defaults.set("text", "ours");
@@ -145,17 +110,6 @@ TEST_F(JsonUserDefaultsTest, ReloadsOnlyWhatHasChanged) {
   EXPECT_EQ(defaults.string("text"), std::nullopt);
 }
 
-TEST_F(JsonUserDefaultsTest, IsReplacedBehindALinkEvenADanglingOne) {
-  fs::create_directory(folder / "dotfiles");
-  const fs::path target = folder / "dotfiles" / "ours.json";
-  fs::create_symlink("dotfiles/ours.json", file);
-  for (const char* text : {"dangling", "whole"}) {
-    JsonUserDefaults(file).set("text", text);
-    EXPECT_TRUE(fs::is_symlink(file));
-    EXPECT_EQ(JsonUserDefaults(target).string("text"), text);
-  }
-}
-
 class WatchedPreferences : public JsonUserDefaultsTest {
  protected:
   bool waitFor(auto condition) {
@@ -163,18 +117,6 @@ class WatchedPreferences : public JsonUserDefaultsTest {
   }
   ManualMainQueue queue;
 };
-
-TEST_F(WatchedPreferences, FollowWritingReplacingAndRemoving) {
-  JsonUserDefaults defaults(file);
-  defaults.watch(queue);
-  write(R"({"text": "written"})");
-  EXPECT_TRUE(waitFor([&] { return defaults.string("text") == "written"; }));
-  folder.write("new", R"({"text": "replaced"})");
-  fs::rename(folder / "new", file);
-  EXPECT_TRUE(waitFor([&] { return defaults.string("text") == "replaced"; }));
-  fs::remove(file);
-  EXPECT_TRUE(waitFor([&] { return !defaults.string("text"); }));
-}
 
 TEST_F(WatchedPreferences, FollowAFolderThatIsRemovedOrMovedAwayAndMadeAnew) {
   const fs::path deep = folder / "config" / "preferences.json";

@@ -1,7 +1,6 @@
 #include "platform/freedesktop/ScreenLock.h"
 #include "support/Eventually.h"
 #include "support/desktop/BusService.h"
-#include "support/desktop/PrivateBus.h"
 
 namespace tessarin::testing {
 namespace {

@@ -1,10 +1,14 @@
+#include <sched.h>
 #include <sys/mman.h>
+#include <sys/mount.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <atomic>
+#include <cerrno>
 #include <csignal>
+#include <cstring>
 #include <map>
 #include <random>
 #include <thread>
@@ -15,7 +19,7 @@
 #include "platform/freedesktop/JsonUserDefaults.h"
 #include "support/LogRecorder.h"
 #include "support/ManualWallClock.h"
-#include "support/SmallDisk.h"
+#include "support/TemporaryFolder.h"
 
 namespace tessarin::testing {
 namespace {
@@ -53,6 +57,39 @@ Snippet snippet(const std::string& id, const std::string& replacement) {
 }
 
 // What the disk does
+
+/// A disk of 64 kB in a folder of its own, seen by this process and its children alone.
+class SmallDisk {
+ public:
+  /// Throws, with the reason, where this user may not mount anything.
+  SmallDisk() {
+    // The mounts of everybody else stay as they are.
+    require(::unshare(CLONE_NEWNS) == 0 && ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0);
+    require(::mount("tmpfs", folder_.path().c_str(), "tmpfs", 0, "size=64k") == 0);
+  }
+  ~SmallDisk() { ::umount2(folder_.path().c_str(), MNT_DETACH); }
+  SmallDisk(const SmallDisk&) = delete;
+  SmallDisk& operator=(const SmallDisk&) = delete;
+
+  const TemporaryFolder& folder() const { return folder_; }
+  void fill() const {
+    std::ofstream ballast(folder_ / "ballast");
+    while (ballast.put('x').flush()) continue;
+  }
+  void clear() const { std::filesystem::remove(folder_ / "ballast"); }
+  void setReadOnly(bool isReadOnly) const {
+    const int flags = isReadOnly ? MS_REMOUNT | MS_RDONLY : MS_REMOUNT;
+    require(::mount(nullptr, folder_.path().c_str(), nullptr, static_cast<unsigned long>(flags), nullptr) ==
+            0);
+  }
+
+ private:
+  static void require(bool isDone) {
+    if (!isDone) throw std::runtime_error(std::string("mounting: ") + std::strerror(errno));
+  }
+
+  TemporaryFolder folder_;
+};
 
 struct Fault {
   const char* name;
@@ -249,5 +286,34 @@ TEST_F(KillSaves, AtAnyMomentLeavesEveryFileWholeAndTheLatestOrTheOneBefore) {
   EXPECT_GT(interrupted, 0) << "none was interrupted";
 }
 
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::StartsWith;
+
+class FolderLockTest : public ::testing::Test {
+ protected:
+  LogRecorder log;
+  TemporaryFolder parent;
+  std::filesystem::path folder = parent / "share/tessarin";
+};
+
+TEST_F(FolderLockTest, makesTheFolderAndHoldsItToItsEnd) {
+  auto lock = freedesktop::FolderLock::acquire(folder);
+  ASSERT_TRUE(lock);
+  EXPECT_FALSE(freedesktop::FolderLock::acquire(folder)) << "taken already";
+  EXPECT_TRUE(freedesktop::FolderLock::acquire(parent / "another"));
+  EXPECT_EQ(std::filesystem::status(folder).permissions(), std::filesystem::perms::owner_all);
+  EXPECT_THAT(log.lines(), IsEmpty());
+  lock.reset();
+  EXPECT_TRUE(freedesktop::FolderLock::acquire(folder)) << "the file that stays behind locks nothing";
+}
+
+TEST_F(FolderLockTest, followsNoLinkToAnotherFile) {
+  std::filesystem::create_directories(folder);
+  parent.write("precious", "");
+  std::filesystem::create_symlink(parent / "precious", folder / "lock");
+  const auto lock = freedesktop::FolderLock::acquire(folder);
+  EXPECT_THAT(log.lines(), ElementsAre(StartsWith("[Tessarin] The data folder cannot be locked: ")));
+}
 }  // namespace
 }  // namespace tessarin::testing

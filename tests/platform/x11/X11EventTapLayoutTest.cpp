@@ -46,15 +46,6 @@ TEST_F(X11EventTapLayoutTest, FindsTheTriggerUnderLocks) {
   }
 }
 
-TEST_F(X11EventTapLayoutTest, ReportsAComposedCharacterOnce) {
-  start({"de"});
-  typist->type(":<dead_acute>e");
-  ASSERT_TRUE(queue.runUntil([this] { return seen.size() == 2; }));
-  EXPECT_EQ(seen[1].text, u"é");
-  typist->type("\n");
-  ASSERT_TRUE(queue.runUntil([this] { return insertions == 1; }));
-}
-
 TEST_F(X11EventTapLayoutTest, SendsNoEventForModifiersLocksAndMediaKeys) {
   start();
   typist->type(":<Shift_L><Control_R><Caps_Lock><Caps_Lock><XF86AudioMute><Super_L>a");

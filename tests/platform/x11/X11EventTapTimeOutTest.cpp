@@ -118,24 +118,5 @@ TEST_F(X11EventTapTimeOutTest, GivesTheKeyboardBackWhenAnInsertionNeverEnds) {
   ASSERT_TRUE(queue.runUntil([this] { return document->text().ends_with('C'); }));
 }
 
-TEST(KeyQuestion, IsDecidedByWhoeverComesFirst) {
-  x11::KeyQuestion givenUp;
-  givenUp.cancel();
-  EXPECT_EQ(givenUp.await(), std::nullopt);
-  EXPECT_EQ(givenUp.claim(), std::nullopt);
-
-  x11::KeyQuestion answered;
-  EXPECT_GT(answered.claim().value_or(0ms), 0ms);
-  answered.answer(KeyVerdict::swallow);
-  answered.cancel();
-  EXPECT_EQ(answered.await(), KeyVerdict::swallow);
-  EXPECT_FALSE(answered.commitSwallow());
-
-  x11::KeyQuestion committed(1ms);
-  committed.claim();
-  EXPECT_TRUE(committed.commitSwallow());
-  EXPECT_EQ(committed.await(), KeyVerdict::swallow) << "though no answer has come";
-}
-
 }  // namespace
 }  // namespace tessarin::testing

@@ -1,10 +1,7 @@
-#include "DocumentWindow.h"
-#include "LiveMainQueue.h"
-#include "Typist.h"
+#include "TapFixture.h"
 #include "platform/KeyCodes.h"
 #include "platform/x11/X11InputMonitoring.h"
 #include "platform/x11/X11KeyPoster.h"
-#include "support/desktop/PrivateDisplay.h"
 #include "text/Graphemes.h"
 
 namespace tessarin::testing {

@@ -5,10 +5,8 @@
 #include "platform/x11/SelectionTargets.h"
 #include "platform/x11/X11Selections.h"
 #include "support/Eventually.h"
-#include "support/FakePasteboard.h"
 #include "support/LogRecorder.h"
 #include "support/ManualMainQueue.h"
-#include "support/PasteboardSuite.h"
 #include "support/desktop/PrivateDisplay.h"
 
 namespace tessarin::testing {
@@ -47,10 +45,6 @@ struct X11PasteboardWorld {
     peer.own("CLIPBOARD", std::move(items));
     pasteboard().string();  // the news of it, which travels by itself, has come before this answer
   }
-  std::optional<std::string> pasteIntoFocusedApplication() {
-    peer.takeFocus();
-    return peer.read("CLIPBOARD", "UTF8_STRING");
-  }
   bool waitFor(auto condition) {
     return eventually(condition, [this] { queue.runReady(); });
   }
@@ -70,23 +64,6 @@ struct X11PasteboardWorld {
   std::unique_ptr<x11::X11Selections> selections = x11::X11Selections::connect(queue, display().name());
   SelectionPeer peer{display().name()};
 };
-
-INSTANTIATE_TYPED_TEST_SUITE_P(X11, PasteboardSuite, ::testing::Types<X11PasteboardWorld>);
-
-struct FakePasteboardWorld {
-  Pasteboard& pasteboard() { return fake; }
-  void copyElsewhere(Items items) { fake.copyElsewhere(std::move(items)); }
-  std::optional<std::string> pasteIntoFocusedApplication() { return fake.readByApplication(); }
-  bool waitFor(auto condition) {
-    queue.runReady();
-    return condition();
-  }
-
-  ManualMainQueue queue;
-  FakePasteboard fake{queue};
-};
-
-INSTANTIATE_TYPED_TEST_SUITE_P(Fake, PasteboardSuite, ::testing::Types<FakePasteboardWorld>);
 
 class X11PasteboardTest : public ::testing::Test {
  protected:
@@ -256,10 +233,18 @@ TEST_F(X11PasteboardTest, CountsOneChangeForEachWrite) {
     pasteboard().string();  // later news of our own writing would have come by now
     EXPECT_EQ(pasteboard().changeCount(), before + 1);
   }
+  const auto before = pasteboard().changeCount();
+  world.copyElsewhere({{"image/png", "png"}});
+  EXPECT_GT(pasteboard().changeCount(), before);
+  EXPECT_EQ(pasteboard().string(), std::nullopt);
+  pasteboard().write({});
+  EXPECT_TRUE(world.wholeSnapshot()->items.empty());
 }
 
 TEST_F(X11PasteboardTest, CountsOnlyTheFocusedProgramReadingTheText) {
   SelectionPeer other(display().name());
+  int told = 0;
+  pasteboard().onRead([&told] { ++told; });
   peer().takeFocus();
   pasteboard().writeText("the text before, whose read does not count for the next");
   peer().read("CLIPBOARD", "UTF8_STRING");
@@ -270,6 +255,8 @@ TEST_F(X11PasteboardTest, CountsOnlyTheFocusedProgramReadingTheText) {
   EXPECT_FALSE(hasBeenRead());
   peer().read("CLIPBOARD", "text/plain");
   EXPECT_TRUE(becomesRead());
+  EXPECT_EQ(told, 1) << "of the latest text";
+  pasteboard().onRead({});
   pasteboard().writeText("next");
   other.takeFocus();
   peer().read("CLIPBOARD", "UTF8_STRING");
@@ -290,16 +277,6 @@ TEST_F(X11PasteboardTest, CountsLargeTextOnlyWhenItWasReadToTheEnd) {
   EXPECT_FALSE(hasBeenRead()) << "nor by one that ended on the way";
   EXPECT_TRUE(peer().read("CLIPBOARD", "UTF8_STRING") == text);
   EXPECT_TRUE(becomesRead());
-}
-
-TEST_F(X11PasteboardTest, ASlowReaderGetsTheWholeOfTheOldText) {
-  const std::string text = blob(1'000'000);
-  pasteboard().write({{"text/html", text}});
-  std::optional<std::string> read;
-  std::thread reader([&] { read = peer().read("CLIPBOARD", "text/html"); });
-  pasteboard().writeText("new");
-  reader.join();
-  EXPECT_TRUE(read == text || read == std::nullopt);
 }
 
 TEST_F(X11PasteboardTest, HandsOverToTheClipboardManagerAtTheEnd) {
