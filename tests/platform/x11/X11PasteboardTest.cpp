@@ -235,7 +235,7 @@ TEST_F(X11PasteboardTest, CountsOneChangeForEachWrite) {
   }
   const auto before = pasteboard().changeCount();
   world.copyElsewhere({{"image/png", "png"}});
-  EXPECT_GT(pasteboard().changeCount(), before);
+  EXPECT_TRUE(world.waitFor([&] { return pasteboard().changeCount() > before; }));
   EXPECT_EQ(pasteboard().string(), std::nullopt);
   pasteboard().write({});
   EXPECT_TRUE(world.wholeSnapshot()->items.empty());
