@@ -2,13 +2,17 @@
 
 #include <QApplication>
 #include <QSessionManager>
-#include <QTimer>
 
+#include "base/ProgramPages.h"
 #include "base/Translate.h"
 #include "main/SnippetFiles.h"
 
 namespace tessarin {
 namespace {
+
+/// From the start and from the closing of the last window: by then the keyboard is watched, and nothing is
+/// drawn.
+constexpr std::chrono::seconds timeUntilRest{3};
 
 AppDelegate::Services services(Desktop& desktop, Windows& windows, QApplication& application,
                                const std::filesystem::path& resources, const std::filesystem::path& storage) {
@@ -41,6 +45,7 @@ Program::~Program() = default;
 int Program::run(bool opensSettings) {
   controller_.applicationDidFinishLaunching();
   if (opensSettings) showSettings();
+  restAfterWork();
   return QApplication::exec();
 }
 
@@ -53,6 +58,14 @@ void Program::observeSession(QApplication& application, UnixSignals& signals) {
       &application, &QApplication::saveStateRequest, &application,
       [](QSessionManager& session) { session.setRestartHint(QSessionManager::RestartNever); },
       Qt::DirectConnection);
+}
+
+void Program::restAfterWork() {
+  rest_.setSingleShot(true);
+  rest_.setInterval(timeUntilRest);
+  QObject::connect(&rest_, &QTimer::timeout, &rest_, [] { restProgramPages(); });
+  QObject::connect(qApp, &QGuiApplication::lastWindowClosed, &rest_, qOverload<>(&QTimer::start));
+  rest_.start();
 }
 
 void Program::listenForRequests(const std::filesystem::path& storage) {

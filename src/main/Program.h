@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSocketNotifier>
+#include <QTimer>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -32,6 +33,8 @@ class Program {
 
  private:
   void observeSession(QApplication& application, UnixSignals& signals);
+  /// Gives memory back that only the start or a window needed.
+  void restAfterWork();
   void listenForRequests(const std::filesystem::path& storage);
   Answer perform(const Request& request);
   Answer showSettings();
@@ -43,6 +46,7 @@ class Program {
   ui::WindowShortcuts shortcuts_;
   std::optional<freedesktop::InstanceSocket> requests_;
   std::unique_ptr<QSocketNotifier> requestNotifier_;
+  QTimer rest_;
 };
 
 }  // namespace tessarin
