@@ -16,15 +16,20 @@ struct Release {
   void operator()(json_t* value) const { json_decref(value); }
 };
 
-/// Whether another reader takes it, up to what it holds for too large or too deep.
+/// Whether another reader takes it, up to what it holds for too large or too deep, and to zero characters in
+/// the names of members, which it cannot hold.
 std::optional<bool> isJsonElsewhere(std::string_view text) {
   constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
   if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
   json_error_t error{};
-  const std::unique_ptr<json_t, Release> value(json_loadb(text.data(), text.size(), JSON_DECODE_ANY, &error));
+  const std::unique_ptr<json_t, Release> value(
+      json_loadb(text.data(), text.size(), JSON_DECODE_ANY | JSON_ALLOW_NUL, &error));
   if (value) return true;
   const auto code = json_error_code(&error);
-  if (code == json_error_numeric_overflow || code == json_error_stack_overflow) return std::nullopt;
+  if (code == json_error_numeric_overflow || code == json_error_stack_overflow ||
+      code == json_error_null_byte_in_key) {
+    return std::nullopt;
+  }
   return false;
 }
 

@@ -145,7 +145,6 @@ void JsonReader::appendEscape(std::string& result) {
   } else if (scalar >= 0xDC00 && scalar <= 0xDFFF) {
     fail("half of a surrogate pair");
   }
-  if (scalar == 0) fail("holds a zero character");
   appendUtf8(result, scalar);
 }
 

@@ -9,9 +9,9 @@
 namespace tessarin {
 
 /// Reads JSON from front to back, value by value, strictly by the grammar: UTF-8 only (a byte order mark is
-/// passed over), no zero characters, no halves of surrogate pairs. It builds no tree: a full event log as a
-/// tree would cost megabytes that stay with the process and the better part of the start-up time.
-/// Everything throws DataError with line and column; the text itself is never quoted.
+/// passed over), no halves of surrogate pairs. Texts may hold zero characters. It builds no tree: a full
+/// event log as a tree would cost megabytes that stay with the process and the better part of the start-up
+/// time. Everything throws DataError with line and column; the text itself is never quoted.
 class JsonReader {
  public:
   enum class Kind { object, array, string, number, boolean, null };

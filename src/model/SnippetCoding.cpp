@@ -32,7 +32,6 @@ constexpr std::array<JsonField<EmojiData>, 5> emojiDataFields = {{{"name", &Emoj
                                                                   {"category", &EmojiData::category}}};
 
 JsonOwner makeText(const std::string& text) {
-  if (text.find('\0') != std::string::npos) throw DataError("a text holds a zero character");
   JsonOwner value(json_stringn(text.data(), text.size()));
   if (!value) throw DataError("a text is not valid UTF-8");
   return value;

@@ -19,7 +19,7 @@ enum class JsonStyle {
 std::vector<Snippet> decodeSnippets(std::string_view json);
 std::vector<EmojiData> decodeEmojiData(std::string_view json);
 
-/// "/" is written as "\/". Throws DataError when a text is not valid UTF-8 or holds a zero character.
+/// "/" is written as "\/". Throws DataError when a text is not valid UTF-8.
 std::string encodeSnippets(const std::vector<Snippet>& snippets, JsonStyle style);
 
 }  // namespace tessarin

@@ -68,6 +68,8 @@ std::string expandTemplateVariables(const std::string& text, const TemplateConte
   for (const auto& [placeholder, date, time] : dateVariables) {
     result = replaced(result, placeholder, [&, d = date, t = time] { return formatNow(context, d, t); });
   }
+  // Documents hold none, and on the way there a text would be cut at the first.
+  std::erase(result, '\0');
   return result;
 }
 

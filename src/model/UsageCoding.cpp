@@ -11,14 +11,10 @@
 namespace tessarin {
 namespace {
 
-constexpr std::string_view replacementCharacter = "\xEF\xBF\xBD";
-
 void appendEscaped(std::string& json, char c) {
   constexpr char digits[] = "0123456789abcdef";
   const auto code = static_cast<unsigned char>(c);
-  if (c == '\0') {
-    json += replacementCharacter;
-  } else if (c == '"' || c == '\\' || c == '/') {
+  if (c == '"' || c == '\\' || c == '/') {
     json += '\\';
     json += c;
   } else if (code < 0x20) {

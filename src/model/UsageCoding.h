@@ -9,8 +9,8 @@
 
 #include "model/UsageEvent.h"
 
-/// The JSON form of the usage files. Reading is all or nothing and throws DataError. Whatever reading would
-/// refuse in a trigger is written as U+FFFD, so that no trigger can make a file unreadable.
+/// The JSON form of the usage files. Reading is all or nothing and throws DataError. What of a trigger is not
+/// UTF-8, and so would be refused, is written as U+FFFD, so that no trigger can make a file unreadable.
 namespace tessarin {
 
 /// By trigger, exact text.

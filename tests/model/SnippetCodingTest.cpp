@@ -22,6 +22,14 @@ TEST(SnippetCoding, WritesTheUsersFileInOneLine) {
             R"("category":"Custom","isBuiltIn":false}])");
 }
 
+TEST(SnippetCoding, ReadsBackWhatItWrote) {
+  const std::vector<Snippet> snippets = {
+      signature, {"", "", "", "", {}, "", true}, {"é", "日本", "ʰ", {"\t\x7F\0.", 4}, {""}, "/", false}};
+  for (const JsonStyle style : {JsonStyle::compact, JsonStyle::pretty}) {
+    EXPECT_EQ(decodeSnippets(encodeSnippets(snippets, style)), snippets);
+  }
+}
+
 TEST(SnippetCoding, TakesAnyOrderAndDropsUnknownKeys) {
   const auto snippets =
       decodeSnippets(R"([{"isBuiltIn":false,"trigger":"t","shelf":{"a":[1]},"category":"c","name":"n",)"
@@ -52,11 +60,9 @@ TEST(SnippetCoding, OneBadEntryFailsTheWholeTextAndIsNamed) {
 }
 
 TEST(SnippetCoding, RefusesToWriteWhatItCouldNotRead) {
-  for (const std::string& bad : {std::string("\xC3("), std::string("a\0b", 3)}) {
-    Snippet snippet = signature;
-    snippet.keywords[0] = bad;
-    EXPECT_THROW(encodeSnippets({snippet}, JsonStyle::compact), DataError);
-  }
+  Snippet snippet = signature;
+  snippet.keywords[0] = "\xC3(";
+  EXPECT_THROW(encodeSnippets({snippet}, JsonStyle::compact), DataError);
 }
 
 TEST(Snippet, TextsInTwoNormalFormsAreTheSame) {

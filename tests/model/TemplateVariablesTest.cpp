@@ -45,6 +45,10 @@ TEST_F(TemplateVariablesTest, ReplacesThemInTheirFixedOrder) {
   }
 }
 
+TEST_F(TemplateVariablesTest, WhatIsInsertedHoldsNoZeroCharacter) {
+  EXPECT_EQ(expand(std::string("\0a\0{{clipboard}}", 16), std::string("b\0c", 3)), "abc");
+}
+
 TEST_F(TemplateVariablesTest, DatesFollowLocaleAndZone) {
   EXPECT_EQ(expand("{{date}}", "", "en_US", "America/New_York"), "3/14/26");
   EXPECT_EQ(expand("{{date}}", "", "en_GB.UTF-8", "Europe/London"), "14/03/2026");

@@ -79,6 +79,19 @@ TEST_F(UsageTrackerTest, KeepsTheLatestTenThousandEvents) {
   EXPECT_EQ(tracker->totalExpansions(), 2);
 }
 
+TEST_F(UsageTrackerTest, NoTriggerMakesAFileUnreadable) {
+  const auto tracker = makeTracker();
+  for (const std::string& trigger :
+       {std::string("\xFF"), std::string("a\0b", 3), std::string("\x01\x1F\\"), std::string()}) {
+    tracker->recordUsage(trigger);
+  }
+  const auto again = makeTracker();
+  EXPECT_EQ(again->usageEvents().size(), 4U);
+  EXPECT_TRUE(again->usageCounts().contains(std::string("a\0b", 3)));
+  EXPECT_EQ(again->totalExpansions(), 4);
+  EXPECT_THAT(log_.lines(), IsEmpty());
+}
+
 TEST_F(UsageTrackerTest, CountsSaturateAndTheTopIsHighestFirst) {
   folder_.write(countsFile, R"({"a":9223372036854775807,"b":5,"c":-3})");
   const auto tracker = makeTracker();

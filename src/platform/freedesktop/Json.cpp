@@ -20,9 +20,8 @@ const char* description(enum json_error_code code) {
       return "goes on after its end";
     case json_error_numeric_overflow:
       return "a number is too large";
-    case json_error_null_character:
     case json_error_null_byte_in_key:
-      return "holds a zero character";
+      return "a member's name holds a zero character";
     case json_error_out_of_memory:
       return "too large";
     default:
@@ -44,7 +43,7 @@ struct Free {
 JsonOwner parseJson(std::string_view text) {
   text = withoutByteOrderMark(text);
   json_error_t error;
-  JsonOwner value(json_loadb(text.data(), text.size(), 0, &error));
+  JsonOwner value(json_loadb(text.data(), text.size(), JSON_ALLOW_NUL, &error));
   if (!value) {
     throw DataError(std::string(description(json_error_code(&error))) + " (line " +
                     std::to_string(error.line) + ", column " + std::to_string(error.column) + ")");
@@ -53,7 +52,6 @@ JsonOwner parseJson(std::string_view text) {
 }
 
 JsonOwner makeJsonString(std::string_view text) {
-  if (text.find('\0') != std::string_view::npos) throw DataError("a text holds a zero character");
   JsonOwner value(json_stringn(text.data(), text.size()));
   if (!value) throw DataError("a text is not valid UTF-8");
   return value;

@@ -17,8 +17,7 @@ using JsonOwner = std::unique_ptr<json_t, JsonRelease>;
 /// Reads UTF-8 JSON whose top level is an array or an object. Throws DataError with line and column.
 JsonOwner parseJson(std::string_view text);
 
-/// A new string value. Throws DataError for bytes that are not UTF-8 and for a zero byte, which no reader
-/// would take back.
+/// A new string value. Throws DataError for bytes that are not UTF-8.
 JsonOwner makeJsonString(std::string_view text);
 
 /// The text of an array or object; `flags` are those of jansson's encoder.

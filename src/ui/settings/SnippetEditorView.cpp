@@ -29,11 +29,6 @@ constexpr int previewLines = 3;
 /// More than three lines hold.
 constexpr qsizetype previewCharacters = 4000;
 
-/// A text as the files can hold it: zero characters cannot be written.
-std::string textOf(QString text) {
-  return text.remove(QChar::Null).toStdString();
-}
-
 template <class Layout>
 Layout* makeStack(int between) {
   auto* layout = new Layout;
@@ -150,8 +145,8 @@ void SnippetEditorView::load() {
 }
 
 void SnippetEditorView::readFields() {
-  draft_ = {textOf(name_->text()), textOf(trigger_->text()), textOf(replacement_->replacement()),
-            textOf(keywords_->text())};
+  draft_ = {name_->text().toStdString(), trigger_->text().toStdString(),
+            replacement_->replacement().toStdString(), keywords_->text().toStdString()};
   confirm_->setEnabled(draft_.isValid());
   showPreview();
 }

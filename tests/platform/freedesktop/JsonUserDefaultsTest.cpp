@@ -39,6 +39,9 @@ TEST_F(JsonUserDefaultsTest, AnswersWhatWasSetLast) {
   EXPECT_EQ(defaults.stringArray("list"), std::vector<std::string>());
   defaults.set("text", "true");
   EXPECT_EQ(defaults.boolean("text"), std::nullopt);
+  const std::string withZero("a\0b", 3);
+  defaults.set("text", withZero);
+  EXPECT_EQ(JsonUserDefaults(folder / "tessarin" / "preferences.json").string("text"), withZero);
 }
 
 TEST_F(JsonUserDefaultsTest, AMalformedFileIsLoggedOnceAndMovedAsideBeforeTheFirstWrite) {
