@@ -96,7 +96,7 @@ TEST(SnippetFileTest, WhatHoldsNoSnippetsFailsWithOneSentence) {
          folder.write("file", "[");
          fs::resize_file(folder / "file", largestSnippetFile + 1);
        },
-       "larger than 64 MB"},
+       "larger than 512 MB"},
   };
   for (const auto& c : cases) {
     c.make();
@@ -105,6 +105,12 @@ TEST(SnippetFileTest, WhatHoldsNoSnippetsFailsWithOneSentence) {
         << c.name;
     fs::remove_all(folder / "file");
   }
+}
+
+TEST(SnippetFileTest, ManyMegabytesAreNoReasonToRefuse) {
+  const TemporaryFolder folder;
+  folder.write("file", "[" + std::string(std::size_t{100} << 20, ' ') + "]");
+  EXPECT_THAT(readSnippetFile(folder / "file"), IsEmpty());
 }
 
 TEST(SnippetDraftTest, ATriggerKeepsLettersNumbersAndTwoSigns) {
