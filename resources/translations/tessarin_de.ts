@@ -314,6 +314,13 @@ Einstellungen des laufenden Programms.</translation>
     </message>
 </context>
 <context>
+    <name>SnippetStore</name>
+    <message>
+        <source>your snippets could not be read when Tessarin started: %1</source>
+        <translation>Ihre Bausteine waren beim Start von Tessarin nicht lesbar: %1</translation>
+    </message>
+</context>
+<context>
     <name>SparkleUpdaterService</name>
     <message>
         <source>Unknown</source>
@@ -838,6 +845,10 @@ Einstellungen des laufenden Programms.</translation>
             <numerusform>%n Baustein importiert</numerusform>
             <numerusform>%n Bausteine importiert</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Export failed: %1</source>
+        <translation>Export fehlgeschlagen: %1</translation>
     </message>
 </context>
 <context>

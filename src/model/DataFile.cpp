@@ -24,7 +24,8 @@ bool DataFile::load(const std::function<void(std::string_view)>& decode) {
     return true;
   } catch (const std::exception& error) {
     isUnreadable_ = true;
-    logFailure("load", error.what());
+    loadFailure_ = error.what();
+    logFailure("load", *loadFailure_);
     return false;
   }
 }

@@ -29,6 +29,9 @@ class DataFile {
   /// Hands the content to `decode`, which throws when it is not what it should be. True when that went well;
   /// a missing file is no failure and logs nothing.
   bool load(const std::function<void(std::string_view)>& decode);
+  /// Why it could not be read, also when it has been replaced since: what is in memory is then not all that
+  /// the user had.
+  const std::optional<std::string>& loadFailure() const { return loadFailure_; }
 
   /// Replaces the content by what `encode` returns; makes the folder first.
   void save(const std::function<std::string()>& encode);
@@ -45,8 +48,9 @@ class DataFile {
   Description description_;
   const WallClock& clock_;
   LocalCalendar calendar_;
-  bool isUnreadable_ = false;
-  bool wasThere_ = false;  ///< read or written by us
+  bool isUnreadable_ = false;  ///< what is there now
+  bool wasThere_ = false;      ///< read or written by us
+  std::optional<std::string> loadFailure_;
   std::optional<std::string> failure_;
 };
 

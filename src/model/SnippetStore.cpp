@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <iterator>
+#include <stdexcept>
 #include <unordered_set>
 #include <utility>
 
 #include "base/Files.h"
 #include "base/Log.h"
+#include "base/Translate.h"
 #include "base/Uuid.h"
 #include "model/SnippetCoding.h"
 #include "model/SnippetFile.h"
@@ -198,7 +200,14 @@ std::size_t SnippetStore::addImported(std::vector<Snippet> imported) {
 }
 
 void SnippetStore::exportSnippets(const std::filesystem::path& file) const {
-  replaceFile(file, encodeSnippets(userSnippets_, JsonStyle::pretty), Durability::powerCut);
+  if (const auto problem = exportProblem()) throw std::runtime_error(*problem);
+  writeSnippetFile(file, userSnippets_);
+}
+
+std::optional<std::string> SnippetStore::exportProblem() const {
+  if (!userFile_.loadFailure()) return std::nullopt;
+  return filledIn(translate("SnippetStore", "your snippets could not be read when Tessarin started: %1"),
+                  {*userFile_.loadFailure()});
 }
 
 Subscription SnippetStore::onWillChange(std::function<void()> callback) {

@@ -61,8 +61,11 @@ class SnippetStore {
   std::size_t addImported(std::vector<Snippet> imported);
   /// The same with the snippets of a file. Throws what `readSnippetFile` throws, nothing having changed.
   std::size_t importSnippets(const std::filesystem::path& file);
-  /// Throws std::runtime_error when the file cannot be written.
+  /// Throws what `writeSnippetFile` throws, and std::runtime_error where there is an export problem.
   void exportSnippets(const std::filesystem::path& file) const;
+  /// Why nothing may be exported, in a sentence for the user: the user's snippets could not be read when the
+  /// program started, and a file that has them may be all that is left of them.
+  std::optional<std::string> exportProblem() const;
 
   /// Runs before each change of either list.
   [[nodiscard]] Subscription onWillChange(std::function<void()> callback);

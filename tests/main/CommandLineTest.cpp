@@ -112,6 +112,22 @@ TEST_F(SnippetFilesTest, AnImportSaysThatItIsNotYetOnTheDisk) {
   EXPECT_EQ(decodeSnippets(folder.read("storage/user-snippets.json")), store.userSnippets());
 }
 
+TEST_F(SnippetFilesTest, NothingIsExportedWhereTheUsersSnippetsCouldNotBeRead) {
+  folder.write("backup.json", "all that is left");
+  std::filesystem::create_directory(folder / "storage");
+  folder.write("storage/user-snippets.json", "[");
+  SnippetStore unread({.resources = folder.path(), .storage = folder / "storage"}, clock);
+  for (const char* added : {"one", "two"}) {
+    const Answer answer = exportSnippets(unread, folder / "backup.json");
+    EXPECT_FALSE(answer.isSuccess);
+    EXPECT_THAT(answer.text,
+                StartsWith("Export failed: your snippets could not be read when Tessarin started: "
+                           "ends too early"));
+    unread.addSnippet(snippet(added, "though saved, it is not all that there was"));
+  }
+  EXPECT_EQ(folder.read("backup.json"), "all that is left");
+}
+
 TEST_F(SnippetFilesTest, SearchListsTheBestFirstOrGivesTheJsonOfAnExport) {
   store.addSnippet(snippet("smiles", "many\n\tlines\\"));
   store.addSnippet(snippet("smile", "😄"));

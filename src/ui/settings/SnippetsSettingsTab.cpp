@@ -45,18 +45,18 @@ SnippetsSettingsTab::SnippetsSettingsTab(const SettingsServices& services, Snipp
       import_(makeButton(tr("Import"), "import")),
       export_(makeButton(tr("Export"), "export")),
       add_(makeButton(tr("Add"), "plus")),
-      importMessage_(new StyledLabel({}, TextStyle::caption, ColorRole::green)),
+      message_(new StyledLabel({}, TextStyle::caption, ColorRole::green)),
       builtInCount_(new StyledLabel({}, TextStyle::caption, ColorRole::secondary)),
       emptyState_(makeEmptyState()) {
   auto* stack = new QVBoxLayout(this);
   stack->setContentsMargins(tabPadding, tabPadding, tabPadding, tabPadding);
   stack->setSpacing(snippetsSpacing);
   stack->addLayout(makeHeader());
-  stack->addWidget(importMessage_);
+  stack->addWidget(message_);
   stack->addWidget(emptyState_, 1);
   stack->addWidget(list_, 1);
-  importMessage_->wrapped();
-  importMessage_->hide();
+  message_->wrapped();
+  message_->hide();
   list_->setModel(model_);
   connectAll();
   refresh();
@@ -83,8 +83,7 @@ QWidget* SnippetsSettingsTab::makeEmptyState() {
 
 void SnippetsSettingsTab::connectAll() {
   connect(import_, &QPushButton::clicked, this, &SnippetsSettingsTab::chooseImport);
-  connect(export_, &QPushButton::clicked, this,
-          [this] { dialogs_.save(*this, [this](const std::filesystem::path& file) { exportTo(file); }); });
+  connect(export_, &QPushButton::clicked, this, &SnippetsSettingsTab::chooseExport);
   connect(add_, &QPushButton::clicked, this, [this] { setSheet(SnippetSheetState::forNew()); });
   connect(list_, &SnippetListView::editRequested, this, [this](const QModelIndex& index) {
     setSheet(SnippetSheetState::forEditing(model_->snippet(index)));
@@ -131,21 +130,31 @@ void SnippetsSettingsTab::chooseImport() {
 void SnippetsSettingsTab::finishImport(const SnippetFileReading::Result& result) {
   import_->setEnabled(true);
   if (!result.error.empty()) {
-    setImportMessage(tr("Import failed: %1").arg(QString::fromStdString(result.error)));
+    setMessage(tr("Import failed: %1").arg(QString::fromStdString(result.error)));
     return;
   }
   // They are in the list also where saving them fails, which is logged and done again later.
   const auto count = static_cast<int>(services_.snippetStore.addImported(result.snippets));
-  setImportMessage(count == 1 ? tr("Imported 1 snippet") : tr("Imported %n snippets", nullptr, count));
+  setMessage(count == 1 ? tr("Imported 1 snippet") : tr("Imported %n snippets", nullptr, count));
 }
 
-void SnippetsSettingsTab::setImportMessage(const QString& message) {
-  importMessage_->setText(message);
-  if (!importMessage_->isHidden()) return;
-  importMessage_->show();
+void SnippetsSettingsTab::setMessage(const QString& message) {
+  message_->setText(message);
+  if (!message_->isHidden()) return;
+  message_->show();
   services_.mainQueue.after(messageDuration, [self = QPointer<SnippetsSettingsTab>(this)] {
-    if (self) self->importMessage_->hide();
+    if (self) self->message_->hide();
   });
+}
+
+void SnippetsSettingsTab::chooseExport() {
+  // Before any file is chosen: none of them could be written.
+  if (const auto problem = services_.snippetStore.exportProblem()) {
+    log("Settings", "Export failed: " + *problem);
+    setMessage(tr("Export failed: %1").arg(QString::fromStdString(*problem)));
+    return;
+  }
+  dialogs_.save(*this, [this](const std::filesystem::path& file) { exportTo(file); });
 }
 
 void SnippetsSettingsTab::exportTo(const std::filesystem::path& file) {

@@ -40,8 +40,9 @@ class SnippetsSettingsTab final : public QWidget {
   void remove(const QModelIndex& index);
   void chooseImport();
   void finishImport(const SnippetFileReading::Result& result);
+  void chooseExport();
   void exportTo(const std::filesystem::path& file);
-  void setImportMessage(const QString& message);
+  void setMessage(const QString& message);
 
   SettingsServices services_;
   SnippetFileDialogs dialogs_;
@@ -53,7 +54,7 @@ class SnippetsSettingsTab final : public QWidget {
   QPushButton* import_;
   QPushButton* export_;
   QPushButton* add_;
-  StyledLabel* importMessage_;
+  StyledLabel* message_;
   StyledLabel* builtInCount_;
   QWidget* emptyState_;
   Subscription storeSubscription_;

@@ -58,7 +58,8 @@ class SnippetsSettingsTabTest : public testing::SettingsTest {
   QVariant shown(int row, int role) const { return list->model()->index(row, 0).data(role); }
   QString message() const {
     for (const QLabel* label : tab->findChildren<QLabel*>()) {
-      if (label->isVisible() && label->text().startsWith("Import")) return label->text();
+      if (label->isVisible() && (label->text().startsWith("Import") || label->text().startsWith("Export")))
+        return label->text();
     }
     return {};
   }
@@ -188,6 +189,16 @@ TEST_F(SnippetsSettingsTabTest, ExportWritesTheFileOrLogsWhyNot) {
   chosenFile = folder / "missing/out.json";
   click("Export");
   EXPECT_THAT(log.lines(), ElementsAre(StartsWith("[Settings] Export failed: ")));
+}
+
+TEST_F(SnippetsSettingsTabTest, WhereTheSnippetsCouldNotBeReadExportSaysSoAndAsksForNoFile) {
+  folder.write("user-snippets.json", "[");
+  store = std::make_unique<SnippetStore>(SnippetStore::Folders{folder.path(), folder.path()}, clock);
+  openWith({"a"});
+  chosenFile = folder / "out.json";
+  click("Export");
+  EXPECT_THAT(message().toStdString(), StartsWith("Export failed: your snippets could not be read"));
+  EXPECT_FALSE(fs::exists(chosenFile));
 }
 
 }  // namespace
