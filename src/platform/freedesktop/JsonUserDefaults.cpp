@@ -54,7 +54,8 @@ std::shared_ptr<json_t> shared(JsonOwner owner) {
 
 }  // namespace
 
-JsonUserDefaults::JsonUserDefaults(fs::path file) : file_(std::move(file)) {
+JsonUserDefaults::JsonUserDefaults(fs::path file)
+    : file_(std::move(file)), root_(shared(JsonOwner(json_object()))) {
   load();
 }
 
@@ -66,6 +67,7 @@ void JsonUserDefaults::saveWhatIsMissing() {
 
 void JsonUserDefaults::watch(MainQueue& queue) {
   watcher_ = std::make_unique<FileWatcher>(queue, file_, [this] { reloadIfChanged(); });
+  reloadIfChanged();
 }
 
 JsonUserDefaults::Stamp JsonUserDefaults::currentStamp() const {
@@ -84,13 +86,11 @@ void JsonUserDefaults::reloadIfChanged() {
 void JsonUserDefaults::load() {
   stamp_ = currentStamp();
   isUnreadable_ = false;
-  root_ = shared(JsonOwner(json_object()));
   try {
     const auto content = readFileIfPresent(file_);
     if (!content && wasThere_) log("UserDefaults", "The preferences have been removed; the defaults apply");
     wasThere_ = content.has_value();
-    if (!content) return;
-    auto root = shared(parseJson(*content));
+    auto root = shared(content ? parseJson(*content) : JsonOwner(json_object()));
     if (!json_is_object(root.get())) throw DataError("the top level is not an object");
     root_ = std::move(root);
   } catch (const std::exception& error) {

@@ -23,8 +23,8 @@ class MainQueue;
 namespace tessarin::freedesktop {
 
 /// Preferences in one JSON file, an object. It is held in memory and replaced as a whole at every change;
-/// what it holds beyond our own keys stays. A file that cannot be read is logged, the defaults apply, and it
-/// is moved aside before the first value is written.
+/// what it holds beyond our own keys stays. A file that cannot be read is logged, and moved aside before the
+/// next value is written; what was read last goes on to apply, at the start the defaults.
 class JsonUserDefaults final : public UserDefaults {
  public:
   using UserDefaults::set;

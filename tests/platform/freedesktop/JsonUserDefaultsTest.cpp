@@ -92,6 +92,7 @@ TEST_F(JsonUserDefaultsTest, SettingOneKeyKeepsWhatAnotherProgramWroteMeanwhile)
 }
 
 TEST_F(JsonUserDefaultsTest, ReloadsOnlyWhatHasChanged) {
+  LogRecorder log;
   JsonUserDefaults defaults(file);
   defaults.set("text", "a");
   int changes = 0;
@@ -107,6 +108,10 @@ TEST_F(JsonUserDefaultsTest, ReloadsOnlyWhatHasChanged) {
   fs::last_write_time(file, fs::file_time_type::clock::now() - std::chrono::hours(24 * 365 * 20));
   defaults.reloadIfChanged();
   EXPECT_EQ(defaults.string("text"), "OTHER") << "as long, and older: the clock was set back";
+  write(R"({"text": "hal)");
+  defaults.reloadIfChanged();
+  EXPECT_EQ(changes, 2) << "what cannot be read changes nothing";
+  EXPECT_EQ(defaults.string("text"), "OTHER");
   fs::remove(file);
   defaults.reloadIfChanged();
   EXPECT_EQ(changes, 3);
