@@ -13,13 +13,13 @@ class MainQueue;
 
 namespace tessarin::freedesktop {
 
-/// Tells when somebody has written, replaced or removed a file, also behind a symbolic link. Asleep
-/// otherwise. Main thread.
+/// Tells when somebody has written, replaced or removed a file, also behind a symbolic link, or has moved a
+/// folder that it lies in. Asleep otherwise. Main thread.
 class FileWatcher {
  public:
   /// Makes the file's folder if it does not exist, and again when it is removed or moved away; the file
-  /// itself need not exist. Where the folder cannot be watched that is logged and nothing is told from then
-  /// on. `queue` has to outlive this.
+  /// itself need not exist. As long as the folder cannot be watched, which is logged, `changed` is called
+  /// once a second, whether anything has changed or not. `queue` has to outlive this.
   FileWatcher(MainQueue& queue, const std::filesystem::path& file, std::function<void()> changed);
   ~FileWatcher();
   FileWatcher(const FileWatcher&) = delete;
@@ -31,7 +31,7 @@ class FileWatcher {
     bool isFolderGone = false;
   };
 
-  bool watchFolders();
+  void watchFolders();
   void run();
   void tell();
   /// Takes all news from the kernel.
@@ -41,6 +41,7 @@ class FileWatcher {
   std::filesystem::path file_;
   std::filesystem::path target_;  // where symbolic links led when watching began
   std::shared_ptr<std::function<void()>> changed_;
+  bool isWatching_ = false;
   FileDescriptor news_;
   FileDescriptor end_;
   std::thread thread_;
