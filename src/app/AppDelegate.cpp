@@ -32,6 +32,7 @@ std::function<void(Args...)> AppDelegate::handler(void (AppDelegate::*method)(Ar
 AppDelegate::AppDelegate(Services services)
     : services_(std::move(services)),
       permissions_(services_.accessibility, services_.inputMonitoring, services_.workspace),
+      secureInput_(services_.accessibility),
       snippetStore_(services_.folders, services_.wallClock),
       keyboardMonitor_(services_.eventTap, services_.accessibility, services_.mainQueue),
       triggerDetector_(services_.userDefaults),
@@ -139,10 +140,19 @@ void AppDelegate::handleKeyEvent(const std::optional<std::string>& characters, s
                                  std::uint64_t flags) {
   if (!menuBarManager_.isEnabled() || isBlockedAppActive()) return;
   if (popup_.isVisible() && popup_.handleArrow(keyCode)) return;
+  if (opensInSecret(characters)) return;
   lastConfirmWasTriggerChar_ =
       characters && triggerDetector_.isAccumulating() && text::equals(*characters, triggerCharacter());
   if (lastConfirmWasTriggerChar_) confirmingCharacters_ = *characters;
   feedDetector(characters, keyCode, flags);
+}
+
+// Only a trigger can begin anything, and a move of the focus ends what has begun: so this is enough, and the
+// other keys are spared the question to the application.
+bool AppDelegate::opensInSecret(const std::optional<std::string>& characters) {
+  const bool opensCollecting =
+      !triggerDetector_.isAccumulating() && characters && text::equals(*characters, triggerCharacter());
+  return opensCollecting && secureInput_.isActive();
 }
 
 bool AppDelegate::isBlockedAppActive() {

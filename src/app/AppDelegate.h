@@ -12,6 +12,7 @@
 #include "base/Subscription.h"
 #include "input/KeyboardMonitor.h"
 #include "input/Permissions.h"
+#include "input/SecureInput.h"
 #include "input/TriggerDetector.h"
 #include "input/TypedShortcode.h"
 #include "menu/MenuBarManager.h"
@@ -89,6 +90,7 @@ class AppDelegate {
 
   void handleKeyEvent(const std::optional<std::string>& characters, std::int64_t keyCode,
                       std::uint64_t flags);
+  bool opensInSecret(const std::optional<std::string>& characters);
   void feedDetector(const std::optional<std::string>& characters, std::int64_t keyCode, std::uint64_t flags);
   void handleQuery(const std::string& query);
   void handleCancel();
@@ -115,6 +117,7 @@ class AppDelegate {
 
   Services services_;
   Permissions permissions_;
+  SecureInput secureInput_;
   SnippetStore snippetStore_;
   KeyboardMonitor keyboardMonitor_;
   TriggerDetector triggerDetector_;

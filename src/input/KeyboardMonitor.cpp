@@ -109,10 +109,8 @@ KeyVerdict KeyboardMonitor::judge(const KeyEvent& event) {
       break;
   }
   accessibility_.beginBudget(event.budget);
-  const auto characters = charactersOf(event);
-  if (isSecret(characters)) return KeyVerdict::pass;
   const bool swallowedBefore = swallows(event.keyCode);
-  handOver(characters, event);
+  handOver(charactersOf(event), event);
   return swallowedBefore || swallowedCurrentKey_ || swallows(event.keyCode) ? KeyVerdict::swallow
                                                                             : KeyVerdict::pass;
 }
@@ -123,14 +121,6 @@ void KeyboardMonitor::handOver(const std::optional<std::string>& characters, con
   commitSwallow_ = event.commitSwallow;
   if (onKeyEvent) onKeyEvent(characters, event.keyCode, event.flags);
   commitSwallow_ = nullptr;
-}
-
-bool KeyboardMonitor::isSecret(const std::optional<std::string>& characters) {
-  // Only a trigger can begin anything, and a move of the focus ends what has begun: so this is enough, and
-  // the other keys are spared the reading.
-  const bool opensCollecting =
-      attention_ == KeyAttention::triggerOnly && characters && text::equals(*characters, trigger_);
-  return opensCollecting && secureInput_.isActive();
 }
 
 void KeyboardMonitor::revive() {

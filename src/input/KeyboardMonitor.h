@@ -7,7 +7,6 @@
 #include <string>
 
 #include "base/Subscription.h"
-#include "input/SecureInput.h"
 #include "platform/EventTap.h"
 
 namespace tessarin {
@@ -23,7 +22,7 @@ class KeyboardMonitor {
   static constexpr std::chrono::seconds healthCheckInterval{5};
 
   KeyboardMonitor(EventTap& tap, Accessibility& accessibility, MainQueue& mainQueue)
-      : tap_(tap), accessibility_(accessibility), mainQueue_(mainQueue), secureInput_(accessibility) {}
+      : tap_(tap), accessibility_(accessibility), mainQueue_(mainQueue) {}
   ~KeyboardMonitor();
   KeyboardMonitor(const KeyboardMonitor&) = delete;
   KeyboardMonitor& operator=(const KeyboardMonitor&) = delete;
@@ -60,7 +59,6 @@ class KeyboardMonitor {
   KeyVerdict handle(const KeyEvent& event);
   KeyVerdict judge(const KeyEvent& event);
   void handOver(const std::optional<std::string>& characters, const KeyEvent& event);
-  bool isSecret(const std::optional<std::string>& characters);
   void revive();
   void checkHealth();
   void tellAttention();
@@ -68,7 +66,6 @@ class KeyboardMonitor {
   EventTap& tap_;
   Accessibility& accessibility_;
   MainQueue& mainQueue_;
-  SecureInput secureInput_;
 
   bool hasTap_ = false;
   Subscription healthCheckTimer_;

@@ -90,8 +90,19 @@ TEST_F(AppDelegateTest, BlockedApplicationsAndPasswordFieldsAreLeftAlone) {
   auto field = std::make_shared<FakeElement>();
   field->attributes[std::string(attribute::role)] = std::string(role::secureTextField);
   app.accessibility.focus(field);
-  app.type(":smile⏎");
+  const auto asks = [this](const char* keys) {
+    const int before = app.accessibility.calls;
+    app.type(keys);
+    return app.accessibility.calls > before;
+  };
+  EXPECT_TRUE(asks(":"));
+  EXPECT_FALSE(asks("smile⏎")) << "only where something may begin";
   EXPECT_EQ(app.document.text, ":smile\r");
+  app.app->menuBarManager().toggleEnabled();
+  EXPECT_FALSE(asks(":")) << "switched off";
+  app.app->menuBarManager().toggleEnabled();
+  app.workspace.activate("com.apple.MobileSMS");
+  EXPECT_FALSE(asks(":")) << "blocked";
   app.accessibility.focus(std::make_shared<FakeElement>());
   for (const char* blocked : {"com.tinyspeck.slackmacgap", "com.apple.MobileSMS", "org.example.Chat"}) {
     app.defaults.set(preferences::key::blacklistedApps, Strings{"org.example.Chat"});

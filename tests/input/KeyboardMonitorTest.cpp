@@ -76,25 +76,6 @@ TEST_F(KeyboardMonitorTest, PassesModifierChangesUnheardAndBeginsTheBudgetOfEach
   EXPECT_THAT(heard, SizeIs(1));
 }
 
-TEST_F(KeyboardMonitorTest, LooksForAPasswordFieldAtEachTriggerThatMayBegin) {
-  const auto field = std::make_shared<FakeElement>();
-  auto& kind = field->attributes[std::string(attribute::role)] = std::string(role::secureTextField);
-  accessibility.focus(field);
-  monitor->start();
-  tap.press(letter("a"));
-  EXPECT_EQ(accessibility.calls, 0);
-  EXPECT_EQ(tap.press(letter(":")), KeyVerdict::pass);
-  EXPECT_THAT(heard, ElementsAre("a"));
-  kind = std::string(role::textField);
-  tap.press(letter(":"));
-  const int calls = accessibility.calls;
-  monitor->setAttention(KeyAttention::everyKey, ":");
-  tap.press(letter(":"));
-  tap.press(letter("b"));
-  EXPECT_EQ(accessibility.calls, calls) << "not while collecting";
-  EXPECT_THAT(heard, ElementsAre("a", ":", ":", "b"));
-}
-
 TEST_F(KeyboardMonitorTest, ADisabledTapIsEnabledAndReported) {
   monitor->start();
   for (const auto kind : {KeyEventKind::disabledByTimeout, KeyEventKind::disabledByUserInput}) {
