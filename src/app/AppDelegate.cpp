@@ -112,6 +112,30 @@ void AppDelegate::retryStart() {
   if (permissions_.isAccessibilityGranted()) startKeyboardMonitor();
 }
 
+bool AppDelegate::followTrust() {
+  menuBarManager_.rebuildMenu();
+  if (permissions_.isAccessibilityGranted()) {
+    if (permissionRetryTimer_) startKeyboardMonitor();
+    return true;
+  }
+  if (!keyboardMonitor_.isRunning()) return true;
+  endCollecting();
+  if (insertionsUnderWay_ > 0) {
+    services_.mainQueue.after(insertionGrace, handler(&AppDelegate::stopUntrusted));
+    return false;
+  }
+  stopUntrusted();
+  return true;
+}
+
+void AppDelegate::stopUntrusted() {
+  if (permissions_.isAccessibilityGranted() || !keyboardMonitor_.isRunning()) return;
+  if (insertionsUnderWay_ > 0) services_.textReplacer.stopWaiting();
+  keyboardMonitor_.stop();
+  log(appComponent, "The trust was taken back; no key is judged until it is given again");
+  startPermissionRetryTimer();
+}
+
 void AppDelegate::applicationWillTerminate() {
   isTerminated_ = true;
   keyboardMonitor_.stop();

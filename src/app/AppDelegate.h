@@ -32,6 +32,8 @@ class AppDelegate {
  public:
   static constexpr std::chrono::milliseconds monitorStartDelay{1000};
   static constexpr std::chrono::milliseconds permissionRetryInterval{3000};
+  /// How long an insertion under way may go on when the trust is taken back.
+  static constexpr std::chrono::milliseconds insertionGrace{800};
   static constexpr std::size_t maximumResults = 8;
 
   /// The desktop, seam by seam, and what the rest of the program adds. All references outlive the controller.
@@ -66,6 +68,9 @@ class AppDelegate {
   /// Forgets what has been typed after the trigger and closes the popup, as a switch of application does: for
   /// whatever is about to need the keys itself.
   void endCollecting();
+  /// To be called when the user's trust has changed: without it no key is judged and none is held; given
+  /// again, it holds at once. False while an insertion under way is still given its time.
+  bool followTrust();
   /// Switches expansion off or on from outside of the menu, and answers whether it is on now.
   bool toggleEnabled();
 
@@ -87,6 +92,7 @@ class AppDelegate {
   void startKeyboardMonitor();
   void startPermissionRetryTimer();
   void retryStart();
+  void stopUntrusted();
 
   void handleKeyEvent(const std::optional<std::string>& characters, std::int64_t keyCode,
                       std::uint64_t flags);

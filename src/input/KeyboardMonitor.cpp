@@ -108,6 +108,7 @@ KeyVerdict KeyboardMonitor::judge(const KeyEvent& event) {
     case KeyEventKind::keyDown:
       break;
   }
+  if (!accessibility_.isTrusted()) return KeyVerdict::pass;
   accessibility_.beginBudget(event.budget);
   const bool swallowedBefore = swallows(event.keyCode);
   handOver(charactersOf(event), event);

@@ -16,7 +16,7 @@ class MainQueue;
 
 /// Hands every key-down event of the session to its owner and swallows those that belong to the popup. Keeps
 /// the tap alive: a tap that the platform switched off is switched on again at once, and looked after every
-/// five seconds. Main thread.
+/// five seconds. Keys that come when the user's trust has gone pass unheard. Main thread.
 class KeyboardMonitor {
  public:
   static constexpr std::chrono::seconds healthCheckInterval{5};
@@ -31,6 +31,7 @@ class KeyboardMonitor {
   /// then asked for) and where the session has no tap; the owner tries again later.
   bool start();
   void stop();
+  bool isRunning() const { return hasTap_; }
 
   /// Tells the tap what the owner needs: at once between keys, else when the key in hand has been judged.
   void setAttention(KeyAttention attention, const std::string& trigger);

@@ -48,6 +48,18 @@ class OwnStore {
                       clock_};
 };
 
+/// Whether nobody goes by an older answer any more: a running instance is told of the record, and waited for.
+bool isTrustFollowed() {
+  constexpr std::chrono::milliseconds pause{20};
+  const auto deadline = std::chrono::steady_clock::now() + answerTime;
+  for (;;) {
+    const Reached reached = reachInstance({Request::Kind::trust, {}}, answerTime);
+    if (reached.folder || (reached.answer && reached.answer->isSuccess)) return true;
+    if (!reached.answer || std::chrono::steady_clock::now() >= deadline) return false;
+    std::this_thread::sleep_for(pause);
+  }
+}
+
 Answer perform(const Request& request) {
   OwnStore store;
   return request.kind == Request::Kind::importFile ? importSnippets(*store, request.file)
@@ -93,6 +105,7 @@ int reportNoAnswer() {
 int allow() {
   if (!trustRecord().allow()) return failure;
   const bool isEnabled = atspi::AccessibilityBus::enable();
+  if (!isTrustFollowed()) return reportNoAnswer();
   return report(
       {true, translate("Commands", "Tessarin may judge keys and write into other applications.") + "\n" +
                  (isEnabled ? translate("Commands",
@@ -106,6 +119,7 @@ int allow() {
 
 int disallow() {
   if (!trustRecord().disallow()) return failure;
+  if (!isTrustFollowed()) return reportNoAnswer();
   return report(
       {true, translate("Commands", "Tessarin no longer judges keys or writes into other applications.")});
 }

@@ -36,7 +36,7 @@ std::shared_ptr<const freedesktop::ApplicationMatcher> applicationMatcher() {
 
 Desktop::Desktop()
     : defaults_(freedesktop::configFolder(processEnvironment) / "preferences.json"),
-      trust_(freedesktop::configFolder(processEnvironment)),
+      trust_(queue_, freedesktop::configFolder(processEnvironment)),
       loginItem_(std::filesystem::canonical("/proc/self/exe")),
       trustPrompt_([this](bool isTrusted) { recordAnswer(isTrusted); }),
       popupWindow_(screens_),

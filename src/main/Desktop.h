@@ -52,6 +52,7 @@ class Desktop {
   UpdaterSeams updaterSeams(AppcastSource& source, UpdateUserDriver& driver);
   Permissions permissions() { return {accessibility_, inputMonitoring_, workspace_}; }
   UserDefaults& userDefaults() { return defaults_; }
+  freedesktop::WatchedTrust& trust() { return trust_; }
   MainQueue& mainQueue() { return queue_; }
   Workspace& workspace() { return workspace_; }
   /// Gives the clipboard back and hands it over, while the connections still stand.
@@ -68,7 +69,7 @@ class Desktop {
   ui::QtMainQueue queue_;
   SystemWallClock clock_;
   freedesktop::JsonUserDefaults defaults_;
-  freedesktop::TrustRecord trust_;
+  freedesktop::WatchedTrust trust_;
   freedesktop::AutostartLoginItem loginItem_;
   ui::TrustPrompt trustPrompt_;
   ui::InputMonitoringHelp inputMonitoringHelp_;

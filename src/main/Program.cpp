@@ -36,6 +36,7 @@ Program::Program(QApplication& application, UnixSignals& signals, const std::fil
       controller_(services(desktop_, windows_, application, resources, storage)),
       shortcuts_({.quit = [this] { controller_.menuBarManager().quitApp(); },
                   .openSettings = [this] { showSettings(); }}) {
+  trustObserver_ = desktop_.trust().onChange([this] { controller_.followTrust(); });
   observeSession(application, signals);
   listenForRequests(storage);
 }
@@ -89,6 +90,9 @@ Answer Program::perform(const Request& request) {
     case Request::Kind::quit:
       controller_.menuBarManager().quitApp();
       return {true, translate("Program", "quitting")};
+    case Request::Kind::trust:
+      desktop_.trust().reload();
+      return {controller_.followTrust(), {}};
     case Request::Kind::importFile:
       return importSnippets(controller_.snippetStore(), request.file);
     case Request::Kind::exportFile:

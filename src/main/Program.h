@@ -44,6 +44,7 @@ class Program {
   Windows windows_;
   AppDelegate controller_;
   ui::WindowShortcuts shortcuts_;
+  Subscription trustObserver_;
   std::optional<freedesktop::InstanceSocket> requests_;
   std::unique_ptr<QSocketNotifier> requestNotifier_;
   QTimer rest_;

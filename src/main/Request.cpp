@@ -11,9 +11,10 @@ namespace {
 
 using Kind = Request::Kind;
 
-constexpr std::array<std::pair<Kind, std::string_view>, 5> words{{{Kind::settings, "settings"},
+constexpr std::array<std::pair<Kind, std::string_view>, 6> words{{{Kind::settings, "settings"},
                                                                   {Kind::toggle, "toggle"},
                                                                   {Kind::quit, "quit"},
+                                                                  {Kind::trust, "trust"},
                                                                   {Kind::importFile, "import"},
                                                                   {Kind::exportFile, "export"}}};
 constexpr std::string_view succeeded = "done ";

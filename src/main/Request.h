@@ -8,7 +8,14 @@ namespace tessarin {
 
 /// What a later instance asks of the running one. On its way each is one line, whatever bytes the path has.
 struct Request {
-  enum class Kind { settings, toggle, quit, importFile, exportFile };
+  enum class Kind {
+    settings,
+    toggle,
+    quit,
+    trust,  ///< the record of it has changed; a failure is "not yet"
+    importFile,
+    exportFile
+  };
 
   Kind kind = Kind::settings;
   std::filesystem::path file;  ///< absolute; of an import or export

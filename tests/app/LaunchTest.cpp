@@ -68,5 +68,31 @@ TEST_F(LaunchTest, RetriesWhileThereIsNoTapUntilShutdown) {
   EXPECT_EQ(app.tap.creations, 3);
 }
 
+TEST_F(LaunchTest, GoesByTheTrustAsItIsNow) {
+  app.launch();
+  for (const bool isInserting : {false, true}) {
+    app.insertion.finishesAtOnce = !isInserting;
+    app.type(isInserting ? ":smile⏎" : ":smile");
+    app.accessibility.trusted = false;
+    EXPECT_EQ(app.app->followTrust(), !isInserting);
+    EXPECT_FALSE(app.popup.visible);
+    EXPECT_EQ(app.query(), std::nullopt);
+    EXPECT_EQ(app.tap.exists, isInserting) << "what is half inserted may be finished";
+    app.type(":w");
+    app.queue.advance(1s);
+    EXPECT_FALSE(app.tap.exists);
+    EXPECT_EQ(app.insertion.underWay(), 0U);
+    app.queue.advance(30s);
+    EXPECT_FALSE(app.tap.exists);
+    EXPECT_TRUE(app.statusBar.item("  Accessibility: ✗ (optional)"));
+    app.accessibility.trusted = true;
+    EXPECT_TRUE(app.app->followTrust());
+    EXPECT_TRUE(app.tap.isOn) << "at once";
+    EXPECT_TRUE(app.statusBar.item("  Accessibility: ✓"));
+  }
+  EXPECT_EQ(app.document.text, ":smile:w:smile:w");
+  EXPECT_EQ(app.accessibility.prompts, 0) << "who takes it back is not asked for it";
+}
+
 }  // namespace
 }  // namespace tessarin::testing

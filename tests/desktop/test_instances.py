@@ -10,7 +10,9 @@ import signal
 import unittest
 
 from desktop_test import snippets
+from editors import Mousepad
 from session import PROGRAM, Session, Tessarin, wait_for
+from typist import Typist
 
 ROUNDS = 20
 STARTS = [[], [], ["--settings"]]
@@ -125,6 +127,24 @@ class HandingOverTest(InstancesTest):
         self.import_new("zqone")
         self.program.command("--quit")
         self.assertEqual(running.wait(10), 0)
+
+    def test_goes_by_the_users_trust_as_it_is_now(self):
+        record = pathlib.Path(self.session.env["XDG_CONFIG_HOME"]) / "tessarin/trust"
+        typist = Typist(self.session)
+        self.addCleanup(typist.close)
+        expected = ""
+        with Mousepad(self.session, typist) as editor:
+            for number, take_back in enumerate((lambda: self.program.command("--disallow"), record.unlink), 1):
+                typist.type("a:smile")
+                wait_for(typist.popup, what="the list")
+                take_back()
+                self.program.wait_for_log("Event tap stopped", number)
+                self.assertFalse(typist.popup())
+                typist.type("\n:smile\n")
+                self.program.command("--allow")
+                typist.type(":smile\n\n")
+                expected += "a:smile\n:smile\n😄\n"
+                self.assertEqual(editor.wait_for_document(expected[:-1]), expected[:-1])
 
 
 if __name__ == "__main__":

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include "base/AtomicFile.h"
 #include "base/Files.h"
@@ -21,7 +22,7 @@ std::optional<bool> TrustRecord::answer() const {
     if (content == yes) return true;
     if (content == no) return false;
   } catch (const std::system_error&) {
-    // An unreadable record gives no permission. It is asked for many times a minute, so nothing is logged.
+    // An unreadable record gives no permission.
   }
   return std::nullopt;
 }
@@ -35,6 +36,30 @@ bool TrustRecord::record(bool isTrusted) const {
     log("TrustRecord", error.what());
     return false;
   }
+}
+
+WatchedTrust::WatchedTrust(MainQueue& queue, const std::filesystem::path& folder)
+    : record_(folder), watcher_(queue, record_.file(), [this] { reload(); }) {
+  // Not before it is watched, so that no change falls between.
+  isTrusted_ = record_.isTrusted();
+}
+
+void WatchedTrust::allow() {
+  record_.allow();
+  reload();
+}
+
+void WatchedTrust::disallow() {
+  record_.disallow();
+  reload();
+}
+
+void WatchedTrust::reload() {
+  if (std::exchange(isTrusted_, record_.isTrusted()) != isTrusted_) changed_.emit();
+}
+
+Subscription WatchedTrust::onChange(std::function<void()> callback) {
+  return changed_.subscribe(std::move(callback));
 }
 
 }  // namespace tessarin::freedesktop
