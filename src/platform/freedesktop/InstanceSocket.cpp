@@ -1,10 +1,13 @@
 #include "platform/freedesktop/InstanceSocket.h"
 
+#include <sys/epoll.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
 
+#include <algorithm>
 #include <array>
+#include <cerrno>
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
@@ -71,6 +74,21 @@ std::optional<std::string> receiveLine(int socket, std::chrono::milliseconds pat
   return std::nullopt;
 }
 
+/// Adds what has come. False when the other side is done or broke off.
+bool receiveMore(int socket, std::string& said) {
+  std::array<char, 512> buffer{};
+  const ssize_t count = recv(socket, buffer.data(), buffer.size(), 0);
+  if (count > 0) said.append(buffer.data(), static_cast<std::size_t>(count));
+  return count > 0 || (count < 0 && (errno == EAGAIN || errno == EINTR));
+}
+
+bool addToNews(int news, int file) {
+  epoll_event event{};
+  event.events = EPOLLIN;
+  event.data.fd = file;
+  return epoll_ctl(news, EPOLL_CTL_ADD, file, &event) == 0;
+}
+
 FileDescriptor connected(const std::string& path, std::chrono::milliseconds patience) {
   const auto place = address(path);
   FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
@@ -91,8 +109,9 @@ std::optional<InstanceSocket> InstanceSocket::listen(const std::string& dataFold
   const std::string path = socketPath(dataFolder);
   const auto place = address(path);
   FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+  FileDescriptor news(epoll_create1(EPOLL_CLOEXEC));
   ::unlink(path.c_str());  // what an instance that was killed left behind
-  if (!place || !socket ||
+  if (!place || !socket || !addToNews(news.get(), socket.get()) ||
       bind(socket.get(), reinterpret_cast<const sockaddr*>(&*place), sizeof *place) != 0 ||
       chmod(path.c_str(), 0600) != 0 || ::listen(socket.get(), 8) != 0) {
     log("Tessarin", "No socket for requests of later instances: " + std::string(std::strerror(errno)));
@@ -103,7 +122,7 @@ std::optional<InstanceSocket> InstanceSocket::listen(const std::string& dataFold
     ::unlink(link.c_str());
     if (::symlink(path.c_str(), link.c_str()) != 0) errno = 0;  // a folder that cannot be written to
   }
-  return InstanceSocket(std::move(socket), path, link);
+  return InstanceSocket(std::move(socket), std::move(news), path, link);
 }
 
 InstanceSocket::~InstanceSocket() {
@@ -112,12 +131,37 @@ InstanceSocket::~InstanceSocket() {
   ::unlink(link_.c_str());
 }
 
-void InstanceSocket::serve(const Handler& handler) const {
-  const FileDescriptor client(accept4(socket_.get(), nullptr, nullptr, SOCK_CLOEXEC));
-  if (!client) return;
-  constexpr std::chrono::milliseconds patience{200};
-  limitWaiting(client.get(), patience);
-  if (const auto request = receiveLine(client.get(), patience)) sendLine(client.get(), handler(*request));
+void InstanceSocket::serve(const Handler& handler) {
+  std::array<epoll_event, 16> events{};
+  const int count = epoll_wait(news_.get(), events.data(), events.size(), 0);
+  for (int i = 0; i < count; ++i) {
+    const int ready = events[static_cast<std::size_t>(i)].data.fd;
+    if (ready == socket_.get()) {
+      accept();
+    } else {
+      hear(ready, handler);
+    }
+  }
+}
+
+void InstanceSocket::accept() {
+  FileDescriptor client(accept4(socket_.get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
+  if (!client || !addToNews(news_.get(), client.get())) return;
+  if (clients_.size() == mostClients) clients_.erase(clients_.begin());
+  clients_.push_back({std::move(client), {}});
+}
+
+void InstanceSocket::hear(int client, const Handler& handler) {
+  const auto found =
+      std::ranges::find_if(clients_, [=](const Client& c) { return c.socket.get() == client; });
+  if (found == clients_.end()) return;  // dropped meanwhile
+  const bool isMore = receiveMore(client, found->said) && found->said.size() < longestLine;
+  const auto end = found->said.find('\n');
+  if (isMore && end == std::string::npos) return;
+  // Out of the list before the handler runs, which may come back here.
+  const Client heard = std::move(*found);
+  clients_.erase(found);
+  if (end != std::string::npos) sendLine(heard.socket.get(), handler(heard.said.substr(0, end)));
 }
 
 std::optional<std::string> requestOfRunningInstance(const std::string& dataFolder, const std::string& request,

@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "base/FileDescriptor.h"
 
@@ -26,16 +27,28 @@ class InstanceSocket {
   InstanceSocket& operator=(InstanceSocket&&) noexcept = default;
   ~InstanceSocket();
 
-  /// Becomes readable when a request is waiting.
-  int descriptor() const { return socket_.get(); }
-  /// Answers one waiting request. Waits 200 ms at most for a client that connected and does not say all.
-  void serve(const Handler& handler) const;
+  /// Clients that are heard at the same time; of more, the one that came first is dropped.
+  static constexpr std::size_t mostClients = 64;
+
+  /// Becomes readable when a client has come or said something.
+  int descriptor() const { return news_.get(); }
+  /// Takes in what has come, answers the requests that are complete, and never waits for a client.
+  void serve(const Handler& handler);
 
  private:
-  InstanceSocket(FileDescriptor socket, std::string path, std::string link)
-      : socket_(std::move(socket)), path_(std::move(path)), link_(std::move(link)) {}
+  struct Client {
+    FileDescriptor socket;
+    std::string said;
+  };
+
+  InstanceSocket(FileDescriptor socket, FileDescriptor news, std::string path, std::string link)
+      : socket_(std::move(socket)), news_(std::move(news)), path_(std::move(path)), link_(std::move(link)) {}
+  void accept();
+  void hear(int client, const Handler& handler);
 
   FileDescriptor socket_;
+  FileDescriptor news_;          ///< of the socket and the clients
+  std::vector<Client> clients_;  ///< in the order in which they came
   std::string path_;
   std::string link_;  ///< or the same path
 };
