@@ -49,6 +49,8 @@ PendingCallPtr CallChannel::send(DBusMessage* request) {
 
 Answer CallChannel::await(PendingCallPtr pending, const std::string& bus, std::chrono::milliseconds longest) {
   if (wait(pending.get(), budget_.allowance(longest))) return answered(pending.get());
+  // Nobody asks again an application that has died; the bus has answered for it.
+  std::erase_if(owed_, [](const auto& owed) { return dbus_pending_call_get_completed(owed.second.get()); });
   owed_[bus] = std::move(pending);
   return {Answer::Kind::unanswered, nullptr};
 }
