@@ -71,10 +71,11 @@ class Keeper {
   Keeper(const Keeper&) = delete;
   Keeper& operator=(const Keeper&) = delete;
 
-  void take(std::vector<KeptSelection> selections) {
+  /// False when the server did not answer in time.
+  bool take(std::vector<KeptSelection> selections) {
     thread_->start([this](const xcb_generic_event_t& event) { handle(event); });
-    thread_->call(
-        [this, &selections] {
+    return thread_->call(
+        [this, selections = std::move(selections)]() mutable {
           for (auto& kept : selections) {
             owners_.emplace_back(*thread_, atoms_, transfers_, window_, kept.selection);
             owners_.back().take(std::move(kept.contents), nullptr);
@@ -135,8 +136,7 @@ int SelectionKeeper::run(int input, int output) {
   auto thread = XThread::connect();
   if (!selections || selections->empty() || !thread) return EXIT_FAILURE;
   Keeper keeper(std::move(thread));
-  keeper.take(std::move(*selections));
-  if (!writeAll(output, "k")) return EXIT_FAILURE;
+  if (!keeper.take(std::move(*selections)) || !writeAll(output, "k")) return EXIT_FAILURE;
   close(output);
   keeper.waitUntilLost();
   return EXIT_SUCCESS;
