@@ -6,7 +6,7 @@ namespace tessarin::x11 {
 
 std::optional<std::chrono::milliseconds> KeyQuestion::claim() {
   const std::lock_guard lock(mutex_);
-  if (state_ != State::asked) return std::nullopt;
+  if (state_ != State::asked || Clock::now() >= deadline_) return std::nullopt;
   state_ = State::claimed;
   const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline_ - Clock::now());
   return std::max(left, std::chrono::milliseconds(0));
@@ -14,7 +14,7 @@ std::optional<std::chrono::milliseconds> KeyQuestion::claim() {
 
 bool KeyQuestion::commitSwallow() {
   const std::lock_guard lock(mutex_);
-  if (state_ != State::claimed) return false;
+  if (state_ != State::claimed || Clock::now() >= deadline_ + graceTime) return false;
   state_ = State::committed;
   changed_.notify_all();
   return true;

@@ -26,7 +26,8 @@ class KeyQuestion {
 
   explicit KeyQuestion(std::chrono::milliseconds time = answerTime) : deadline_(Clock::now() + time) {}
 
-  /// Main thread: takes the question. The time left to answer; none when it was given up.
+  /// Main thread: takes the question. The time left to answer; none when it was given up or is over, which
+  /// the asking thread may not have noticed where the whole process stood still.
   std::optional<std::chrono::milliseconds> claim();
   /// Main thread, after `claim`: the key will be swallowed, whether the answer comes in time or not. False
   /// when the question was given up in the meantime.
