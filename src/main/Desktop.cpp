@@ -4,6 +4,7 @@
 
 #include "base/Log.h"
 #include "base/SessionKind.h"
+#include "main/Resources.h"
 #include "platform/atspi/AccessibilityBus.h"
 #include "platform/freedesktop/ApplicationMatcher.h"
 #include "platform/freedesktop/BaseFolders.h"
@@ -24,6 +25,12 @@ void sayWhatIsMissing(KeyTapState state) {
         "The X server lacks XInput 2.2, XTest or XKB, so keys cannot be judged: no shortcode expands, while "
         "the tray menu and the command line work.");
   }
+}
+
+x11::X11Keyboard::Options keyboardOptions() {
+  x11::X11Keyboard::Options options;
+  options.watcher = helperProgram(std::filesystem::canonical("/proc/self/exe"), "tessarin-keywatch").string();
+  return options;
 }
 
 std::shared_ptr<const freedesktop::ApplicationMatcher> applicationMatcher() {
@@ -49,7 +56,7 @@ Desktop::Desktop()
                   {Permissions::inputMonitoringSettingsUrl, [this] { inputMonitoring_.showExplanation(); }}}),
       inputMonitoring_([this] { return keyTapState(); },
                        [this](const Explanation& why) { inputMonitoringHelp_.show(why.headline, why.text); }),
-      keyboard_(std::make_shared<x11::X11Keyboard>(queue_)),
+      keyboard_(std::make_shared<x11::X11Keyboard>(queue_, keyboardOptions())),
       x11EventTap_(keyboard_),
       screenLock_(freedesktop::ScreenLock::connect()),
       inputMethodObserver_(workspace_.onContextChanged([this] { inputMethod_.lookAgain(); })),
@@ -94,7 +101,7 @@ UpdaterSeams Desktop::updaterSeams(AppcastSource& source, UpdateUserDriver& driv
 void Desktop::shutdown() {
   pasteHelper_.finish();
   if (selections_) selections_->shutdown("/proc/self/exe");
-  defaults_.saveWhatIsMissing();
+  saveWhatIsMissing();
 }
 
 atspi::AtspiAccessibility::Options Desktop::accessibilityOptions() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "app/AppDelegate.h"
@@ -55,6 +56,10 @@ class Desktop {
   freedesktop::WatchedTrust& trust() { return trust_; }
   MainQueue& mainQueue() { return queue_; }
   Workspace& workspace() { return workspace_; }
+  /// Lets go of the keyboard while the work is done, which may stop the whole process.
+  void withoutKeyboard(const std::function<void()>& work) { keyboard_->withoutKeyboard(work); }
+  /// The preferences, where that failed before.
+  void saveWhatIsMissing() { defaults_.saveWhatIsMissing(); }
   /// Gives the clipboard back and hands it over, while the connections still stand.
   void shutdown();
 

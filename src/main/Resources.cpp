@@ -11,4 +11,11 @@ std::filesystem::path resourceFolder(const std::filesystem::path& program) {
   return folder.parent_path() / "share/tessarin";
 }
 
+std::filesystem::path helperProgram(const std::filesystem::path& program, const std::string& name) {
+  std::error_code ignored;
+  const std::filesystem::path beside = program.parent_path() / name;
+  if (std::filesystem::exists(beside, ignored)) return beside;
+  return program.parent_path().parent_path() / "libexec" / name;
+}
+
 }  // namespace tessarin

@@ -120,4 +120,10 @@ void ExactModifiers::returnAll() {
   borrowed_.reset();
 }
 
+KeySet ExactModifiers::leftPressed() const {
+  KeySet keys = borrowed_;
+  for (const std::uint8_t code : pressed_) keys[code] = true;
+  return keys;
+}
+
 }  // namespace tessarin::x11

@@ -41,6 +41,8 @@ class ExactModifiers {
   void followReleases();
   /// Lets go of all of them.
   void returnAll();
+  /// What may have been left pressed where the connection to the server was lost.
+  KeySet leftPressed() const;
 
  private:
   void releaseHeld(const KeyboardLayout& layout, std::uint8_t unwanted);

@@ -3,6 +3,9 @@
 #include <poll.h>
 #include <xkbcommon/xkbcommon-keysyms.h>
 
+#include <iterator>
+#include <utility>
+
 #include "base/Log.h"
 #include "platform/KeyCodes.h"
 
@@ -33,39 +36,60 @@ std::uint8_t modifiersOf(std::uint64_t flags, const ModifierBits& bits) {
 
 }  // namespace
 
-KeyFilter::KeyFilter(const SessionKeyboard& keyboard, TapControl& control, KeyJudge& judge)
+KeyFilter::KeyFilter(const SessionKeyboard& keyboard, TapControl& control, KeyJudge& judge, KeyWatch& watch)
     : keyboard_(keyboard),
       control_(control),
       judge_(judge),
+      watch_(watch),
       events_(keyboard),
-      grabs_(keyboard),
+      grabs_(keyboard, watch),
       whole_(keyboard),
       synthetic_(keyboard, events_, whole_, [this](const TypedKey& key) { keepUnlessModifier(key); }) {
   refreshLayout();
 }
 
-void KeyFilter::run() {
-  while (goesOn()) {
-    bool busy = settle();
-    busy |= carryOutPosts();
-    xcb_flush(keyboard_.connection);
-    // After everything that writes or waits for a reply: both may read events, and the socket then does not
-    // tell of them.
-    while (const auto press = events_.next()) {
-      takeNews();
-      handle(press->key);
-      busy = true;
+std::optional<KeyFilter::Loss> KeyFilter::run() {
+  while (!isLost()) {
+    // The wake-up goes first: one that comes after the look at the control must not be lost.
+    control_.clearWakeUp();
+    if (control_.isStopping()) {
+      leave();
+      return std::nullopt;
     }
-    busy |= takeNews();
-    if (!busy) wait();
+    takeKeys();
   }
-  leave();
+  return abandon();
 }
 
-// The wake-up goes first: one that comes after the look at the control must not be lost.
-bool KeyFilter::goesOn() {
-  control_.clearWakeUp();
-  return !control_.isStopping() && xcb_connection_has_error(keyboard_.connection) == 0;
+// What the watcher has let by must not be judged any more, though its events may still stand in the queue.
+bool KeyFilter::isLost() {
+  watch_.listen();
+  return watch_.hasLetGo() || xcb_connection_has_error(keyboard_.connection) != 0;
+}
+
+void KeyFilter::takeKeys() {
+  bool busy = settle();
+  busy |= carryOutPosts();
+  xcb_flush(keyboard_.connection);
+  // After everything that writes or waits for a reply: both may read events, and the socket then does not
+  // tell of them.
+  while (!isLost()) {
+    const auto press = events_.next();
+    if (!press) break;
+    takeNews();
+    handle(press->key);
+    watch_.sayAlive();
+    busy = true;
+  }
+  busy |= takeNews();
+  if (!busy) rest();
+}
+
+// No key is in hand here, so that nothing which takes its time keeps one waiting.
+void KeyFilter::rest() {
+  watch_.sayIdle();
+  for (const char* line : std::exchange(notes_, {})) log("KeyFilter", line);
+  wait();
 }
 
 bool KeyFilter::takeNews() {
@@ -91,7 +115,7 @@ void KeyFilter::refreshLayout() {
   if (layout_ && fingerprint == fingerprint_) return;
   auto layout = KeyboardLayout::read(keyboard_.connection);
   if (!layout) {
-    log("KeyFilter", "The server does not tell its keyboard mapping");
+    note("The server does not tell its keyboard mapping");
     return;
   }
   layout_ = std::move(layout);
@@ -203,7 +227,7 @@ KeyVerdict KeyFilter::ask(const KeyEvent& event) {
 // One more trigger waits for the main thread, which hears of the time-out before it is asked about it: after
 // a short hang the next shortcode works. A second time-out in a row lets go of the keyboard altogether.
 void KeyFilter::timeOut() {
-  log("KeyFilter", "A key was not answered in time and has been let by");
+  note("A key was not answered in time and has been let by");
   control_.timeOut();
   judge_.reportTimeOut();
 }
@@ -224,6 +248,8 @@ bool KeyFilter::settle() {
 // The key stays in the queue until it has been typed, so that everything that comes meanwhile stands behind
 // it.
 void KeyFilter::judgeFirstKept() {
+  watch_.working();
+  watch_.sayAlive();
   const TypedKey key = kept_.front();
   if (decide(key) == KeyVerdict::pass && layout_) synthetic_.type(*layout_, key);
   judge_.reportDeparture();
@@ -242,8 +268,12 @@ bool KeyFilter::keptTooLong() const {
 
 bool KeyFilter::carryOutPosts() {
   const std::vector<KeyPost> posts = control_.takePosts();
+  if (!posts.empty()) watch_.working();
   for (const KeyPost& post : posts) {
-    for (const KeyPress& press : post.presses) typeChord(press);
+    for (const KeyPress& press : post.presses) {
+      typeChord(press);
+      watch_.sayAlive();
+    }
     post.made();
   }
   // Behind a flood of keys, which all come before the presses, they take their time.
@@ -258,27 +288,32 @@ void KeyFilter::typeChord(const KeyPress& press) {
 
 void KeyFilter::wait() {
   pollfd sources[] = {{xcb_get_file_descriptor(keyboard_.connection), POLLIN, 0},
-                      {control_.wakeFd(), POLLIN, 0}};
+                      {control_.wakeFd(), POLLIN, 0},
+                      {watch_.descriptor(), POLLIN, 0}};
   int timeout = -1;
   if (!kept_.empty()) {
     const auto left = keptSince_ + holdBackTime - Clock::now();
     timeout = static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(left).count());
     if (timeout < 0) timeout = 0;
   }
-  poll(sources, 2, timeout);
+  poll(sources, std::size(sources), timeout);
 }
 
 void KeyFilter::leave() {
-  if (xcb_connection_has_error(keyboard_.connection) != 0) {
-    log("KeyFilter", "The X server has gone");
-    return;
-  }
   control_.setEnabled(false);
   while (!kept_.empty()) judgeFirstKept();
   carryOutPosts();
   synthetic_.returnModifiers();
   grabs_.holdNothing();
   events_.sync();
+}
+
+// What was kept or to be typed belongs before keys that have gone their way since.
+KeyFilter::Loss KeyFilter::abandon() {
+  control_.setEnabled(false);
+  for (const KeyPost& post : control_.takePosts()) post.made();
+  watch_.listen();
+  return {watch_.hasLetGo(), kept_.size(), synthetic_.leftPressed()};
 }
 
 }  // namespace tessarin::x11

@@ -3,11 +3,14 @@
 #include <chrono>
 #include <deque>
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/x11/KeyGrabs.h"
 #include "platform/x11/KeyJudge.h"
 #include "platform/x11/KeyTranslator.h"
+#include "platform/x11/KeyWatch.h"
 #include "platform/x11/KeyboardLayout.h"
 #include "platform/x11/ServerEvents.h"
 #include "platform/x11/SyntheticKeys.h"
@@ -24,16 +27,27 @@ class KeyFilter {
   /// back. An insertion by pasting takes two seconds in the worst case.
   static constexpr std::chrono::seconds holdBackTime{5};
 
-  KeyFilter(const SessionKeyboard& keyboard, TapControl& control, KeyJudge& judge);
+  /// What a lost connection to the server leaves behind.
+  struct Loss {
+    bool wasStandingStill = false;  ///< the connection was closed because we answered nobody
+    std::size_t keptKeys = 0;       ///< that nobody gets
+    KeySet pressed;                 ///< by us, perhaps still
+  };
 
-  /// Returns when the control says stop or the server has gone.
-  void run();
+  KeyFilter(const SessionKeyboard& keyboard, TapControl& control, KeyJudge& judge, KeyWatch& watch);
+
+  /// Lets go of what an earlier connection left pressed.
+  void letGoOf(const KeySet& keys) { synthetic_.letGoOf(keys); }
+  /// Returns when the control says stop, with nothing, or when the connection to the server is lost. The
+  /// tap counts as switched off then, and what was to be typed has not been.
+  std::optional<Loss> run();
 
  private:
   using Clock = std::chrono::steady_clock;
   enum class Holding { nothing, trigger, everything };
 
-  bool goesOn();
+  void takeKeys();
+  bool isLost();
   // Each answers whether there was anything to do.
   bool takeNews();
   bool settle();
@@ -55,12 +69,16 @@ class KeyFilter {
   void judgeFirstKept();
   bool keptTooLong() const;
   void timeOut();
+  void rest();
   void wait();
   void leave();
+  Loss abandon();
+  void note(const char* line) { notes_.push_back(line); }
 
   SessionKeyboard keyboard_;
   TapControl& control_;
   KeyJudge& judge_;
+  KeyWatch& watch_;
   ServerEvents events_;
   KeyGrabs grabs_;
   WholeKeyboard whole_;
@@ -73,6 +91,7 @@ class KeyFilter {
   Holding holding_ = Holding::nothing;
   std::deque<TypedKey> kept_;
   Clock::time_point keptSince_;
+  std::vector<const char*> notes_;  ///< for the log, which has to wait until no key does
 };
 
 }  // namespace tessarin::x11

@@ -100,6 +100,7 @@ void KeyGrabs::settleOnFocus() {
 }
 
 void KeyGrabs::grabAtFocus() {
+  watch_.keysHeldAt(window_);
   for (const auto& [code, modifiers] : everything_) grab(window_, code, modifiers);
 }
 
@@ -107,6 +108,7 @@ void KeyGrabs::grabAtFocus() {
 void KeyGrabs::letGoOfEverything() {
   for (const auto& [code, modifiers] : everything_) ungrab(window_, code, modifiers);
   watchFocus(false);
+  watch_.keysHeldAt(XCB_NONE);
 }
 
 void KeyGrabs::watchFocus(bool watched) {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/x11/KeyWatch.h"
 #include "platform/x11/KeyboardLayout.h"
 #include "platform/x11/SessionKeyboard.h"
 
@@ -18,7 +19,8 @@ namespace tessarin::x11 {
 /// both at once and does not draw itself as if it had lost it.
 class KeyGrabs {
  public:
-  explicit KeyGrabs(const SessionKeyboard& keyboard) : keyboard_(keyboard) {}
+  /// `watch` is told before keys are held anywhere but on the root.
+  KeyGrabs(const SessionKeyboard& keyboard, KeyWatch& watch) : keyboard_(keyboard), watch_(watch) {}
 
   /// Lets go of everything and learns the keys anew.
   void setKeys(const KeyboardLayout& layout, const std::string& trigger);
@@ -45,6 +47,7 @@ class KeyGrabs {
   void watchFocus(bool watched);
 
   SessionKeyboard keyboard_;
+  KeyWatch& watch_;
   std::map<std::uint8_t, Modifiers> everything_;  ///< by key code; without what produces the trigger
   std::map<std::uint8_t, Modifiers> trigger_;     ///< by key code
   Level level_ = Level::nothing;

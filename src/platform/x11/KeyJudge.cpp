@@ -47,6 +47,11 @@ void KeyJudge::report(KeyEventKind kind) {
   });
 }
 
+void KeyJudge::open() {
+  const std::lock_guard lock(mutex_);
+  closed_ = false;
+}
+
 void KeyJudge::close() {
   const std::lock_guard lock(mutex_);
   closed_ = true;

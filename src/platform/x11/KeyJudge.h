@@ -29,8 +29,9 @@ class KeyJudge {
   void reportTimeOut() { report(KeyEventKind::disabledByTimeout); }
   /// Keyboard thread: tells the handler that the focus has gone to another window.
   void reportFocusMove() { report(KeyEventKind::focusMoved); }
-  /// Any thread: no key waits any longer.
+  /// Any thread: no key waits any longer, until `open`.
   void close();
+  void open();
 
  private:
   /// Touched on the main thread only. The handler may be replaced while it runs.

@@ -66,6 +66,16 @@ void SyntheticKeys::typeChord(const KeyboardLayout& layout, xkb_keysym_t symbol,
   type(layout, {*code, static_cast<std::uint8_t>(modifiers | locks), now.group});
 }
 
+void SyntheticKeys::letGoOf(const KeySet& keys) {
+  if (keys.none()) return;
+  const KeySet down = keys & keysDown(keyboard_.connection).synthetic;
+  for (std::size_t code = 0; code < down.size(); ++code) {
+    if (!down[code]) continue;
+    xcb_test_fake_input(keyboard_.connection, XCB_KEY_RELEASE, static_cast<std::uint8_t>(code),
+                        XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
+  }
+}
+
 // The server carries out our press at once, so its event bears our request's number, unless a key of the
 // user's froze the keyboard just before: then ours waits behind it and is known by what it is. Two like keys
 // that change places there leave the same text.

@@ -8,6 +8,7 @@
 #include "platform/x11/ExactModifiers.h"
 #include "platform/x11/KeyboardLayout.h"
 #include "platform/x11/ServerEvents.h"
+#include "platform/x11/SlaveKeyboards.h"
 #include "platform/x11/WholeKeyboard.h"
 
 namespace tessarin::x11 {
@@ -39,6 +40,9 @@ class SyntheticKeys {
   void followReleases() { modifiers_.followReleases(); }
   /// Lets go of every modifier that is still pressed for the user.
   void returnModifiers() { modifiers_.returnAll(); }
+  /// What may have been left pressed where the connection to the server was lost, for `letGoOf` on another.
+  KeySet leftPressed() const { return modifiers_.leftPressed(); }
+  void letGoOf(const KeySet& keys);
 
  private:
   void pressAndLetBy(const TypedKey& key);

@@ -55,6 +55,11 @@ void TapControl::stop() {
   wake();
 }
 
+void TapControl::begin() {
+  const std::lock_guard lock(mutex_);
+  stopping_ = false;
+}
+
 TapSettings TapControl::settings() const {
   const std::lock_guard lock(mutex_);
   return settings_;

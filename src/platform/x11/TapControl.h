@@ -41,6 +41,8 @@ class TapControl {
   void post(KeyPost post);
   /// The thread is to end.
   void stop();
+  /// There is a thread again, which is not to end.
+  void begin();
 
   TapSettings settings() const;
   bool isStopping() const;

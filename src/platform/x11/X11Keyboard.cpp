@@ -5,9 +5,9 @@
 
 #include <utility>
 
+#include "base/Log.h"
 #include "base/SessionKind.h"
-#include "platform/x11/KeyFilter.h"
-#include "platform/x11/SessionKeyboard.h"
+#include "platform/x11/KeyWatch.h"
 #include "platform/x11/XkbProtocol.h"
 
 namespace tessarin::x11 {
@@ -31,6 +31,14 @@ xcb_window_t rootOf(xcb_connection_t* connection, int screen) {
   return roots.data->root;
 }
 
+void logLoss(const KeyFilter::Loss& loss) {
+  std::string line = loss.wasStandingStill
+                         ? "This process stood still while keys were held, so the keyboard was freed"
+                         : "The server closed the connection of the keyboard, which was made anew";
+  if (loss.keptKeys > 0) line += "; " + std::to_string(loss.keptKeys) + " keys held back are lost";
+  log("KeyFilter", line);
+}
+
 }  // namespace
 
 bool canTapKeys(xcb_connection_t* connection) {
@@ -38,24 +46,63 @@ bool canTapKeys(xcb_connection_t* connection) {
          isPresent(connection, xcb_test_id) && isPresent(connection, xcb_xkb_id) && hasInput(connection);
 }
 
-X11Keyboard::X11Keyboard(MainQueue& queue, std::string display, std::chrono::milliseconds answerTime)
-    : queue_(queue), display_(std::move(display)), judge_(queue, answerTime) {}
+X11Keyboard::X11Keyboard(MainQueue& queue, Options options)
+    : queue_(queue), options_(std::move(options)), judge_(queue, options_.answerTime) {}
 
-X11Keyboard::~X11Keyboard() {
+bool X11Keyboard::start() {
+  if (isServing_) return true;
+  stop();
+  const auto keyboard = connect();
+  if (!keyboard) return false;
+  control_.begin();
+  judge_.open();
+  isServing_ = true;
+  thread_ = std::thread([this, keyboard = *keyboard] { serve(keyboard); });
+  return true;
+}
+
+void X11Keyboard::stop() {
   control_.stop();
   judge_.close();
   if (thread_.joinable()) thread_.join();
+  isServing_ = false;
+  connection_.reset();
 }
 
-bool X11Keyboard::start() {
-  if (thread_.joinable()) return xcb_connection_has_error(connection_.get()) == 0;
+void X11Keyboard::withoutKeyboard(const std::function<void()>& work) {
+  const bool wasServing = isServing_;
+  stop();
+  work();
+  if (wasServing && start()) judge_.reportTimeOut();
+}
+
+std::optional<SessionKeyboard> X11Keyboard::connect() {
   int screen = 0;
-  connection_.reset(xcb_connect(display_.empty() ? nullptr : display_.c_str(), &screen));
-  if (!canTapKeys(connection_.get())) return false;
-  const auto keyboard = SessionKeyboard::find(connection_.get(), rootOf(connection_.get(), screen));
-  if (!keyboard) return false;
-  thread_ = std::thread([this, keyboard = *keyboard] { KeyFilter(keyboard, control_, judge_).run(); });
-  return true;
+  connection_.reset(xcb_connect(options_.display.empty() ? nullptr : options_.display.c_str(), &screen));
+  if (!canTapKeys(connection_.get())) return std::nullopt;
+  return SessionKeyboard::find(connection_.get(), rootOf(connection_.get(), screen));
+}
+
+std::optional<KeyFilter::Loss> X11Keyboard::serveConnection(const SessionKeyboard& keyboard,
+                                                            const KeySet& leftPressed) {
+  KeyWatch watch(options_.watcher, options_.display, keyboard);
+  KeyFilter filter(keyboard, control_, judge_, watch);
+  filter.letGoOf(leftPressed);
+  return filter.run();
+}
+
+void X11Keyboard::serve(SessionKeyboard keyboard) {
+  KeySet pressed;
+  while (const auto loss = serveConnection(keyboard, pressed)) {
+    const auto next = connect();
+    // The server has gone, and the program with it.
+    if (!next) break;
+    logLoss(*loss);
+    keyboard = *next;
+    pressed = loss->pressed;
+    judge_.reportTimeOut();
+  }
+  isServing_ = false;
 }
 
 }  // namespace tessarin::x11

@@ -8,8 +8,6 @@
 #include <future>
 #include <utility>
 
-#include "base/Log.h"
-
 namespace tessarin::x11 {
 
 std::unique_ptr<XThread> XThread::connect(const std::string& display) {
@@ -117,10 +115,7 @@ void XThread::handleEvents() {
   while (const auto event = nextEvent()) {
     if (event->response_type != 0) handler_(*event);
   }
-  if (!lost_ && xcb_connection_has_error(connection()) != 0) {
-    lost_ = true;
-    log("X11", "the connection to the X server was lost");
-  }
+  lost_ = xcb_connection_has_error(connection()) != 0;
 }
 
 Owned<xcb_generic_event_t> XThread::nextEvent() {

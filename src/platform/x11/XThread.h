@@ -18,8 +18,8 @@
 namespace tessarin::x11 {
 
 /// A connection to the X server together with the one thread that uses it. It sleeps until an event, a posted
-/// work or a timer is due. When the server goes away it says so in the log and goes on running posted work,
-/// whose requests then fail.
+/// work or a timer is due. When the server goes away it goes on running posted work, whose requests then
+/// fail, until the program ends for the same reason.
 class XThread {
  public:
   using Work = std::function<void()>;

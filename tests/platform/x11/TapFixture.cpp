@@ -11,7 +11,8 @@ void TapFixture::start(const std::vector<std::string>& layout, bool withManager)
   document = std::make_unique<DocumentWindow>(display.name());
   document->clipboard = "😀";
   typist = std::make_unique<Typist>(display.name());
-  keyboard = std::make_shared<x11::X11Keyboard>(queue, display.name(), answerTime);
+  keyboard = std::make_shared<x11::X11Keyboard>(
+      queue, x11::X11Keyboard::Options{display.name(), watcher, answerTime});
   tap = std::make_unique<x11::X11EventTap>(keyboard);
   poster = std::make_unique<x11::X11KeyPoster>(keyboard);
   ASSERT_TRUE(tap->create([this](const KeyEvent& event) { return judge(event); }));

@@ -94,6 +94,7 @@ class TapFixture : public ::testing::Test {
 
   /// Of each key. Longer than the user's, so that a busy machine does not spoil what is not about time.
   std::chrono::milliseconds answerTime = std::chrono::seconds(20);
+  std::string watcher = TESSARIN_BINARY_DIR "/tessarin-keywatch";
   Insertion insertion = Insertion::direct;
   std::string trigger = ":";
   std::vector<KeyEvent> seen;

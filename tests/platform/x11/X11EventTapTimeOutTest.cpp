@@ -1,5 +1,9 @@
+#include <atomic>
+
 #include "TapFixture.h"
+#include "base/Log.h"
 #include "platform/x11/KeyQuestion.h"
+#include "support/Eventually.h"
 
 namespace tessarin::testing {
 namespace {
@@ -37,6 +41,20 @@ TEST_F(X11EventTapTimeOutTest, LetsTheKeyByAndNeverJudgesItLater) {
     typist->sync();
     return false;
   }));
+}
+
+// A line of the log may wait for whoever reads it.
+TEST_F(X11EventTapTimeOutTest, WritesNoLineWhileAKeyIsHeld) {
+  start();
+  std::atomic<bool> hasCome = false;
+  std::atomic<int> wasInTime = -1;
+  const LogCapture log(
+      [&](const std::string&) { wasInTime = eventually([&] { return hasCome.load(); }, [] {}, 5s) ? 1 : 0; });
+  typist->type(":");
+  EXPECT_TRUE(comesBy(":", 20s));
+  hasCome = true;
+  EXPECT_TRUE(queue.runUntil([&] { return wasInTime >= 0; }));
+  EXPECT_EQ(wasInTime, 1);
 }
 
 TEST_F(X11EventTapTimeOutTest, WaitsForAnAnswerThatIsNear) {
@@ -116,6 +134,28 @@ TEST_F(X11EventTapTimeOutTest, GivesTheKeyboardBackWhenAnInsertionNeverEnds) {
   queue.runUntil([this] { return timeOuts == 1; });
   EXPECT_EQ(timeOuts, 1);
   ASSERT_TRUE(queue.runUntil([this] { return document->text().ends_with('C'); }));
+}
+
+TEST(KeyQuestion, IsDecidedByWhoeverComesFirst) {
+  x11::KeyQuestion givenUp;
+  givenUp.cancel();
+  EXPECT_EQ(givenUp.await(), std::nullopt);
+  EXPECT_EQ(givenUp.claim(), std::nullopt);
+
+  x11::KeyQuestion late(0ms);
+  EXPECT_EQ(late.claim(), std::nullopt) << "as after a stop of the whole process";
+
+  x11::KeyQuestion answered;
+  EXPECT_GT(answered.claim().value_or(0ms), 0ms);
+  answered.answer(KeyVerdict::swallow);
+  answered.cancel();
+  EXPECT_EQ(answered.await(), KeyVerdict::swallow);
+  EXPECT_FALSE(answered.commitSwallow());
+
+  x11::KeyQuestion committed;
+  committed.claim();
+  EXPECT_TRUE(committed.commitSwallow());
+  EXPECT_EQ(committed.await(), KeyVerdict::swallow) << "though no answer has come";
 }
 
 }  // namespace

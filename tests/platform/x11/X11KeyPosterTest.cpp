@@ -20,7 +20,8 @@ TEST(X11KeyPoster, PressesInOrderWithExactlyTheModifiersGiven) {
     document.clipboard = "P";
     Typist typist(display.name());
     LiveMainQueue queue;
-    x11::X11KeyPoster poster(std::make_shared<x11::X11Keyboard>(queue, display.name()));
+    x11::X11KeyPoster poster(
+        std::make_shared<x11::X11Keyboard>(queue, x11::X11Keyboard::Options{display.name()}));
     typist.lock(group, x11::ModifierBits::capsLock);
     typist.type("<1><2><+Shift_R>");
     ASSERT_TRUE(queue.runUntil([&] { return !document.text().empty() && document.presses() == 3; }));
@@ -44,7 +45,7 @@ TEST(X11InputMonitoring, IsGrantedWhereKeysCanBeHeld) {
   EXPECT_FALSE(x11::X11InputMonitoring(without.name()).isGranted());
   EXPECT_FALSE(x11::X11InputMonitoring(":99999").isGranted());
   LiveMainQueue queue;
-  EXPECT_FALSE(x11::X11Keyboard(queue, without.name()).start());
+  EXPECT_FALSE(x11::X11Keyboard(queue, {without.name()}).start());
 }
 
 }  // namespace
