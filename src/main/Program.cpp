@@ -2,10 +2,12 @@
 
 #include <QApplication>
 #include <QSessionManager>
+#include <csignal>
 
 #include "base/ProgramPages.h"
 #include "base/Translate.h"
 #include "main/SnippetFiles.h"
+#include "main/WindowSystem.h"
 
 namespace tessarin {
 namespace {
@@ -47,11 +49,24 @@ int Program::run(bool opensSettings) {
   controller_.applicationDidFinishLaunching();
   if (opensSettings) showSettings();
   restAfterWork();
+  const LostWindowSystem lost([this] { saveEverything(); });
   return QApplication::exec();
 }
 
+void Program::saveEverything() {
+  controller_.applicationWillTerminate();
+  desktop_.saveWhatIsMissing();
+}
+
+// What the signal itself does would leave keys held, for which nobody is there to answer.
+void Program::stopProcess() {
+  controller_.endCollecting();
+  QGuiApplication::sync();
+  desktop_.withoutKeyboard([] { std::raise(SIGSTOP); });
+}
+
 void Program::observeSession(QApplication& application, UnixSignals& signals) {
-  signals.onTermination([&application] { application.quit(); });
+  signals.listen([&application] { application.quit(); }, [this] { stopProcess(); });
   // At the end of a session the loop may never return.
   QObject::connect(&application, &QApplication::aboutToQuit, &application, [this] { shutDown(); });
   // What starts us at login is the login item alone.

@@ -39,6 +39,8 @@ class Program {
   Answer perform(const Request& request);
   Answer showSettings();
   void shutDown();
+  void saveEverything();
+  void stopProcess();
 
   Desktop desktop_;
   Windows windows_;

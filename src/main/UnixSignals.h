@@ -8,14 +8,16 @@
 
 namespace tessarin {
 
-/// Turns SIGTERM, SIGINT and SIGHUP into an ordinary callback on the main loop. To be made before any thread
-/// is started, so that the signals are blocked in all of them.
+/// Turns signals into ordinary callbacks on the main loop: SIGTERM, SIGINT and SIGHUP, which end the process,
+/// and SIGTSTP (Ctrl-Z in the terminal), which stops it. SIGPIPE is ignored, and so are SIGTTIN and SIGTTOU,
+/// which would stop a process that writes its log in the background. To be made before any thread is started,
+/// so that the signals are blocked in all of them.
 class UnixSignals {
  public:
   UnixSignals();
 
-  /// Needs the application object.
-  void onTermination(std::function<void()> callback);
+  /// Needs the application object. Stopping the process is left to `stop`.
+  void listen(std::function<void()> end, std::function<void()> stop);
 
  private:
   FileDescriptor signals_;

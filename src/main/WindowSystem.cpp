@@ -5,12 +5,15 @@
 
 #include <QDir>
 #include <QLibraryInfo>
+#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <string>
+#include <utility>
 
 #include "base/Environment.h"
 #include "base/FileDescriptor.h"
+#include "base/Log.h"
 #include "platform/x11/Handles.h"
 
 namespace tessarin {
@@ -39,7 +42,35 @@ bool hasWaylandCompositor() {
   return isListenedTo(folder / processEnvironment("WAYLAND_DISPLAY").value_or("wayland-0"));
 }
 
+std::function<void()>& workAtLoss() {
+  static std::function<void()> work;
+  return work;
+}
+
+/// Qt calls exit in the middle of the main loop.
+void endHere() {
+  const auto work = std::exchange(workAtLoss(), {});
+  if (!work) return;
+  work();
+  std::_Exit(EXIT_FAILURE);
+}
+
 }  // namespace
+
+LostWindowSystem::LostWindowSystem(std::function<void()> work) {
+  workAtLoss() = std::move(work);
+  // After all that would be destroyed at the exit was made, so that it is still there.
+  [[maybe_unused]] static const int registered = std::atexit(endHere);
+}
+
+LostWindowSystem::~LostWindowSystem() {
+  workAtLoss() = {};
+}
+
+void logMessagesOfQt() {
+  qInstallMessageHandler(
+      [](QtMsgType, const QMessageLogContext&, const QString& message) { log("Qt", message.toStdString()); });
+}
 
 bool canOpenWindows() {
   const std::string wanted = processEnvironment("QT_QPA_PLATFORM").value_or("");

@@ -41,6 +41,7 @@ int run(int argc, char** argv, bool opensSettings) {
   }
   tidyUpPreferences();
   UnixSignals signals;
+  logMessagesOfQt();
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication application(argc, argv);
   // What trays and screen readers read out, and the class of our windows. Not the display name, which would
