@@ -31,7 +31,7 @@ std::optional<Time> parseTime(const std::optional<std::string>& text) {
 
 std::string formatTime(WallClock::TimePoint time) {
   const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(time.time_since_epoch()).count();
-  return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).toString(Qt::ISODate).toStdString();
+  return QDateTime::fromSecsSinceEpoch(seconds).toUTC().toString(Qt::ISODate).toStdString();
 }
 
 }  // namespace
