@@ -184,6 +184,7 @@ void KeyFilter::answerJudged(KeyVerdict verdict) {
   answer(verdict);
   events_.sync();
   judge_.reportDeparture();
+  grabs_.holdTriggerAtFocus();
 }
 
 // What a modifier, a lock or a group switch does is done before the key is held: typing it again later would

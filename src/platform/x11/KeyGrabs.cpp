@@ -3,6 +3,7 @@
 #include <xcb/xinput.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/x11/Handles.h"
 
@@ -74,6 +75,22 @@ void KeyGrabs::holdEverything() {
   level_ = Level::everything;
 }
 
+void KeyGrabs::holdTriggerAtFocus() {
+  if (level_ != Level::everything || isTriggerAtFocus_ || window_ == keyboard_.root) return;
+  moveTrigger(keyboard_.root, window_);
+  isTriggerAtFocus_ = true;
+}
+
+void KeyGrabs::holdTriggerAtRoot() {
+  if (std::exchange(isTriggerAtFocus_, false)) moveTrigger(window_, keyboard_.root);
+}
+
+// Held in both places for a moment rather than in none.
+void KeyGrabs::moveTrigger(xcb_window_t from, xcb_window_t to) {
+  for (const auto& [code, modifiers] : trigger_) grab(to, code, modifiers);
+  for (const auto& [code, modifiers] : trigger_) ungrab(from, code, modifiers);
+}
+
 bool KeyGrabs::followFocus() {
   if (level_ != Level::everything || focusedWindow() == window_) return false;
   letGoOfEverything();
@@ -106,6 +123,7 @@ void KeyGrabs::grabAtFocus() {
 
 // The window may be gone by now; the server's complaints about that are nobody's business.
 void KeyGrabs::letGoOfEverything() {
+  holdTriggerAtRoot();
   for (const auto& [code, modifiers] : everything_) ungrab(window_, code, modifiers);
   watchFocus(false);
   watch_.keysHeldAt(XCB_NONE);
