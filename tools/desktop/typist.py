@@ -52,16 +52,15 @@ class Typist:
     def up(self, name):
         xtest.fake_input(self.display, X.KeyRelease, self._code(name)[0])
 
-    def key(self, name, *modifiers):
-        """One press and release, with modifiers by name around it."""
+    def moves(self, name, *modifiers):
+        """Presses ("+") and releases ("-") of one key, with modifiers by name around it: each with its key code."""
         code, picking = self._code(name)
-        held = list(modifiers) + [modifier for modifier in picking if modifier not in modifiers]
-        for modifier in held:
-            self.down(modifier)
-        xtest.fake_input(self.display, X.KeyPress, code)
-        xtest.fake_input(self.display, X.KeyRelease, code)
-        for modifier in reversed(held):
-            self.up(modifier)
+        held = [self._code(key)[0] for key in [*modifiers, *(key for key in picking if key not in modifiers)]]
+        return [*(("+", key) for key in held), ("+", code), ("-", code), *(("-", key) for key in reversed(held))]
+
+    def key(self, name, *modifiers):
+        for way, code in self.moves(name, *modifiers):
+            xtest.fake_input(self.display, X.KeyPress if way == "+" else X.KeyRelease, code)
 
     def type(self, text, pause=0.0):
         """All of the text, with no pause at all unless one is asked for."""
@@ -142,6 +141,15 @@ class Typist:
 
     def popup(self):
         """Frame of the popup on screen (x, y, width, height), or nothing."""
+        shown = self._shown_popup()
+        return shown and (shown[1].x, shown[1].y, shown[1].width, shown[1].height)
+
+    def popup_window(self):
+        """The popup's window while it is on screen."""
+        shown = self._shown_popup()
+        return shown and shown[0].id
+
+    def _shown_popup(self):
         for child in self.display.screen().root.query_tree().children:
             try:
                 attributes = child.get_attributes()
@@ -152,5 +160,5 @@ class Typist:
             except Exception:  # a window that went between the two questions
                 continue
             if name and "tessarin" in name[1].lower() and geometry.width >= 300:
-                return geometry.x, geometry.y, geometry.width, geometry.height
+                return child, geometry
         return None
