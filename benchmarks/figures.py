@@ -75,18 +75,18 @@ def start(table, runs=10):
               f"bare {statistics.median(bare) * 1000:.0f}, worst {max(bare) * 1000:.0f} ms")
 
 
-def keys(table, rounds=60):
+def keys(table, rounds=60, turns=3):
     with Session() as session:
         typist = Typist(session)
         with Tessarin(session):
             popup_against_letter(session, typist, table, rounds)
-            confirming_against_bus(session, typist, table, rounds // 2)
-        delay_of_passed_keys(session, typist, table, turns=4)
+            confirming_against_bus(session, typist, table, rounds // 3)
+        delay_of_passed_keys(session, typist, table, turns=turns)
         typist.close()
 
 
 def peers(table):
-    against_peers(table, turns=3, rounds=20, expansions=(60, 1000))
+    against_peers(table, turns=3, rounds=12, expansions=(60, 1000))
 
 
 def memory(table, expansions=1000):
@@ -136,7 +136,7 @@ def processes_that_never_rest(count):
 def busy(table):
     table.remark = " (busy)"
     with processes_that_never_rest(2):
-        keys(table, rounds=30)
+        keys(table, rounds=30, turns=2)
     table.remark = ""
 
 
