@@ -16,7 +16,8 @@ namespace tessarin::x11 {
 /// The trigger is held on the root, wherever the focus is. The other keys, and the trigger among them once it
 /// may confirm, are held on the window that has the focus: what others hold on the root, the window manager
 /// above all, is looked at before and stays theirs; and the focused program, which is told with every held
-/// key that its focus goes and comes back, is told both at once and does not draw itself as if it had lost it.
+/// key that its focus goes and comes back, is told both at once and does not draw itself as if it had lost
+/// it.
 class KeyGrabs {
  public:
   /// `watch` is told before keys are held anywhere but on the root.
