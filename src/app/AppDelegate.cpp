@@ -163,7 +163,9 @@ bool AppDelegate::toggleEnabled() {
 void AppDelegate::handleKeyEvent(const std::optional<std::string>& characters, std::int64_t keyCode,
                                  std::uint64_t flags) {
   if (!menuBarManager_.isEnabled() || isBlockedAppActive()) return;
-  if (popup_.isVisible() && popup_.handleArrow(keyCode)) return;
+  const bool isNavigation = popup_.isVisible() && popup_.handleArrow(keyCode);
+  if (isNavigation && !keyboardMonitor_.isCurrentKeySwallowed()) typed_.noteCaretMove();
+  if (isNavigation) return;
   if (opensInSecret(characters)) return;
   lastConfirmWasTriggerChar_ =
       characters && triggerDetector_.isAccumulating() && text::equals(*characters, triggerCharacter());
@@ -196,7 +198,9 @@ void AppDelegate::feedDetector(const std::optional<std::string>& characters, std
     popup_.anticipate();
   } else if (keyCode == keycode::deleteBackward) {
     typed_.deleteLast();
-  } else if (keyCode != keycode::up && keyCode != keycode::down) {
+  } else if (keyCode == keycode::up || keyCode == keycode::down) {
+    typed_.noteCaretMove();
+  } else {
     typed_.append(*characters);
   }
 }
@@ -215,8 +219,7 @@ void AppDelegate::handleCancel() {
 void AppDelegate::handleConfirm(const std::string&) {
   const auto snippet = autocompleteViewModel_.selectedSnippet();
   if (!snippet || !beginInsertionByKey()) return popup_.close();
-  Replacement replacement{
-      .deleteCount = typed_.length(), .text = textToInsert(*snippet), .typed = typed_.text()};
+  Replacement replacement = replacementBy(*snippet);
   if (lastConfirmWasTriggerChar_ && keyboardMonitor_.isCurrentKeyInDocument()) {
     replacement.includeTriggerChar = true;
     replacement.typed += confirmingCharacters_;
@@ -242,11 +245,17 @@ void AppDelegate::beginInsertion() {
 void AppDelegate::handleClick(const Snippet& snippet) {
   // Without a collecting there is no letter, and the trigger alone counts.
   if (!triggerDetector_.isAccumulating()) typed_.begin(triggerCharacter());
-  const Replacement replacement{
-      .deleteCount = typed_.length(), .text = textToInsert(snippet), .typed = typed_.text()};
+  const Replacement replacement = replacementBy(snippet);
   triggerDetector_.setState(TriggerDetector::Idle{});
   beginInsertion();
   expand(snippet, replacement);
+}
+
+Replacement AppDelegate::replacementBy(const Snippet& snippet) const {
+  return {.deleteCount = typed_.length(),
+          .text = textToInsert(snippet),
+          .typed = typed_.text(),
+          .caretMayHaveMoved = typed_.caretMayHaveMoved()};
 }
 
 std::string AppDelegate::textToInsert(const Snippet& snippet) const {

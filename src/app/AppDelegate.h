@@ -109,6 +109,7 @@ class AppDelegate {
   void handleDefaultsChange();
   void handleInsertionDone(InsertionOutcome outcome);
 
+  Replacement replacementBy(const Snippet& snippet) const;
   std::string textToInsert(const Snippet& snippet) const;
   void expand(const Snippet& snippet, const Replacement& replacement);
   bool beginInsertionByKey();

@@ -78,6 +78,10 @@ bool KeyboardMonitor::swallows(std::int64_t keyCode) const {
   }
 }
 
+bool KeyboardMonitor::isCurrentKeySwallowed() const {
+  return swallowedCurrentKey_ || swallows(currentKey_);
+}
+
 bool KeyboardMonitor::swallowCurrentKey() {
   tellAttention();
   if (commitSwallow_ && !commitSwallow_()) return false;
@@ -110,14 +114,13 @@ KeyVerdict KeyboardMonitor::judge(const KeyEvent& event) {
   }
   if (!accessibility_.isTrusted()) return KeyVerdict::pass;
   accessibility_.beginBudget(event.budget);
-  const bool swallowedBefore = swallows(event.keyCode);
   handOver(charactersOf(event), event);
-  return swallowedBefore || swallowedCurrentKey_ || swallows(event.keyCode) ? KeyVerdict::swallow
-                                                                            : KeyVerdict::pass;
+  return isCurrentKeySwallowed() ? KeyVerdict::swallow : KeyVerdict::pass;
 }
 
 void KeyboardMonitor::handOver(const std::optional<std::string>& characters, const KeyEvent& event) {
-  swallowedCurrentKey_ = false;
+  currentKey_ = event.keyCode;
+  swallowedCurrentKey_ = swallows(event.keyCode);
   currentKeyInDocument_ = event.isInDocument;
   commitSwallow_ = event.commitSwallow;
   if (onKeyEvent) onKeyEvent(characters, event.keyCode, event.flags);

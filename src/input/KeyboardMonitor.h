@@ -42,6 +42,8 @@ class KeyboardMonitor {
   /// the rule below says and however long the rest takes; the attention told last is in force from then on.
   /// False when that comes too late and the key has been let by.
   bool swallowCurrentKey();
+  /// While `onKeyEvent` runs: whether the key would be swallowed if it ended now.
+  bool isCurrentKeySwallowed() const;
   /// The rule as the two flags stand now: Return, Tab, Escape, Up and Down while intercepting, Left and Right
   /// only with `shouldConsumeArrows` as well.
   bool swallows(std::int64_t keyCode) const;
@@ -72,7 +74,8 @@ class KeyboardMonitor {
   Subscription healthCheckTimer_;
   bool judging_ = false;
   bool currentKeyInDocument_ = false;
-  bool swallowedCurrentKey_ = false;
+  bool swallowedCurrentKey_ = false;  ///< settled, or by the rule as it stood before the key
+  std::int64_t currentKey_ = 0;
   std::function<bool()> commitSwallow_;
   KeyAttention attention_ = KeyAttention::triggerOnly;
   std::string trigger_;

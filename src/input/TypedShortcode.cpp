@@ -7,6 +7,7 @@ namespace tessarin {
 void TypedShortcode::begin(const std::string& triggerCharacter) {
   trigger_ = triggerCharacter;
   letters_.clear();
+  caretMayHaveMoved_ = false;
 }
 
 void TypedShortcode::append(const std::string& characters) {

@@ -42,7 +42,8 @@ void TextReplacer::startNext() {
   waiting_.pop_front();
   done_ = std::move(request.done);
   const Replacement& replacement = request.replacement;
-  run({replacement.typed, charactersToErase(replacement), expanded(replacement.text)});
+  run({replacement.typed, charactersToErase(replacement), expanded(replacement.text),
+       replacement.caretMayHaveMoved});
 }
 
 void TextReplacer::run(const Job& job) {
@@ -80,8 +81,12 @@ void TextReplacer::lookForTyped(const Job& job, Looks looks) {
 }
 
 void TextReplacer::pasteInstead(const Job& job, InsertionOutcome soFar) {
-  log(replacerComponent, "Falling back to paste method");
   const bool isErased = soFar == InsertionOutcome::erasedOnly;
+  if (job.caretMayHaveMoved && !isErased) {
+    log(replacerComponent, "The caret may have moved, and nothing is erased unseen: the text is left alone");
+    return finish(soFar);
+  }
+  log(replacerComponent, "Falling back to paste method");
   const Pasted pasted{job.text, accessibilityHelper_.caretWithout(isErased ? "" : job.typed)};
   const auto chord = accessibilityHelper_.isTerminal() ? PasteChord::shiftInsert : PasteChord::controlV;
   pasteHelper_.pasteText(

@@ -39,6 +39,7 @@ class TextReplacer final : public TextInsertion {
     std::string typed;
     std::int64_t count = 0;  ///< characters to be erased
     std::string text;        ///< with its template variables filled in
+    bool caretMayHaveMoved = false;
   };
   struct Pasted {
     std::string text;

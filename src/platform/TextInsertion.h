@@ -12,6 +12,8 @@ struct Replacement {
   std::string text;  ///< the chosen text before its template variables are filled in
   bool includeTriggerChar = false;  ///< one character more is to be erased: the trigger that confirmed
   std::string typed;  ///< the shortcode as typed, so that it can be looked for before it is erased
+  /// The shortcode is to be seen before the caret before anything is erased: the user may have moved it.
+  bool caretMayHaveMoved = false;
 };
 
 enum class InsertionOutcome {

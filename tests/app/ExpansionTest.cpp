@@ -33,6 +33,8 @@ const Expansion expansions[] = {
     {"WithoutMatchByReturn", ":qqq⏎", ":qqq\r"},
     {"WithoutMatchByTrigger", ":qqq:", ":qqq:"},
     {"AfterAnUnfinishedOne", ":qqq: :smile⏎", ":qqq: 😄"},
+    {"NotAfterAMoveOfTheCaret", ":smi←⏎:small→⏎:smi←⌫⏎", ":smi:small:sm"},
+    {"NotAfterAMoveWithoutMatch", ":smiq↑⌫⏎:smiq↓⌫⏎:smi⏎", ":smi:smi😄"},
     {"OfMoreLettersThanAreCollected", ":" + std::string(64, 'z') + "abc⏎", "long"},
     {"OfDroppedLettersAfterDelete", ":" + std::string(64, 'z') + "ab⌫⌫⌫⌫⏎", "long"},
     {"OfDroppedLettersWithoutMatch", ":" + std::string(64, 'z') + "a⌫bc⏎",

@@ -168,6 +168,17 @@ TEST_F(TextReplacerTest, doesNotEraseTwice) {
   EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted));
 }
 
+TEST_F(TextReplacerTest, erasesNothingUnseenOnceTheCaretMayHaveMoved) {
+  field->type("a:smile");
+  replacer->replace({6, "😀", false, ":smile", true}, keep());
+  EXPECT_EQ(field->document(), "a😀");
+  refuseDirectInsertion();
+  replacer->replace({6, "😀", false, ":smile", true}, keep());
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::inserted, InsertionOutcome::unchanged));
+  EXPECT_THAT(keys.posted, IsEmpty());
+  EXPECT_EQ(general.snapshots, 0);
+}
+
 TEST_F(TextReplacerTest, fillsInTemplateVariablesOnceForBothMethods) {
   field->type(":smile");
   replace("<{{clipboard}}>");
