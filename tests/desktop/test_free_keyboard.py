@@ -3,14 +3,12 @@
 
 import os
 import pathlib
-import pty
 import signal
-import termios
 import unittest
 
 from desktop_test import DesktopTest
 from editors import Mousepad
-from session import PROGRAM, Session, Tessarin, wait_for
+from session import Session, Tessarin, wait_for
 
 # What is typed before it stops, the signal, and what is typed while it stands still.
 STOPS = [
@@ -69,19 +67,6 @@ class Stopped(DesktopTest):
             self.wait_for_expansion(editor)
         self.tessarin.stop()
         self.tessarin.start()
-
-
-class Unread(DesktopTest):
-    def test_a_halted_terminal_halts_nothing(self):
-        reader, writer = pty.openpty()
-        self.addCleanup(os.close, reader)
-        self.tessarin.stop()
-        program = self.session.start(PROGRAM, stdout=writer, stderr=writer)
-        self.addCleanup(self.session.stop, program)
-        wait_for(lambda: b"started successfully" in os.read(reader, 4096), what="its start")
-        termios.tcflow(writer, termios.TCOOFF)
-        with Mousepad(self.session, self.typist) as editor:
-            self.check(editor, ["a:smile\nb "] * 20, "a😄b " * 20)
 
 
 class LostServer(unittest.TestCase):

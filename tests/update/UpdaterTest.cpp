@@ -201,16 +201,6 @@ TEST_F(Updating, CountsTheDayOverRestarts) {
   EXPECT_EQ(source.addresses.size(), 2u);
 }
 
-TEST_F(Updating, ChecksWhenTheDateOnFileCannotBe) {
-  for (const char* date : {"2036-03-14T09:30:00Z", "0001-01-01T00:00:00Z", "yesterday"}) {
-    defaults.set("lastUpdateCheck", date);
-    startAutomatic();
-    const std::size_t before = source.addresses.size();
-    pass(minutes(60));
-    EXPECT_EQ(source.addresses.size(), before + 1) << date;
-  }
-}
-
 TEST_F(Updating, ChecksNeitherNeverNorAllTheTimeWhateverTheClockDoes) {
   std::mt19937 random(1);
   const auto start = clock.time;
@@ -226,15 +216,6 @@ TEST_F(Updating, ChecksNeitherNeverNorAllTheTimeWhateverTheClockDoes) {
     EXPECT_LE(source.addresses.size(), before + 2) << round;
     EXPECT_LE(queue.pending(), 3u);
   }
-}
-
-TEST_F(Updating, ChecksUnaskedOnlyWhileToldTo) {
-  pass(hours(48));
-  EXPECT_EQ(queue.pending(), 0u);
-  startAutomatic();
-  updater->setAutomaticallyChecksForUpdates(false);
-  pass(hours(48));
-  EXPECT_THAT(source.addresses, IsEmpty());
 }
 
 TEST_F(Updating, ShowsNothingUnaskedButAnUpdateAndDownloadsNone) {
