@@ -96,28 +96,71 @@ void PasteSession::postPasteKeystroke() {
 }
 
 void PasteSession::chordIsPosted() {
+  chordTime_ = tools_.queue.now();
   after(shortestLoan, &PasteSession::shortestLoanIsOver);
-  after(longestPasteWait, &PasteSession::stopWaiting);
+  after(longestPasteWait, &PasteSession::giveUpUnlessRead);
 }
 
 void PasteSession::shortestLoanIsOver() {
   isShortestLoanOver_ = true;
   // An application that watches the pasteboard has read before the chord, and may or may not read again: the
   // keys held back need not wait for that, only the user's contents do.
-  if (std::ranges::any_of(tools_.loans, &PasteboardLoan::hasBeenRead)) answer(InsertionOutcome::inserted);
+  const bool isRead = std::ranges::any_of(tools_.loans, &PasteboardLoan::hasBeenRead);
+  if (isRead && reads_ == 0) answer(InsertionOutcome::inserted);
   restoreWhenAllowed();
 }
 
+// What came onto the pasteboard before an application that has read ahead reads again would be pasted instead
+// of the text.
 void PasteSession::textWasRead() {
-  answer(InsertionOutcome::inserted);
+  ++reads_;
+  isRead(ReadManner::ahead) ? after(longestPasteWait, &PasteSession::readAheadIsOver) : textWasPasted();
+}
+
+void PasteSession::readAheadIsOver() {
+  if (reads_ == 1) textWasPasted();
+}
+
+void PasteSession::textWasPasted() {
+  settling_ = timeToSettle();
+  if (!isRead(ReadManner::checking)) answer(InsertionOutcome::inserted);
   ++unsettledReads_;
-  after(settlingOfRead, &PasteSession::readHasSettled);
+  settle();
+}
+
+// An application that checks may take as long for that as it took to come so far.
+milliseconds PasteSession::timeToSettle() const {
+  if (!isRead(ReadManner::checking)) return settlingOfRead;
+  const auto sinceChord = std::chrono::duration_cast<milliseconds>(tools_.queue.now() - chordTime_);
+  return std::clamp(sinceChord, settlingOfRead, longestPasteWait);
+}
+
+bool PasteSession::isRead(ReadManner manner) const {
+  return std::ranges::any_of(tools_.loans,
+                             [&](const PasteboardLoan* loan) { return loan->readManner() == manner; });
+}
+
+std::int64_t PasteSession::requestCount() const {
+  std::int64_t count = 0;
+  for (const PasteboardLoan* loan : tools_.loans) count += loan->requestCount();
+  return count;
+}
+
+void PasteSession::settle() {
+  lastRequestCount_ = requestCount();
+  after(settling_, &PasteSession::readHasSettled);
 }
 
 void PasteSession::readHasSettled() {
+  if (requestCount() != lastRequestCount_ && settlingsLeft_-- > 0) return settle();
   if (--unsettledReads_ > 0) return;
   isReadOrGivenUp_ = true;
+  answer(InsertionOutcome::inserted);
   restoreWhenAllowed();
+}
+
+void PasteSession::giveUpUnlessRead() {
+  if (reads_ == 0) stopWaiting();
 }
 
 void PasteSession::stopWaiting() {

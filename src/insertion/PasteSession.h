@@ -53,7 +53,14 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
   void chordIsPosted();
   void shortestLoanIsOver();
   void textWasRead();
+  void readAheadIsOver();
+  void textWasPasted();
+  bool isRead(ReadManner manner) const;
+  std::int64_t requestCount() const;
+  std::chrono::milliseconds timeToSettle() const;
+  void settle();
   void readHasSettled();
+  void giveUpUnlessRead();
   void stopWaiting();
   void restoreWhenAllowed();
   void answer(InsertionOutcome outcome);
@@ -70,6 +77,11 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
   int writeChecksLeft_ = 100;
   bool isChordPosted_ = false;
   bool isShortestLoanOver_ = false;
+  std::chrono::steady_clock::time_point chordTime_;
+  int reads_ = 0;  ///< since the chord
+  std::int64_t lastRequestCount_ = 0;
+  std::chrono::milliseconds settling_{0};  ///< how long nobody must have asked after a read
+  int settlingsLeft_ = 20;
   int unsettledReads_ = 0;
   bool isReadOrGivenUp_ = false;
 };

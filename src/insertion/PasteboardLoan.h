@@ -35,6 +35,8 @@ class PasteboardLoan {
   /// Runs when our text has been read; see Pasteboard.
   void onRead(std::function<void()> callback) { pasteboard_.onRead(std::move(callback)); }
   bool hasBeenRead() const { return pasteboard_.hasBeenRead(); }
+  ReadManner readManner() const { return pasteboard_.readManner(); }
+  std::int64_t requestCount() const { return pasteboard_.requestCount(); }
 
   /// The plain text as the user knows it: what will be put back, or what is there.
   std::optional<std::string> userText();

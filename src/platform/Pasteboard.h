@@ -23,6 +23,13 @@ struct PasteboardSnapshot {
   bool isComplete = false;
 };
 
+/// How an application goes about reading what it pastes.
+enum class ReadManner {
+  plain,
+  ahead,    ///< only to see whether there is text: it reads again when it pastes, however late that is
+  checking  ///< it pastes if it then sees a few times over that the contents have not changed
+};
+
 /// A place that holds copied contents. There are two: the general one, and the one that terminals paste from.
 /// Main thread.
 class Pasteboard {
@@ -48,6 +55,10 @@ class Pasteboard {
   /// Whether the application that had the focus when the paste chord was sent has read, to its end, what
   /// `writeText` wrote.
   virtual bool hasBeenRead() const = 0;
+  /// How that application has read last what `writeText` wrote.
+  virtual ReadManner readManner() const { return ReadManner::plain; }
+  /// How often anybody has asked for what was written last, in any form, or for the list of its forms.
+  virtual std::int64_t requestCount() const { return 0; }
   /// Runs each time that application has read it. One callback at a time; an empty one forgets it.
   virtual void onRead(std::function<void()> callback) = 0;
 };

@@ -99,6 +99,26 @@ TEST_F(PasteHelperTest, waitsForALateReader) {
   EXPECT_TRUE(isRestoredJustAfter(100ms));
 }
 
+TEST_F(PasteHelperTest, aReadAheadIsNotThePaste) {
+  general.manner = ReadManner::ahead;
+  paste(1, "x");
+  readAfter(120ms + 20ms);
+  general.manner = ReadManner::checking;
+  EXPECT_EQ(readAfter(480ms), "x") << "a page that is given the processor late";
+  queue.advance(499ms);
+  EXPECT_THAT(outcomes, IsEmpty());
+  ++general.requests;
+  EXPECT_TRUE(isRestoredJustAfter(501ms)) << "as slow, it is still at it";
+  EXPECT_THAT(outcomes, ElementsAre(inserted));
+  general.manner = ReadManner::ahead;
+  paste(1, "y");
+  readAfter(120ms + 1990ms);
+  queue.advance(1999ms);
+  EXPECT_FALSE(isRestored());
+  EXPECT_TRUE(isRestoredJustAfter(101ms)) << "one that reads once after all";
+  EXPECT_THAT(outcomes, ElementsAre(inserted, inserted));
+}
+
 TEST_F(PasteHelperTest, doesNotTakeAReadBeforeTheChordForThePaste) {
   paste(1, "x");
   readAfter(80ms);

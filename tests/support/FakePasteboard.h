@@ -42,6 +42,8 @@ class FakePasteboard final : public Pasteboard {
   bool isWriteDone() const override { return !heldWrite; }
   std::int64_t changeCount() const override { return changeCount_; }
   bool hasBeenRead() const override { return hasBeenRead_; }
+  ReadManner readManner() const override { return manner; }
+  std::int64_t requestCount() const override { return requests; }
   void onRead(std::function<void()> callback) override { onRead_ = std::move(callback); }
 
   /// Another program copies.
@@ -72,6 +74,9 @@ class FakePasteboard final : public Pasteboard {
     isHeldUp = false;
     if (const auto text = std::exchange(heldWrite, std::nullopt)) change({{"UTF8_STRING", *text}}, true);
   }
+
+  ReadManner manner = ReadManner::plain;  ///< of the application that reads our text
+  std::int64_t requests = 0;
 
   int snapshots = 0;
   int stringReads = 0;

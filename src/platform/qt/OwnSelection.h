@@ -26,6 +26,8 @@ class OwnSelection final : public Pasteboard {
   bool isWriteDone() const override { return pasteboard_.isWriteDone(); }
   std::int64_t changeCount() const override { return pasteboard_.changeCount(); }
   bool hasBeenRead() const override { return pasteboard_.hasBeenRead(); }
+  ReadManner readManner() const override { return pasteboard_.readManner(); }
+  std::int64_t requestCount() const override { return pasteboard_.requestCount(); }
   void onRead(std::function<void()> callback) override { pasteboard_.onRead(std::move(callback)); }
 
  private:

@@ -38,12 +38,15 @@ SelectionOwner::SelectionOwner(XThread& thread, Atoms& atoms, OutgoingTransfers&
       targets_(atoms.atom("TARGETS")),
       timestamp_(atoms.atom("TIMESTAMP")),
       multiple_(atoms.atom("MULTIPLE")),
-      pair_(atoms.atom("ATOM_PAIR")) {}
+      pair_(atoms.atom("ATOM_PAIR")),
+      chromium_(atoms.atom("CHROME_SELECTION")) {}
 
 bool SelectionOwner::take(std::vector<Representation> contents, TextRead textRead) {
   time_ = thread_.serverTime(window_);
   contents_ = std::move(contents);
   textRead_ = std::move(textRead);
+  readManner_ = ReadManner::plain;
+  requestCount_ = 0;
   expectedClient_ = textRead_ ? focusedClient(thread_.connection(), thread_.screen()->root) : 0;
   xcb_set_selection_owner(thread_.connection(), window_, selection_, time_);
   isOwner_ = isOwnerAtServer();
@@ -82,6 +85,7 @@ void SelectionOwner::handle(const xcb_generic_event_t& event) {
 }
 
 void SelectionOwner::handleRequest(const xcb_selection_request_event_t& request) {
+  ++requestCount_;
   // Programs older than the convention leave the property to us.
   const xcb_atom_t property = request.property == XCB_ATOM_NONE ? request.target : request.property;
   const bool answered =
@@ -103,8 +107,19 @@ void SelectionOwner::handleRequest(const xcb_selection_request_event_t& request)
 bool SelectionOwner::answer(xcb_window_t requestor, xcb_atom_t target, xcb_atom_t property) {
   const auto found = representation(target);
   if (!found) return false;
+  noteManner(target, property);
   transfers_.send(requestor, property, *found, readObserver(requestor, target));
   return true;
+}
+
+// Chromium, and what is built on it, has its answers put there. Its own process reads when the chord comes,
+// and asks for the list of targets once before; the page does when it is given the processor, asks for the
+// list nine times before and three times after, and drops what it has read when the owner has changed in
+// between.
+void SelectionOwner::noteManner(xcb_atom_t target, xcb_atom_t property) {
+  constexpr std::int64_t mostRequestsAhead = 4;
+  if (property != chromium_ || !isTextTarget(atoms_.name(target))) return;
+  readManner_ = requestCount_ > mostRequestsAhead ? ReadManner::checking : ReadManner::ahead;
 }
 
 bool SelectionOwner::answerMultiple(xcb_window_t requestor, xcb_atom_t property) {

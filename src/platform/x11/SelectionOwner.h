@@ -2,12 +2,14 @@
 
 #include <xcb/xcb.h>
 
+#include <atomic>
 #include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "platform/Pasteboard.h"
 #include "platform/x11/Representation.h"
 
 namespace tessarin::x11 {
@@ -35,6 +37,10 @@ class SelectionOwner {
   const std::vector<Representation>& contents() const { return contents_; }
   /// The server's time of the last `take` or `clear`.
   xcb_timestamp_t time() const { return time_; }
+  /// How text of what was taken last has been read. Any thread.
+  ReadManner readManner() const { return readManner_; }
+  /// How often what was taken last has been asked for. Any thread.
+  std::int64_t requestCount() const { return requestCount_; }
 
   /// Requests for, and the loss of, this selection.
   void handle(const xcb_generic_event_t& event);
@@ -47,6 +53,7 @@ class SelectionOwner {
   bool answerMultiple(xcb_window_t requestor, xcb_atom_t property);
   std::optional<Representation> representation(xcb_atom_t target) const;
   Representation targetList() const;
+  void noteManner(xcb_atom_t target, xcb_atom_t property);
   TextRead readObserver(xcb_window_t requestor, xcb_atom_t target);
 
   XThread& thread_;
@@ -58,6 +65,9 @@ class SelectionOwner {
   xcb_atom_t timestamp_;
   xcb_atom_t multiple_;
   xcb_atom_t pair_;
+  xcb_atom_t chromium_;
+  std::atomic<ReadManner> readManner_ = ReadManner::plain;
+  std::atomic<std::int64_t> requestCount_ = 0;
   bool isOwner_ = false;
   xcb_timestamp_t time_ = XCB_CURRENT_TIME;
   std::vector<Representation> contents_;

@@ -132,6 +132,14 @@ bool X11Pasteboard::hasBeenRead() const {
   return read_->hasBeenRead;
 }
 
+ReadManner X11Pasteboard::readManner() const {
+  return channel_->owner().readManner();
+}
+
+std::int64_t X11Pasteboard::requestCount() const {
+  return channel_->owner().requestCount();
+}
+
 void X11Pasteboard::onRead(std::function<void()> callback) {
   read_->callback = std::move(callback);
 }

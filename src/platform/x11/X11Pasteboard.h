@@ -30,6 +30,8 @@ class X11Pasteboard final : public Pasteboard {
   bool isWriteDone() const override { return writesUnderWay_->load() == 0; }
   std::int64_t changeCount() const override;
   bool hasBeenRead() const override;
+  ReadManner readManner() const override;
+  std::int64_t requestCount() const override;
   void onRead(std::function<void()> callback) override;
 
  private:

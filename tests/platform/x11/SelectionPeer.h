@@ -90,12 +90,13 @@ class SelectionPeer {
   }
 
   /// What a selection's owner gives for the target, at most this many pieces of it; none when it refuses or
-  /// takes 10 s.
-  std::optional<std::string> read(const std::string& selection, const std::string& target, int pieces = -1) {
+  /// takes 10 s. It is put into the property named.
+  std::optional<std::string> read(const std::string& selection, const std::string& target, int pieces = -1,
+                                  const std::string& property = "PEER_DATA") {
     onThread([&] {
       reading_.emplace().piecesLeft = pieces;
       return xcb_convert_selection(thread_->connection(), window_, atoms_.atom(selection),
-                                   atoms_.atom(target), atoms_.atom("PEER_DATA"), XCB_CURRENT_TIME);
+                                   atoms_.atom(target), atoms_.atom(property), XCB_CURRENT_TIME);
     });
     const auto isOver = [&] {
       return onThread([&] { return reading_->isDone || reading_->piecesLeft == 0; });

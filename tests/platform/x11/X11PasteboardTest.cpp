@@ -263,6 +263,19 @@ TEST_F(X11PasteboardTest, CountsOnlyTheFocusedProgramReadingTheText) {
   EXPECT_TRUE(becomesRead()) << "it had the focus when the text was written";
 }
 
+TEST_F(X11PasteboardTest, TellsHowChromiumReads) {
+  pasteboard().writeText("text");
+  const auto asked = [this](int lists) {
+    for (int i = 0; i < lists; ++i) peer().read("CLIPBOARD", "TARGETS", -1, "CHROME_SELECTION");
+    peer().read("CLIPBOARD", "UTF8_STRING", -1, "CHROME_SELECTION");
+    return pasteboard().readManner();
+  };
+  EXPECT_EQ(asked(1), ReadManner::ahead) << "its own process";
+  EXPECT_EQ(asked(9), ReadManner::checking) << "the page's";
+  pasteboard().writeText("text");
+  EXPECT_EQ(asked(9), ReadManner::checking) << "where nobody reads ahead";
+}
+
 TEST_F(X11PasteboardTest, CountsLargeTextOnlyWhenItWasReadToTheEnd) {
   const std::string text(2'000'000, 'x');
   peer().takeFocus();
