@@ -15,6 +15,8 @@ class Editor:
     """A text editor on a file; the document is read by saving it."""
 
     command = ()
+    environment = {}
+    settings = {}  # files below the folder of settings
     keeps_lines = True
 
     def __init__(self, session, typist):
@@ -25,11 +27,15 @@ class Editor:
         self._child = None
 
     def __enter__(self):
+        for name, content in self.settings.items():
+            path = pathlib.Path(self.session.env["XDG_CONFIG_HOME"]) / name
+            path.parent.mkdir(exist_ok=True)
+            path.write_text(content)
         before = self.typist.client_windows()
-        self._child = self.session.start(*self.command, self.path)
-        self._window = wait_for(lambda: self._new_active_window(before), 30, f"the window of {self.command[0]}")
+        self._child = self.session.start(*self.command, self.path, env=self.session.env | self.environment)
+        self._window = wait_for(lambda: self._new_active_window(before), 120, f"the window of {self.command[0]}")
         self._wait_until_it_takes_keys()
-        wait_for(self.is_at_rest, 30, f"{self.command[0]} to come to rest")
+        wait_for(self.is_at_rest, 60, f"{self.command[0]} to come to rest")
         return self
 
     def __exit__(self, *_):
@@ -41,7 +47,7 @@ class Editor:
         return active if active in self.typist.client_windows() - before else None
 
     def _wait_until_it_takes_keys(self):
-        wait_for(self._takes_a_key, 30, f"{self.command[0]} to take keys")
+        wait_for(self._takes_a_key, 60, f"{self.command[0]} to take keys")
         self.typist.press("End", "Control_L")  # a first save can move the caret
 
     def is_at_rest(self, seconds=0.2):
@@ -97,12 +103,7 @@ class GnomeTextEditor(Editor):
 
 class Featherpad(Editor):
     command = ("featherpad", "--standalone")
-
-    def __enter__(self):
-        settings = pathlib.Path(self.session.env["XDG_CONFIG_HOME"]) / "featherpad/fp.conf"
-        settings.parent.mkdir(exist_ok=True)
-        settings.write_text("[text]\nappendEmptyLine=false\n")
-        return super().__enter__()
+    settings = {"featherpad/fp.conf": "[text]\nappendEmptyLine=false\n"}
 
 
 class Xterm(Editor):
@@ -127,19 +128,20 @@ class Xterm(Editor):
 
 
 class Page(http.server.ThreadingHTTPServer):
-    """A web page with a text area between many other elements, which tells of every change."""
+    """A web page with a place to write between many other elements, which tells of every change."""
 
-    HTML = """<!DOCTYPE html><meta charset="utf-8"><textarea id="field" rows="12" cols="80"></textarea>
-        <script>let count = 0;
-        field.oninput = () => fetch("/" + ++count, {method: "POST", body: field.value}); field.focus()</script>""" + (
+    HTML = """<!DOCTYPE html><meta charset="utf-8">FIELD<script>
+        let count = 0; const field = document.getElementById("field");
+        const text = () => "value" in field ? field.value : field.innerText.replaceAll("\\u00a0", " ");
+        field.oninput = () => fetch("/" + ++count, {method: "POST", body: text()}); field.focus()</script>""" + (
         "<p>some <b>text</b> and <a href='#'>a link</a></p>" * 2000)
 
     class Handler(http.server.BaseHTTPRequestHandler):
         def do_GET(self):
-            self.answer(Page.HTML.encode())
+            self.answer(Page.HTML.replace("FIELD", self.server.field).encode())
 
         def do_POST(self):
-            text = self.rfile.read(int(self.headers["Content-Length"])).decode()
+            text = self.rfile.read(int(self.headers["Content-Length"] or 0)).decode()
             self.server.reports[int(self.path[1:])] = text  # they may overtake one another
             self.answer(b"")
 
@@ -153,8 +155,9 @@ class Page(http.server.ThreadingHTTPServer):
         def log_message(self, *_):
             pass
 
-    def __init__(self):
+    def __init__(self, field):
         super().__init__(("127.0.0.1", 0), Page.Handler)
+        self.field = field
         self.reports = {0: ""}
         threading.Thread(target=self.serve_forever, daemon=True).start()
 
@@ -167,20 +170,20 @@ class Page(http.server.ThreadingHTTPServer):
         self.server_close()
 
 
-class Firefox(Editor):
-    """A text area in a web page, which the browser draws and another process of it holds."""
+class Browser(Editor):
+    """A place to write in a web page, which the browser draws and another process of it holds."""
 
-    PREFERENCES = {"browser.shell.checkDefaultBrowser": False, "browser.aboutwelcome.enabled": False,
-                   "datareporting.policy.dataSubmissionEnabled": False}
+    field = '<textarea id="field" rows="12" cols="80"></textarea>'
+    profile_files = {}
 
     def __enter__(self):
         profile = self.session.folder / f"profile-{os.urandom(3).hex()}"
         profile.mkdir()
-        (profile / "user.js").write_text("".join(
-            f'user_pref("{name}", {str(value).lower()});\n' for name, value in self.PREFERENCES.items()))
-        self._page = Page()
+        for name, content in self.profile_files.items():
+            (profile / name).write_text(content)
+        self._page = Page(self.field)
         self.path = f"http://127.0.0.1:{self._page.server_port}/"
-        self.command = ("firefox-esr", "--no-remote", "--profile", profile)
+        self.command = [part.replace("PROFILE", str(profile)) for part in self.command]
         return super().__enter__()
 
     def __exit__(self, *details):
@@ -194,13 +197,24 @@ class Firefox(Editor):
         wait_for(taken, 60, "the page to take keys")
         self.typist.press("a", "Control_L")
         self.typist.press("BackSpace")
-        wait_for(lambda: not self._page.text, what="an empty page")
+        wait_for(lambda: not self._page.text.strip(), what="an empty page")
 
     def save(self):
         pass
 
     def document(self):
         return self._page.text
+
+
+class Firefox(Browser):
+    command = ("firefox-esr", "--no-remote", "--profile", "PROFILE")
+    profile_files = {"user.js": "".join(f'user_pref("{name}", false);\n' for name in (
+        "browser.shell.checkDefaultBrowser", "browser.aboutwelcome.enabled", "datareporting.policy.dataSubmissionEnabled"))}
+
+
+class Chromium(Browser):
+    command = ("chromium", "--no-sandbox", "--disable-gpu", "--no-first-run", "--disable-background-networking",
+               "--disable-component-update", "--disable-sync", "--password-store=basic", "--user-data-dir=PROFILE")
 
 
 ALL = (Mousepad, GnomeTextEditor, Featherpad, Xterm)
