@@ -61,6 +61,9 @@ class LetterRace:
 
     def run(self):
         """Seconds from each key to the popup's picture and to the editor's; pairs, in the order of the letters."""
+        cell, goal = self._goals[0]
+        self._stopwatch.watch("letter", self._window, cell)
+        wait_for(lambda: self._stopwatch.look("letter") != goal["letter"], what="the editor to draw what was erased")
         self._typist.type(":")
         pairs = []
         for letter, (cell, goal) in zip(self._letters, self._goals):
