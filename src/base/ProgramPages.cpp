@@ -13,6 +13,7 @@ namespace {
 void restSegment(std::uintptr_t begin, std::uintptr_t end) {
   const auto pageSize = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
   begin -= begin % pageSize;
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): the loader tells addresses as numbers
   madvise(reinterpret_cast<void*>(begin), end - begin, MADV_DONTNEED);
 }
 
