@@ -13,7 +13,7 @@ std::filesystem::path resourceFolder(const std::filesystem::path& program) {
 
 std::filesystem::path helperProgram(const std::filesystem::path& program, const std::string& name) {
   std::error_code ignored;
-  const std::filesystem::path beside = program.parent_path() / name;
+  std::filesystem::path beside = program.parent_path() / name;
   if (std::filesystem::exists(beside, ignored)) return beside;
   return program.parent_path().parent_path() / "libexec" / name;
 }
