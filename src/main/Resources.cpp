@@ -15,7 +15,7 @@ std::filesystem::path helperProgram(const std::filesystem::path& program, const 
   std::error_code ignored;
   std::filesystem::path beside = program.parent_path() / name;
   if (std::filesystem::exists(beside, ignored)) return beside;
-  return program.parent_path().parent_path() / "libexec" / name;
+  return program.parent_path().parent_path() / "lib/tessarin" / name;
 }
 
 }  // namespace tessarin

@@ -9,7 +9,7 @@ namespace tessarin {
 /// prefix.
 std::filesystem::path resourceFolder(const std::filesystem::path& program);
 
-/// A program that ours starts: beside it, else in libexec under its install prefix.
+/// A program that ours starts: beside it, else in lib/tessarin under its install prefix.
 std::filesystem::path helperProgram(const std::filesystem::path& program, const std::string& name);
 
 }  // namespace tessarin
