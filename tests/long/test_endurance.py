@@ -56,7 +56,7 @@ class Endurance(DesktopTest):
             self.typist.press("Delete")
             self.typist.type(TYPED, PAUSE)
             found = editor.wait_for_document(LEFT, 120)
-            self.assertEqual(found.removeprefix("q"), LEFT)
+            self.assertEqual(found, LEFT)
 
     def test_nothing_piles_up(self):
         with Mousepad(self.session, self.typist) as editor:
