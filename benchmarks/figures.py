@@ -52,7 +52,6 @@ def library(table):
         table.add(what, target, ", ".join(f"{name[:-3]} {value:.4g} {name[-2:].replace('u', 'µ')}" for name, value in worst.items()))
 
 
-
 def seconds_to_line(session, line, *command):
     begin = time.monotonic()
     child = session.start(*command, stdout=subprocess.PIPE, text=True)

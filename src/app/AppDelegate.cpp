@@ -112,24 +112,26 @@ void AppDelegate::retryStart() {
   if (permissions_.isAccessibilityGranted()) startKeyboardMonitor();
 }
 
-bool AppDelegate::followTrust() {
+void AppDelegate::followTrust() {
   menuBarManager_.rebuildMenu();
   if (permissions_.isAccessibilityGranted()) {
     if (permissionRetryTimer_) startKeyboardMonitor();
-    return true;
+    return;
   }
-  if (!keyboardMonitor_.isRunning()) return true;
   endCollecting();
   if (insertionsUnderWay_ > 0) {
     services_.mainQueue.after(insertionGrace, handler(&AppDelegate::stopUntrusted));
-    return false;
+  } else {
+    stopUntrusted();
   }
-  stopUntrusted();
-  return true;
+}
+
+bool AppDelegate::hasFollowedTrust() const {
+  return permissions_.isAccessibilityGranted() || !keyboardMonitor_.isRunning();
 }
 
 void AppDelegate::stopUntrusted() {
-  if (permissions_.isAccessibilityGranted() || !keyboardMonitor_.isRunning()) return;
+  if (hasFollowedTrust()) return;
   if (insertionsUnderWay_ > 0) services_.textReplacer.stopWaiting();
   keyboardMonitor_.stop();
   log(appComponent, "The trust was taken back; no key is judged until it is given again");

@@ -69,8 +69,10 @@ class AppDelegate {
   /// whatever is about to need the keys itself.
   void endCollecting();
   /// To be called when the user's trust has changed: without it no key is judged and none is held; given
-  /// again, it holds at once. False while an insertion under way is still given its time.
-  bool followTrust();
+  /// again, it holds at once.
+  void followTrust();
+  /// False while trust has been taken back and an insertion under way is still given its time.
+  bool hasFollowedTrust() const;
   /// Switches expansion off or on from outside of the menu, and answers whether it is on now.
   bool toggleEnabled();
 

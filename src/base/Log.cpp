@@ -72,7 +72,7 @@ class Output {
 
  private:
   bool put(const std::string& line) {
-    rest_.erase(0, writeAtOnce(rest_));
+    if (!rest_.empty()) rest_.erase(0, writeAtOnce(rest_));
     if (!rest_.empty()) return false;
     const std::string whole = line.substr(0, longestLine) + '\n';
     const std::size_t written = writeAtOnce(whole);

@@ -2,10 +2,9 @@
 
 namespace tessarin {
 
-/// Lets go of the pages of the program and its libraries that hold nothing of its own, and of free memory.
-/// Most of what a start or a window has touched is never wanted again, and half of the program's memory is of
-/// that kind. What is wanted comes back by itself from the system's cache of files, in microseconds a page.
-/// Any thread.
+/// Lets go of free memory, and of the pages of the program and its libraries that are as they are on file.
+/// After a start two thirds of the memory are of that kind, most of it never wanted again. What is wanted
+/// comes back by itself from the system's cache of files. Any thread.
 void restProgramPages();
 
 }  // namespace tessarin

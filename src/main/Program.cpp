@@ -107,7 +107,7 @@ Answer Program::perform(const Request& request) {
       return {true, translate("Program", "quitting")};
     case Request::Kind::trust:
       desktop_.trust().reload();
-      return {controller_.followTrust(), {}};
+      return {controller_.hasFollowedTrust(), {}};
     case Request::Kind::importFile:
       return importSnippets(controller_.snippetStore(), request.file);
     case Request::Kind::exportFile:
