@@ -8,6 +8,7 @@ namespace tessarin {
 struct KeyWatchMessage {
   enum class Kind : std::uint32_t {
     // To the watcher.
+    connection,  ///< to the X server, which comes along as a file; with the number of the keyboard held by it
     keysHeldAt,  ///< keys are held at this window too from now on, or (0) on the root alone
     working,     ///< keys are being typed: the server itself may be held
     alive,       ///< answer to the question of this number, in the middle of work
@@ -20,8 +21,7 @@ struct KeyWatchMessage {
   std::uint32_t value = 0;
 };
 
-/// The watcher's own descriptors: the socket to the program, and the program's connection to the X server.
+/// The watcher's end of the socket to the program.
 constexpr int keyWatchSocket = 0;
-constexpr int keyWatchConnection = 3;
 
 }  // namespace tessarin

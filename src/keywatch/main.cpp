@@ -2,9 +2,9 @@
 // debugger or a lack of memory, answers no key, and the X server would wait for it for ever. Whoever holds
 // keys and does not answer us either has them let by, and loses the connection to the server.
 //
-// Started with the number of the keyboard and, if DISPLAY is not to be asked, the name of the display. It
-// sleeps until the server says that a key is held. A program of its own, in plain C++ without the library,
-// because it is to cost next to nothing.
+// Started with the name of the display, if DISPLAY is not to be asked. It sleeps until the server says that a
+// key is held, and lives as long as the program: one started later might be stopped with it. A program of its
+// own, in plain C++ without the library, because it is to cost next to nothing.
 
 #include <poll.h>
 #include <sys/mman.h>
@@ -102,16 +102,12 @@ std::uint8_t inputExtension(xcb_connection_t* server) {
 
 class Watcher {
  public:
-  Watcher(xcb_connection_t* server, xcb_window_t root, std::uint16_t device)
-      : server_(server),
-        root_(root),
-        device_(device),
-        extension_(inputExtension(server)),
-        program_(getppid()) {
+  Watcher(xcb_connection_t* server, xcb_window_t root)
+      : server_(server), root_(root), extension_(inputExtension(server)), program_(getppid()) {
     follow(root_, true);
   }
 
-  /// Until the program or the server has gone, or the connection has been closed.
+  /// Until the program or the server has gone.
   void run() {
     while (takeNews()) {
       if (isSure()) {
@@ -123,12 +119,12 @@ class Watcher {
       if (!askAndWait()) continue;
       if (!takeNews()) return;
       if (!hasAnswered_) ++unanswered_;
-      if (hasLost()) return letGo();
+      if (hasLost()) letGo();
     }
   }
 
  private:
-  bool isSure() const { return sureOf_ == happened_; }
+  bool isSure() const { return connection_ < 0 || sureOf_ == happened_; }
 
   /// What a window is sent when a key is held at it: its focus goes to the holder, and comes back.
   void follow(xcb_window_t window, bool followed) {
@@ -139,11 +135,8 @@ class Watcher {
 
   /// False when the program or the server has gone.
   bool takeNews() {
-    KeyWatchMessage message;
     ssize_t size = 0;
-    while ((size = recv(keyWatchSocket, &message, sizeof(message), MSG_DONTWAIT)) == sizeof(message)) {
-      take(message);
-    }
+    while ((size = takeMessage()) == sizeof(KeyWatchMessage)) continue;
     while (xcb_generic_event_t* event = xcb_poll_for_event(server_)) {
       const int type = event->response_type & 0x7f;
       const bool isFocus = type == XCB_FOCUS_IN || type == XCB_FOCUS_OUT;
@@ -155,10 +148,36 @@ class Watcher {
     return size < 0 && xcb_connection_has_error(server_) == 0;
   }
 
+  ssize_t takeMessage() {
+    KeyWatchMessage message;
+    iovec part{&message, sizeof(message)};
+    alignas(cmsghdr) char files[CMSG_SPACE(sizeof(int))] = {};
+    msghdr packet{};
+    packet.msg_iov = &part;
+    packet.msg_iovlen = 1;
+    packet.msg_control = files;
+    packet.msg_controllen = sizeof(files);
+    const ssize_t size = recvmsg(keyWatchSocket, &packet, MSG_DONTWAIT | MSG_CMSG_CLOEXEC);
+    if (size != sizeof(message)) return size;
+    if (const cmsghdr* header = CMSG_FIRSTHDR(&packet)) {
+      closeConnection();
+      std::memcpy(&connection_, CMSG_DATA(header), sizeof(connection_));
+      device_ = static_cast<std::uint16_t>(message.value);
+    }
+    take(message);
+    return size;
+  }
+
+  void closeConnection() {
+    if (connection_ >= 0) close(connection_);
+    connection_ = -1;
+    unanswered_ = 0;
+  }
+
   void take(const KeyWatchMessage& message) {
-    if (message.kind == Kind::keysHeldAt) {
+    if (message.kind == Kind::keysHeldAt || message.kind == Kind::connection) {
       if (window_ != XCB_NONE && window_ != root_) follow(window_, false);
-      window_ = message.value;
+      window_ = message.kind == Kind::keysHeldAt ? message.value : XCB_NONE;
       if (window_ != XCB_NONE && window_ != root_) follow(window_, true);
     }
     if (message.kind == Kind::alive || message.kind == Kind::idle) {
@@ -206,15 +225,16 @@ class Watcher {
   /// On the program's own connection: requests of ours would be left lying while it holds the whole server,
   /// and a client that merely goes takes all keys along that wait behind the held one. The program finds the
   /// connection closed.
-  void letGo() const {
+  void letGo() {
     const KeyWatchMessage message{Kind::letGo, 0};
     send(keyWatchSocket, &message, sizeof(message), MSG_DONTWAIT | MSG_NOSIGNAL);
     const LastRequests requests(extension_, device_, root_, window_ == XCB_NONE ? root_ : window_);
-    send(keyWatchConnection, &requests, sizeof(requests), MSG_DONTWAIT | MSG_NOSIGNAL);
-    shutdown(keyWatchConnection, SHUT_WR);
-    pollfd closed{keyWatchConnection, 0, 0};
+    send(connection_, &requests, sizeof(requests), MSG_DONTWAIT | MSG_NOSIGNAL);
+    shutdown(connection_, SHUT_WR);
+    pollfd closed{connection_, 0, 0};
     poll(&closed, 1, roundTime);
-    shutdown(keyWatchConnection, SHUT_RDWR);
+    shutdown(connection_, SHUT_RDWR);
+    closeConnection();
   }
 
   /// Until there is news of the kind, the program has gone, or the time is over.
@@ -225,7 +245,8 @@ class Watcher {
 
   xcb_connection_t* server_;
   xcb_window_t root_;
-  std::uint16_t device_;
+  std::uint16_t device_ = 0;
+  int connection_ = -1;  ///< the program's, while it stands
   std::uint8_t extension_;
   pid_t program_;
   xcb_window_t window_ = XCB_NONE;
@@ -247,14 +268,13 @@ xcb_window_t rootOf(xcb_connection_t* server, int screen) {
 }  // namespace tessarin
 
 int main(int argc, char** argv) {
-  close_range(tessarin::keyWatchConnection + 1, ~0U, 0);
+  close_range(STDERR_FILENO + 1, ~0U, 0);
   if (chdir("/") != 0) return EXIT_FAILURE;
   int screen = 0;
-  const auto device = static_cast<std::uint16_t>(argc > 1 ? std::atoi(argv[1]) : 0);
-  xcb_connection_t* server = xcb_connect(argc > 2 ? argv[2] : nullptr, &screen);
+  xcb_connection_t* server = xcb_connect(argc > 1 ? argv[1] : nullptr, &screen);
   if (xcb_connection_has_error(server) != 0) return EXIT_FAILURE;
   // So that a machine short of memory does not hold us up as well. May be refused.
   mlockall(MCL_CURRENT | MCL_FUTURE);
-  tessarin::Watcher(server, tessarin::rootOf(server, screen), device).run();
+  tessarin::Watcher(server, tessarin::rootOf(server, screen)).run();
   return EXIT_SUCCESS;
 }

@@ -8,6 +8,7 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstring>
 #include <utility>
 
 #include "base/Log.h"
@@ -17,23 +18,14 @@ namespace {
 
 constexpr std::chrono::minutes timeBetweenWatchers{1};
 
-/// A copy whose number is none of those that the watcher gets its own at.
-FileDescriptor setAside(int file) {
-  return FileDescriptor(fcntl(file, F_DUPFD_CLOEXEC, 10));
-}
-
 /// In a session of its own, so that what stops the terminal's programs does not stop it, and with the signals
 /// as at a program's start. -1 when it cannot be started.
-pid_t spawnWatcher(const std::string& program, std::string display, int socket,
-                   const SessionKeyboard& keyboard) {
-  const FileDescriptor input = setAside(socket);
-  const FileDescriptor server = setAside(xcb_get_file_descriptor(keyboard.connection));
+pid_t spawnWatcher(const std::string& program, std::string display, int socket) {
   posix_spawn_file_actions_t files;
   posix_spawn_file_actions_init(&files);
-  posix_spawn_file_actions_adddup2(&files, input.get(), keyWatchSocket);
+  posix_spawn_file_actions_adddup2(&files, socket, keyWatchSocket);
   posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
   posix_spawn_file_actions_addopen(&files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-  posix_spawn_file_actions_adddup2(&files, server.get(), keyWatchConnection);
   posix_spawnattr_t attributes;
   posix_spawnattr_init(&attributes);
   posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
@@ -43,8 +35,7 @@ pid_t spawnWatcher(const std::string& program, std::string display, int socket,
   for (const int number : {SIGPIPE, SIGTTIN, SIGTTOU}) sigaddset(&signals, number);
   posix_spawnattr_setsigdefault(&attributes, &signals);
   std::string name = program.substr(program.rfind('/') + 1);
-  std::string device = std::to_string(keyboard.device);
-  char* const arguments[] = {name.data(), device.data(), display.empty() ? nullptr : display.data(), nullptr};
+  char* const arguments[] = {name.data(), display.empty() ? nullptr : display.data(), nullptr};
   pid_t process = -1;
   if (posix_spawn(&process, program.c_str(), &files, &attributes, arguments, environ) != 0) process = -1;
   posix_spawnattr_destroy(&attributes);
@@ -68,9 +59,9 @@ void KeyWatch::start() {
   if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) == 0) {
     socket_ = FileDescriptor(ends[0]);
     const FileDescriptor its(ends[1]);
-    process_ = spawnWatcher(program_, display_, its.get(), keyboard_);
+    process_ = spawnWatcher(program_, display_, its.get());
   }
-  if (process_ > 0) return;
+  if (process_ > 0) return sayConnection();
   socket_ = FileDescriptor();
   log("KeyWatch", "The keyboard's watcher cannot be started: nobody frees the keyboard should we be stopped");
 }
@@ -83,6 +74,32 @@ void KeyWatch::end() {
   waitpid(std::exchange(process_, -1), nullptr, 0);
 }
 
+void KeyWatch::follow(const SessionKeyboard& keyboard) {
+  keyboard_ = keyboard;
+  hasLetGo_ = false;
+  question_.reset();
+  sayConnection();
+}
+
+void KeyWatch::sayConnection() {
+  if (!socket_) return;
+  KeyWatchMessage message{KeyWatchMessage::Kind::connection, keyboard_.device};
+  iovec part{&message, sizeof(message)};
+  alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(int))> files{};
+  msghdr packet{};
+  packet.msg_iov = &part;
+  packet.msg_iovlen = 1;
+  packet.msg_control = files.data();
+  packet.msg_controllen = files.size();
+  cmsghdr* header = CMSG_FIRSTHDR(&packet);
+  header->cmsg_level = SOL_SOCKET;
+  header->cmsg_type = SCM_RIGHTS;
+  header->cmsg_len = CMSG_LEN(sizeof(int));
+  const int file = xcb_get_file_descriptor(keyboard_.connection);
+  std::memcpy(CMSG_DATA(header), &file, sizeof(file));
+  sendmsg(socket_.get(), &packet, MSG_DONTWAIT | MSG_NOSIGNAL);
+}
+
 void KeyWatch::sayAlive() {
   listen();
   answer(KeyWatchMessage::Kind::alive);
@@ -90,7 +107,7 @@ void KeyWatch::sayAlive() {
 
 void KeyWatch::sayIdle() {
   answer(KeyWatchMessage::Kind::idle);
-  if (hasGone_ && !hasLetGo_) replace();
+  if (hasGone_) replace();
 }
 
 void KeyWatch::replace() {

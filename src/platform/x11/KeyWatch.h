@@ -16,7 +16,7 @@ namespace tessarin::x11 {
 
 /// The small process that closes the tap's connection to the server when our process stands still with keys
 /// held, so that the user gets the keyboard back. It asks from time to time while keys are held, and wants an
-/// answer. One watcher a connection; it ends with this object, and with our process. Keyboard thread.
+/// answer. It ends with this object, and with our process. Keyboard thread.
 class KeyWatch {
  public:
   /// `program`: the watcher's file; empty for no watcher. `display` as in DISPLAY; empty for that variable's
@@ -24,6 +24,8 @@ class KeyWatch {
   /// else works.
   KeyWatch(std::string program, std::string display, const SessionKeyboard& keyboard);
   ~KeyWatch();
+  /// There is another connection.
+  void follow(const SessionKeyboard& keyboard);
   KeyWatch(const KeyWatch&) = delete;
   KeyWatch& operator=(const KeyWatch&) = delete;
 
@@ -48,6 +50,7 @@ class KeyWatch {
   void start();
   void end();
   void replace();
+  void sayConnection();
   void say(KeyWatchMessage::Kind kind, std::uint32_t value);
   void answer(KeyWatchMessage::Kind kind);
 

@@ -83,22 +83,23 @@ std::optional<SessionKeyboard> X11Keyboard::connect() {
   return SessionKeyboard::find(connection_.get(), rootOf(connection_.get(), screen));
 }
 
-std::optional<KeyFilter::Loss> X11Keyboard::serveConnection(const SessionKeyboard& keyboard,
+std::optional<KeyFilter::Loss> X11Keyboard::serveConnection(const SessionKeyboard& keyboard, KeyWatch& watch,
                                                             const KeySet& leftPressed) {
-  KeyWatch watch(options_.watcher, options_.display, keyboard);
   KeyFilter filter(keyboard, control_, judge_, watch);
   filter.letGoOf(leftPressed);
   return filter.run();
 }
 
 void X11Keyboard::serve(SessionKeyboard keyboard) {
+  KeyWatch watch(options_.watcher, options_.display, keyboard);
   KeySet pressed;
-  while (const auto loss = serveConnection(keyboard, pressed)) {
+  while (const auto loss = serveConnection(keyboard, watch, pressed)) {
     const auto next = connect();
     // The server has gone, and the program with it.
     if (!next) break;
     logLoss(*loss);
     keyboard = *next;
+    watch.follow(keyboard);
     pressed = loss->pressed;
     judge_.reportTimeOut();
   }

@@ -52,7 +52,8 @@ class X11Keyboard {
   void stop();
   std::optional<SessionKeyboard> connect();
   void serve(SessionKeyboard keyboard);
-  std::optional<KeyFilter::Loss> serveConnection(const SessionKeyboard& keyboard, const KeySet& leftPressed);
+  std::optional<KeyFilter::Loss> serveConnection(const SessionKeyboard& keyboard, KeyWatch& watch,
+                                                 const KeySet& leftPressed);
 
   MainQueue& queue_;
   Options options_;
