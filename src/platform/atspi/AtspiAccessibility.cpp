@@ -314,9 +314,12 @@ AccessibilityStatus AtspiAccessibility::replace(const ObjectReference& object, c
   const auto read = std::exchange(reading_, std::nullopt);
   auto text = textOf(object);
   if (!text) return AccessibilityStatus::failure;
-  if (read && read->of == object && read->range == range) return text->replace(read->stretch, newText);
-  const auto stretch = text->stretch(range);
-  return stretch ? text->replace(*stretch, newText) : AccessibilityStatus::failure;
+  const bool isRead = read && read->of == object && read->range == range;
+  const auto stretch = isRead ? std::optional(read->stretch) : text->stretch(range);
+  if (!stretch) return AccessibilityStatus::failure;
+  const AccessibilityStatus status = text->replace(*stretch, newText);
+  toolkits_[object.bus] = text->toolkit();
+  return status;
 }
 
 AccessibilityStatus AtspiAccessibility::setAttribute(const ElementRef& element, std::string_view name,

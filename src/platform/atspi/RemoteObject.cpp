@@ -88,10 +88,4 @@ std::optional<std::string> RemoteObject::stringProperty(const char* interface, c
   return value ? value->string() : std::nullopt;
 }
 
-std::optional<std::int32_t> RemoteObject::intProperty(const char* interface, const char* name) {
-  const MessagePtr reply = ask(propertyRead(object_, interface, name));
-  auto value = propertyValue(reply.get());
-  return value ? value->int32() : std::nullopt;
-}
-
 }  // namespace tessarin::atspi

@@ -29,7 +29,6 @@ class RemoteObject {
   std::optional<Rect> extents(bool isWindowRelative);
 
   std::optional<std::string> stringProperty(const char* interface, const char* name);
-  std::optional<std::int32_t> intProperty(const char* interface, const char* name);
 
  protected:
   MessagePtr request(const char* interface, const char* method) const;

@@ -4,6 +4,7 @@
 #include <limits>
 #include <utility>
 
+#include "base/Log.h"
 #include "platform/atspi/Messages.h"
 #include "text/Graphemes.h"
 
@@ -19,6 +20,8 @@ constexpr std::int64_t mostClusters = 1024;
 /// Enough for most clusters; the rest of them are families of emoji and the like.
 constexpr std::int64_t unitsPerCluster = 8;
 constexpr std::int64_t unitsInReserve = 16;
+/// The text stands there already, so its order is worth this even where the key's account is used up.
+constexpr std::chrono::milliseconds caretTime{40};
 
 void append(DBusMessage* message, std::int64_t value) {
   const auto number = static_cast<dbus_int32_t>(value);
@@ -55,6 +58,11 @@ std::vector<MessagePtr> all(Messages... messages) {
   return result;
 }
 
+std::optional<std::int32_t> caretIn(DBusMessage* reply) {
+  auto value = MessageReader(reply).variant();
+  return value ? value->int32() : std::nullopt;
+}
+
 bool saysYes(const Answer& answer) {
   return answer.kind == Answer::Kind::replied && MessageReader(answer.reply.get()).boolean() == true;
 }
@@ -79,8 +87,7 @@ RemoteText::Glance RemoteText::glance() {
 }
 
 std::optional<TextRange> RemoteText::rangeOf(DBusMessage* caret, DBusMessage* selections) {
-  auto value = MessageReader(caret).variant();
-  const auto offset = value ? value->int32() : std::nullopt;
+  const auto offset = caretIn(caret);
   if (!offset || *offset < 0) return std::nullopt;
   const TextRange atCaret{*offset, 0};
   if (MessageReader(selections).int32().value_or(0) < 1) return atCaret;
@@ -166,7 +173,7 @@ std::optional<Rect> RemoteText::behind(std::optional<Rect> letter, const std::op
 }
 
 AccessibilityStatus RemoteText::replace(const Stretch& old, const std::string& text) {
-  if (!canBeSent(text)) return AccessibilityStatus::failure;
+  if (toolkit_.keepsCaret || !canBeSent(text)) return AccessibilityStatus::failure;
   if (old.text.empty()) return insert(old.start, text);
   if (toolkit_.changesAtOneGo && !text.empty()) return eraseAndInsert(old, text);
   const AccessibilityStatus erased = erase(old);
@@ -187,39 +194,95 @@ AccessibilityStatus RemoteText::erase(const Stretch& old) {
 
 AccessibilityStatus RemoteText::insert(std::int64_t position, const std::string& text) {
   if (text.empty()) return AccessibilityStatus::success;
-  const Answer inserted = std::move(carryOut(all(insertion(position, text))).front());
+  const Stretch fresh = stretchOf(position, text);
+  std::vector<MessagePtr> changes;
+  appendInsertion(changes, fresh);
+  const auto answers = carryOut(std::move(changes));
   // In the application's queue it is as good as done; another way of inserting would bring the text twice.
-  if (inserted.kind == Answer::Kind::unanswered) return AccessibilityStatus::success;
-  if (!saysYes(inserted)) return AccessibilityStatus::failure;
-  placeCaretBehind(position, text);
-  return AccessibilityStatus::success;
+  if (answers.back().kind == Answer::Kind::unanswered) return AccessibilityStatus::success;
+  if (isInserted(answers.front(), fresh)) return placeCaretBehind(fresh, answers.back());
+  returnCaret(position);
+  return AccessibilityStatus::failure;
 }
 
 // An application that begins to draw what it has erased lets the insertion wait for a whole frame.
 AccessibilityStatus RemoteText::eraseAndInsert(const Stretch& old, const std::string& text) {
-  const auto answers = carryOut(all(erasure(old), insertion(old.start, text)));
+  const Stretch fresh = stretchOf(old.start, text);
+  std::vector<MessagePtr> changes = all(erasure(old));
+  appendInsertion(changes, fresh);
+  const auto answers = carryOut(std::move(changes));
   const Answer& erased = answers.front();
-  const Answer& inserted = answers.back();
   if (erased.kind == Answer::Kind::notSent) return AccessibilityStatus::failure;
-  if (inserted.kind == Answer::Kind::unanswered) return AccessibilityStatus::success;
-  if (!saysYes(inserted)) {
-    return !saysYes(erased) && stillHolds(old) ? AccessibilityStatus::failure
-                                               : AccessibilityStatus::erasedOnly;
+  if (answers.back().kind == Answer::Kind::unanswered) return AccessibilityStatus::success;
+  if (!isInserted(answers[1], fresh)) {
+    const bool isErased = saysYes(erased) || !stillHolds(old);
+    returnCaret(isErased ? old.start : old.end);
+    return isErased ? AccessibilityStatus::erasedOnly : AccessibilityStatus::failure;
   }
-  if (!saysYes(erased) && takesBack(old, text)) return AccessibilityStatus::failure;
-  placeCaretBehind(old.start, text);
-  return AccessibilityStatus::success;
+  if (!saysYes(erased) && takesBack(old, fresh)) return AccessibilityStatus::failure;
+  return placeCaretBehind(fresh, answers.back());
+}
+
+// Asked in the same go, so that looking at the caret costs no time of its own.
+void RemoteText::appendInsertion(std::vector<MessagePtr>& changes, const Stretch& fresh) const {
+  changes.push_back(insertion(fresh));
+  if (toolkit_.leavesCaret) changes.push_back(caretChange(fresh.end));
+  changes.push_back(propertyRead(object_, textInterface, "CaretOffset"));
+}
+
+// Its answer may have come too late while the one about the caret was waited for.
+bool RemoteText::isInserted(const Answer& answer, const Stretch& fresh) {
+  if (answer.kind != Answer::Kind::unanswered) return saysYes(answer);
+  const auto now = text(fresh.start, fresh.end);
+  return !now || now == fresh.text;
 }
 
 // Where the new text was written before the old one, which the application would not erase.
-bool RemoteText::takesBack(const Stretch& old, const std::string& text) {
-  const std::int64_t behind = old.start + countUnits(text, toolkit_.offset);
-  if (this->text(old.start, behind + old.end - old.start) != text + old.text) return false;
-  return saysYes(carryOut(all(erasure({old.start, behind, text}))).front());
+bool RemoteText::takesBack(const Stretch& old, const Stretch& fresh) {
+  if (text(fresh.start, fresh.end + old.end - old.start) != fresh.text + old.text) return false;
+  if (!saysYes(carryOut(all(erasure(fresh))).front())) return false;
+  returnCaret(old.end);
+  return true;
+}
+
+void RemoteText::returnCaret(std::int64_t position) {
+  if (toolkit_.leavesCaret) ask(caretChange(position));
+}
+
+// A widget that keeps its caret where the text was put in would have what is typed next before it. What else
+// an application does with its caret, in correcting the text for example, is its own matter.
+AccessibilityStatus RemoteText::placeCaretBehind(const Stretch& fresh, const Answer& answer) {
+  const auto caret = caretIn(answer.reply.get());
+  const bool isLeft = caret == fresh.start;
+  if (!caret || *caret == fresh.end || (toolkit_.movesCaret && !isLeft)) return AccessibilityStatus::success;
+  if (isCaretPutBehind(fresh) || !isLeft) {
+    toolkit_.leavesCaret |= isLeft;
+    return AccessibilityStatus::success;
+  }
+  toolkit_.keepsCaret = true;
+  log("Accessibility", "An application keeps its caret before what is inserted: its texts are pasted");
+  const bool isTakenBack = stillHolds(fresh) && saysYes(carryOut(all(erasure(fresh))).front());
+  return isTakenBack ? AccessibilityStatus::erasedOnly : AccessibilityStatus::success;
+}
+
+// The text tells whether the application counts as its toolkit does. What is not answered yet is carried out
+// in its turn, before the keys that come next.
+bool RemoteText::isCaretPutBehind(const Stretch& fresh) {
+  if (channel_.budget().allowance(caretTime) < caretTime) channel_.budget().open(caretTime);
+  const auto answers =
+      channel_.callAll(all(caretChange(fresh.end), propertyRead(object_, textInterface, "CaretOffset"),
+                           textRequest(fresh.start, fresh.end)));
+  const auto caret = caretIn(answers[1].reply.get());
+  const auto text = MessageReader(answers[2].reply.get()).string();
+  return (!caret || *caret == fresh.end) && (!text || text == fresh.text);
 }
 
 bool RemoteText::stillHolds(const Stretch& stretch) {
   return text(stretch.start, stretch.end) == stretch.text;
+}
+
+RemoteText::Stretch RemoteText::stretchOf(std::int64_t position, const std::string& text) const {
+  return {position, position + countUnits(text, toolkit_.offset), text};
 }
 
 MessagePtr RemoteText::erasure(const Stretch& stretch) const {
@@ -229,22 +292,18 @@ MessagePtr RemoteText::erasure(const Stretch& stretch) const {
   return change;
 }
 
-MessagePtr RemoteText::insertion(std::int64_t position, const std::string& text) const {
+MessagePtr RemoteText::insertion(const Stretch& fresh) const {
   MessagePtr change = request(editableText, "InsertText");
-  append(change.get(), position);
-  append(change.get(), text);
-  append(change.get(), countUnits(text, toolkit_.insertedLength));
+  append(change.get(), fresh.start);
+  append(change.get(), fresh.text);
+  append(change.get(), countUnits(fresh.text, toolkit_.insertedLength));
   return change;
 }
 
-void RemoteText::placeCaretBehind(std::int64_t position, const std::string& text) {
-  if (toolkit_.movesCaret) return;
-  const std::int64_t behind = position + countUnits(text, toolkit_.offset);
-  const auto caret = intProperty(textInterface, "CaretOffset");
-  if (!caret || *caret == behind) return;
+MessagePtr RemoteText::caretChange(std::int64_t position) const {
   MessagePtr change = request(textInterface, "SetCaretOffset");
-  append(change.get(), behind);
-  ask(std::move(change));
+  append(change.get(), position);
+  return change;
 }
 
 std::vector<Answer> RemoteText::carryOut(std::vector<MessagePtr> changes) {

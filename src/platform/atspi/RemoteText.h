@@ -41,8 +41,10 @@ class RemoteText : public RemoteObject {
   };
   Glance glance();
 
-  /// Replaces what was read. `erasedOnly` also when it is not certain that the old text stands as it was.
+  /// Replaces what was read, and leaves the caret behind the new text. `erasedOnly` also when it is not
+  /// certain that the old text stands as it was, and where the new text was taken back for the caret's sake.
   AccessibilityStatus replace(const Stretch& old, const std::string& text);
+  /// With what has been seen of the application since.
   const Toolkit& toolkit() const { return toolkit_; }
 
  private:
@@ -54,16 +56,24 @@ class RemoteText : public RemoteObject {
   /// Where the caret stands behind a letter: no rectangle is to be had where there is no character.
   std::optional<Rect> behind(std::optional<Rect> letter, const std::optional<std::string>& text);
   MessagePtr erasure(const Stretch& stretch) const;
-  MessagePtr insertion(std::int64_t position, const std::string& text) const;
+  MessagePtr insertion(const Stretch& fresh) const;
+  MessagePtr caretChange(std::int64_t position) const;
+  Stretch stretchOf(std::int64_t position, const std::string& text) const;
   AccessibilityStatus erase(const Stretch& old);
   AccessibilityStatus insert(std::int64_t position, const std::string& text);
   AccessibilityStatus eraseAndInsert(const Stretch& old, const std::string& text);
-  bool takesBack(const Stretch& old, const std::string& text);
-  void placeCaretBehind(std::int64_t position, const std::string& text);
+  bool takesBack(const Stretch& old, const Stretch& fresh);
+  /// Inserting, and last what tells where the caret is then.
+  void appendInsertion(std::vector<MessagePtr>& changes, const Stretch& fresh) const;
+  bool isInserted(const Answer& answer, const Stretch& fresh);
+  AccessibilityStatus placeCaretBehind(const Stretch& fresh, const Answer& answer);
+  bool isCaretPutBehind(const Stretch& fresh);
+  /// Undoes what was sent along with an insertion that came to nothing.
+  void returnCaret(std::int64_t position);
   std::vector<Answer> carryOut(std::vector<MessagePtr> changes);
   bool stillHolds(const Stretch& stretch);
 
-  const Toolkit toolkit_;
+  Toolkit toolkit_;
 };
 
 }  // namespace tessarin::atspi

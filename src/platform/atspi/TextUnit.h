@@ -21,7 +21,7 @@ std::string withoutPadding(std::string_view text);
 struct Toolkit {
   TextUnit offset = TextUnit::codePoint;
   TextUnit insertedLength = TextUnit::utf8Byte;
-  /// The caret stands after inserted text by itself.
+  /// Its own texts leave the caret behind what is inserted. One before it is then a foreign widget's.
   bool movesCaret = false;
   /// Its objects may be elements of a web page.
   bool showsWebPages = true;
@@ -31,6 +31,10 @@ struct Toolkit {
   bool pads = false;
   /// Refuses neither erasing nor inserting in an editable text, so that both can be asked for at one go.
   bool changesAtOneGo = false;
+  /// Seen while writing: the caret stays before inserted text, and has to be put behind it.
+  bool leavesCaret = false;
+  /// Seen while writing: nor can it be put there. Nothing can be inserted without spoiling the order.
+  bool keepsCaret = false;
 
   /// `name` and `version` as the application tells them.
   static Toolkit named(std::string_view name, std::string_view version);

@@ -324,6 +324,52 @@ TEST_F(AtspiAccessibilityTest, erasesAndInsertsAtOneGo) {
   }
 }
 
+TEST_F(AtspiAccessibilityTest, putsTheCaretBehindTheTextOrInsertsNoMore) {
+  using Status = AccessibilityStatus;
+  const auto keeps = [](FakeApplication& a) { a.answer("SetCaretOffset", value(false)); };
+  struct Case {
+    const char* name;
+    std::function<void(FakeApplication&)> spoil;
+    Status statuses[2];  ///< of one replacement, and of a second one by an emoji
+    std::u32string text;
+    std::int32_t caret;
+  };
+  const Case cases[] = {
+      {"leaves it", [](auto&) {}, {Status::success, Status::success}, U"é😀 ñ🎉🎉", 6},
+      {"keeps it", keeps, {Status::erasedOnly, Status::failure}, U"é😀 ñ", 4},
+      {"keeps it, and the text",
+       [&](auto& a) {
+         keeps(a);
+         a.answer("GetText", value(":smile"));
+       },
+       {Status::success, Status::failure},
+       U"é😀 ñ🎉",
+       4},
+      {"does not answer",
+       [](auto& a) { a.hold("SetCaretOffset"); },
+       {Status::success, Status::success},
+       U"é😀 ñ🎉🎉",
+       6},
+  };
+  for (const char* toolkit : {"gtk", "Fake"}) {
+    for (const Case& tested : cases) {
+      SCOPED_TRACE(std::string(toolkit) + " " + tested.name);
+      openApplication(toolkit);
+      application->leaveCaret();
+      accessibility->beginBudget(std::chrono::seconds(5));
+      EXPECT_TRUE(read(attribute::value));
+      EXPECT_TRUE(read(attribute::stringForRange, {4, 6}));
+      tested.spoil(*application);
+      EXPECT_EQ(replace({4, 6}, "🎉"), tested.statuses[0]);
+      application->release();
+      EXPECT_TRUE(eventually([&] { return replace({application->caret(), 0}, "🎉") == tested.statuses[1]; }));
+      EXPECT_EQ(application->text(), tested.text);
+      EXPECT_EQ(application->caret(), tested.caret);
+      application.reset();
+    }
+  }
+}
+
 TEST_F(AtspiAccessibilityTest, asksNothingTwiceForOneKey) {
   openApplication("gtk");
   accessibility->beginBudget(std::chrono::seconds(5));
@@ -336,12 +382,13 @@ TEST_F(AtspiAccessibilityTest, asksNothingTwiceForOneKey) {
   for (const char* call : calls) before.push_back(application->calls(call));
   EXPECT_TRUE(read(attribute::value));
   EXPECT_EQ(replace({4, 6}, "🎉"), AccessibilityStatus::success);
+  ++before[3];  // where the caret has come to, asked along with the change
   for (std::size_t i = 0; i < before.size(); ++i)
     EXPECT_EQ(application->calls(calls[i]), before[i]) << calls[i];
 
   EXPECT_TRUE(read(attribute::value));
   application->setText(U"é", 1);
-  EXPECT_EQ(read(attribute::selectedTextRange), AttributeValue(TextRange{10, 0}));
+  EXPECT_EQ(read(attribute::selectedTextRange), AttributeValue(TextRange{5, 0}));
   EXPECT_TRUE(accessibility->pause(std::chrono::milliseconds(1)));
   EXPECT_EQ(read(attribute::selectedTextRange), AttributeValue(TextRange{1, 0})) << "time has passed";
 }

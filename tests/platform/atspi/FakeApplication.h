@@ -214,6 +214,15 @@ class FakeApplication {
     const std::lock_guard lock(mutex_);
     return text_;
   }
+  std::int32_t caret() const {
+    const std::lock_guard lock(mutex_);
+    return caret_;
+  }
+  /// From now on the caret stays before what is inserted at it.
+  void leaveCaret() {
+    const std::lock_guard lock(mutex_);
+    leavesCaret_ = true;
+  }
   /// How many calls of this name, or reads of this property, have come.
   int calls(const std::string& member) const {
     const std::lock_guard lock(mutex_);
@@ -296,7 +305,10 @@ class FakeApplication {
     } else if (member == "InsertText") {
       dbus_message_get_args(call, nullptr, DBUS_TYPE_INT32, &start, DBUS_TYPE_STRING, &text,
                             DBUS_TYPE_INVALID);
-      text_.insert(static_cast<std::size_t>(std::clamp(start, 0, length)), utf32(text));
+      start = std::clamp(start, 0, length);
+      text_.insert(static_cast<std::size_t>(start), utf32(text));
+      const bool isMoved = start < caret_ || (start == caret_ && !leavesCaret_);
+      if (isMoved) caret_ += static_cast<std::int32_t>(utf32(text).size());
       append(reply, true);
     } else if (member == "GetText" || member == "DeleteText") {
       dbus_message_get_args(call, nullptr, DBUS_TYPE_INT32, &start, DBUS_TYPE_INT32, &end, DBUS_TYPE_INVALID);
@@ -305,6 +317,7 @@ class FakeApplication {
       if (member == "GetText")
         return append(reply, utf8(text_.substr(static_cast<std::size_t>(start), count)));
       text_.erase(static_cast<std::size_t>(start), count);
+      if (start < caret_) caret_ = std::max(start, caret_ - static_cast<std::int32_t>(count));
       append(reply, true);
     }
   }
@@ -328,6 +341,7 @@ class FakeApplication {
   std::vector<atspi::MessagePtr> held_;
   std::u32string text_ = U"é😀 ñ:smile";
   std::int32_t caret_ = 10;
+  bool leavesCaret_ = false;
   std::atomic<bool> isStopping_ = false;
   std::thread thread_;
 };
