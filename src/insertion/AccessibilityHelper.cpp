@@ -129,11 +129,17 @@ bool AccessibilityHelper::isPasteFallbackApp() {
   return application && preferences::isPasteFallbackApp(defaults_, application->bundleIdentifier);
 }
 
-bool AccessibilityHelper::isTerminal() {
+PasteChord AccessibilityHelper::pasteChord() {
   const auto application = workspace_.frontmostApplication();
-  if (application && application->isTerminal) return true;
+  const PasteChord known = application ? application->pasteChord : PasteChord::controlV;
+  if (known != PasteChord::controlV) return known;
   const auto element = focusedElement();
-  return element && hasRole(*element, role::terminal);
+  return element && hasRole(*element, role::terminal) ? PasteChord::shiftInsert : known;
+}
+
+bool AccessibilityHelper::isPasteObservable() {
+  const auto application = workspace_.frontmostApplication();
+  return !application || !application->isReadForByAnother;
 }
 
 std::optional<std::int64_t> AccessibilityHelper::caret(const ElementRef& element) {

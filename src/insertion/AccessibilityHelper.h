@@ -50,8 +50,10 @@ class AccessibilityHelper {
   bool hasWebAreaAncestor(const ElementRef& element, int depth);
   /// Whether texts are always pasted into the frontmost application.
   bool isPasteFallbackApp();
-  /// Whether the focus is in a terminal, of its own or inside another application.
-  bool isTerminal();
+  /// What pastes where the focus is: in a terminal, be it one inside another application, or elsewhere.
+  PasteChord pasteChord();
+  /// Whether a paste into the frontmost application shows in who reads the pasteboard.
+  bool isPasteObservable();
 
  private:
   std::optional<ElementRef> focusedElement();

@@ -14,17 +14,16 @@ PasteHelper::~PasteHelper() {
   finish();
 }
 
-void PasteHelper::pasteText(std::int64_t deleteCount, const std::string& text, PasteChord chord,
-                            TextInsertion::Completion done) {
-  if (text.empty()) {
-    erase(deleteCount, std::move(done));
+void PasteHelper::pasteText(const PasteSession::Job& job, TextInsertion::Completion done) {
+  if (job.text.empty()) {
+    erase(job.deleteCount, std::move(done));
     return;
   }
   std::vector<PasteboardLoan*> loans{&general_};
-  if (chord == PasteChord::shiftInsert) loans.push_back(&primary_);
+  if (job.chord == PasteChord::shiftInsert) loans.push_back(&primary_);
   session_ = std::make_shared<PasteSession>(
-      PasteSession::Tools{keyPoster_, queue_, std::move(loans), {&general_, &primary_}},
-      PasteSession::Job{deleteCount, text, chord}, std::move(done));
+      PasteSession::Tools{keyPoster_, queue_, std::move(loans), {&general_, &primary_}}, job,
+      std::move(done));
   session_->start();
 }
 

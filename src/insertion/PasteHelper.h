@@ -33,9 +33,10 @@ class PasteHelper {
   /// One at a time: not before the last `done`. Contents of that paste which have not come back yet then stay
   /// away until this one is over. `done` says inserted as soon as the application has read the text (0.2 s
   /// after the chord if that was before it); of an empty text, when the deletions were made. Otherwise, two
-  /// seconds after the chord, it says erasedOnly (unchanged when there was nothing to erase).
-  void pasteText(std::int64_t deleteCount, const std::string& text, PasteChord chord,
-                 TextInsertion::Completion done);
+  /// seconds after the chord, the shortcode is typed again, an empty text lies on the pasteboard for three
+  /// seconds more, and `done` says unchanged; where it is not typed again, `done` says erasedOnly (unchanged
+  /// when there was nothing to erase).
+  void pasteText(const PasteSession::Job& job, TextInsertion::Completion done);
 
   /// Answers a paste under way as one that did not get there. When its chord has been posted, the text stays
   /// on the pasteboard as long as it would have; otherwise it is broken off, as it would be pasted elsewhere.

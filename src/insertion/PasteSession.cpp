@@ -4,7 +4,9 @@
 #include <chrono>
 #include <utility>
 
+#include "base/Log.h"
 #include "platform/KeyCodes.h"
+#include "text/Graphemes.h"
 
 namespace tessarin {
 namespace {
@@ -18,9 +20,23 @@ constexpr milliseconds shortestLoan{200};  ///< from the chord
 /// Some applications read twice: to see whether there is something to paste, and to paste it.
 constexpr milliseconds settlingOfRead{100};
 constexpr milliseconds longestPasteWait{2000};  ///< for the application to read the text, from the chord
+/// For which an application that wakes and takes up the chord only then finds an empty text.
+constexpr milliseconds longestNap{3000};
 constexpr milliseconds fillingCheck{50};
 /// The chord would paste what the user had copied, where the text is not there yet.
 constexpr milliseconds writeCheck{20};
+
+std::vector<KeyPress> pressesOf(PasteChord chord) {
+  switch (chord) {
+    case PasteChord::controlV:
+      break;
+    case PasteChord::shiftInsert:
+      return {{keycode::insert, keyflag::shift}};
+    case PasteChord::registerPlus:
+      return {{keycode::r, keyflag::control}, {keycode::o, keyflag::control}, {0, 0, "+"}};
+  }
+  return {{keycode::v, keyflag::control}};
+}
 
 }  // namespace
 
@@ -90,9 +106,8 @@ void PasteSession::postPasteKeystroke() {
     });
   }
   isChordPosted_ = true;
-  post({job_.chord == PasteChord::shiftInsert ? KeyPress{keycode::insert, keyflag::shift}
-                                              : KeyPress{keycode::v, keyflag::control}},
-       &PasteSession::chordIsPosted);
+  requestsBeforeChord_ = textRequestCount();
+  post(pressesOf(job_.chord), &PasteSession::chordIsPosted);
 }
 
 void PasteSession::chordIsPosted() {
@@ -165,9 +180,45 @@ void PasteSession::giveUpUnlessRead() {
 
 void PasteSession::stopWaiting() {
   if (isReadOrGivenUp_) return;
+  if (isTypedBack()) return typeBack();
   isReadOrGivenUp_ = true;
   restoreWhenAllowed();
   answerFailure();
+}
+
+// Not where the user has gone elsewhere. Nor where anybody has asked for the text since the chord: some
+// programs read by another connection than the one that has the focus, and the shortcode would stand behind
+// the text.
+bool PasteSession::isTypedBack() const {
+  return done_ && !job_.typed.empty() && (!isChordPosted_ || textRequestCount() == requestsBeforeChord_);
+}
+
+// Typing the text itself would take key codes of other symbols, which programs learn of late, and a line
+// break would run what stands in a shell.
+void PasteSession::typeBack() {
+  for (PasteboardLoan* loan : tools_.loans) {
+    loan->onRead(nullptr);
+    if (loan->isCurrent()) loan->write("");
+  }
+  std::vector<KeyPress> presses;
+  for (std::string left = job_.typed; !left.empty();) {
+    presses.push_back({0, 0, text::firstCharacter(left)});
+    left.erase(0, presses.back().character.size());
+  }
+  post(presses, &PasteSession::shortcodeIsTyped);
+}
+
+void PasteSession::shortcodeIsTyped() {
+  log("PasteHelper", "Nobody took the text: the shortcode has been typed again");
+  isReadOrGivenUp_ = true;
+  after(longestNap, &PasteSession::restoreWhenAllowed);
+  answer(InsertionOutcome::unchanged);
+}
+
+std::int64_t PasteSession::textRequestCount() const {
+  std::int64_t count = 0;
+  for (const PasteboardLoan* loan : tools_.loans) count += loan->textRequestCount();
+  return count;
 }
 
 void PasteSession::restoreWhenAllowed() {
@@ -180,7 +231,8 @@ void PasteSession::restoreWhenAllowed() {
 }
 
 void PasteSession::answerFailure() {
-  answer(job_.deleteCount > 0 ? InsertionOutcome::erasedOnly : InsertionOutcome::unchanged);
+  const bool isErased = job_.deleteCount > 0 || !job_.typed.empty();
+  answer(isErased ? InsertionOutcome::erasedOnly : InsertionOutcome::unchanged);
 }
 
 void PasteSession::answer(InsertionOutcome outcome) {

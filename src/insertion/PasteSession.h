@@ -10,11 +10,9 @@
 #include "platform/KeyPoster.h"
 #include "platform/MainQueue.h"
 #include "platform/TextInsertion.h"
+#include "platform/Workspace.h"
 
 namespace tessarin {
-
-/// Which keys paste: Control-V, or in terminals Shift-Insert.
-enum class PasteChord { controlV, shiftInsert };
 
 /// One paste, from its backspaces until the user's contents are back. Every step is scheduled
 /// on the main queue with a weak owner: letting go of the session ends it where it stands. Main thread.
@@ -24,6 +22,9 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
     std::int64_t deleteCount = 0;
     std::string text;
     PasteChord chord = PasteChord::controlV;
+    /// The shortcode that the text takes the place of, erased by the deletions or before: typed again where
+    /// nobody takes the text. May be empty.
+    std::string typed = {};
   };
   /// Everything that the session works with; must outlive it. `loans` are written, `restored` are all that
   /// are put back at the end.
@@ -62,6 +63,10 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
   void readHasSettled();
   void giveUpUnlessRead();
   void stopWaiting();
+  bool isTypedBack() const;
+  void typeBack();
+  void shortcodeIsTyped();
+  std::int64_t textRequestCount() const;
   void restoreWhenAllowed();
   void answer(InsertionOutcome outcome);
   void post(const std::vector<KeyPress>& presses, void (PasteSession::*next)());
@@ -76,6 +81,7 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
   bool isWritten_ = false;
   int writeChecksLeft_ = 100;
   bool isChordPosted_ = false;
+  std::int64_t requestsBeforeChord_ = 0;
   bool isShortestLoanOver_ = false;
   std::chrono::steady_clock::time_point chordTime_;
   int reads_ = 0;  ///< since the chord

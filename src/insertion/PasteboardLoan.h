@@ -37,6 +37,7 @@ class PasteboardLoan {
   bool hasBeenRead() const { return pasteboard_.hasBeenRead(); }
   ReadManner readManner() const { return pasteboard_.readManner(); }
   std::int64_t requestCount() const { return pasteboard_.requestCount(); }
+  std::int64_t textRequestCount() const { return pasteboard_.textRequestCount(); }
 
   /// The plain text as the user knows it: what will be put back, or what is there.
   std::optional<std::string> userText();

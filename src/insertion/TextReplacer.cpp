@@ -88,17 +88,13 @@ void TextReplacer::pasteInstead(const Job& job, InsertionOutcome soFar) {
   }
   log(replacerComponent, "Falling back to paste method");
   const Pasted pasted{job.text, accessibilityHelper_.caretWithout(isErased ? "" : job.typed)};
-  const auto chord = accessibilityHelper_.isTerminal() ? PasteChord::shiftInsert : PasteChord::controlV;
-  pasteHelper_.pasteText(
-      isErased ? 0 : job.count, job.text, chord,
-      [this, soFar, pasted, alive = std::weak_ptr<char>(alive_)](InsertionOutcome outcome) {
-        if (alive.expired()) return;
-        if (outcome == InsertionOutcome::inserted) {
-          finishOnceArrived(pasted, {});
-        } else {
-          finish(outcome == InsertionOutcome::unchanged ? soFar : outcome);
-        }
-      });
+  const std::string typed = accessibilityHelper_.isPasteObservable() ? job.typed : std::string();
+  pasteHelper_.pasteText({isErased ? 0 : job.count, job.text, accessibilityHelper_.pasteChord(), typed},
+                         [this, pasted, alive = std::weak_ptr<char>(alive_)](InsertionOutcome outcome) {
+                           if (alive.expired()) return;
+                           outcome == InsertionOutcome::inserted ? finishOnceArrived(pasted, {})
+                                                                 : finish(outcome);
+                         });
 }
 
 void TextReplacer::finishOnceArrived(const Pasted& pasted, Looks looks) {

@@ -8,6 +8,8 @@ namespace tessarin {
 /// these; a key that is none of them gets `other` plus a number of the backend's own.
 namespace keycode {
 inline constexpr std::int64_t v = 9;
+inline constexpr std::int64_t r = 15;
+inline constexpr std::int64_t o = 31;
 inline constexpr std::int64_t returnKey = 36;
 inline constexpr std::int64_t tab = 48;
 inline constexpr std::int64_t space = 49;

@@ -2,13 +2,15 @@
 
 #include <cstdint>
 #include <functional>
+#include <string>
 #include <vector>
 
 namespace tessarin {
 
 struct KeyPress {
-  std::int64_t keyCode = 0;  ///< one of deleteBackward, v, insert
-  std::uint64_t flags = 0;   ///< exactly these modifiers, whatever the user is holding
+  std::int64_t keyCode = 0;    ///< one of deleteBackward, v, insert, r, o
+  std::uint64_t flags = 0;     ///< exactly these modifiers, whatever the user is holding
+  std::string character = {};  ///< UTF-8: instead of the above, the key that types this, with what it needs
   bool operator==(const KeyPress&) const = default;
 };
 

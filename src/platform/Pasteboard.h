@@ -59,6 +59,8 @@ class Pasteboard {
   virtual ReadManner readManner() const { return ReadManner::plain; }
   /// How often anybody has asked for what was written last, in any form, or for the list of its forms.
   virtual std::int64_t requestCount() const { return 0; }
+  /// How often anybody, clipboard managers included, has asked for its text.
+  virtual std::int64_t textRequestCount() const { return 0; }
   /// Runs each time that application has read it. One callback at a time; an empty one forgets it.
   virtual void onRead(std::function<void()> callback) = 0;
 };

@@ -9,12 +9,21 @@
 
 namespace tessarin {
 
+/// Which keys paste.
+enum class PasteChord {
+  controlV,
+  shiftInsert,  ///< terminals and Emacs; terminals take the text from PRIMARY
+  registerPlus  ///< Vim, inserting and at its command line: Control-R, Control-O, +
+};
+
 /// A running application as the user knows it.
 struct Application {
   std::string
       bundleIdentifier;  ///< desktop-entry id, or the listed identifier of a known product; may be empty
   std::string name;
-  bool isTerminal = false;  ///< pastes by Shift-Insert
+  PasteChord pasteChord = PasteChord::controlV;
+  /// Another program reads the pasteboard for it (Wine), so nobody can tell whether it has pasted.
+  bool isReadForByAnother = false;
   bool operator==(const Application&) const = default;
 };
 

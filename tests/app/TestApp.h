@@ -58,7 +58,7 @@ class TestApp {
       snippets.push_back({"", "name of " + trigger, trigger, replacement, {}, "Test", true});
     }
     folder.write("emoji-data.json", encodeSnippets(snippets, JsonStyle::compact));
-    workspace.frontmost = Application{"org.example.Editor", "", false};
+    workspace.frontmost = Application{"org.example.Editor", ""};
     tap.onReachedDocument = [this](const KeyEvent& event) { document.type(event); };
     insertion.onInserted = [this](const Replacement& replacement) { document.apply(replacement); };
   }

@@ -18,7 +18,7 @@ struct HelperWorld {
   HelperWorld() {
     accessibility.focus(field);
     field->type("hi :smile");
-    workspace.frontmost = Application{"org.example.Editor", "Editor", false};
+    workspace.frontmost = Application{"org.example.Editor", "Editor"};
   }
 
   InsertionOutcome insert() { return helper.insertText(":smile", 6, "😀"); }
@@ -158,13 +158,12 @@ TEST_F(AccessibilityHelperTest, cannotTellWhereTheTextIsNotReadable) {
   EXPECT_EQ(helper.arrival(":smile", {}), Arrival::busy);
 }
 
-TEST_F(AccessibilityHelperTest, knowsATerminalByApplicationOrRole) {
-  EXPECT_FALSE(helper.isTerminal());
+TEST_F(AccessibilityHelperTest, knowsThePasteChordByApplicationOrTheRoleOfATerminal) {
+  EXPECT_EQ(helper.pasteChord(), PasteChord::controlV);
   setRole(*field, role::terminal);
-  EXPECT_TRUE(helper.isTerminal());
-  setRole(*field, role::textField);
-  workspace.frontmost->isTerminal = true;
-  EXPECT_TRUE(helper.isTerminal());
+  EXPECT_EQ(helper.pasteChord(), PasteChord::shiftInsert);
+  workspace.frontmost->pasteChord = PasteChord::registerPlus;
+  EXPECT_EQ(helper.pasteChord(), PasteChord::registerPlus);
 }
 
 }  // namespace

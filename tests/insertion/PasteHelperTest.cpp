@@ -25,7 +25,10 @@ class PasteHelperTest : public ::testing::Test {
   }
 
   void paste(std::int64_t count, const std::string& text, PasteChord chord = PasteChord::controlV) {
-    helper->pasteText(count, text, chord, [this](InsertionOutcome outcome) { outcomes.push_back(outcome); });
+    paste({count, text, chord});
+  }
+  void paste(const PasteSession::Job& job) {
+    helper->pasteText(job, [this](InsertionOutcome outcome) { outcomes.push_back(outcome); });
   }
   bool isRestored() const { return general.contents() == saved; }
   /// Whether the user's contents come back after this time, and not a millisecond earlier.
@@ -158,6 +161,39 @@ TEST_F(PasteHelperTest, givesUpAfterTwoSeconds) {
   EXPECT_THAT(outcomes, SizeIs(1));
 }
 
+TEST_F(PasteHelperTest, typesTheShortcodeAgainWhereNobodyTakesTheText) {
+  const PasteSession::Job job{2, "x", PasteChord::controlV, ":s"};
+  paste(job);
+  ++general.textRequests;
+  queue.advance(140ms + 1999ms);
+  EXPECT_THAT(outcomes, IsEmpty());
+  queue.advance(1ms);
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::unchanged));
+  ASSERT_THAT(keys.posted, SizeIs(5));
+  EXPECT_EQ(keys.posted[3].press, (KeyPress{0, 0, ":"}));
+  EXPECT_EQ(keys.posted[4].press, (KeyPress{0, 0, "s"}));
+  EXPECT_EQ(general.readByApplication(), "") << "who wakes late finds nothing to paste";
+  EXPECT_EQ(helper->userText(), "user's");
+  EXPECT_TRUE(isRestoredJustAfter(3000ms));
+  paste(job);
+  queue.advance(1000ms);
+  general.copyElsewhere("newer");
+  queue.advance(9999ms);
+  EXPECT_EQ(general.contents(), (Items{{"UTF8_STRING", "newer"}}));
+  general.copyElsewhere(saved);
+
+  for (const bool goesElsewhere : {true, false}) {
+    paste(job);
+    queue.advance(140ms + 1000ms);
+    if (goesElsewhere) helper->stopWaiting();
+    if (!goesElsewhere) ++general.textRequests;
+    queue.advance(1000ms);
+    EXPECT_EQ(outcomes.back(), InsertionOutcome::erasedOnly);
+    EXPECT_TRUE(isRestored());
+    EXPECT_EQ(keys.posted.back().press, controlV);
+  }
+}
+
 TEST_F(PasteHelperTest, restoresWhatAHungOwnerStillDelivered) {
   general.readyAfter = 200ms;
   general.completeAfter = 1000ms;
@@ -211,6 +247,16 @@ TEST_F(PasteHelperTest, pastesInTerminalsFromBothPasteboards) {
   queue.advance(200ms);
   EXPECT_TRUE(isRestored());
   EXPECT_EQ(primary.contents(), selected);
+}
+
+TEST_F(PasteHelperTest, pastesIntoVimFromTheRegisterOfTheClipboard) {
+  paste(0, "x", PasteChord::registerPlus);
+  queue.advance(100ms);
+  std::vector<KeyPress> presses;
+  for (const auto& posted : keys.posted) presses.push_back(posted.press);
+  EXPECT_THAT(presses, ElementsAre(KeyPress{keycode::r, keyflag::control},
+                                   KeyPress{keycode::o, keyflag::control}, KeyPress{0, 0, "+"}));
+  EXPECT_EQ(primary.snapshots, 0);
 }
 
 TEST_F(PasteHelperTest, aSecondPasteKeepsTheFirstsSavedContents) {

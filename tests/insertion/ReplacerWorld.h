@@ -14,7 +14,7 @@ namespace tessarin::testing {
 struct ReplacerWorld {
   ReplacerWorld() {
     accessibility.focus(field);
-    workspace.frontmost = Application{"org.example.Editor", "Editor", false};
+    workspace.frontmost = Application{"org.example.Editor", "Editor"};
     general.copyElsewhere("user's");
   }
   void refuseDirectInsertion() { workspace.frontmost->bundleIdentifier = "org.mozilla.firefox"; }

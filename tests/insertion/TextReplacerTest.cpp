@@ -223,9 +223,14 @@ TEST_F(TextReplacerTest, goesOnAfterAnApplicationThatIgnoresThePaste) {
   replace("first");
   replace("second");
   queue.advance(milliseconds(2220));
-  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::erasedOnly));
+  EXPECT_THAT(outcomes, ElementsAre(InsertionOutcome::unchanged)) << "the shortcode was typed again";
   queue.advance(milliseconds(220));
   EXPECT_EQ(paste(), "second");
+  workspace.frontmost->isReadForByAnother = true;
+  replace("third");
+  const auto typed = countOf(0);
+  queue.advance(milliseconds(9999));
+  EXPECT_EQ(countOf(0), typed) << "it may have been pasted for all we know";
 }
 
 }  // namespace

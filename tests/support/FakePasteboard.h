@@ -44,6 +44,7 @@ class FakePasteboard final : public Pasteboard {
   bool hasBeenRead() const override { return hasBeenRead_; }
   ReadManner readManner() const override { return manner; }
   std::int64_t requestCount() const override { return requests; }
+  std::int64_t textRequestCount() const override { return textRequests; }
   void onRead(std::function<void()> callback) override { onRead_ = std::move(callback); }
 
   /// Another program copies.
@@ -77,6 +78,7 @@ class FakePasteboard final : public Pasteboard {
 
   ReadManner manner = ReadManner::plain;  ///< of the application that reads our text
   std::int64_t requests = 0;
+  std::int64_t textRequests = 0;
 
   int snapshots = 0;
   int stringReads = 0;

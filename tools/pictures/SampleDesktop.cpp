@@ -48,7 +48,7 @@ ui::SettingsServices SampleDesktop::services() {
 
 void SampleDesktop::addApplications() {
   for (const auto& [identifier, info] : installed)
-    workspace.running.push_back({identifier, info.name, false});
+    workspace.running.push_back({identifier, info.name});
 }
 
 void SampleDesktop::addSnippets() {

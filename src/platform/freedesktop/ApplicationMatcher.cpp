@@ -22,6 +22,13 @@ std::optional<std::string> firstListed(std::initializer_list<std::string> names)
   return std::nullopt;
 }
 
+PasteChord chordOf(const WindowIdentity& window, bool isTerminalEmulator) {
+  for (const auto& name : {window.windowClass, window.windowInstance, window.applicationId}) {
+    if (const auto chord = chordOfClass(name)) return *chord;
+  }
+  return isTerminalEmulator ? PasteChord::shiftInsert : PasteChord::controlV;
+}
+
 }  // namespace
 
 std::optional<Application> ApplicationMatcher::applicationOf(const WindowIdentity& window) const {
@@ -38,8 +45,8 @@ std::optional<Application> ApplicationMatcher::applicationOf(const WindowIdentit
           : firstListed({entryId, window.applicationId, window.windowClass, window.windowInstance});
   application.bundleIdentifier = listed.value_or(firstGiven({entryId, ownName}));
   application.name = entry ? entry->name : firstGiven({window.windowClass, ownName});
-  application.isTerminal = (entry && entry->isTerminalEmulator) || isTerminalClass(window.windowClass) ||
-                           isTerminalClass(window.windowInstance) || isTerminalClass(window.applicationId);
+  application.pasteChord = chordOf(window, entry && entry->isTerminalEmulator);
+  application.isReadForByAnother = lowerCase(window.windowClass).ends_with(".exe");
   return application;
 }
 

@@ -179,8 +179,11 @@ std::vector<std::string> namesOfListed(std::string_view identifier) {
   return names;
 }
 
-bool isTerminalClass(std::string_view windowClass) {
-  return std::ranges::binary_search(terminalClasses, lowerCase(windowClass));
+std::optional<PasteChord> chordOfClass(std::string_view windowClass) {
+  const std::string name = lowerCase(windowClass);
+  if (name == "gvim") return PasteChord::registerPlus;
+  const bool isKnown = name == "emacs" || std::ranges::binary_search(terminalClasses, name);
+  return isKnown ? std::optional(PasteChord::shiftInsert) : std::nullopt;
 }
 
 }  // namespace tessarin::freedesktop

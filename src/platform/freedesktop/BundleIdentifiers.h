@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/Workspace.h"
+
 namespace tessarin::freedesktop {
 
 /// The identifier under which the built-in application lists know a product that goes by this desktop-entry
@@ -14,8 +16,9 @@ std::optional<std::string> listedIdentifier(std::string_view name);
 /// The desktop-entry ids under which a product with a listed identifier is installed, the most usual first.
 std::vector<std::string> namesOfListed(std::string_view identifier);
 
-/// Whether windows of this class are those of a terminal emulator, for the many whose desktop entry does not
-/// say so or that have none.
-bool isTerminalClass(std::string_view windowClass);
+/// What pastes in windows of this class. Terminal emulators are known by it as well, for the many whose
+/// desktop entry does not say that they are one or that have none. None where nothing else than usual is
+/// known.
+std::optional<PasteChord> chordOfClass(std::string_view windowClass);
 
 }  // namespace tessarin::freedesktop

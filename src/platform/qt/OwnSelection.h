@@ -28,6 +28,7 @@ class OwnSelection final : public Pasteboard {
   bool hasBeenRead() const override { return pasteboard_.hasBeenRead(); }
   ReadManner readManner() const override { return pasteboard_.readManner(); }
   std::int64_t requestCount() const override { return pasteboard_.requestCount(); }
+  std::int64_t textRequestCount() const override { return pasteboard_.textRequestCount(); }
   void onRead(std::function<void()> callback) override { pasteboard_.onRead(std::move(callback)); }
 
  private:

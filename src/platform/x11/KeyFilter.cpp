@@ -18,6 +18,10 @@ xkb_keysym_t symbolOf(std::int64_t keyCode) {
       return XKB_KEY_BackSpace;
     case keycode::v:
       return XKB_KEY_v;
+    case keycode::r:
+      return XKB_KEY_r;
+    case keycode::o:
+      return XKB_KEY_o;
     case keycode::insert:
       return XKB_KEY_Insert;
     default:
@@ -284,6 +288,7 @@ bool KeyFilter::carryOutPosts() {
 
 void KeyFilter::typeChord(const KeyPress& press) {
   if (!layout_) return;
+  if (!press.character.empty()) return synthetic_.typeCharacter(*layout_, press.character);
   synthetic_.typeChord(*layout_, symbolOf(press.keyCode), modifiersOf(press.flags, layout_->bits()));
 }
 

@@ -154,6 +154,19 @@ std::vector<KeyCombination> KeyboardLayout::combinations(const std::string& text
   return result;
 }
 
+std::optional<TypedKey> KeyboardLayout::keyTyping(const std::string& text, std::uint8_t group) const {
+  const auto groups = static_cast<std::uint8_t>(xkb_keymap_num_layouts(keymap_.get()));
+  const auto found = combinations(text);
+  for (std::uint8_t i = 0; i < groups; ++i) {
+    for (const KeyCombination& combination : found) {
+      const TypedKey key{combination.code, combination.modifiers,
+                         static_cast<std::uint8_t>((group + i) % groups)};
+      if (symbolText(symbol(key)) == text) return key;
+    }
+  }
+  return std::nullopt;
+}
+
 std::optional<std::uint8_t> KeyboardLayout::keyHolding(std::uint8_t modifier) const {
   const auto found = std::ranges::find(held_, modifier);
   if (modifier == 0 || found == held_.end()) return std::nullopt;

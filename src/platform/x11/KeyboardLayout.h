@@ -32,6 +32,8 @@ class KeyboardLayout {
   xkb_keysym_t symbol(const TypedKey& key) const;
   /// Every key and set of modifiers that produces `text` (UTF-8) in some group, without a chord.
   std::vector<KeyCombination> combinations(const std::string& text) const;
+  /// The key and modifiers that type `text`, in `group` if they can, else in another one.
+  std::optional<TypedKey> keyTyping(const std::string& text, std::uint8_t group) const;
   /// The keys that are not only modifiers, locks or media keys.
   const std::vector<std::uint8_t>& typingKeys() const { return typingKeys_; }
   const ModifierBits& bits() const { return bits_; }

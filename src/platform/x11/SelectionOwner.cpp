@@ -47,6 +47,7 @@ bool SelectionOwner::take(std::vector<Representation> contents, TextRead textRea
   textRead_ = std::move(textRead);
   readManner_ = ReadManner::plain;
   requestCount_ = 0;
+  textRequestCount_ = 0;
   expectedClient_ = textRead_ ? focusedClient(thread_.connection(), thread_.screen()->root) : 0;
   xcb_set_selection_owner(thread_.connection(), window_, selection_, time_);
   isOwner_ = isOwnerAtServer();
@@ -107,7 +108,7 @@ void SelectionOwner::handleRequest(const xcb_selection_request_event_t& request)
 bool SelectionOwner::answer(xcb_window_t requestor, xcb_atom_t target, xcb_atom_t property) {
   const auto found = representation(target);
   if (!found) return false;
-  noteManner(target, property);
+  noteRead(target, property);
   transfers_.send(requestor, property, *found, readObserver(requestor, target));
   return true;
 }
@@ -116,9 +117,11 @@ bool SelectionOwner::answer(xcb_window_t requestor, xcb_atom_t target, xcb_atom_
 // and asks for the list of targets once before; the page does when it is given the processor, asks for the
 // list nine times before and three times after, and drops what it has read when the owner has changed in
 // between.
-void SelectionOwner::noteManner(xcb_atom_t target, xcb_atom_t property) {
+void SelectionOwner::noteRead(xcb_atom_t target, xcb_atom_t property) {
   constexpr std::int64_t mostRequestsAhead = 4;
-  if (property != chromium_ || !isTextTarget(atoms_.name(target))) return;
+  if (!isTextTarget(atoms_.name(target))) return;
+  ++textRequestCount_;
+  if (property != chromium_) return;
   readManner_ = requestCount_ > mostRequestsAhead ? ReadManner::checking : ReadManner::ahead;
 }
 

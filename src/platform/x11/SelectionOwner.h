@@ -41,6 +41,7 @@ class SelectionOwner {
   ReadManner readManner() const { return readManner_; }
   /// How often what was taken last has been asked for. Any thread.
   std::int64_t requestCount() const { return requestCount_; }
+  std::int64_t textRequestCount() const { return textRequestCount_; }
 
   /// Requests for, and the loss of, this selection.
   void handle(const xcb_generic_event_t& event);
@@ -53,7 +54,7 @@ class SelectionOwner {
   bool answerMultiple(xcb_window_t requestor, xcb_atom_t property);
   std::optional<Representation> representation(xcb_atom_t target) const;
   Representation targetList() const;
-  void noteManner(xcb_atom_t target, xcb_atom_t property);
+  void noteRead(xcb_atom_t target, xcb_atom_t property);
   TextRead readObserver(xcb_window_t requestor, xcb_atom_t target);
 
   XThread& thread_;
@@ -68,6 +69,7 @@ class SelectionOwner {
   xcb_atom_t chromium_;
   std::atomic<ReadManner> readManner_ = ReadManner::plain;
   std::atomic<std::int64_t> requestCount_ = 0;
+  std::atomic<std::int64_t> textRequestCount_ = 0;
   bool isOwner_ = false;
   xcb_timestamp_t time_ = XCB_CURRENT_TIME;
   std::vector<Representation> contents_;

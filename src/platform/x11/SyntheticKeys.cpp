@@ -76,6 +76,11 @@ void SyntheticKeys::letGoOf(const KeySet& keys) {
   }
 }
 
+void SyntheticKeys::typeCharacter(const KeyboardLayout& layout, const std::string& character) {
+  const KeyboardState now = keyboardState(keyboard_.connection).value_or(KeyboardState{});
+  if (const auto key = layout.keyTyping(character, now.group)) type(layout, *key);
+}
+
 // The server carries out our press at once, so its event bears our request's number, unless a key of the
 // user's froze the keyboard just before: then ours waits behind it and is known by what it is. Two like keys
 // that change places there leave the same text.

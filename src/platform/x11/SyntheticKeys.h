@@ -3,6 +3,7 @@
 #include <xcb/xcb.h>
 
 #include <functional>
+#include <string>
 #include <utility>
 
 #include "platform/x11/ExactModifiers.h"
@@ -34,6 +35,8 @@ class SyntheticKeys {
   void type(const KeyboardLayout& layout, const TypedKey& key);
   /// The same with these modifiers and the locks and the group in effect.
   void typeChord(const KeyboardLayout& layout, xkb_keysym_t symbol, std::uint8_t modifiers);
+  /// The same with what types this character; nothing where no key does.
+  void typeCharacter(const KeyboardLayout& layout, const std::string& character);
   /// Keeps everything that has come; of a great deal, it takes the whole keyboard.
   void takeIn();
   /// To be called when keys were let go of anywhere.

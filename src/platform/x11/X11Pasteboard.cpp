@@ -140,6 +140,10 @@ std::int64_t X11Pasteboard::requestCount() const {
   return channel_->owner().requestCount();
 }
 
+std::int64_t X11Pasteboard::textRequestCount() const {
+  return channel_->owner().textRequestCount();
+}
+
 void X11Pasteboard::onRead(std::function<void()> callback) {
   read_->callback = std::move(callback);
 }

@@ -32,6 +32,7 @@ class X11Pasteboard final : public Pasteboard {
   bool hasBeenRead() const override;
   ReadManner readManner() const override;
   std::int64_t requestCount() const override;
+  std::int64_t textRequestCount() const override;
   void onRead(std::function<void()> callback) override;
 
  private:

@@ -48,7 +48,7 @@ TEST_F(ApplicationMatcherTest, FindsTheApplicationOfAWindow) {
     const char* name;
     WindowIdentity window;
     const char* identifier;
-    bool isTerminal = false;
+    PasteChord chord = PasteChord::controlV;
   } cases[] = {
       {"application id", {"org.example.Editor", "Other", "other", ""}, "org.example.Editor"},
       {"startup class", {"", "Office-Writer", "soffice", ""}, "writer"},
@@ -59,16 +59,19 @@ TEST_F(ApplicationMatcherTest, FindsTheApplicationOfAWindow) {
       {"listed by id", {"", "firefox-esr", "Navigator", ""}, "org.mozilla.firefox"},
       {"browser", {"", "Google-chrome", "google-chrome", ""}, "com.google.Chrome"},
       {"web application", {"", "Google-chrome", "crx_notes", ""}, "chrome-notes-Default"},
-      {"terminal", {"", "XTerm", "xterm", ""}, "debian-xterm", true},
-      {"unknown terminal", {"", "UXTerm", "uxterm", ""}, "UXTerm", true},
-      {"terminal by category", {"", "some-terminal", "x", ""}, "some-terminal", true},
-      {"listed terminal", {"", "kitty", "kitty", ""}, "net.kovidgoyal.kitty", true},
+      {"terminal", {"", "XTerm", "xterm", ""}, "debian-xterm", PasteChord::shiftInsert},
+      {"unknown terminal", {"", "UXTerm", "uxterm", ""}, "UXTerm", PasteChord::shiftInsert},
+      {"terminal by category", {"", "some-terminal", "x", ""}, "some-terminal", PasteChord::shiftInsert},
+      {"listed terminal", {"", "kitty", "kitty", ""}, "net.kovidgoyal.kitty", PasteChord::shiftInsert},
+      {"Emacs", {"", "Emacs", "emacs", ""}, "Emacs", PasteChord::shiftInsert},
+      {"Vim", {"", "Gvim", "gvim", ""}, "Gvim", PasteChord::registerPlus},
   };
-  for (const auto& [name, window, identifier, isTerminal] : cases) {
+  for (const auto& [name, window, identifier, chord] : cases) {
     SCOPED_TRACE(name);
     EXPECT_EQ(identifierOf(window), identifier);
-    EXPECT_EQ(matcher.applicationOf(window).value_or(Application{}).isTerminal, isTerminal);
+    EXPECT_EQ(matcher.applicationOf(window).value_or(Application{}).pasteChord, chord);
   }
+  EXPECT_TRUE(matcher.applicationOf({"", "Notepad.exe", "notepad.exe", ""})->isReadForByAnother);
 }
 
 TEST_F(ApplicationMatcherTest, NoticesWhatIsInstalledAndRemovedLater) {

@@ -113,8 +113,8 @@ TEST_F(X11WorkspaceTest, ListsEachApplicationOfTheTaskBarOnce) {
   session.show("Popup", {.isOverrideRedirect = true});
   EXPECT_TRUE(session.waitFor([&] { return session.workspace->runningApplications().size() == 2; }));
   EXPECT_THAT(session.workspace->runningApplications(),
-              UnorderedElementsAre(Application{"one", "Number One", false},
-                                   Application{"org.mozilla.firefox", "firefox", false}));
+              UnorderedElementsAre(Application{"one", "Number One"},
+                                   Application{"org.mozilla.firefox", "firefox"}));
 }
 
 class PointerPress : public X11WorkspaceTest {
