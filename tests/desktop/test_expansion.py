@@ -8,7 +8,7 @@ import time
 import unittest
 
 from desktop_test import DesktopTest
-from editors import ALL, Featherpad, Firefox, GnomeTextEditor, Mousepad, Xterm, clipboard, set_clipboard
+from editors import ALL, Featherpad, Firefox, GnomeTextEditor, Mousepad, Shell, Xterm, clipboard, set_clipboard
 from session import Session, Tessarin, wait_for
 from typist import Typist
 
@@ -65,6 +65,13 @@ class InEveryProgram(DesktopTest):
                         break
                 else:
                     self.fail(f"never: {line}")
+
+
+class InAShell(DesktopTest):
+    def test_nothing_is_erased_once_the_caret_has_moved(self):
+        with Shell(self.session, self.typist) as shell:
+            self.check(shell, ["abc:smi", lambda _: self.wait_for_popup(), key("Left"), "\nx"], "abc:smxi")
+            self.check(shell, ["a:smile\nb"], "a😄b")
 
 
 class WithThePointer(DesktopTest):

@@ -15,7 +15,7 @@ import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools/desktop"))
 
-from editors import ALL, Chromium, Firefox
+from editors import ALL, Chromium, Firefox, Geany, Scite
 from session import Session, Tessarin
 from typist import Typist
 
@@ -69,7 +69,7 @@ def expand(program, pause=0.0, disturbance=lambda editor: contextlib.nullcontext
 
 class Speed(unittest.TestCase):
     maxDiff = 2000
-    programs = (*ALL, Firefox, Chromium)
+    programs = (*ALL, Firefox, Chromium, Geany, Scite)
 
     def check(self, program, expected, found, log):
         with self.subTest(program=program.__name__):

@@ -7,7 +7,7 @@ import time
 import unittest
 
 from long_test import EXPANSIONS, LEFT, DesktopTest
-from editors import Featherpad, GnomeTextEditor, Mousepad, Xterm, clipboard, set_clipboard
+from editors import DeafXterm, Emacs, Featherpad, GnomeTextEditor, Gvim, Mousepad, Xterm, clipboard, set_clipboard
 from session import wait_for
 from typist import Typist
 
@@ -52,6 +52,32 @@ class Modifiers(DesktopTest):
                     with self.subTest(program=program.__name__, held=name):
                         self.check(editor, ["x", *steps, "y "], "x😄y ")
                         self.assertEqual(self.modifiers_down(), 0)
+
+
+class OtherPasteKeys(DesktopTest):
+    def test_programs_with_keys_of_their_own(self):
+        for program in (Gvim, Emacs):
+            with self.subTest(program=program.__name__), program(self.session, self.typist) as editor:
+                self.check(editor, [EXPANSIONS * 10], LEFT * 10, seconds=60)
+
+    def test_what_nobody_takes_is_typed_again(self):
+        """Be it that the program does not paste, or that it wakes too late; neither gets what the user had copied."""
+        owners = [set_clipboard(self.session, b"copied", selection=name) for name in ("clipboard", "primary")]
+        for program, hangs in ((DeafXterm, False), (Xterm, True)):
+            with self.subTest(program=program.__name__), program(self.session, self.typist) as editor:
+                self.play(["a:SmiL"])
+                wait_for(self.typist.popup, what="the popup")
+                before = self.tessarin.log.count("typed again")
+                if hangs:
+                    os.kill(editor.pid, signal.SIGSTOP)
+                self.play(["\tb"])
+                self.tessarin.wait_for_log("typed again", before + 1)
+                os.kill(editor.pid, signal.SIGCONT)
+                self.assertEqual(editor.wait_for_document("a:SmiLb"), "a:SmiLb")
+                for name in ("clipboard", "primary"):
+                    wait_for(lambda: clipboard(self.session, selection=name) == b"copied", what=f"{name} to come back")
+        for owner in owners:
+            self.session.stop(owner)
 
 
 class Trouble(DesktopTest):

@@ -106,6 +106,26 @@ class Featherpad(Editor):
     settings = {"featherpad/fp.conf": "[text]\nappendEmptyLine=false\n"}
 
 
+class Geany(Editor):
+    command = ("geany", "--new-instance", "--no-session", "--no-msgwin", "--no-terminal", "--no-plugins", "--no-ctags")
+
+    def __enter__(self):
+        settings = pathlib.Path(self.session.env["XDG_CONFIG_HOME"]) / "geany/geany.conf"
+        settings.parent.mkdir(exist_ok=True)
+        settings.write_text("[geany]\npref_editor_new_line=false\n")
+        return super().__enter__()
+
+
+class Scite(Editor):
+    """The other well-known program around the Scintilla widget."""
+
+    command = ("scite",)
+
+    def __enter__(self):
+        (pathlib.Path(self.session.env["HOME"]) / ".SciTEUser.properties").write_text("code.page=65001\n")
+        return super().__enter__()
+
+
 class Xterm(Editor):
     """A terminal that copies its lines into a file; where the lines end does not count."""
 
@@ -125,6 +145,31 @@ class Xterm(Editor):
     def wait_for_document(self, expected, seconds=20.0):
         self.save()
         return super().wait_for_document(expected, seconds)
+
+
+class Shell(Xterm):
+    """The same with lines that can be edited."""
+
+    command = (*Xterm.command[:-3], "bash", "-c", 'while read -er line; do echo "$line" >> "$0"; done')
+
+
+class DeafXterm(Xterm):
+    """One that does not paste by keys."""
+
+    command = (Xterm.command[0], "-xrm", "*VT100.translations: #override Shift<Key>Insert: ignore()", *Xterm.command[1:])
+
+
+class Gvim(Editor):
+    """Inserting, with the keys that the others know for saving and selecting all."""
+
+    command = ("gvim", "-f", "-c", "startinsert", "-c", "inoremap <C-S> <Cmd>silent write<CR>", "-c",
+               "inoremap <C-A> <Cmd>%delete<CR>")
+
+
+class Emacs(Editor):
+    command = ("emacs", "-Q", "--eval", """(progn (setq mode-require-final-newline nil)
+        (global-set-key (kbd "C-s") 'save-buffer)
+        (global-set-key (kbd "C-a") (lambda () (interactive) (erase-buffer))))""")
 
 
 class Page(http.server.ThreadingHTTPServer):
