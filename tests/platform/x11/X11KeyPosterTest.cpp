@@ -26,12 +26,14 @@ TEST(X11KeyPoster, PressesInOrderWithExactlyTheModifiersGiven) {
     typist.type("<1><2><+Shift_R>");
     ASSERT_TRUE(queue.runUntil([&] { return !document.text().empty() && document.presses() == 3; }));
     const std::string expected =
-        text::withoutLastCharacter(document.text()) + "P<Shift-Insert><Control-Shift-BackSpace>";
+        text::withoutLastCharacter(document.text()) + "P<Shift-Insert><Control-Shift-BackSpace>:S";
     bool isMade = false;
     poster.post({{keycode::deleteBackward, 0},
                  {keycode::v, keyflag::control},
                  {keycode::insert, keyflag::shift},
-                 {keycode::deleteBackward, keyflag::control | keyflag::shift}},
+                 {keycode::deleteBackward, keyflag::control | keyflag::shift},
+                 {0, 0, ":"},
+                 {0, 0, "S"}},
                 [&isMade] { isMade = true; });
     EXPECT_TRUE(queue.runUntil([&] { return document.text() == expected; })) << document.text();
     EXPECT_TRUE(queue.runUntil([&] { return isMade; }));

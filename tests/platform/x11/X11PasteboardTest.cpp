@@ -253,6 +253,7 @@ TEST_F(X11PasteboardTest, CountsOnlyTheFocusedProgramReadingTheText) {
   peer().targets("CLIPBOARD");
   peer().read("CLIPBOARD", "x-kde-passwordManagerHint");
   EXPECT_FALSE(hasBeenRead());
+  EXPECT_EQ(pasteboard().textRequestCount(), 1) << "the other's, of the text";
   peer().read("CLIPBOARD", "text/plain");
   EXPECT_TRUE(becomesRead());
   EXPECT_EQ(told, 1) << "of the latest text";

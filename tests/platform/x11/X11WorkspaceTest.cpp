@@ -112,9 +112,9 @@ TEST_F(X11WorkspaceTest, ListsEachApplicationOfTheTaskBarOnce) {
   session.show("Hidden", {.skipsTaskBar = true});
   session.show("Popup", {.isOverrideRedirect = true});
   EXPECT_TRUE(session.waitFor([&] { return session.workspace->runningApplications().size() == 2; }));
-  EXPECT_THAT(session.workspace->runningApplications(),
-              UnorderedElementsAre(Application{"one", "Number One"},
-                                   Application{"org.mozilla.firefox", "firefox"}));
+  EXPECT_THAT(
+      session.workspace->runningApplications(),
+      UnorderedElementsAre(Application{"one", "Number One"}, Application{"org.mozilla.firefox", "firefox"}));
 }
 
 class PointerPress : public X11WorkspaceTest {
