@@ -102,10 +102,8 @@ TEST_F(AppListSettingsTabTest, addsWhatIsTyped) {
 
 TEST_F(AppListSettingsTabTest, offersTheRunningApplicationsThatAreNotListed) {
   const std::string builtIn = *preferences::defaultBlockedApps().begin();
-  workspace.running = {{"org.example.b", "beta", false},
-                       {builtIn, "Listed", false},
-                       {"org.example.a", "Alpha", false},
-                       {"", "Nameless", false}};
+  workspace.running = {
+      {"org.example.b", "beta"}, {builtIn, "Listed"}, {"org.example.a", "Alpha"}, {"", "Nameless"}};
   open();
   EXPECT_THAT(offered(), ElementsAre("Alpha", "beta"));
   click("Add Alpha");
@@ -120,7 +118,7 @@ TEST_F(AppListSettingsTabTest, offersTheRunningApplicationsThatAreNotListed) {
 
 TEST_F(AppListSettingsTabTest, theKeyboardStaysInItsPlaceWhenItsRowGoes) {
   defaults.set("blacklistedApps", std::vector<std::string>{"org.example.a", "org.example.b"});
-  workspace.running = {{"org.example.c", "Gamma", false}, {"org.example.d", "Delta", false}};
+  workspace.running = {{"org.example.c", "Gamma"}, {"org.example.d", "Delta"}};
   openFocused();
   for (int time = 0; time < 3; ++time) press(Qt::Key_Tab);
   for (const char* name : {"Remove org.example.a", "Remove org.example.b", "Remove com.tinyspeck.slackmacgap",

@@ -43,7 +43,7 @@ TEST_F(SettingsWindowTest, opensOnTheFirstOfItsTabsUnlessItIsOpenUntilKeysCloseI
 }
 
 TEST_F(SettingsWindowTest, everythingThatTakesTheKeyboardHasAName) {
-  workspace.running = {{"org.example.a", "Alpha", false}};
+  workspace.running = {{"org.example.a", "Alpha"}};
   store->addSnippet(mine("one"));
   settings.open();
   for (int index = 0; index < tabs()->count(); ++index) {
