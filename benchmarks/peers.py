@@ -17,6 +17,7 @@ LIST = (4, 4, 200, 20)  # a part of the list that shows what was typed
 
 class Ours:
     name = "Tessarin"
+    trigger = ":"
     confirming = ("Return", ":")
     has_list = True
     text = "😄"
@@ -36,6 +37,7 @@ class Fcitx:
     """Quick phrases, opened by the same trigger."""
 
     name = "fcitx5"
+    trigger = ":"
     confirming = ("space",)
     has_list = True
     text = "😃"  # its own word for it
@@ -67,13 +69,15 @@ class AutoKey:
     """A phrase for the whole shortcode, pasted as soon as its last character is typed. It has no list."""
 
     name = "AutoKey"
-    confirming = (":",)
+    # It learns of Shift on a way of its own, and takes ":" for ";" where that is the slower one.
+    trigger = ";"
+    confirming = (";",)
     has_list = False
     text = "😄"
 
     PHRASE = {
         "type": "phrase", "usageCount": 0, "omitTrigger": False, "prompt": False, "description": "smile",
-        "abbreviation": {"wordChars": "[^\\s]", "abbreviations": [f":{SHORTCODE}:"], "immediate": True,
+        "abbreviation": {"wordChars": "[^\\s]", "abbreviations": [f";{SHORTCODE};"], "immediate": True,
                          "ignoreCase": False, "backspace": True, "triggerInside": True},
         "hotkey": {"hotKey": None, "modifiers": []}, "modes": [1], "showInTrayMenu": False, "matchCase": False,
         "filter": {"regex": None, "isRecursive": False}, "sendMode": "<ctrl>+v",
@@ -140,7 +144,7 @@ class Turn:
 
     def _expand(self, key, pause):
         """Seconds from the confirming key to the text."""
-        self._typist.type("x:" + SHORTCODE, pause)
+        self._typist.type(f"x{self._peer.trigger}{SHORTCODE}", pause)
         time.sleep(PAUSE_AT_200_WORDS_A_MINUTE)
         self._stopwatch.clear()
         begin = self._stopwatch.press(key)
@@ -198,7 +202,7 @@ def against_peers(table, turns, rounds, expansions):
             Turn(peer, figures).run(rounds, reached)
     for ours, what, goal, others in (("list", "first letter → list", "≤ 1.0", (("list", "fcitx5"),)),
                                      ("Return", "Return → text", "≤ 1.0", (("space", "fcitx5"),)),
-                                     (":", ": → text", "≤ 1.0", (("space", "fcitx5"), (":", "AutoKey")))):
+                                     (":", ": → text", "≤ 1.0", (("space", "fcitx5"), (";", "AutoKey")))):
         for key, name in others:
             table.compare(f"{what}, against {name}", goal, figures.get((ours, "Tessarin"), []), figures.get((key, name), []),
                           ("Tessarin", name))
