@@ -1,6 +1,5 @@
 """Proportional memory (PSS), whole and by kind."""
 
-import os
 import pathlib
 import re
 
@@ -31,14 +30,15 @@ def mappings(pid):
 
 
 def processes(pid):
-    """A program and what it started: all of its session."""
+    """A program and what it started: the rest of its session, and children in sessions of their own."""
     for folder in pathlib.Path("/proc").iterdir():
         if folder.name.isdigit():
             try:
-                if os.getsid(int(folder.name)) == pid:
-                    yield int(folder.name)
-            except ProcessLookupError:
-                pass
+                parent, _, session = (folder / "stat").read_text().rpartition(")")[2].split()[1:4]
+            except (FileNotFoundError, ProcessLookupError):
+                continue
+            if str(pid) in (folder.name, parent, session):
+                yield int(folder.name)
 
 
 def proportional_megabytes(pid):
