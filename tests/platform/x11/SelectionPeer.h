@@ -14,7 +14,7 @@
 
 namespace tessarin::testing {
 
-constexpr std::chrono::seconds patience{10};
+constexpr std::chrono::seconds patience{30};
 
 inline x11::XThread& running(const std::unique_ptr<x11::XThread>& thread) {
   if (!thread) throw std::runtime_error("no display");
