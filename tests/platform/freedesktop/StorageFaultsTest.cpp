@@ -197,6 +197,8 @@ struct Progress {
   std::atomic<int> snippets{0};
   std::atomic<int> counts{0};
   std::atomic<int> preferences{0};
+
+  int saves() const { return snippets + 2 * counts + preferences; }
 };
 
 /// One number after the other into every file, going on where the disk says that the last one stopped. The
@@ -230,10 +232,15 @@ struct KillSaves : ::testing::Test {
   }
   void TearDown() override { ::munmap(progress, sizeof(Progress)); }
 
-  void saveAndKill(std::chrono::microseconds after) const {
+  /// Kills it so many saves and so much time after it has begun.
+  void saveAndKill(int saves, std::chrono::microseconds after) const {
+    const int enough = progress->saves() + saves;
     const pid_t child = ::fork();
     ASSERT_GE(child, 0);
     if (child == 0) saveForEver(folder.path(), *progress);
+    while (progress->saves() < enough && ::waitpid(child, nullptr, WNOHANG) == 0) {
+      std::this_thread::sleep_for(std::chrono::microseconds(200));
+    }
     std::this_thread::sleep_for(after);
     ::kill(child, SIGKILL);
     ::waitpid(child, nullptr, 0);
@@ -275,14 +282,15 @@ TEST_F(KillSaves, AtAnyMomentLeavesEveryFileWholeAndTheLatestOrTheOneBefore) {
   const unsigned seed = std::random_device()();
   SCOPED_TRACE("seed " + std::to_string(seed));
   std::mt19937 random(seed);
-  const auto saves = [&] { return progress->snippets + 2 * progress->counts + progress->preferences; };
+  const auto atMost = [&random](int most) { return std::uniform_int_distribution(0, most)(random); };
   int kills = 0;
-  while (saves() < 2000 && !HasFailure()) {
-    saveAndKill(std::chrono::microseconds(std::uniform_int_distribution(0, 30'000)(random)));
+  while (progress->saves() < 2000 && !HasFailure()) {
+    saveAndKill(atMost(12), std::chrono::microseconds(atMost(10'000)));
     checkFiles();
     ++kills;
   }
-  std::printf("%d saves, %d kills, %d of them in the middle of a save\n", saves(), kills, interrupted);
+  std::printf("%d saves, %d kills, %d of them in the middle of a save\n", progress->saves(), kills,
+              interrupted);
   EXPECT_GT(interrupted, 0) << "none was interrupted";
 }
 
