@@ -2,11 +2,13 @@
 """Measures the program and prints the table of figures: ratios to what is measured in turn with it first, milliseconds
 beside them. Nothing is asserted here.
 
-  benchmarks/figures.py             everything
-  benchmarks/figures.py PART...     some of: library, start, keys, peers, memory, busy
+  benchmarks/figures.py                        everything, five times over
+  benchmarks/figures.py [--runs N] PART...     some of: library, start, keys, peers, memory, busy
 """
 
+import argparse
 import contextlib
+import itertools
 import json
 import os
 import pathlib
@@ -49,7 +51,8 @@ def library(table):
             for counter in ("p50_us", "p99_us", "worst_us", "p99_ms", "max_ms"):
                 if counter in row:
                     worst[counter] = max(worst.get(counter, 0.0), row[counter])
-        table.add(what, target, ", ".join(f"{name[:-3]} {value:.4g} {name[-2:].replace('u', 'µ')}" for name, value in worst.items()))
+        table.add(what, target, ", ".join(f"{name[:-3]} {value:.4g} {name[-2:].replace('u', 'µ')}" for name, value in worst.items()),
+                  size=sum(worst.values()))
 
 
 def seconds_to_line(session, line, *command):
@@ -71,10 +74,10 @@ def start(table, runs=10):
     later = (statistics.median(ours) - statistics.median(bare)) * 1000
     table.add("program start → ready, against a bare tray program", "≤ +40 ms; ≤ 100 ms", f"{later:+.0f} ms",
               f"median {statistics.median(ours) * 1000:.0f}, worst {max(ours) * 1000:.0f} ms; "
-              f"bare {statistics.median(bare) * 1000:.0f}, worst {max(bare) * 1000:.0f} ms")
+              f"bare {statistics.median(bare) * 1000:.0f}, worst {max(bare) * 1000:.0f} ms", later)
 
 
-def keys(table, rounds=60, turns=3):
+def keys(table, rounds=30, turns=2):
     with Session() as session:
         typist = Typist(session)
         with Tessarin(session):
@@ -85,7 +88,7 @@ def keys(table, rounds=60, turns=3):
 
 
 def peers(table):
-    against_peers(table, turns=3, rounds=12, expansions=(60, 1000))
+    against_peers(table, rounds=12, expansions=60)
 
 
 def memory(table, expansions=1000):
@@ -101,7 +104,7 @@ def memory(table, expansions=1000):
                 marks.append(tessarin.resident_kilobytes() / 1024)
             tell_kinds(table, tessarin.pid, "after 1,000 expansions")
             table.add("resident memory after 1,000 expansions", "≤ 40 MB, flat",
-                      f"{marks[-1]:.1f} MB", f"after 100: {marks[0]:.1f}")
+                      f"{marks[-1]:.1f} MB", f"after 100: {marks[0]:.1f}", marks[-1])
             wake_ups(table, tessarin)
         typist.close()
 
@@ -118,7 +121,8 @@ def wake_ups(table, tessarin, seconds=20):
     time.sleep(2)
     before = switches(tessarin.pid)
     time.sleep(seconds)
-    table.add("wake-ups when idle", "at most 1 a second", f"{(switches(tessarin.pid) - before) / seconds:.2f} a second")
+    often = (switches(tessarin.pid) - before) / seconds
+    table.add("wake-ups when idle", "at most 1 a second", f"{often:.2f} a second", size=often)
 
 
 @contextlib.contextmanager
@@ -135,7 +139,7 @@ def processes_that_never_rest(count):
 def busy(table):
     table.remark = " (busy)"
     with processes_that_never_rest(2):
-        keys(table, rounds=30, turns=2)
+        keys(table, rounds=15, turns=1)
     table.remark = ""
 
 
@@ -143,12 +147,18 @@ PARTS = {"library": library, "start": start, "keys": keys, "peers": peers, "memo
 
 
 def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--runs", type=int, default=5)
+    parser.add_argument("parts", nargs="*", metavar="PART")
+    chosen = parser.parse_args()
+    if unknown := set(chosen.parts) - set(PARTS):
+        parser.error(f"no such part: {', '.join(unknown)}")
     table = Table()
     print(f"Measuring; this takes some minutes. Processes waiting for a processor: {os.getloadavg()[0]:.1f}", flush=True)
-    for part in sys.argv[1:] or PARTS:
+    for run, part in itertools.product(range(chosen.runs), chosen.parts or PARTS):
         begin = time.monotonic()
         PARTS[part](table)
-        print(f"  ({part}: {time.monotonic() - begin:.0f} s)", flush=True)
+        print(f"  (run {run + 1}, {part}: {time.monotonic() - begin:.0f} s)", flush=True)
     table.show()
     print("\n“(busy)”: beside two processes that never rest. Processes waiting for a processor at the end: "
           f"{os.getloadavg()[0]:.1f}")

@@ -86,7 +86,8 @@ def popup_against_letter(session, typist, table, rounds):
         pairs = [pair for run in runs for pair in run[part] if pair]
         later = [popup - letter for popup, letter in pairs]
         table.add(f"popup against the letter on screen, {what}", "p50 ≤ 0, p95 ≤ 8 ms later", "later by " + milliseconds(later),
-                  f"popup {milliseconds([pair[0] for pair in pairs])}; letter {milliseconds([pair[1] for pair in pairs])}")
+                  f"popup {milliseconds([pair[0] for pair in pairs])}; letter {milliseconds([pair[1] for pair in pairs])}",
+                  percentile(later, 0.95))
 
 
 class Replacement:
@@ -175,7 +176,7 @@ def delay_of_passed_keys(session, typist, table, turns, words=12):
     stopwatch.close()
     for name in pauses:
         typed, bare = times[name, "with"], times[name, "without"]
-        added = ", ".join(f"p{share * 100:.0f} {(percentile(typed, share) - percentile(bare, share)) * 1000:+.2f}"
-                          for share in (0.50, 0.95, 0.99))
-        table.add(f"passed key against no program, {name}", "p99 ≤ +1 ms", added + " ms",
-                  f"with {milliseconds(typed)}; without {milliseconds(bare)}")
+        added = {share: (percentile(typed, share) - percentile(bare, share)) * 1000 for share in (0.50, 0.95, 0.99)}
+        table.add(f"passed key against no program, {name}", "p99 ≤ +1 ms",
+                  ", ".join(f"p{share * 100:.0f} {more:+.2f}" for share, more in added.items()) + " ms",
+                  f"with {milliseconds(typed)}; without {milliseconds(bare)}", added[0.99])

@@ -58,5 +58,6 @@ def by_kind(pid):
 
 
 def tell_kinds(table, pid, when):
-    table.add(f"PSS by kind, {when}", "", f"{proportional_megabytes(pid):.1f} MB",
-              ", ".join(f"{kind} {size:.1f}" for kind, size in by_kind(pid)))
+    whole = proportional_megabytes(pid)
+    table.add(f"PSS by kind, {when}", "", f"{whole:.1f} MB",
+              ", ".join(f"{kind} {size:.1f}" for kind, size in by_kind(pid)), whole)

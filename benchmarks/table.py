@@ -19,25 +19,32 @@ def ratios(values, others, shares=(0.50, 0.95)):
 
 
 class Table:
-    """Rows are shown as soon as they are known, and all together at the end."""
+    """Rows are shown as soon as they are known; at the end each once, with the middle one and the worst of all runs."""
 
     def __init__(self):
-        self._rows = []
+        self._rows = {}
         self.remark = ""
 
-    def add(self, what, goal, figure, beside=""):
+    def add(self, what, goal, figure, beside="", size=0.0):
+        """`size` is what runs are compared by; the largest is the worst."""
         what += self.remark
-        self._rows.append((what, goal, figure, beside))
+        self._rows.setdefault((what, goal), []).append((size, figure, beside))
         print(f"  {what}: {figure}   {beside}", flush=True)
 
     def compare(self, what, goal, values, others, names):
         """Times against those of something else that were measured in turn with them."""
+        is_seen = bool(values and others)
         self.add(what, goal, ratios(values, others),
-                 "; ".join(f"{name} {milliseconds(some)}" for name, some in zip(names, (values, others)) if some))
+                 "; ".join(f"{name} {milliseconds(some)}" for name, some in zip(names, (values, others)) if some),
+                 percentile(values, 0.95) / percentile(others, 0.95) if is_seen else float("inf"))
 
     def show(self):
-        head = ("what", "to reach", "measured", "beside it")
-        widths = [max(len(row[column]) for row in [*self._rows, head]) for column in range(4)]
+        rows = [("what", "to reach", "middle", "worst", "beside the worst")]
+        for (what, goal), runs in self._rows.items():
+            ordered = sorted(runs)
+            _, figure, beside = ordered[-1]
+            rows.append((what, goal, ordered[len(ordered) // 2][1], figure, f"{beside} ({len(runs)} runs)"))
+        widths = [max(len(row[column]) for row in rows) for column in range(5)]
         print()
-        for row in [head, *self._rows]:
+        for row in rows:
             print("  ".join(f"{cell:{width}}" for cell, width in zip(row, widths)).rstrip())
