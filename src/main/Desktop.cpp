@@ -27,12 +27,6 @@ void sayWhatIsMissing(KeyTapState state) {
   }
 }
 
-x11::X11Keyboard::Options keyboardOptions() {
-  x11::X11Keyboard::Options options;
-  options.watcher = helperProgram(std::filesystem::canonical("/proc/self/exe"), "tessarin-keywatch").string();
-  return options;
-}
-
 std::shared_ptr<const freedesktop::ApplicationMatcher> applicationMatcher() {
   return std::make_shared<freedesktop::ApplicationMatcher>(std::make_shared<freedesktop::DesktopEntries>(
       freedesktop::applicationFolders(processEnvironment),
@@ -102,6 +96,15 @@ void Desktop::shutdown() {
   pasteHelper_.finish();
   if (selections_) selections_->shutdown("/proc/self/exe");
   saveWhatIsMissing();
+}
+
+x11::X11Keyboard::Options Desktop::keyboardOptions() {
+  x11::X11Keyboard::Options options;
+  options.watcher = helperProgram(std::filesystem::canonical("/proc/self/exe"), "tessarin-keywatch").string();
+  options.watcherStarted = [this](pid_t watcher) {
+    queue_.async([this, watcher] { controlGroups_.separate(watcher); });
+  };
+  return options;
 }
 
 atspi::AtspiAccessibility::Options Desktop::accessibilityOptions() {

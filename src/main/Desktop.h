@@ -18,6 +18,7 @@
 #include "platform/freedesktop/TrustRecord.h"
 #include "platform/none/NoPasteboard.h"
 #include "platform/none/NoWorkspace.h"
+#include "platform/qt/ControlGroups.h"
 #include "platform/qt/OwnSelection.h"
 #include "platform/qt/OwnWindowsAccessibility.h"
 #include "platform/qt/QtMainQueue.h"
@@ -64,6 +65,7 @@ class Desktop {
   void shutdown();
 
  private:
+  x11::X11Keyboard::Options keyboardOptions();
   atspi::AtspiAccessibility::Options accessibilityOptions();
   Workspace& sessionWorkspace();
   KeyTapState keyTapState();
@@ -92,6 +94,7 @@ class Desktop {
   OwnAddresses workspace_;
   x11::X11InputMonitoring x11InputMonitoring_;
   SessionInputMonitoring inputMonitoring_;
+  ui::ControlGroups controlGroups_;
   std::shared_ptr<x11::X11Keyboard> keyboard_;
   x11::X11EventTap x11EventTap_;
   std::unique_ptr<freedesktop::ScreenLock> screenLock_;

@@ -8,7 +8,8 @@ import unittest
 
 from desktop_test import DesktopTest
 from editors import Mousepad
-from session import Session, Tessarin, wait_for
+from service_manager import Group, ServiceManager, usable_freezer
+from session import PROGRAM, Session, Tessarin, wait_for
 
 # What is typed before it stops, the signal, and what is typed while it stands still.
 STOPS = [
@@ -29,11 +30,7 @@ def state(pid):
     return pathlib.Path(f"/proc/{pid}/stat").read_text().rsplit(")", 1)[1].split()[0]
 
 
-class Stopped(DesktopTest):
-    def stop(self, how):
-        os.kill(self.tessarin.pid, how)
-        wait_for(lambda: state(self.tessarin.pid) == "T", what="the stop")
-
+class StopTest(DesktopTest):
     def wait_for_expansion(self, editor):
         """Types until it works: when it does again after a stop is not for the test to say."""
         def works():
@@ -41,21 +38,33 @@ class Stopped(DesktopTest):
             return editor.document().endswith(" a😄b ")
         wait_for(works, 20, "expansion")
 
+    def check_while_stopped(self, before, stop, meanwhile, go):
+        """Typed meanwhile arrives, and expansion works when the program goes on."""
+        with Mousepad(self.session, self.typist) as editor:
+            start = editor.document()
+            self.typist.type(before)
+            if before:
+                self.wait_for_popup()
+            stop()
+            try:
+                self.typist.type(meanwhile)
+                expected = start + before + meanwhile
+                self.assertEqual(editor.wait_for_document(expected), expected)
+            finally:
+                go()
+            self.wait_for_expansion(editor)
+
+
+class Stopped(StopTest):
+    def stop(self, how):
+        os.kill(self.tessarin.pid, how)
+        wait_for(lambda: state(self.tessarin.pid) == "T", what="the stop")
+
     def test_others_get_the_keys_and_expansion_works_afterwards(self):
         for name, before, how, meanwhile in STOPS:
-            with self.subTest(name), Mousepad(self.session, self.typist) as editor:
-                start = editor.document()
-                self.typist.type(before)
-                if before:
-                    self.wait_for_popup()
-                self.stop(how)
-                try:
-                    self.typist.type(meanwhile)
-                    expected = start + before + meanwhile
-                    self.assertEqual(editor.wait_for_document(expected), expected)
-                finally:
-                    os.kill(self.tessarin.pid, signal.SIGCONT)
-                self.wait_for_expansion(editor)
+            with self.subTest(name):
+                self.check_while_stopped(before, lambda: self.stop(how), meanwhile,
+                                         lambda: os.kill(self.tessarin.pid, signal.SIGCONT))
         self.assertEqual(self.tessarin.log.count("stood still"), 2, self.tessarin.log)
 
     def test_a_watcher_that_dies_is_replaced_once_and_not_needed(self):
@@ -67,6 +76,31 @@ class Stopped(DesktopTest):
             self.wait_for_expansion(editor)
         self.tessarin.stop()
         self.tessarin.start()
+
+
+class Frozen(StopTest):
+    """As desktops start programs: in a control group of their own. The manager of services moves the watcher out."""
+
+    @classmethod
+    def setUpClass(cls):
+        freezer = usable_freezer()
+        if freezer is None:
+            raise unittest.SkipTest("this machine lets us make no control group that can be frozen")
+        cls.program_group, cls.watcher_group = (Group(name, freezer) for name in ("program", "watcher"))
+        for group in (cls.program_group, cls.watcher_group):
+            cls.addClassCleanup(group.close)
+        super().setUpClass()
+        cls.tessarin.stop()
+        cls.enterClassContext(ServiceManager(cls.session, cls.watcher_group))
+        cls.tessarin.program = cls.program_group.launcher(cls.session.folder / "tessarin", PROGRAM)
+        cls.tessarin.start()
+
+    def test_others_get_the_keys_and_expansion_works_afterwards(self):
+        wait_for(lambda: watcher(self.tessarin) in self.watcher_group.pids(), what="the watcher's own group")
+        self.assertIn(self.tessarin.pid, self.program_group.pids())
+        for before in ("", "x:smi", "x:smi"):
+            with self.subTest(before):
+                self.check_while_stopped(before, self.program_group.freeze, ":abc", self.program_group.thaw)
 
 
 class LostServer(unittest.TestCase):

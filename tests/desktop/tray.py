@@ -1,9 +1,8 @@
 """A tray of the test's own: it takes in the program's item over the session bus and opens its menu there."""
 
-import threading
-
 from gi.repository import Gio, GLib
 
+from bus_service import BusService
 from session import wait_for
 
 WATCHER = "org.kde.StatusNotifierWatcher"
@@ -20,34 +19,16 @@ INTERFACE = f"""
 </interface></node>"""
 
 
-class Tray:
-    """Stands from its making to `close`. Items are kept while their owner stays on the bus."""
+class Tray(BusService):
+    """Items are kept while their owner stays on the bus."""
 
     def __init__(self, session):
         self._items = []
-        flags = Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION
-        self._bus = Gio.DBusConnection.new_for_address_sync(
-            session.env["DBUS_SESSION_BUS_ADDRESS"], flags, None, None)
-        self._bus.register_object("/StatusNotifierWatcher", Gio.DBusNodeInfo.new_for_xml(INTERFACE).interfaces[0],
-                                  self._called, self._read, None)
+        super().__init__(session, WATCHER, "/StatusNotifierWatcher", INTERFACE)
+
+    def _listen(self):
         self._bus.signal_subscribe("org.freedesktop.DBus", "org.freedesktop.DBus", "NameOwnerChanged", None, None,
                                    Gio.DBusSignalFlags.NONE, self._owner_changed)
-        Gio.bus_own_name_on_connection(self._bus, WATCHER, Gio.BusNameOwnerFlags.NONE, None, None)
-        # Programs wait for its answers, so it gives them from a thread of its own.
-        self._loop = GLib.MainLoop()
-        self._thread = threading.Thread(target=self._loop.run, daemon=True)
-        self._thread.start()
-
-    def __enter__(self):
-        return self
-
-    def __exit__(self, *_):
-        self.close()
-
-    def close(self):
-        self._loop.quit()
-        self._thread.join()
-        self._bus.close_sync(None)
 
     def _called(self, _bus, sender, _path, _interface, method, arguments, invocation):
         if method == "RegisterStatusNotifierItem":

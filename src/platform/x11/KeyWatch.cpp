@@ -45,9 +45,9 @@ pid_t spawnWatcher(const std::string& program, std::string display, int socket) 
 
 }  // namespace
 
-KeyWatch::KeyWatch(std::string program, std::string display, const SessionKeyboard& keyboard)
-    : program_(std::move(program)), display_(std::move(display)), keyboard_(keyboard) {
-  if (!program_.empty()) start();
+KeyWatch::KeyWatch(Options options, const SessionKeyboard& keyboard)
+    : options_(std::move(options)), keyboard_(keyboard) {
+  if (!options_.program.empty()) start();
 }
 
 KeyWatch::~KeyWatch() {
@@ -59,9 +59,13 @@ void KeyWatch::start() {
   if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) == 0) {
     socket_ = FileDescriptor(ends[0]);
     const FileDescriptor its(ends[1]);
-    process_ = spawnWatcher(program_, display_, its.get());
+    process_ = spawnWatcher(options_.program, options_.display, its.get());
   }
-  if (process_ > 0) return sayConnection();
+  if (process_ > 0) {
+    sayConnection();
+    if (options_.started) options_.started(process_);
+    return;
+  }
   socket_ = FileDescriptor();
   log("KeyWatch", "The keyboard's watcher cannot be started: nobody frees the keyboard should we be stopped");
 }

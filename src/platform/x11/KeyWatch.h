@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -19,10 +20,15 @@ namespace tessarin::x11 {
 /// answer. It ends with this object, and with our process. Keyboard thread.
 class KeyWatch {
  public:
-  /// `program`: the watcher's file; empty for no watcher. `display` as in DISPLAY; empty for that variable's
-  /// value. The keyboard's connection outlives this. Where no watcher can be had the log says so, and all
-  /// else works.
-  KeyWatch(std::string program, std::string display, const SessionKeyboard& keyboard);
+  struct Options {
+    std::string program;                         ///< the watcher's file; empty for no watcher
+    std::string display;                         ///< as in DISPLAY; empty for that variable's value
+    std::function<void(pid_t watcher)> started;  ///< told of each watcher; does not wait
+  };
+
+  /// The keyboard's connection outlives this. Where no watcher can be had the log says so, and all else
+  /// works.
+  KeyWatch(Options options, const SessionKeyboard& keyboard);
   ~KeyWatch();
   /// There is another connection.
   void follow(const SessionKeyboard& keyboard);
@@ -54,8 +60,7 @@ class KeyWatch {
   void say(KeyWatchMessage::Kind kind, std::uint32_t value);
   void answer(KeyWatchMessage::Kind kind);
 
-  std::string program_;
-  std::string display_;
+  Options options_;
   SessionKeyboard keyboard_;
   FileDescriptor socket_;
   pid_t process_ = -1;

@@ -91,7 +91,7 @@ std::optional<KeyFilter::Loss> X11Keyboard::serveConnection(const SessionKeyboar
 }
 
 void X11Keyboard::serve(SessionKeyboard keyboard) {
-  KeyWatch watch(options_.watcher, options_.display, keyboard);
+  KeyWatch watch({options_.watcher, options_.display, options_.watcherStarted}, keyboard);
   KeySet pressed;
   while (const auto loss = serveConnection(keyboard, watch, pressed)) {
     const auto next = connect();

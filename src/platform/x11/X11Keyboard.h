@@ -28,6 +28,7 @@ class X11Keyboard {
     std::string display = {};  ///< as in DISPLAY; empty for that variable's value
     std::string watcher = {};  ///< the file of the program that watches us, see KeyWatch; empty for none
     std::chrono::milliseconds answerTime = KeyQuestion::answerTime;  ///< what the main thread has for a key
+    std::function<void(pid_t watcher)> watcherStarted = {};  ///< see KeyWatch; on the keyboard's thread
   };
 
   /// `queue` outlives this.
