@@ -49,11 +49,12 @@ inline constexpr std::string_view focusedElement = "AXFocusedUIElement";  ///< o
 inline constexpr std::string_view focusedWindow = "AXFocusedWindow";      ///< of an application
 inline constexpr std::string_view role = "AXRole";                        ///< a role name, below
 inline constexpr std::string_view parent = "AXParent";
-inline constexpr std::string_view value = "AXValue";  ///< readable when the element is editable text and no
+inline constexpr std::string_view value = "AXValue";  ///< readable when the element is text that the user
+                                                      ///< may edit, and tells where its caret is, and no
                                                       ///< terminal; read without fetching the text (gives "")
 inline constexpr std::string_view selectedTextRange =
     "AXSelectedTextRange";  ///< caret or selection; writable
-/// Writable only: replaces the range last written to selectedTextRange.
+/// Writable only: replaces the range last written to selectedTextRange. Some texts take it from nobody.
 inline constexpr std::string_view selectedText = "AXSelectedText";
 inline constexpr std::string_view stringForRange = "AXStringForRange";  ///< parameterized by a TextRange
 inline constexpr std::string_view boundsForRange = "AXBoundsForRange";  ///< parameterized by a TextRange

@@ -203,7 +203,9 @@ AtspiAccessibility::Value AtspiAccessibility::valueOf(const ObjectReference& obj
   const Reading* read = reading(object);
   if (read == nullptr || read->glance.role == busRole::terminal) return std::nullopt;
   const bool isEditable = (read->glance.states.value_or(0) & busState::editable) != 0;
-  return isEditable && read->glance.isEditableText ? Value(std::string()) : std::nullopt;
+  if (!isEditable || !read->glance.selectedRange) return std::nullopt;
+  readOnly_ = read->glance.isEditableText ? std::nullopt : std::optional(object);
+  return std::string();
 }
 
 AtspiAccessibility::Value AtspiAccessibility::selectedRange(const ObjectReference& object) {
@@ -311,6 +313,7 @@ AtspiAccessibility::Value AtspiAccessibility::stringFor(const ObjectReference& o
 // What has just been looked at for this key is what is replaced.
 AccessibilityStatus AtspiAccessibility::replace(const ObjectReference& object, const TextRange& range,
                                                 const std::string& newText) {
+  if (object == readOnly_) return AccessibilityStatus::failure;
   const auto read = std::exchange(reading_, std::nullopt);
   auto text = textOf(object);
   if (!text) return AccessibilityStatus::failure;

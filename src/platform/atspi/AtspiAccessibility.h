@@ -116,6 +116,8 @@ class AtspiAccessibility final : public Accessibility {
   };
   const Reading* reading(const ObjectReference& object);
   std::optional<Reading> reading_;
+  /// The text that the user may write into, and nobody over the bus.
+  std::optional<ObjectReference> readOnly_;
   struct Selection {
     ObjectReference object;
     TextRange range;

@@ -161,7 +161,7 @@ TEST_F(AtspiAccessibilityTest, believesNoGarbage) {
       {"value of a terminal", "GetRole", value(busRole::terminal), attribute::value},
       {"value of read-only text", "GetState", states(busState::visible | busState::focused),
        attribute::value},
-      {"value without editable text", "GetInterfaces", interfaces({"org.a11y.atspi.Text"}), attribute::value},
+      {"value without a caret", "CaretOffset", property(-1), attribute::value},
       {"value without a role", "GetRole", nullptr, attribute::value},
       {"value without states", "GetState", value("all of them"), attribute::value},
   };
@@ -434,6 +434,10 @@ TEST_F(AtspiAccessibilityTest, writesOnlyTextAndOnlyInTheFieldWhereItWasSelected
             AccessibilityStatus::success);
   EXPECT_EQ(accessibility->setAttribute(other, attribute::selectedText, std::string("x")),
             AccessibilityStatus::failure);
+  accessibility->beginBudget(longestCall);
+  application->answer("GetInterfaces", interfaces({"org.a11y.atspi.Text"}));
+  EXPECT_TRUE(read(attribute::value)) << "it can be read, as Kate's";
+  EXPECT_EQ(replace({4, 6}, "x"), AccessibilityStatus::failure);
   EXPECT_EQ(application->text(), U"é😀 ñ:smile");
 }
 
