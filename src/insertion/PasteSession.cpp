@@ -30,6 +30,8 @@ std::vector<KeyPress> pressesOf(PasteChord chord) {
   switch (chord) {
     case PasteChord::controlV:
       break;
+    case PasteChord::controlShiftV:
+      return {{keycode::v, keyflag::control | keyflag::shift}};
     case PasteChord::shiftInsert:
       return {{keycode::insert, keyflag::shift}};
     case PasteChord::registerPlus:

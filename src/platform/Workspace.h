@@ -12,8 +12,9 @@ namespace tessarin {
 /// Which keys paste.
 enum class PasteChord {
   controlV,
-  shiftInsert,  ///< terminals and Emacs; terminals take the text from PRIMARY
-  registerPlus  ///< Vim, inserting and at its command line: Control-R, Control-O, +
+  controlShiftV,  ///< Qt's web engine: Control-V that comes within a millisecond pastes twice there
+  shiftInsert,    ///< terminals and Emacs; terminals take the text from PRIMARY
+  registerPlus    ///< Vim, inserting and at its command line: Control-R, Control-O, +
 };
 
 /// A running application as the user knows it.

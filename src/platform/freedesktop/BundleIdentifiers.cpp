@@ -182,6 +182,9 @@ std::vector<std::string> namesOfListed(std::string_view identifier) {
 std::optional<PasteChord> chordOfClass(std::string_view windowClass) {
   const std::string name = lowerCase(windowClass);
   if (name == "gvim") return PasteChord::registerPlus;
+  // While anybody listens on the accessibility bus, Qt gives the page a key only when others have been asked
+  // about it: Control that is still underway when V comes is taken for the paste, and V pastes again.
+  if (name == "falkon" || name == "org.kde.falkon") return PasteChord::controlShiftV;
   const bool isKnown = name == "emacs" || std::ranges::binary_search(terminalClasses, name);
   return isKnown ? std::optional(PasteChord::shiftInsert) : std::nullopt;
 }

@@ -64,6 +64,7 @@ TEST_F(ApplicationMatcherTest, FindsTheApplicationOfAWindow) {
       {"terminal by category", {"", "some-terminal", "x", ""}, "some-terminal", PasteChord::shiftInsert},
       {"listed terminal", {"", "kitty", "kitty", ""}, "net.kovidgoyal.kitty", PasteChord::shiftInsert},
       {"Emacs", {"", "Emacs", "emacs", ""}, "Emacs", PasteChord::shiftInsert},
+      {"Falkon", {"", "Falkon", "falkon", ""}, "Falkon", PasteChord::controlShiftV},
       {"Vim", {"", "Gvim", "gvim", ""}, "Gvim", PasteChord::registerPlus},
   };
   for (const auto& [name, window, identifier, chord] : cases) {
