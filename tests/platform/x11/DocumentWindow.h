@@ -68,6 +68,8 @@ class DocumentWindow {
   int presses() const { return presses_; }
   /// How often a grab took the keyboard away from the window.
   int grabs() const { return grabs_; }
+  /// How often by the last paste, however late anybody looks.
+  int grabsAtPaste() const { return grabsAtPaste_; }
   /// As far as its events tell, those about grabs included.
   bool hasFocus() const { return hasFocus_; }
   int pastes() const { return pastes_; }
@@ -99,6 +101,7 @@ class DocumentWindow {
     } else if (chord == "Control-" && !isShifted && isPasteKey(key.code) && !clipboard.empty()) {
       text_ += clipboard;
       ++pastes_;
+      grabsAtPaste_ = grabs_;
     } else if (!chord.empty() || typed.empty() || static_cast<unsigned char>(typed[0]) < ' ') {
       text_ += "<" + chord + (isShifted ? "Shift-" : "") + nameOf(symbol) + ">";
     } else {
@@ -120,6 +123,7 @@ class DocumentWindow {
   std::string text_;
   int presses_ = 0;
   int pastes_ = 0;
+  int grabsAtPaste_ = 0;
   int grabs_ = 0;
   bool hasFocus_ = false;
 };
