@@ -17,6 +17,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
+#include <utility>
 
 #include "keywatch/KeyWatchMessage.h"
 
@@ -33,7 +34,8 @@ constexpr long lateTime = 150;
 /// Questions in a row without an answer after which the program stands still. With the first pause that makes
 /// three quarters of a second from the key.
 constexpr int patience = 2;
-/// The same while the server answers nobody: the program may be waiting for it, as we are.
+/// The same while the server answers nobody, and the program that types keys may be whom it is held by, or
+/// waiting for it as we are. While it types none, that is somebody else's doing and does not count.
 constexpr int patienceWithServer = 8;
 
 long milliseconds() {
@@ -118,7 +120,7 @@ class Watcher {
       }
       if (!askAndWait()) continue;
       if (!takeNews()) return;
-      if (!hasAnswered_) ++unanswered_;
+      if (!hasAnswered_ && (!isServerAsked_ || isWorking_)) ++unanswered_;
       if (hasLost()) letGo();
     }
   }
@@ -180,6 +182,8 @@ class Watcher {
       window_ = message.kind == Kind::keysHeldAt ? message.value : XCB_NONE;
       if (window_ != XCB_NONE && window_ != root_) follow(window_, true);
     }
+    if (message.kind == Kind::working) isWorking_ = true;
+    if (message.kind == Kind::idle || message.kind == Kind::connection) isWorking_ = false;
     if (message.kind == Kind::alive || message.kind == Kind::idle) {
       hasAnswered_ = true;
       unanswered_ = 0;
@@ -196,10 +200,13 @@ class Watcher {
     std::free(reply);
     std::free(error);
     isServerAsked_ = false;
+    // Whoever waited for it can only answer from now on.
+    if (std::exchange(isServerLate_, false)) unanswered_ = 0;
   }
 
   void askServer() {
-    if (isServerAsked_) return;
+    isServerLate_ = isServerAsked_;
+    if (isServerLate_) return;
     serverQuestion_ = xcb_get_input_focus(server_).sequence;
     isServerAsked_ = true;
     xcb_flush(server_);
@@ -255,6 +262,8 @@ class Watcher {
   int unanswered_ = 0;
   bool hasAnswered_ = false;
   bool isServerAsked_ = false;
+  bool isServerLate_ = false;  ///< its answer belongs to an earlier question of ours
+  bool isWorking_ = false;     ///< keys are being typed, as far as the program says
   unsigned serverQuestion_ = 0;
 };
 

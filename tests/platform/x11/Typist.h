@@ -66,6 +66,11 @@ class Typist {
     const x11::Owned<xcb_get_input_focus_reply_t> reply(
         xcb_get_input_focus_reply(c, xcb_get_input_focus(c), nullptr));
   }
+  /// Meanwhile the server hears nobody else, as while some window managers move a window.
+  void keepServer(bool kept) {
+    kept ? xcb_grab_server(connection_.get()) : xcb_ungrab_server(connection_.get());
+    sync();
+  }
   /// After a change of the mapping.
   void readLayout() { layout_ = x11::KeyboardLayout::read(connection_.get()); }
   /// By the key that goes to the next of two groups, so in order with the other keys.

@@ -9,6 +9,7 @@ namespace {
 
 using ::testing::Contains;
 using ::testing::HasSubstr;
+using ::testing::Not;
 
 // A main thread that does not answer, and is given twenty seconds to, stands for a stopped process: the tap's
 // thread answers neither the key nor the watcher.
@@ -34,6 +35,20 @@ TEST_F(X11EventTapWatchTest, FreesTheKeyboardOfATapThatStandsStill) {
     document->clear();
     seen.clear();
   }
+}
+
+// Neither the key's answer nor anything else would get through before the server listens again.
+TEST_F(X11EventTapWatchTest, LeavesATapAloneThatWaitsForAServerKeptByAnother) {
+  answerTime = std::chrono::seconds(3);  // and for as long the main thread waits until the key has gone
+  LogRecorder log;
+  start();
+  typist->keepServer(true);
+  typist->type(":");
+  ASSERT_TRUE(queue.runUntil([this] { return !seen.empty(); }));
+  typist->keepServer(false);
+  typist->type("a\n");
+  expectDocument("😀");
+  EXPECT_THAT(log.lines(), Not(Contains(HasSubstr("stood still"))));
 }
 
 }  // namespace
