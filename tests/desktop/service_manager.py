@@ -32,11 +32,9 @@ class Group:
         root, self._switch, self._on, self._off, self._state, self._frozen = freezer
         self._folder = pathlib.Path(root, f"tessarin-{os.getpid()}-{name}")
         self._folder.mkdir()
-        try:
-            self.thaw()
-        except OSError:
-            self.close()
-            raise
+        if not (self._folder / self._switch).exists():
+            self._folder.rmdir()
+            raise FileNotFoundError(self._switch)
 
     def close(self):
         """The processes in it have to have ended."""
