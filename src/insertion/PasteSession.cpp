@@ -19,6 +19,8 @@ constexpr milliseconds fromWriteToChord{50};
 constexpr milliseconds shortestLoan{200};  ///< from the chord
 /// Some applications read twice: to see whether there is something to paste, and to paste it.
 constexpr milliseconds settlingOfRead{100};
+/// Chromium puts what it has read into its address bar some tasks later, and keys that come before at once.
+constexpr milliseconds settlingOfLikelyRead{300};
 constexpr milliseconds longestPasteWait{2000};  ///< for the application to read the text, from the chord
 /// For which an application that wakes and takes up the chord only then finds an empty text.
 constexpr milliseconds longestNap{3000};
@@ -131,7 +133,15 @@ void PasteSession::shortestLoanIsOver() {
 // of the text.
 void PasteSession::textWasRead() {
   ++reads_;
-  isRead(ReadManner::ahead) ? after(longestPasteWait, &PasteSession::readAheadIsOver) : textWasPasted();
+  const bool isLikely = isRead(ReadManner::likely);
+  if (!isLikely && !isRead(ReadManner::ahead)) return textWasPasted();
+  if (isLikely) after(timeToSettle(), &PasteSession::likelyReadIsOver);
+  after(longestPasteWait, &PasteSession::readAheadIsOver);
+}
+
+// The keys need not wait for that any longer, only the user's contents do.
+void PasteSession::likelyReadIsOver() {
+  if (reads_ == 1) answer(InsertionOutcome::inserted);
 }
 
 void PasteSession::readAheadIsOver() {
@@ -140,15 +150,17 @@ void PasteSession::readAheadIsOver() {
 
 void PasteSession::textWasPasted() {
   settling_ = timeToSettle();
+  settlesUntil_ = tools_.queue.now() + longestPasteWait;
   if (!isRead(ReadManner::checking)) answer(InsertionOutcome::inserted);
   ++unsettledReads_;
   settle();
 }
 
-// An application that checks may take as long for that as it took to come so far.
+// An application that still has something to do may take as long for that as it took to come so far.
 milliseconds PasteSession::timeToSettle() const {
-  if (!isRead(ReadManner::checking)) return settlingOfRead;
   const auto sinceChord = std::chrono::duration_cast<milliseconds>(tools_.queue.now() - chordTime_);
+  if (isRead(ReadManner::likely)) return std::clamp(sinceChord, settlingOfLikelyRead, longestPasteWait);
+  if (!isRead(ReadManner::checking)) return settlingOfRead;
   return std::clamp(sinceChord, settlingOfRead, longestPasteWait);
 }
 
@@ -169,7 +181,7 @@ void PasteSession::settle() {
 }
 
 void PasteSession::readHasSettled() {
-  if (requestCount() != lastRequestCount_ && settlingsLeft_-- > 0) return settle();
+  if (requestCount() != lastRequestCount_ && tools_.queue.now() < settlesUntil_) return settle();
   if (--unsettledReads_ > 0) return;
   isReadOrGivenUp_ = true;
   answer(InsertionOutcome::inserted);

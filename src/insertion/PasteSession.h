@@ -54,6 +54,7 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
   void chordIsPosted();
   void shortestLoanIsOver();
   void textWasRead();
+  void likelyReadIsOver();
   void readAheadIsOver();
   void textWasPasted();
   bool isRead(ReadManner manner) const;
@@ -87,7 +88,7 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
   int reads_ = 0;  ///< since the chord
   std::int64_t lastRequestCount_ = 0;
   std::chrono::milliseconds settling_{0};  ///< how long nobody must have asked after a read
-  int settlingsLeft_ = 20;
+  std::chrono::steady_clock::time_point settlesUntil_;
   int unsettledReads_ = 0;
   bool isReadOrGivenUp_ = false;
 };

@@ -27,6 +27,7 @@ struct PasteboardSnapshot {
 enum class ReadManner {
   plain,
   ahead,    ///< only to see whether there is text: it reads again when it pastes, however late that is
+  likely,   ///< it has most likely pasted; only whether it reads again, as after `ahead`, can tell
   checking  ///< it pastes if it then sees a few times over that the contents have not changed
 };
 

@@ -120,6 +120,19 @@ TEST_F(PasteHelperTest, aReadAheadIsNotThePaste) {
   EXPECT_FALSE(isRestored());
   EXPECT_TRUE(isRestoredJustAfter(101ms)) << "one that reads once after all";
   EXPECT_THAT(outcomes, ElementsAre(inserted, inserted));
+  general.manner = ReadManner::likely;
+  paste(1, "z");
+  readAfter(120ms + 20ms);
+  queue.advance(299ms);
+  EXPECT_THAT(outcomes, SizeIs(2));
+  queue.advance(1ms);
+  EXPECT_THAT(outcomes, SizeIs(3)) << "keys need not wait longer for an address bar";
+  EXPECT_TRUE(isRestoredJustAfter(1800ms)) << "should it be a page after all";
+  general.manner = ReadManner::checking;
+  paste(1, "w");
+  readAfter(120ms + 1000ms);
+  for (int i = 0; i < 30; ++i, ++general.requests) queue.advance(100ms);
+  EXPECT_THAT(outcomes, SizeIs(4)) << "somebody asks all the time";
 }
 
 TEST_F(PasteHelperTest, doesNotTakeAReadBeforeTheChordForThePaste) {

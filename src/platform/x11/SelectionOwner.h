@@ -54,7 +54,7 @@ class SelectionOwner {
   bool answerMultiple(xcb_window_t requestor, xcb_atom_t property);
   std::optional<Representation> representation(xcb_atom_t target) const;
   Representation targetList() const;
-  void noteRead(xcb_atom_t target, xcb_atom_t property);
+  void noteRequest(xcb_atom_t target, xcb_atom_t property);
   TextRead readObserver(xcb_window_t requestor, xcb_atom_t target);
 
   XThread& thread_;
@@ -70,6 +70,7 @@ class SelectionOwner {
   std::atomic<ReadManner> readManner_ = ReadManner::plain;
   std::atomic<std::int64_t> requestCount_ = 0;
   std::atomic<std::int64_t> textRequestCount_ = 0;
+  std::int64_t chromiumRequestCount_ = 0;
   bool isOwner_ = false;
   xcb_timestamp_t time_ = XCB_CURRENT_TIME;
   std::vector<Representation> contents_;

@@ -275,6 +275,9 @@ TEST_F(X11PasteboardTest, TellsHowChromiumReads) {
   EXPECT_EQ(asked(9), ReadManner::checking) << "the page's";
   pasteboard().writeText("text");
   EXPECT_EQ(asked(9), ReadManner::checking) << "where nobody reads ahead";
+  pasteboard().writeText("text");
+  peer().read("CLIPBOARD", "TARGETS");
+  EXPECT_EQ(asked(3), ReadManner::likely) << "its address bar, and somebody else before";
 }
 
 TEST_F(X11PasteboardTest, CountsLargeTextOnlyWhenItWasReadToTheEnd) {
