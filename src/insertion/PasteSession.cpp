@@ -133,15 +133,14 @@ void PasteSession::shortestLoanIsOver() {
 // of the text.
 void PasteSession::textWasRead() {
   ++reads_;
-  const bool isLikely = isRead(ReadManner::likely);
-  if (!isLikely && !isRead(ReadManner::ahead)) return textWasPasted();
-  if (isLikely) after(timeToSettle(), &PasteSession::likelyReadIsOver);
+  if (!isRead(ReadManner::likely) && !isRead(ReadManner::ahead)) return textWasPasted();
+  after(std::clamp(sinceChord(), settlingOfLikelyRead, longestPasteWait), &PasteSession::likelyReadIsOver);
   after(longestPasteWait, &PasteSession::readAheadIsOver);
 }
 
 // The keys need not wait for that any longer, only the user's contents do.
 void PasteSession::likelyReadIsOver() {
-  if (reads_ == 1) answer(InsertionOutcome::inserted);
+  if (reads_ == 1 && isRead(ReadManner::likely)) answer(InsertionOutcome::inserted);
 }
 
 void PasteSession::readAheadIsOver() {
@@ -156,12 +155,14 @@ void PasteSession::textWasPasted() {
   settle();
 }
 
-// An application that still has something to do may take as long for that as it took to come so far.
+// An application that checks may take as long for that as it took to come so far.
 milliseconds PasteSession::timeToSettle() const {
-  const auto sinceChord = std::chrono::duration_cast<milliseconds>(tools_.queue.now() - chordTime_);
-  if (isRead(ReadManner::likely)) return std::clamp(sinceChord, settlingOfLikelyRead, longestPasteWait);
   if (!isRead(ReadManner::checking)) return settlingOfRead;
-  return std::clamp(sinceChord, settlingOfRead, longestPasteWait);
+  return std::clamp(sinceChord(), settlingOfRead, longestPasteWait);
+}
+
+milliseconds PasteSession::sinceChord() const {
+  return std::chrono::duration_cast<milliseconds>(tools_.queue.now() - chordTime_);
 }
 
 bool PasteSession::isRead(ReadManner manner) const {

@@ -60,6 +60,7 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
   bool isRead(ReadManner manner) const;
   std::int64_t requestCount() const;
   std::chrono::milliseconds timeToSettle() const;
+  std::chrono::milliseconds sinceChord() const;
   void settle();
   void readHasSettled();
   void giveUpUnlessRead();

@@ -15,7 +15,8 @@ import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools/desktop"))
 
-from editors import ALL, Chromium, Firefox, Geany, Scite
+from editors import (ALL, Calc, Chromium, ChromiumRichText, Epiphany, Falkon, Firefox, Geany, Jedit, Kate, Scite, Texstudio,
+                     Thunderbird)
 from session import Session, Tessarin
 from typist import Typist
 
@@ -25,10 +26,10 @@ CONFIRMATIONS = "\n\t:"
 PAUSE_AT_120_WORDS_A_MINUTE = 60 / (120 * 5)
 
 
-def typed_lines():
+def typed_lines(expansions):
     """Lines of shortcodes between plain words, confirmed by Return, Tab and trigger in turn."""
-    words = [f"to:smile{CONFIRMATIONS[i % 3]}go " for i in range(EXPANSIONS)]
-    return ["".join(words[i:i + EXPANSIONS_PER_LINE]) for i in range(0, EXPANSIONS, EXPANSIONS_PER_LINE)]
+    words = [f"to:smile{CONFIRMATIONS[i % 3]}go " for i in range(expansions)]
+    return ["".join(words[i:i + EXPANSIONS_PER_LINE]) for i in range(0, expansions, EXPANSIONS_PER_LINE)]
 
 
 def stop_again_and_again(pid, over):
@@ -52,24 +53,25 @@ def hiccups(editor):
         thread.join()
 
 
-def expand(program, pause=0.0, disturbance=lambda editor: contextlib.nullcontext(), seconds=600):
+def expand(program, pause=0.0, disturbance=lambda editor: contextlib.nullcontext(), expansions=EXPANSIONS):
     """Types everything; gives the document as it should be and as it is, and the end of the log."""
     with contextlib.ExitStack() as stack:
         session = stack.enter_context(Session())
         typist = stack.enter_context(contextlib.closing(Typist(session)))
         tessarin = stack.enter_context(Tessarin(session))
         editor = stack.enter_context(program(session, typist))
-        lines = typed_lines()
+        lines = typed_lines(expansions)
         expected = ("\n" if editor.keeps_lines else "").join("to😄go " * line.count("smile") for line in lines)
         with disturbance(editor):
             typist.type("\n".join(lines), pause)
-            editor.wait_for_document(expected, seconds)
+            editor.wait_for_document(expected, 600)
         return expected, editor.wait_for_document(expected, 10), tessarin.log
 
 
 class Speed(unittest.TestCase):
     maxDiff = 2000
     programs = (*ALL, Firefox, Chromium, Geany, Scite)
+    others = (ChromiumRichText, Kate, Texstudio, Epiphany, Falkon, Thunderbird, Calc, Jedit)
 
     def check(self, program, expected, found, log):
         with self.subTest(program=program.__name__):
@@ -84,6 +86,11 @@ class Speed(unittest.TestCase):
             runs = {program: pool.submit(expand, program, PAUSE_AT_120_WORDS_A_MINUTE) for program in self.programs}
         for program, run in runs.items():
             self.check(program, *run.result())
+
+    def test_into_others_that_are_pasted_into(self):
+        for program in self.others:
+            for pause in (0.0, 0.06):
+                self.check(program, *expand(program, pause, expansions=min(EXPANSIONS, 200)))
 
     def test_into_a_program_that_hangs_again_and_again(self):
         for program in self.programs:

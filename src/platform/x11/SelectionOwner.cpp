@@ -48,7 +48,7 @@ bool SelectionOwner::take(std::vector<Representation> contents, TextRead textRea
   readManner_ = ReadManner::plain;
   requestCount_ = 0;
   textRequestCount_ = 0;
-  chromiumRequestCount_ = 0;
+  chromiumRequestCount_ = chromiumReadAt_ = 0;
   expectedClient_ = textRead_ ? focusedClient(thread_.connection(), thread_.screen()->root) : 0;
   xcb_set_selection_owner(thread_.connection(), window_, selection_, time_);
   isOwner_ = isOwnerAtServer();
@@ -117,17 +117,19 @@ bool SelectionOwner::answer(xcb_window_t requestor, xcb_atom_t target, xcb_atom_
 // Chromium, and what is built on it, has its answers put there. Its own process reads when the chord comes,
 // and asks for the list of targets once or twice before; the page does when it is given the processor, asks
 // for the list nine times before and three times after, and drops what it has read when the owner has changed
-// in between. For its address bar its own process alone reads, having asked three times.
+// in between. For its address bar its own process alone reads, asks three times before, and once after.
 void SelectionOwner::noteRequest(xcb_atom_t target, xcb_atom_t property) {
   constexpr std::int64_t readForAddressBar = 4;
-  const bool isChromium = property == chromium_;
-  if (isChromium) ++chromiumRequestCount_;
-  if (!isTextTarget(atoms_.name(target))) return;
-  ++textRequestCount_;
-  if (!isChromium) return;
-  readManner_ = chromiumRequestCount_ < readForAddressBar    ? ReadManner::ahead
-                : chromiumRequestCount_ == readForAddressBar ? ReadManner::likely
-                                                             : ReadManner::checking;
+  const bool isText = isTextTarget(atoms_.name(target));
+  if (isText) ++textRequestCount_;
+  if (property != chromium_) return;
+  const std::int64_t count = ++chromiumRequestCount_;
+  if (isText) {
+    chromiumReadAt_ = count;
+    readManner_ = count > readForAddressBar ? ReadManner::checking : ReadManner::ahead;
+  } else if (chromiumReadAt_ == readForAddressBar) {
+    readManner_ = count == readForAddressBar + 1 ? ReadManner::likely : ReadManner::ahead;
+  }
 }
 
 bool SelectionOwner::answerMultiple(xcb_window_t requestor, xcb_atom_t property) {

@@ -71,6 +71,7 @@ class SelectionOwner {
   std::atomic<std::int64_t> requestCount_ = 0;
   std::atomic<std::int64_t> textRequestCount_ = 0;
   std::int64_t chromiumRequestCount_ = 0;
+  std::int64_t chromiumReadAt_ = 0;  ///< the count when it asked for text last
   bool isOwner_ = false;
   xcb_timestamp_t time_ = XCB_CURRENT_TIME;
   std::vector<Representation> contents_;

@@ -277,7 +277,11 @@ TEST_F(X11PasteboardTest, TellsHowChromiumReads) {
   EXPECT_EQ(asked(9), ReadManner::checking) << "where nobody reads ahead";
   pasteboard().writeText("text");
   peer().read("CLIPBOARD", "TARGETS");
-  EXPECT_EQ(asked(3), ReadManner::likely) << "its address bar, and somebody else before";
+  EXPECT_EQ(asked(3), ReadManner::ahead) << "somebody else has asked before";
+  for (const auto manner : {ReadManner::likely, ReadManner::ahead}) {
+    peer().read("CLIPBOARD", "TARGETS", -1, "CHROME_SELECTION");
+    EXPECT_EQ(pasteboard().readManner(), manner) << "an address bar asks once more, a page goes on";
+  }
 }
 
 TEST_F(X11PasteboardTest, CountsLargeTextOnlyWhenItWasReadToTheEnd) {
