@@ -66,7 +66,8 @@ void checkForms(std::string_view text) {
         "small letters stay small");
   check(text::isValidUtf8(text) == (text::fromUtf16(text::toUtf16(text)) == text),
         "what is UTF-8 survives the way through UTF-16");
-  text::startsAlphanumeric(text);
+  check(text::startsAlphanumeric(text) || !text::isOfSpacedWord(text), "letters of words are letters");
+  check(text::alphanumericCount(text) <= text::characterCount(text), "characters are counted once");
 }
 
 void checkParts(std::string_view text, std::string_view part) {

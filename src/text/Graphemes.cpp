@@ -6,10 +6,12 @@
 #include <unicode/ubrk.h>
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
+#include <unicode/uscript.h>
 #include <unicode/utext.h>
 #include <unicode/utf8.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <stdexcept>
@@ -76,6 +78,22 @@ std::size_t startOfLast(std::string_view text, std::size_t count) {
   while (count > 0 && boundaries.previous()) --count;
   return boundaries.position();
 }
+
+/// Negative where there is none.
+UChar32 firstScalar(std::string_view text) {
+  if (text.empty()) return U_SENTINEL;
+  std::int32_t at = 0;
+  UChar32 scalar = 0;
+  U8_NEXT(text.data(), at, static_cast<std::int32_t>(text.size()), scalar);
+  return scalar;
+}
+
+bool isAlphanumeric(UChar32 scalar) {
+  return scalar >= 0 && (U_GET_GC_MASK(scalar) & (U_GC_L_MASK | U_GC_M_MASK | U_GC_N_MASK)) != 0;
+}
+
+/// More than any character is used in.
+constexpr std::int32_t mostScripts = 64;
 
 bool startsWithNormalized(std::string_view text, std::string_view prefix) {
   return text.starts_with(prefix) && isBoundary(text, prefix.size());
@@ -166,11 +184,28 @@ std::string lowercased(std::string_view text) {
 }
 
 bool startsAlphanumeric(std::string_view text) {
-  if (text.empty()) return false;
-  std::int32_t at = 0;
-  UChar32 scalar = 0;
-  U8_NEXT(text.data(), at, static_cast<std::int32_t>(text.size()), scalar);
-  return scalar >= 0 && (U_GET_GC_MASK(scalar) & (U_GC_L_MASK | U_GC_M_MASK | U_GC_N_MASK)) != 0;
+  return isAlphanumeric(firstScalar(text));
+}
+
+std::size_t alphanumericCount(std::string_view text) {
+  std::size_t count = 0;
+  while (!text.empty()) {
+    if (startsAlphanumeric(text)) ++count;
+    text.remove_prefix(firstCharacter(text).size());
+  }
+  return count;
+}
+
+bool isOfSpacedWord(std::string_view character) {
+  const UChar32 scalar = firstScalar(character);
+  if (!isAlphanumeric(scalar)) return false;
+  UErrorCode status = U_ZERO_ERROR;
+  std::array<UScriptCode, mostScripts> scripts{};
+  // Signs that several scripts share, as the long vowel of both kana, tell by these alone.
+  const int count = uscript_getScriptExtensions(scalar, scripts.data(), mostScripts, &status);
+  require(status);
+  return std::none_of(scripts.begin(), scripts.begin() + count,
+                      [](UScriptCode script) { return uscript_breaksBetweenLetters(script) != 0; });
 }
 
 bool isValidUtf8(std::string_view text) {

@@ -35,6 +35,11 @@ std::string lowercased(std::string_view text);
 
 /// Whether the first scalar is of general category L, M or N.
 bool startsAlphanumeric(std::string_view text);
+/// Number of characters that begin so.
+std::size_t alphanumericCount(std::string_view text);
+/// Whether the first scalar is alphanumeric and not of a script that writes its words without spaces between
+/// them (Han, kana, Thai, Khmer and the like).
+bool isOfSpacedWord(std::string_view character);
 
 /// Whether the bytes are well-formed UTF-8.
 bool isValidUtf8(std::string_view text);

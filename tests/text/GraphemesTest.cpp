@@ -78,6 +78,17 @@ TEST(Alphanumeric, AreLettersMarksAndNumbers) {
   }
 }
 
+TEST(Alphanumeric, AreOfScriptsThatSetWordsApartOrNot) {
+  for (const char* yes :
+       {"a", "é", "ß", "e\u0301", "α", "ж", "א", "ع", "Ա", "ა", "한", "अ", "7", "٣", "３", "½"}) {
+    EXPECT_TRUE(text::isOfSpacedWord(yes)) << yes;
+  }
+  for (const char* no :
+       {"", " ", ":", "😀", "\xff", "心", "〇", "々", "ひ", "カ", "ー", "ｰ", "ㄅ", "ไ", "ລ", "ខ", "မ"}) {
+    EXPECT_FALSE(text::isOfSpacedWord(no)) << no;
+  }
+}
+
 TEST(Encoding, ValidatesUtf8AndConvertsItToUtf16AndBack) {
   EXPECT_TRUE(text::isValidUtf8("a" + family));
   for (const char* bad : {"\xff", "a\xc3", "\xc0\xaf", "\xed\xa0\x80", "\xf4\x90\x80\x80", "\x80"}) {
