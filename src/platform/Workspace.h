@@ -23,6 +23,7 @@ struct Application {
       bundleIdentifier;  ///< desktop-entry id, or the listed identifier of a known product; may be empty
   std::string name;
   PasteChord pasteChord = PasteChord::controlV;
+  bool isTerminal = false;  ///< a terminal emulator
   /// Another program reads the pasteboard for it (Wine), so nobody can tell whether it has pasted.
   bool isReadForByAnother = false;
   bool operator==(const Application&) const = default;

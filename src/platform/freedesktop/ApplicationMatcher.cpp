@@ -22,6 +22,11 @@ std::optional<std::string> firstListed(std::initializer_list<std::string> names)
   return std::nullopt;
 }
 
+bool hasTerminalClass(const WindowIdentity& window) {
+  return isTerminalClass(window.windowClass) || isTerminalClass(window.windowInstance) ||
+         isTerminalClass(window.applicationId);
+}
+
 PasteChord chordOf(const WindowIdentity& window, bool isTerminalEmulator) {
   for (const auto& name : {window.windowClass, window.windowInstance, window.applicationId}) {
     if (const auto chord = chordOfClass(name)) return *chord;
@@ -45,7 +50,8 @@ std::optional<Application> ApplicationMatcher::applicationOf(const WindowIdentit
           : firstListed({entryId, window.applicationId, window.windowClass, window.windowInstance});
   application.bundleIdentifier = listed.value_or(firstGiven({entryId, ownName}));
   application.name = entry ? entry->name : firstGiven({window.windowClass, ownName});
-  application.pasteChord = chordOf(window, entry && entry->isTerminalEmulator);
+  application.isTerminal = (entry && entry->isTerminalEmulator) || hasTerminalClass(window);
+  application.pasteChord = chordOf(window, application.isTerminal);
   application.isReadForByAnother = lowerCase(window.windowClass).ends_with(".exe");
   return application;
 }

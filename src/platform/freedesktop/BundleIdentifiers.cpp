@@ -179,13 +179,17 @@ std::vector<std::string> namesOfListed(std::string_view identifier) {
   return names;
 }
 
+bool isTerminalClass(std::string_view windowClass) {
+  return std::ranges::binary_search(terminalClasses, lowerCase(windowClass));
+}
+
 std::optional<PasteChord> chordOfClass(std::string_view windowClass) {
   const std::string name = lowerCase(windowClass);
   if (name == "gvim") return PasteChord::registerPlus;
   // While anybody listens on the accessibility bus, Qt gives the page a key only when others have been asked
   // about it: Control that is still underway when V comes is taken for the paste, and V pastes again.
   if (name == "falkon" || name == "org.kde.falkon") return PasteChord::controlShiftV;
-  const bool isKnown = name == "emacs" || std::ranges::binary_search(terminalClasses, name);
+  const bool isKnown = name == "emacs" || isTerminalClass(name);
   return isKnown ? std::optional(PasteChord::shiftInsert) : std::nullopt;
 }
 

@@ -16,9 +16,10 @@ std::optional<std::string> listedIdentifier(std::string_view name);
 /// The desktop-entry ids under which a product with a listed identifier is installed, the most usual first.
 std::vector<std::string> namesOfListed(std::string_view identifier);
 
-/// What pastes in windows of this class. Terminal emulators are known by it as well, for the many whose
-/// desktop entry does not say that they are one or that have none. None where nothing else than usual is
-/// known.
+/// Whether windows of this class are known to be a terminal emulator's: the desktop entry of many does not
+/// say so, or there is none.
+bool isTerminalClass(std::string_view windowClass);
+/// What pastes in windows of this class. None where nothing else than usual is known.
 std::optional<PasteChord> chordOfClass(std::string_view windowClass);
 
 }  // namespace tessarin::freedesktop

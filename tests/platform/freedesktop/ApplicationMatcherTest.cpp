@@ -70,7 +70,9 @@ TEST_F(ApplicationMatcherTest, FindsTheApplicationOfAWindow) {
   for (const auto& [name, window, identifier, chord] : cases) {
     SCOPED_TRACE(name);
     EXPECT_EQ(identifierOf(window), identifier);
-    EXPECT_EQ(matcher.applicationOf(window).value_or(Application{}).pasteChord, chord);
+    const Application found = matcher.applicationOf(window).value_or(Application{});
+    EXPECT_EQ(found.pasteChord, chord);
+    EXPECT_EQ(found.isTerminal, std::string_view(name).find("terminal") != std::string_view::npos);
   }
   EXPECT_TRUE(matcher.applicationOf({"", "Notepad.exe", "notepad.exe", ""})->isReadForByAnother);
 }
