@@ -20,12 +20,6 @@ constexpr milliseconds waitStep{2};
 constexpr milliseconds arrivalBudget{60};
 constexpr int ancestorsExamined = 5;
 
-/// The characters before a caret, as many as there can be.
-TextRange rangeBefore(std::int64_t caret, std::int64_t count) {
-  const std::int64_t start = std::max<std::int64_t>(caret - count, 0);
-  return {start, caret - start};
-}
-
 }  // namespace
 
 InsertionOutcome AccessibilityHelper::insertText(const std::string& typed, std::int64_t count,
@@ -45,8 +39,8 @@ InsertionOutcome AccessibilityHelper::insertText(const std::string& typed, std::
 
 InsertionOutcome AccessibilityHelper::replaceBefore(const ElementRef& element, std::int64_t location,
                                                     std::int64_t count, const std::string& text) {
-  if (accessibility_.setAttribute(element, attribute::selectedTextRange, rangeBefore(location, count)) !=
-      AccessibilityStatus::success) {
+  if (accessibility_.setAttribute(element, attribute::selectedTextRange,
+                                  TextRange::before(location, count)) != AccessibilityStatus::success) {
     return InsertionOutcome::unchanged;
   }
   switch (accessibility_.setAttribute(element, attribute::selectedText, text)) {
@@ -153,7 +147,7 @@ std::optional<AccessibilityHelper::Place> AccessibilityHelper::place(const Eleme
   const auto location = caret(element);
   if (!location) return std::nullopt;
   const auto before = accessibility_.parameterizedAttribute(element, attribute::stringForRange,
-                                                            rangeBefore(*location, count));
+                                                            TextRange::before(*location, count));
   const auto* found = before ? std::get_if<std::string>(&*before) : nullptr;
   if (!found) return std::nullopt;
   return Place{*location, *found, text::equals(*found, typed)};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <chrono>
 #include <cstdint>
 #include <functional>
@@ -30,6 +31,11 @@ struct TextRange {
   std::int64_t location = 0;
   std::int64_t length = 0;
   bool operator==(const TextRange&) const = default;
+  /// The characters before a caret, as many as there can be.
+  static constexpr TextRange before(std::int64_t caret, std::int64_t count) {
+    const std::int64_t start = std::max<std::int64_t>(caret - count, 0);
+    return {start, caret - start};
+  }
 };
 
 /// Points, sizes and rectangles are in points, accessibility coordinates.
@@ -57,7 +63,11 @@ inline constexpr std::string_view selectedTextRange =
 /// Writable only: replaces the range last written to selectedTextRange. Some texts take it from nobody.
 inline constexpr std::string_view selectedText = "AXSelectedText";
 inline constexpr std::string_view stringForRange = "AXStringForRange";  ///< parameterized by a TextRange
-inline constexpr std::string_view boundsForRange = "AXBoundsForRange";  ///< parameterized by a TextRange
+/// Parameterized by a TextRange, whose end alone counts. What the two below are for the same range is read
+/// along with it, so that they cost nothing then.
+inline constexpr std::string_view boundsForRange = "AXBoundsForRange";
+inline constexpr std::string_view isTerminal =
+    "AXIsTerminal";  ///< parameterized by a TextRange; of the element
 inline constexpr std::string_view position = "AXPosition";
 inline constexpr std::string_view size = "AXSize";
 }  // namespace attribute

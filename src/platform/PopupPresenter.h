@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,14 @@ struct PopupContent {
   bool operator==(const PopupContent&) const = default;
 };
 
+/// What the focused application told of the text around its caret.
+struct CaretContext {
+  /// What stands before the caret: two characters more than the query has, or all there are. None where it is
+  /// not told.
+  std::optional<std::string> before;
+  bool isTerminal = false;
+};
+
 /// Shows the popup beside the caret of the focused application, without taking the focus. A window, an
 /// input-method surface or a table of candidates drawn by the shell: nothing is said of where it goes. Main
 /// thread.
@@ -50,6 +59,11 @@ class PopupPresenter {
   virtual bool isVisible() const = 0;
   virtual void onRowClicked(std::function<void(int index)> callback) = 0;
   virtual void onVariantClicked(std::function<void(int index)> callback) = 0;
+
+  /// Has the text around the caret read as well when the caret is looked for, and runs whenever it was. The
+  /// callback may present something else, and answers whether it has learnt what it wanted: letters may still
+  /// be on their way. An empty one has nothing read. Where nobody looks, nobody tells.
+  virtual void onContextRead(std::function<bool(const CaretContext&)> /*callback*/) {}
 };
 
 }  // namespace tessarin

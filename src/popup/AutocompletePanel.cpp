@@ -4,6 +4,7 @@
 
 #include "popup/PopupPlacement.h"
 #include "popup/ScreenLayout.h"
+#include "text/Graphemes.h"
 
 namespace tessarin {
 namespace {
@@ -28,11 +29,30 @@ AutocompletePanel::AutocompletePanel(PopupSurface& surface, Screens& screens, Ac
 void AutocompletePanel::anticipate() {
   if (isVisible_) return;
   ++requests_;
+  anticipatedAt_ = queue_.now();
   queue_.after(takingIn, stillWanted(&AutocompletePanel::locateAhead));
 }
 
 void AutocompletePanel::locateAhead() {
-  caret_ = locator_.caretRect(ScreenLayout::read(screens_));
+  caret_ = askForCaret(ScreenLayout::read(screens_));
+  const bool mayLookAgain = tellContext() && isContextDue_;
+  if (mayLookAgain && queue_.now() - anticipatedAt_ < longestDelay) {
+    queue_.after(lookInterval, stillWanted(&AutocompletePanel::locateAhead));
+  }
+}
+
+std::optional<Rect> AutocompletePanel::askForCaret(const ScreenLayout& layout) {
+  const std::size_t shortcode = 1 + text::characterCount(presented_.query);
+  return locator_.caretRect(layout, contextRead_ ? static_cast<std::int64_t>(shortcode + 1) : 0);
+}
+
+bool AutocompletePanel::tellContext() {
+  // Copies: the callback may ask for the caret anew, and set another.
+  const auto context = locator_.context();
+  const auto tell = contextRead_;
+  const auto request = requests_;
+  isContextDue_ = context && tell && !tell(*context) && context->before;
+  return request == requests_;
 }
 
 void AutocompletePanel::present(const PopupContent& content) {
@@ -72,6 +92,10 @@ void AutocompletePanel::onVariantClicked(std::function<void(int index)> callback
   surface_.onVariantClicked(std::move(callback));
 }
 
+void AutocompletePanel::onContextRead(std::function<bool(const CaretContext&)> callback) {
+  contextRead_ = std::move(callback);
+}
+
 void AutocompletePanel::showPresented() {
   if (!isSameListAsShown()) {
     // The application, which the caret is asked of, is busy with the key meanwhile.
@@ -92,10 +116,15 @@ void AutocompletePanel::showWhereItWas() {
 
 void AutocompletePanel::locate() {
   const ScreenLayout layout = ScreenLayout::read(screens_);
-  const auto found = locator_.caretRect(layout);
+  const auto found = askForCaret(layout);
   const bool isDue = !found && locator_.isAnswerDue();
   if (!isDue) caret_ = found;
-  if (!found) locateAgainSoon();
+  if (!tellContext()) {
+    // What is presented instead is the same list, which stays where it is unless it is looked for again.
+    if (isSameListAsShown()) goOn(&AutocompletePanel::locate);
+    return;
+  }
+  if (!found || isContextDue_) locateAgainSoon();
   const bool mayWait = isDue && !shown_ && queue_.now() - openedAt_ < longestDelay;
   if (mayWait || (!found && isSameListAsShown())) return;
   frame_ = frameAt(caret_, layout);

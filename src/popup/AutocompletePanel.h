@@ -31,6 +31,7 @@ class AutocompletePanel final : public PopupPresenter {
   bool isVisible() const override { return isVisible_; }
   void onRowClicked(std::function<void(int index)> callback) override;
   void onVariantClicked(std::function<void(int index)> callback) override;
+  void onContextRead(std::function<bool(const CaretContext&)> callback) override;
 
   /// Shows what was last presented, beside this caret (screen coordinates) or, without one, beside the
   /// pointer. Hides when that has no rows.
@@ -44,6 +45,9 @@ class AutocompletePanel final : public PopupPresenter {
   };
   void showPresented();
   void locateAhead();
+  std::optional<Rect> askForCaret(const ScreenLayout& layout);
+  /// False when something else has been presented for what was read.
+  bool tellContext();
   /// Beside the caret of the key before this one: a letter off at most, and at once.
   void showWhereItWas();
   /// An application that is too busy to say where its caret is gets a while before the popup opens without.
@@ -63,6 +67,8 @@ class AutocompletePanel final : public PopupPresenter {
   Screens& screens_;
   MainQueue& queue_;
   CaretLocator locator_;
+  std::function<bool(const CaretContext&)> contextRead_;
+  bool isContextDue_ = false;  ///< what was read was not enough
 
   PopupContent presented_;
   bool isVisible_ = false;
@@ -72,6 +78,7 @@ class AutocompletePanel final : public PopupPresenter {
   Rect frame_;                 ///< for what is presented
   std::optional<Rect> caret_;  ///< where it was found last
   std::uint64_t requests_ = 0;
+  std::chrono::steady_clock::time_point anticipatedAt_;
   std::chrono::steady_clock::time_point openedAt_;
   std::chrono::steady_clock::time_point presentedAt_;
   std::shared_ptr<char> alive_ = std::make_shared<char>();

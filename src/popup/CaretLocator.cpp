@@ -33,8 +33,9 @@ bool isCredible(const Rect& rect, const ScreenLayout& layout) {
 
 }  // namespace
 
-std::optional<Rect> CaretLocator::caretRect(const ScreenLayout& layout) {
+std::optional<Rect> CaretLocator::caretRect(const ScreenLayout& layout, std::int64_t charactersBefore) {
   asked_.reset();
+  context_.reset();
   if (!accessibility_.isTrusted()) return std::nullopt;
   accessibility_.beginBudget(locatingBudget);
   asked_ = accessibility_.systemWide();
@@ -44,20 +45,32 @@ std::optional<Rect> CaretLocator::caretRect(const ScreenLayout& layout) {
   if (!element) return std::nullopt;
   asked_ = *element;
 
-  if (const auto rect = selectionBounds(*element, layout)) return rect;
+  if (const auto rect = selectionBounds(*element, layout, charactersBefore)) return rect;
   if (const auto rect = elementPointerRect(*element, layout)) return rect;
   return windowPointerRect(*application, layout);
 }
 
-std::optional<Rect> CaretLocator::selectionBounds(const ElementRef& element, const ScreenLayout& layout) {
-  const auto range = readAttribute<TextRange>(accessibility_, element, attribute::selectedTextRange);
+std::optional<Rect> CaretLocator::selectionBounds(const ElementRef& element, const ScreenLayout& layout,
+                                                  std::int64_t charactersBefore) {
+  auto range = readAttribute<TextRange>(accessibility_, element, attribute::selectedTextRange);
   if (!range) return std::nullopt;
+  const bool isRead = charactersBefore > 0 && range->length == 0;
+  if (isRead) range = TextRange::before(range->location, charactersBefore);
   const auto bounds = accessibility_.parameterizedAttribute(element, attribute::boundsForRange, *range);
+  if (isRead) context_ = readContext(element, *range);
   const Rect* rect = bounds ? std::get_if<Rect>(&*bounds) : nullptr;
   if (!rect) return std::nullopt;
 
   const Rect onScreen = layout.toScreenCoordinates(*rect);
   return isCredible(onScreen, layout) ? std::optional(onScreen) : std::nullopt;
+}
+
+CaretContext CaretLocator::readContext(const ElementRef& element, const TextRange& range) {
+  const auto before = accessibility_.parameterizedAttribute(element, attribute::stringForRange, range);
+  const auto kind = accessibility_.parameterizedAttribute(element, attribute::isTerminal, range);
+  const auto* text = before ? std::get_if<std::string>(&*before) : nullptr;
+  const bool* isTerminal = kind ? std::get_if<bool>(&*kind) : nullptr;
+  return {text ? std::optional(*text) : std::nullopt, isTerminal && *isTerminal};
 }
 
 std::optional<Rect> CaretLocator::elementPointerRect(const ElementRef& element, const ScreenLayout& layout) {

@@ -188,6 +188,48 @@ TEST_F(AutocompletePanelTest, aMovedHighlightLeavesTheWindowInPlace) {
   EXPECT_EQ(surface.shows[1].frame, surface.shows[0].frame);
 }
 
+TEST_F(AutocompletePanelTest, tellsWhatStandsBeforeTheCaretBeforeAnythingIsShown) {
+  auto field = FakeTextField::create();
+  field->parameterized.insert(element->parameterized.begin(), element->parameterized.end());
+  field->parameterized[std::string(attribute::isTerminal)] = [](const auto&) { return AttributeValue(true); };
+  field->type("12:s");
+  accessibility.focus(field);
+  show("s");
+  const int unread = std::exchange(accessibility.calls, 0);
+  panel->hide();
+  std::vector<std::string> told;
+  panel->onContextRead([&](const CaretContext& context) {
+    told.push_back(*context.before);
+    EXPECT_TRUE(context.isTerminal);
+    PopupContent withoutHighlight = contentOf("s", 2);
+    withoutHighlight.selectedIndex = -1;
+    if (told.size() == 1) panel->present(withoutHighlight);
+    return context.before->front() != '1';
+  });
+  surface.shows.clear();
+  show("s");
+  EXPECT_EQ(told, (std::vector<std::string>(2, "2:s")));
+  EXPECT_EQ(accessibility.calls, 2 * (unread + 2));
+  ASSERT_EQ(surface.shows.size(), 1U) << "what was to be shown first is not";
+  EXPECT_EQ(surface.shows[0].content.selectedIndex, -1);
+  show("sm");
+  EXPECT_EQ(told.back(), "12:s");
+  field->type("m");
+  queue.advance(milliseconds(25));
+  EXPECT_EQ(told.back(), "2:sm") << "the letter came late";
+  EXPECT_EQ(queue.pending(), 0U);
+  panel->hide();
+  field->clear();
+  field->type("12");
+  panel->anticipate();
+  queue.advance(milliseconds(25));
+  EXPECT_EQ(told.back(), "12") << "for a shortcode of one character";
+  field->type(":");
+  queue.advance(milliseconds(25));
+  EXPECT_EQ(told.back(), "2:");
+  EXPECT_EQ(queue.pending(), 0U);
+}
+
 TEST_F(AutocompletePanelTest, hidingCancelsWhatWasPutOffAndSoDoesItsEnd) {
   panel->present(contentOf("s", 2));
   panel->hide();

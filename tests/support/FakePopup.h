@@ -22,6 +22,9 @@ class FakePopupPresenter final : public PopupPresenter {
   bool isVisible() const override { return visible; }
   void onRowClicked(std::function<void(int)> callback) override { rowClicked_ = std::move(callback); }
   void onVariantClicked(std::function<void(int)> callback) override { variantClicked_ = std::move(callback); }
+  void onContextRead(std::function<bool(const CaretContext&)> callback) override {
+    readContext = std::move(callback);
+  }
 
   void clickRow(int index) {
     if (rowClicked_) rowClicked_(index);
@@ -30,6 +33,7 @@ class FakePopupPresenter final : public PopupPresenter {
     if (variantClicked_) variantClicked_(index);
   }
 
+  std::function<bool(const CaretContext&)> readContext;  ///< of the owner; empty while it wants nothing read
   std::vector<PopupContent> presented;
   int anticipations = 0;
   int hides = 0;

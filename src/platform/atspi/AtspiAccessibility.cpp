@@ -51,7 +51,12 @@ ElementRef AtspiAccessibility::systemWide() {
 void AtspiAccessibility::beginBudget(std::chrono::milliseconds budget) {
   channel_.budget().open(budget);
   inBackground_.clear();
+  forgetReadings();
+}
+
+void AtspiAccessibility::forgetReadings() {
   reading_.reset();
+  caretReading_.reset();
 }
 
 bool AtspiAccessibility::isBusy(const ElementRef& element) {
@@ -62,7 +67,7 @@ bool AtspiAccessibility::isBusy(const ElementRef& element) {
 
 bool AtspiAccessibility::pause(std::chrono::milliseconds duration) {
   if (channel_.budget().allowance(duration) < duration) return false;
-  reading_.reset();
+  forgetReadings();
   std::this_thread::sleep_for(duration);
   channel_.budget().charge(duration);
   return true;
@@ -77,7 +82,7 @@ void AtspiAccessibility::prepare() {
     toolkits_.clear();
     processes_.clear();
     kin_ = {};
-    reading_.reset();
+    forgetReadings();
     channel_.use(std::move(connection));
   }
   if (!channel_.isConnected()) watcher_.requestConnection();
@@ -286,19 +291,41 @@ std::optional<AttributeValue> AtspiAccessibility::parameterizedAttribute(const E
   const AtspiElement* asked = known(element);
   const auto* range = std::get_if<TextRange>(&parameter);
   if (asked == nullptr || asked->isSystemWide() || range == nullptr) return std::nullopt;
-  if (name != attribute::stringForRange && name != attribute::boundsForRange) return std::nullopt;
   prepare();
   if (name == attribute::stringForRange) return stringFor(asked->object(), *range);
-  auto text = textOf(asked->object());
-  if (!text) return std::nullopt;
-  const auto units = text->caretBounds(*range);
-  const auto points =
-      units ? toPoints(*units, asked->object(), text->toolkit().isWindowRelative) : std::nullopt;
+  if (name == attribute::boundsForRange) return boundsFor(asked->object(), *range);
+  const auto* place = name == attribute::isTerminal ? caretPlace(asked->object(), *range) : nullptr;
+  return place && place->role ? Value(*place->role == busRole::terminal) : std::nullopt;
+}
+
+const RemoteText::CaretPlace* AtspiAccessibility::knownPlace(const ObjectReference& object,
+                                                             const TextRange& range) const {
+  const bool isKnown = caretReading_ && caretReading_->of == object && caretReading_->range == range;
+  return isKnown ? &caretReading_->place : nullptr;
+}
+
+const RemoteText::CaretPlace* AtspiAccessibility::caretPlace(const ObjectReference& object,
+                                                             const TextRange& range) {
+  if (const auto* known = knownPlace(object, range)) return known;
+  auto text = textOf(object);
+  if (!text) return nullptr;
+  caretReading_ = CaretReading{object, range, text->caretPlace(range)};
+  return &caretReading_->place;
+}
+
+AtspiAccessibility::Value AtspiAccessibility::boundsFor(const ObjectReference& object,
+                                                        const TextRange& range) {
+  caretReading_.reset();
+  const auto* place = caretPlace(object, range);
+  const auto counts = toolkit(object.bus);
+  if (!place || !place->bounds || !counts) return std::nullopt;
+  const auto points = toPoints(*place->bounds, object, counts->isWindowRelative);
   return points ? Value(*points) : std::nullopt;
 }
 
 AtspiAccessibility::Value AtspiAccessibility::stringFor(const ObjectReference& object,
                                                         const TextRange& range) {
+  if (const auto* place = range.length > 0 ? knownPlace(object, range) : nullptr) return place->before;
   auto text = textOf(object);
   auto stretch = text ? text->stretch(range) : std::nullopt;
   if (!stretch) return std::nullopt;
@@ -313,6 +340,7 @@ AtspiAccessibility::Value AtspiAccessibility::stringFor(const ObjectReference& o
 // What has just been looked at for this key is what is replaced.
 AccessibilityStatus AtspiAccessibility::replace(const ObjectReference& object, const TextRange& range,
                                                 const std::string& newText) {
+  caretReading_.reset();
   if (object == readOnly_) return AccessibilityStatus::failure;
   const auto read = std::exchange(reading_, std::nullopt);
   auto text = textOf(object);

@@ -91,6 +91,7 @@ class AtspiAccessibility final : public Accessibility {
   std::optional<Rect> extents(const ObjectReference& object);
   std::optional<Toolkit> toolkit(const std::string& bus);
   std::optional<RemoteText> textOf(const ObjectReference& object);
+  Value boundsFor(const ObjectReference& object, const TextRange& range);
   Value stringFor(const ObjectReference& object, const TextRange& range);
   AccessibilityStatus replace(const ObjectReference& object, const TextRange& range, const std::string& text);
 
@@ -118,6 +119,16 @@ class AtspiAccessibility final : public Accessibility {
   std::optional<Reading> reading_;
   /// The text that the user may write into, and nobody over the bus.
   std::optional<ObjectReference> readOnly_;
+  /// What was read along with the bounds asked for last, for the same key.
+  struct CaretReading {
+    ObjectReference of;
+    TextRange range;
+    RemoteText::CaretPlace place;
+  };
+  const RemoteText::CaretPlace* knownPlace(const ObjectReference& object, const TextRange& range) const;
+  const RemoteText::CaretPlace* caretPlace(const ObjectReference& object, const TextRange& range);
+  void forgetReadings();
+  std::optional<CaretReading> caretReading_;
   struct Selection {
     ObjectReference object;
     TextRange range;

@@ -23,6 +23,10 @@ constexpr std::int64_t unitsInReserve = 16;
 /// The text stands there already, so its order is worth this even where the key's account is used up.
 constexpr std::chrono::milliseconds caretTime{40};
 
+std::int64_t startOfClusters(std::int64_t end, std::int64_t clusters, std::int64_t factor = 1) {
+  return std::max<std::int64_t>(0, end - (unitsPerCluster * clusters + unitsInReserve) * factor);
+}
+
 void append(DBusMessage* message, std::int64_t value) {
   const auto number = static_cast<dbus_int32_t>(value);
   dbus_message_append_args(message, DBUS_TYPE_INT32, &number, DBUS_TYPE_INVALID);
@@ -107,16 +111,19 @@ std::optional<RemoteText::Stretch> RemoteText::stretch(const TextRange& range) {
   if (clusters < 0 || clusters > mostClusters || end < 0 || end > lastPosition) return std::nullopt;
   if (clusters == 0) return Stretch{end, end, {}};
   for (const std::int64_t factor : {1, 8}) {
-    const std::int64_t start =
-        std::max<std::int64_t>(0, end - (unitsPerCluster * clusters + unitsInReserve) * factor);
+    const std::int64_t start = startOfClusters(end, clusters, factor);
     const auto fetched = text(start, end);
     if (!fetched) return std::nullopt;
-    std::string last = text::lastCharacters(*fetched, static_cast<std::size_t>(clusters));
-    // The first cluster that was fetched may be the end of a longer one.
-    if (last.size() == fetched->size() && start > 0) continue;
-    return Stretch{end - countUnits(last, toolkit_.offset), end, std::move(last)};
+    auto last = lastClusters(*fetched, start, clusters);
+    if (last) return Stretch{end - countUnits(*last, toolkit_.offset), end, *std::move(last)};
   }
   return std::nullopt;
+}
+
+std::optional<std::string> RemoteText::lastClusters(const std::string& fetched, std::int64_t start,
+                                                    std::int64_t clusters) {
+  std::string last = text::lastCharacters(fetched, static_cast<std::size_t>(clusters));
+  return last.size() == fetched.size() && start > 0 ? std::nullopt : std::optional(std::move(last));
 }
 
 MessagePtr RemoteText::textRequest(std::int64_t start, std::int64_t end) const {
@@ -128,29 +135,52 @@ MessagePtr RemoteText::textRequest(std::int64_t start, std::int64_t end) const {
 
 std::optional<std::string> RemoteText::text(std::int64_t start, std::int64_t end) {
   const MessagePtr reply = ask(textRequest(start, end));
-  auto text = MessageReader(reply.get()).string();
+  return textIn(reply.get(), end - start);
+}
+
+std::optional<std::string> RemoteText::textIn(DBusMessage* reply, std::int64_t units) const {
+  auto text = MessageReader(reply).string();
   if (text && toolkit_.pads) text = withoutPadding(*text);
   // An application that answers less or more than was asked for, or counts otherwise than its toolkit does,
   // would have us erase the wrong characters.
-  if (!text || countUnits(*text, toolkit_.offset) != end - start) return std::nullopt;
+  if (!text || countUnits(*text, toolkit_.offset) != units) return std::nullopt;
   return text;
 }
 
-std::optional<Rect> RemoteText::caretBounds(const TextRange& range) {
+RemoteText::CaretPlace RemoteText::caretPlace(const TextRange& range) {
   const std::int64_t position = range.location + range.length;
-  if (range.length < 0 || position < 0 || position > lastPosition) return std::nullopt;
-  std::optional<Rect> bounds;
+  if (range.length < 0 || range.length > mostClusters || position < 0 || position > lastPosition) return {};
+  CaretPlace place;
   if (position == 0) {
     const MessagePtr reply = ask(extentsRequest(position));
-    bounds = rectOf(reply.get());
+    place.bounds = rectOf(reply.get());
   } else {
-    const auto [at, before, letter] =
-        askAll(extentsRequest(position), extentsRequest(position - 1), textRequest(position - 1, position));
-    bounds = rectOf(at.get());
-    if (!bounds) bounds = behind(rectOf(before.get()), MessageReader(letter.get()).string());
+    place = range.length == 0 ? placeBehind(position) : placeBehind(range);
   }
-  if (bounds) bounds->width = 1;
-  return bounds;
+  if (place.bounds) place.bounds->width = 1;
+  return place;
+}
+
+RemoteText::CaretPlace RemoteText::placeBehind(std::int64_t position) {
+  const auto [at, before, letter] =
+      askAll(extentsRequest(position), extentsRequest(position - 1), textRequest(position - 1, position));
+  return {boundsOf(at.get(), before.get(), letter.get()), {}, {}};
+}
+
+RemoteText::CaretPlace RemoteText::placeBehind(const TextRange& range) {
+  const std::int64_t end = range.location + range.length;
+  const std::int64_t start = startOfClusters(end, range.length);
+  const auto [at, before, letters, role] =
+      askAll(extentsRequest(end), extentsRequest(end - 1), textRequest(start, end), roleRequest());
+  const auto fetched = textIn(letters.get(), end - start);
+  return {boundsOf(at.get(), before.get(), letters.get()),
+          fetched ? lastClusters(*fetched, start, range.length) : std::nullopt,
+          MessageReader(role.get()).uint32()};
+}
+
+std::optional<Rect> RemoteText::boundsOf(DBusMessage* at, DBusMessage* before, DBusMessage* letters) {
+  const auto bounds = rectOf(at);
+  return bounds ? bounds : behind(rectOf(before), MessageReader(letters).string());
 }
 
 MessagePtr RemoteText::extentsRequest(std::int64_t position) const {
@@ -163,7 +193,7 @@ MessagePtr RemoteText::extentsRequest(std::int64_t position) const {
 
 std::optional<Rect> RemoteText::behind(std::optional<Rect> letter, const std::optional<std::string>& text) {
   if (!letter) return std::nullopt;
-  if (text == "\n") {
+  if (text && text->ends_with('\n')) {
     const auto whole = extents(toolkit_.isWindowRelative);
     if (!whole) return std::nullopt;
     return Rect{whole->x, letter->y + letter->height, 0, letter->height};

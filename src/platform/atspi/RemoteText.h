@@ -28,9 +28,15 @@ class RemoteText : public RemoteObject {
   std::optional<TextRange> selectedRange();
   /// The clusters of a range, as they stand there now.
   std::optional<Stretch> stretch(const TextRange& range);
-  /// The caret as it would be at the range's end, in pixels; relative to the window if that is the toolkit's
-  /// way.
-  std::optional<Rect> caretBounds(const TextRange& range);
+  /// The end of a range, asked about at one go.
+  struct CaretPlace {
+    /// The caret as it would be there, in pixels; relative to the window if that is the toolkit's way.
+    std::optional<Rect> bounds;
+    /// The range's clusters and the element's role; none for an empty range.
+    std::optional<std::string> before;
+    std::optional<std::uint32_t> role;
+  };
+  CaretPlace caretPlace(const TextRange& range);
   /// What tells whether and where one may write, asked at one go: an application that begins to draw between
   /// two answers lets the second one wait for a whole frame.
   struct Glance {
@@ -51,7 +57,14 @@ class RemoteText : public RemoteObject {
   /// Of the answers to `CaretOffset` and `GetNSelections`.
   std::optional<TextRange> rangeOf(DBusMessage* caret, DBusMessage* selections);
   std::optional<std::string> text(std::int64_t start, std::int64_t end);
+  std::optional<std::string> textIn(DBusMessage* reply, std::int64_t units) const;
+  /// The last clusters of what was fetched from `start` on; none where the first may be part of a longer one.
+  static std::optional<std::string> lastClusters(const std::string& fetched, std::int64_t start,
+                                                 std::int64_t clusters);
   MessagePtr textRequest(std::int64_t start, std::int64_t end) const;
+  CaretPlace placeBehind(std::int64_t position);
+  CaretPlace placeBehind(const TextRange& range);
+  std::optional<Rect> boundsOf(DBusMessage* at, DBusMessage* before, DBusMessage* letters);
   MessagePtr extentsRequest(std::int64_t position) const;
   /// Where the caret stands behind a letter: no rectangle is to be had where there is no character.
   std::optional<Rect> behind(std::optional<Rect> letter, const std::optional<std::string>& text);

@@ -393,6 +393,29 @@ TEST_F(AtspiAccessibilityTest, asksNothingTwiceForOneKey) {
   EXPECT_EQ(read(attribute::selectedTextRange), AttributeValue(TextRange{1, 0})) << "time has passed";
 }
 
+TEST_F(AtspiAccessibilityTest, readsWhatStandsBeforeTheCaretAlongWithItsPlace) {
+  openApplication();
+  application->answer("GetCharacterExtents", bounds({100, 50, 12, 20}));
+  const auto text = [this] { return read(attribute::stringForRange, {8, 2}); };
+  const auto isTerminal = [this] { return read(attribute::isTerminal, {8, 2}); };
+  for (const bool terminal : {false, true}) {
+    if (terminal) application->answer("GetRole", value(busRole::terminal));
+    accessibility->beginBudget(std::chrono::seconds(5));
+    EXPECT_TRUE(read(attribute::boundsForRange, {8, 2}));
+    const int asked = application->calls("GetText") + application->calls("GetRole");
+    EXPECT_EQ(text(), AttributeValue(std::string("le")));
+    EXPECT_EQ(isTerminal(), AttributeValue(terminal));
+    EXPECT_EQ(application->calls("GetText") + application->calls("GetRole"), asked);
+  }
+  application->setText(U"0123456789", 10);
+  EXPECT_EQ(text(), AttributeValue(std::string("le"))) << "for the same key";
+  accessibility->beginBudget(std::chrono::seconds(5));
+  EXPECT_EQ(text(), AttributeValue(std::string("89")));
+  application->answer("GetText", value("9"));
+  EXPECT_TRUE(read(attribute::boundsForRange, {8, 2}));
+  EXPECT_FALSE(text()) << "less than was asked for";
+}
+
 TEST_F(AtspiAccessibilityTest, readsAndReplacesCharactersAsTheUserCountsThem) {
   std::string accented = "e";
   for (int i = 0; i < 40; ++i) accented += "\u0301";
