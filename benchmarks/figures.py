@@ -80,7 +80,7 @@ def start(table, runs=10):
 def keys(table, rounds=30, turns=2):
     with Session() as session:
         typist = Typist(session)
-        with Tessarin(session):
+        with Tessarin(session, confirmsOnlyWhatIsMeant=True):
             popup_against_letter(session, typist, table, rounds)
             confirming_against_bus(session, typist, table, rounds // 3)
         delay_of_passed_keys(session, typist, table, turns=turns)

@@ -10,7 +10,7 @@ from stopwatch import Stopwatch
 from table import milliseconds, percentile
 
 PAUSE_AT_200_WORDS_A_MINUTE = 60 / (200 * 5)
-BEFORE = "xy"  # what stands before a shortcode
+BEFORE = "x-"  # what stands before a shortcode; behind a letter Return would not confirm
 SHORTCODE = "smile"
 EMOJI = "😄"
 HEADER = (16, 4, 288, 20)  # of the popup; shows the query
@@ -108,7 +108,7 @@ class Replacement:
         return found[0] - begin if found else None
 
     def by_key(self, key):
-        self._type("x:" + SHORTCODE)
+        self._type(BEFORE + ":" + SHORTCODE)
         wait_for(self._typist.popup)
         self._stopwatch.clear()
         return self._seen(self._stopwatch.press(key))

@@ -23,7 +23,7 @@ class Ours:
     text = "😄"
 
     def __init__(self, session):
-        self._tessarin = Tessarin(session)
+        self._tessarin = Tessarin(session, confirmsOnlyWhatIsMeant=True)
 
     def start(self):
         self._tessarin.start()
@@ -145,7 +145,7 @@ class Turn:
 
     def _expand(self, key, pause):
         """Seconds from the confirming key to the text."""
-        self._typist.type(f"x{self._peer.trigger}{SHORTCODE}", pause)
+        self._typist.type(f"x-{self._peer.trigger}{SHORTCODE}", pause)
         time.sleep(PAUSE_AT_200_WORDS_A_MINUTE)
         self._stopwatch.clear()
         begin = self._stopwatch.press(key)

@@ -8,7 +8,7 @@ import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools/desktop"))
 
-from session import Session, Tessarin, wait_for
+from session import PREFERENCES, Session, Tessarin, wait_for
 from typist import Typist
 
 SNIPPETS = {
@@ -40,7 +40,7 @@ class DesktopTest(unittest.TestCase):
         config = pathlib.Path(cls.session.env["XDG_CONFIG_HOME"]) / "tessarin"
         config.mkdir(parents=True)
         cls.preferences_path = config / "preferences.json"
-        cls.preferences_path.write_text(json.dumps({"hasCompletedOnboarding": True} | cls.preferences))
+        cls.preferences_path.write_text(json.dumps(PREFERENCES | cls.preferences))
         cls.typist = Typist(cls.session)
         cls.addClassCleanup(cls.typist.close)
         cls.tessarin = cls.enterClassContext(Tessarin(cls.session))

@@ -105,6 +105,11 @@ class Editor:
         self.save()
         return self._saved_text().removesuffix("\n")
 
+    def lines(self):
+        """What has been typed, line by line."""
+        self.save()
+        return self.path.read_text().splitlines()
+
     def wait_for_document(self, expected, seconds=20.0):
         """The document once it is as expected, else what it was when the time was over."""
         seen = []
@@ -241,7 +246,8 @@ class Thunderbird(Editor):
 class Xterm(Editor):
     """A terminal that copies its lines into a file; where the lines end does not count."""
 
-    command = ("xterm", "-fa", "DejaVu Sans Mono", "-e", "sh", "-c", 'stty -echoctl iutf8; exec cat > "$0"')
+    shell = ("sh", "-c", 'stty -echoctl iutf8; exec cat > "$0"')
+    command = ("xterm", "-fa", "DejaVu Sans Mono", "-e", *shell)
     keeps_lines = False
 
     def _wait_until_it_takes_keys(self):
@@ -254,9 +260,22 @@ class Xterm(Editor):
     def document(self):
         return self.path.read_text().replace("\n", "")
 
+    def lines(self):
+        return self.path.read_text().splitlines()
+
     def wait_for_document(self, expected, seconds=20.0):
         self.save()
         return super().wait_for_document(expected, seconds)
+
+
+class Urxvt(Xterm):
+    command = ("urxvt", "-e", *Xterm.shell)
+
+
+class XfceTerminal(Xterm):
+    """One that tells assistive technologies its text."""
+
+    command = ("xfce4-terminal", "--disable-server", "-x", *Xterm.shell)
 
 
 class Shell(Xterm):

@@ -1,6 +1,7 @@
 """A private desktop: X server, window manager, session and accessibility buses, and the program under test."""
 
 import contextlib
+import json
 import os
 import pathlib
 import re
@@ -12,6 +13,9 @@ import time
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 PROGRAM = pathlib.Path(os.environ.get("TESSARIN_PROGRAM", ROOT / "build/release/tessarin"))
+
+# Most of what is typed has letters right before the trigger, to see that they stay.
+PREFERENCES = {"hasCompletedOnboarding": True, "confirmsOnlyWhatIsMeant": False}
 
 
 def wait_for(condition, seconds=10.0, what="a condition"):
@@ -144,7 +148,7 @@ class Session:
 class Tessarin:
     """The running program; its log goes to a file."""
 
-    def __init__(self, session, allowed=True, program=PROGRAM, welcomes=False):
+    def __init__(self, session, allowed=True, program=PROGRAM, welcomes=False, **preferences):
         self.session = session
         self.program = program
         self.log_path = session.folder / "tessarin.log"
@@ -153,13 +157,13 @@ class Tessarin:
         if allowed:
             session.run(program, "--allow")
         if not welcomes:
-            self._skip_onboarding()
+            self._skip_onboarding(PREFERENCES | preferences)
 
-    def _skip_onboarding(self):
+    def _skip_onboarding(self, preferences):
         path = pathlib.Path(self.session.env["XDG_CONFIG_HOME"]) / "tessarin/preferences.json"
         if not path.exists():
             path.parent.mkdir(parents=True, exist_ok=True)
-            path.write_text('{"hasCompletedOnboarding":true}')
+            path.write_text(json.dumps(preferences))
 
     def __enter__(self):
         self.start()

@@ -17,6 +17,10 @@ for keysyms in ("cyrillic", "xkb"):
     Xlib.XK.load_keysym_group(keysyms)
 
 
+def keysym_of(character):
+    return ord(character) if ord(character) < 0x100 else 0x1000000 | ord(character)
+
+
 class Typist:
     """Knows the layout of the time when it is made, and types in the group given (from 0)."""
 
@@ -24,6 +28,7 @@ class Typist:
         self.display = display.Display(session.env["DISPLAY"])
         self._group = group
         self._codes = {}
+        self._borrowed = []
 
     def close(self):
         self.display.close()
@@ -31,7 +36,7 @@ class Typist:
     def _code(self, name):
         """Key code, and the modifiers that pick the character."""
         if name not in self._codes:
-            keysym = Xlib.XK.string_to_keysym(name)
+            keysym = Xlib.XK.string_to_keysym(name) or keysym_of(name)
             columns = self._columns()
             matches = [match for match in self.display.keysym_to_keycodes(keysym) if match[1] in columns]
             if not matches:
@@ -45,6 +50,27 @@ class Typist:
         if self._group == 1:
             return {2: [], 3: ["Shift_L"], 0: [], 1: ["Shift_L"]}
         return {0: [], 1: ["Shift_L"], 4: ["ISO_Level3_Shift"], 5: ["Shift_L", "ISO_Level3_Shift"]}
+
+    def borrow_keys(self, text):
+        """Gives each character that the layout lacks a key, with or without Shift, until the next call."""
+        info = self.display.display.info
+        free = [code for code in range(info.min_keycode, info.max_keycode + 1)
+                if code in self._borrowed or not any(self.display.get_keyboard_mapping(code, 1)[0])]
+        lacking = [each for each in dict.fromkeys(text) if each.isprintable() and not self._has_key(each)]
+        pairs = [lacking[at:at + 2] for at in range(0, len(lacking), 2)]
+        if len(pairs) > len(free):
+            raise ValueError(f"{len(free)} keys for {len(lacking)} characters")
+        self._borrowed = free
+        for code, pair in zip(free, pairs):
+            self.display.change_keyboard_mapping(code, [[keysym_of(each) for each in pair]])
+            self._codes |= {each: (code, ["Shift_L"] * column) for column, each in enumerate(pair)}
+        self.display.sync()
+
+    def _has_key(self, character):
+        try:
+            return self._code(NAMED.get(character, character))[0] not in self._borrowed
+        except ValueError:
+            return False
 
     def down(self, name):
         xtest.fake_input(self.display, X.KeyPress, self._code(name)[0])
