@@ -1,8 +1,10 @@
 #include "app/AppDelegate.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/Log.h"
+#include "input/Doubt.h"
 #include "input/Preferences.h"
 #include "platform/Accessibility.h"
 #include "platform/KeyCodes.h"
@@ -16,6 +18,16 @@ namespace tessarin {
 namespace {
 
 constexpr const char* appComponent = "Tessarin";
+
+bool isNamed(const Snippet& snippet, const std::string& query) {
+  return text::equals(text::lowercased(snippet.trigger), query);
+}
+
+bool hasKeyword(const Snippet& snippet, const std::string& query) {
+  return std::ranges::any_of(snippet.keywords, [&query](const std::string& keyword) {
+    return text::equals(text::lowercased(keyword), query);
+  });
+}
 
 }  // namespace
 
@@ -46,6 +58,7 @@ void AppDelegate::applicationDidFinishLaunching() {
   if (services_.startUpdateService) services_.startUpdateService();
   menuBarManager_.setSnippetStore(snippetStore_);
   showMenuBarIconIfWanted();
+  readContextIfWanted();
   menuBarManager_.setupStatusItem();
   installPanelHandlers();
   installHandlers();
@@ -83,6 +96,18 @@ void AppDelegate::observeDesktop() {
 void AppDelegate::showMenuBarIconIfWanted() {
   services_.statusBar.setVisible(services_.userDefaults.boolean(preferences::key::showMenuBarIcon)
                                      .value_or(preferences::showMenuBarIconWhenAbsent));
+}
+
+void AppDelegate::readContextIfWanted() {
+  const bool isWanted = preferences::confirmsOnlyWhatIsMeant(services_.userDefaults) ||
+                        preferences::triggersOnlyAtWordStart(services_.userDefaults);
+  if (!isWanted) return services_.autocompletePanel.onContextRead(nullptr);
+  services_.autocompletePanel.onContextRead(
+      [this, weak = std::weak_ptr<char>(alive_),
+       tell = handler(&AppDelegate::handleContextRead)](const CaretContext& context) {
+        tell(context);
+        return weak.expired() || typed_.preceding() != Preceding::unknown;
+      });
 }
 
 void AppDelegate::showOnboardingIfNeeded() {
@@ -196,7 +221,9 @@ void AppDelegate::feedDetector(const std::optional<std::string>& characters, std
   if (!triggerDetector_.isAccumulating()) return;
   // Still collecting, so the key was one that reaches the document: keep account of it, dropped or not.
   if (!wasCollecting) {
-    typed_.begin(*characters);
+    typed_.begin(*characters, triggerDetector_.preceding());
+    const auto application = services_.workspace.frontmostApplication();
+    isInTerminal_ = application && application->isTerminal;
     popup_.anticipate();
   } else if (keyCode == keycode::deleteBackward) {
     typed_.deleteLast();
@@ -211,7 +238,22 @@ void AppDelegate::feedDetector(const std::optional<std::string>& characters, std
 
 void AppDelegate::handleQuery(const std::string& query) {
   if (query.empty()) return popup_.close();
-  popup_.showResults(snippetStore_.search(query, maximumResults), query);
+  auto results = snippetStore_.search(query, maximumResults);
+  const bool inDoubt = isDoubtful(query, results);
+  popup_.showResults(std::move(results), query, inDoubt);
+}
+
+bool AppDelegate::isDoubtful(const std::string& query, const std::vector<Snippet>& results) const {
+  if (!preferences::confirmsOnlyWhatIsMeant(services_.userDefaults)) return false;
+  const std::string folded = text::lowercased(query);
+  const auto is = [&](bool (*property)(const Snippet&, const std::string&)) {
+    return std::ranges::any_of(results, [&](const Snippet& snippet) { return property(snippet, folded); });
+  };
+  return tessarin::isDoubtful({.query = query,
+                               .isTrigger = is(isNamed),
+                               .isKeyword = is(hasKeyword),
+                               .preceding = typed_.preceding(),
+                               .isInTerminal = isInTerminal_});
 }
 
 void AppDelegate::handleCancel() {
@@ -219,7 +261,7 @@ void AppDelegate::handleCancel() {
 }
 
 void AppDelegate::handleConfirm(const std::string&) {
-  const auto snippet = autocompleteViewModel_.selectedSnippet();
+  const auto snippet = snippetToConfirm();
   if (!snippet || !beginInsertionByKey()) return popup_.close();
   Replacement replacement = replacementBy(*snippet);
   if (lastConfirmWasTriggerChar_ && keyboardMonitor_.isCurrentKeyInDocument()) {
@@ -227,6 +269,13 @@ void AppDelegate::handleConfirm(const std::string&) {
     replacement.typed += confirmingCharacters_;
   }
   expand(*snippet, replacement);
+}
+
+// The trigger confirms where no row is highlighted, too.
+std::optional<Snippet> AppDelegate::snippetToConfirm() const {
+  const auto& results = autocompleteViewModel_.results();
+  const bool takesFirst = lastConfirmWasTriggerChar_ && !autocompleteViewModel_.hasSelection();
+  return takesFirst && !results.empty() ? results.front() : autocompleteViewModel_.selectedSnippet();
 }
 
 // A key that is still held never needs to reach the document to be erased there. One that has been let by,
@@ -298,7 +347,18 @@ void AppDelegate::handleVariantClick(int index) {
 
 void AppDelegate::handleDefaultsChange() {
   showMenuBarIconIfWanted();
+  readContextIfWanted();
   popup_.invalidate();
+}
+
+void AppDelegate::handleContextRead(const CaretContext& context) {
+  if (!triggerDetector_.isAccumulating()) return;
+  isInTerminal_ |= context.isTerminal;
+  if (context.before) typed_.noteTextBeforeCaret(*context.before);
+  const bool beginsNothing =
+      typed_.preceding() == Preceding::word && preferences::triggersOnlyAtWordStart(services_.userDefaults);
+  if (beginsNothing) return handleAppSwitch();
+  popup_.setDoubtful(isDoubtful(autocompleteViewModel_.query(), autocompleteViewModel_.results()));
 }
 
 // After every event

@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "app/PopupController.h"
 #include "base/Subscription.h"
@@ -17,12 +18,12 @@
 #include "input/TypedShortcode.h"
 #include "menu/MenuBarManager.h"
 #include "model/SnippetStore.h"
+#include "platform/PopupPresenter.h"
 #include "platform/TextInsertion.h"
 #include "popup/AutocompleteViewModel.h"
 
 namespace tessarin {
 
-class PopupPresenter;
 class Workspace;
 
 /// Owns the long-lived components and wires them: keys become popup navigation or detector input, the
@@ -90,6 +91,7 @@ class AppDelegate {
   void installPanelHandlers();
   void observeDesktop();
   void showMenuBarIconIfWanted();
+  void readContextIfWanted();
   void showOnboardingIfNeeded();
   void startKeyboardMonitor();
   void startPermissionRetryTimer();
@@ -101,6 +103,8 @@ class AppDelegate {
   bool opensInSecret(const std::optional<std::string>& characters);
   void feedDetector(const std::optional<std::string>& characters, std::int64_t keyCode, std::uint64_t flags);
   void handleQuery(const std::string& query);
+  bool isDoubtful(const std::string& query, const std::vector<Snippet>& results) const;
+  std::optional<Snippet> snippetToConfirm() const;
   void handleCancel();
   void handleConfirm(const std::string& query);
   void handleClick(const Snippet& snippet);
@@ -109,6 +113,7 @@ class AppDelegate {
   void handleRowClick(int index);
   void handleVariantClick(int index);
   void handleDefaultsChange();
+  void handleContextRead(const CaretContext& context);
   void handleInsertionDone(InsertionOutcome outcome);
 
   Replacement replacementBy(const Snippet& snippet) const;
@@ -142,6 +147,7 @@ class AppDelegate {
 
   TypedShortcode typed_;
   bool lastConfirmWasTriggerChar_ = false;
+  bool isInTerminal_ = false;
   std::string confirmingCharacters_;  ///< as typed; meant only while the flag above is set
   int insertionsUnderWay_ = 0;
   int handlerDepth_ = 0;

@@ -15,7 +15,10 @@ namespace tessarin {
 PopupController::PopupController(AutocompleteViewModel& model, PopupPresenter& panel,
                                  KeyboardMonitor& monitor, const UserDefaults& defaults)
     : model_(model), panel_(panel), monitor_(monitor), defaults_(defaults) {
-  modelObserver_ = model_.onChange([this] { invalidate(); });
+  modelObserver_ = model_.onChange([this] {
+    invalidate();
+    monitor_.leavesConfirmingKeys = !model_.hasSelection();
+  });
 }
 
 bool PopupController::isVisible() const {
@@ -26,9 +29,20 @@ void PopupController::anticipate() {
   panel_.anticipate();
 }
 
-void PopupController::showResults(std::vector<Snippet> results, const std::string& query) {
+int PopupController::firstHighlight() const {
+  return isDoubtful_ && !isChosenFrom_ ? AutocompleteViewModel::noRow : 0;
+}
+
+void PopupController::setDoubtful(bool isDoubtful) {
+  const bool isNews = std::exchange(isDoubtful_, isDoubtful) != isDoubtful;
+  const bool isShown = !model_.results().empty();
+  if (isNews && isShown && !isChosenFrom_) model_.setSelectedIndex(firstHighlight());
+}
+
+void PopupController::showResults(std::vector<Snippet> results, const std::string& query, bool isDoubtful) {
   const bool isEmpty = results.empty();
-  model_.updateResults(std::move(results), query);
+  isDoubtful_ = isDoubtful;
+  model_.updateResults(std::move(results), query, firstHighlight());
   if (isEmpty) return hide();
   present();
   monitor_.isIntercepting = true;
@@ -47,6 +61,7 @@ void PopupController::hide() {
 
 void PopupController::close() {
   hide();
+  isChosenFrom_ = false;
   model_.reset();
 }
 
@@ -63,9 +78,11 @@ bool PopupController::handleArrow(std::int64_t keyCode) {
       handleRight();
       return true;
     case keycode::down:
+      isChosenFrom_ = true;
       model_.moveSelectionDown();
       return true;
     case keycode::up:
+      isChosenFrom_ = true;
       model_.moveSelectionUp();
       return true;
     default:
@@ -83,6 +100,7 @@ void PopupController::handleRight() {
   if (model_.skinToneMode()) return model_.moveSkinToneRight();
   const auto snippet = model_.selectedSnippet();
   if (!snippet || !supportsSkinTones(snippet->replacement)) return;
+  isChosenFrom_ = true;
   model_.enterSkinToneMode(*snippet);
   monitor_.shouldConsumeArrows = true;
 }

@@ -25,8 +25,11 @@ class PopupController {
   bool isVisible() const;
   /// A collecting has begun.
   void anticipate();
-  /// Hides the popup when there are no results; the model keeps them and the query all the same.
-  void showResults(std::vector<Snippet> results, const std::string& query);
+  /// Hides the popup when there are no results; the model keeps them and the query all the same. No row is
+  /// highlighted where the query is doubtful, unless the user has moved through the lists of this shortcode.
+  void showResults(std::vector<Snippet> results, const std::string& query, bool isDoubtful);
+  /// The doubt about what is shown has been raised or removed.
+  void setDoubtful(bool isDoubtful);
   void hide();
   /// Hides the popup and empties the model.
   void close();
@@ -45,12 +48,15 @@ class PopupController {
   void present();
   void handleLeft();
   void handleRight();
+  int firstHighlight() const;
 
   AutocompleteViewModel& model_;
   PopupPresenter& panel_;
   KeyboardMonitor& monitor_;
   const UserDefaults& defaults_;
   bool isStale_ = false;
+  bool isDoubtful_ = false;
+  bool isChosenFrom_ = false;  ///< the user has moved through a list since the shortcode was begun
   Subscription modelObserver_;
 };
 

@@ -66,6 +66,7 @@ bool KeyboardMonitor::swallows(std::int64_t keyCode) const {
   switch (keyCode) {
     case keycode::returnKey:
     case keycode::tab:
+      return !leavesConfirmingKeys;
     case keycode::escape:
     case keycode::down:
     case keycode::up:

@@ -44,19 +44,20 @@ class KeyboardMonitor {
   bool swallowCurrentKey();
   /// While `onKeyEvent` runs: whether the key would be swallowed if it ended now.
   bool isCurrentKeySwallowed() const;
-  /// The rule as the two flags stand now: Return, Tab, Escape, Up and Down while intercepting, Left and Right
-  /// only with `shouldConsumeArrows` as well.
+  /// The rule as the flags stand now: Return, Tab, Escape, Up and Down while intercepting, Left and Right
+  /// only with `shouldConsumeArrows` as well, Return and Tab not with `leavesConfirmingKeys`.
   bool swallows(std::int64_t keyCode) const;
 
-  /// A key-down event; `characters` is absent when the key produces no text. The two flags may be changed
+  /// A key-down event; `characters` is absent when the key produces no text. The flags may be changed
   /// meanwhile: a key is swallowed when the rule asks for it before or after the call.
   std::function<void(const std::optional<std::string>& characters, std::int64_t keyCode, std::uint64_t flags)>
       onKeyEvent;
   /// Keys may have gone to the document unseen: what is being collected cannot be trusted any more.
   std::function<void()> onInterrupted;
 
-  bool isIntercepting = false;       ///< set while the popup is shown
-  bool shouldConsumeArrows = false;  ///< set while the skin-tone picker is open
+  bool isIntercepting = false;        ///< set while the popup is shown
+  bool shouldConsumeArrows = false;   ///< set while the skin-tone picker is open
+  bool leavesConfirmingKeys = false;  ///< set while no row is highlighted
 
  private:
   KeyVerdict handle(const KeyEvent& event);

@@ -29,6 +29,14 @@ std::string currentTriggerCharacter(const UserDefaults& defaults) {
   return text::firstCharacter(*stored);
 }
 
+bool confirmsOnlyWhatIsMeant(const UserDefaults& defaults) {
+  return defaults.boolean(key::confirmsOnlyWhatIsMeant).value_or(true);
+}
+
+bool triggersOnlyAtWordStart(const UserDefaults& defaults) {
+  return defaults.boolean(key::triggersOnlyAtWordStart).value_or(false);
+}
+
 const AppSet& defaultBlockedApps() {
   static const AppSet apps = {"com.tinyspeck.slackmacgap", "com.apple.MobileSMS"};
   return apps;

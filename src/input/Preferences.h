@@ -14,7 +14,11 @@ namespace tessarin::preferences {
 
 /// Keys of the preferences store, with the type and the value when absent.
 namespace key {
-inline constexpr const char* triggerCharacter = "triggerCharacter";              ///< text, ":"
+inline constexpr const char* triggerCharacter = "triggerCharacter";  ///< text, ":"
+/// Whether Return and Tab are left alone where a shortcode is doubtful; Boolean, true.
+inline constexpr const char* confirmsOnlyWhatIsMeant = "confirmsOnlyWhatIsMeant";
+/// Whether a trigger behind a letter or digit begins nothing; Boolean, false.
+inline constexpr const char* triggersOnlyAtWordStart = "triggersOnlyAtWordStart";
 inline constexpr const char* showMenuBarIcon = "showMenuBarIcon";                ///< Boolean, true
 inline constexpr const char* hasCompletedOnboarding = "hasCompletedOnboarding";  ///< Boolean, false
 inline constexpr const char* blacklistedApps = "blacklistedApps";                ///< list of texts, empty
@@ -31,6 +35,9 @@ inline constexpr std::string_view triggerChoices[] = {":", ";", "/"};
 inline constexpr bool showMenuBarIconWhenAbsent = true;
 inline constexpr bool hasCompletedOnboardingWhenAbsent = false;
 inline constexpr bool automaticallyChecksForUpdatesWhenAbsent = false;
+
+bool confirmsOnlyWhatIsMeant(const UserDefaults& defaults);
+bool triggersOnlyAtWordStart(const UserDefaults& defaults);
 
 /// Identifiers are compared as exact text, letter case included.
 using AppSet = std::set<std::string, std::less<>>;

@@ -11,12 +11,20 @@ bool mayStandInQuery(const std::string& characters) {
   return text::startsAlphanumeric(characters) || characters == "_" || characters == "-" || characters == "+";
 }
 
+/// Of a key that is seen while nothing is collected. Control characters stand for keys that do something.
+Preceding precedingAfter(const std::optional<std::string>& characters) {
+  const bool isText =
+      characters && !characters->empty() && static_cast<unsigned char>(characters->back()) >= ' ';
+  return isText ? precedingAtEndOf(*characters) : Preceding::unknown;
+}
+
 }  // namespace
 
 void TriggerDetector::handleKey(const std::optional<std::string>& characters, std::int64_t keyCode,
                                 std::uint64_t flags) {
   const auto* accumulating = std::get_if<Accumulating>(&state_);
   if (flags & keyflag::chord) {
+    preceding_ = Preceding::unknown;
     if (accumulating) cancel();
     return;
   }
@@ -29,7 +37,12 @@ void TriggerDetector::handleKey(const std::optional<std::string>& characters, st
 }
 
 void TriggerDetector::startIfTrigger(const std::optional<std::string>& characters) {
-  if (characters && isTrigger(*characters)) changeQuery("");
+  if (characters && isTrigger(*characters) && mayStart()) return changeQuery("");
+  preceding_ = precedingAfter(characters);
+}
+
+bool TriggerDetector::mayStart() const {
+  return preceding_ != Preceding::word || !preferences::triggersOnlyAtWordStart(defaults_);
 }
 
 void TriggerDetector::collect(const std::string& query, const std::optional<std::string>& characters,
@@ -74,14 +87,19 @@ void TriggerDetector::changeQuery(const std::string& query) {
   if (onQueryChanged) onQueryChanged(query);
 }
 
+void TriggerDetector::setState(State state) {
+  state_ = std::move(state);
+  preceding_ = Preceding::unknown;
+}
+
 void TriggerDetector::cancel() {
-  state_ = Idle{};
+  setState(Idle{});
   if (onCancel) onCancel();
 }
 
 void TriggerDetector::finish(const std::string& query) {
   if (query.empty()) return cancel();
-  state_ = Idle{};
+  setState(Idle{});
   if (onConfirm) onConfirm(query);
 }
 

@@ -8,6 +8,8 @@
 #include <utility>
 #include <variant>
 
+#include "input/Preceding.h"
+
 namespace tessarin {
 
 class UserDefaults;
@@ -40,7 +42,9 @@ class TriggerDetector {
 
   const State& state() const { return state_; }
   /// Fires no callback: setting Idle abandons the query silently.
-  void setState(State state) { state_ = std::move(state); }
+  void setState(State state);
+  /// What the key before the trigger typed; unknown where that key was not seen.
+  Preceding preceding() const { return preceding_; }
   bool isAccumulating() const { return std::holds_alternative<Accumulating>(state_); }
 
   std::function<void(const std::string& query)> onQueryChanged;
@@ -50,6 +54,7 @@ class TriggerDetector {
 
  private:
   void startIfTrigger(const std::optional<std::string>& characters);
+  bool mayStart() const;
   void collect(const std::string& query, const std::optional<std::string>& characters, std::int64_t keyCode);
   void judgeCharacters(const std::string& query, const std::optional<std::string>& characters);
   void deleteLast(const std::string& query);
@@ -61,6 +66,7 @@ class TriggerDetector {
 
   const UserDefaults& defaults_;
   State state_;
+  Preceding preceding_ = Preceding::unknown;
 };
 
 }  // namespace tessarin

@@ -4,8 +4,9 @@
 
 namespace tessarin {
 
-void TypedShortcode::begin(const std::string& triggerCharacter) {
+void TypedShortcode::begin(const std::string& triggerCharacter, Preceding preceding) {
   trigger_ = triggerCharacter;
+  preceding_ = preceding;
   letters_.clear();
   caretMayHaveMoved_ = false;
 }
@@ -16,6 +17,10 @@ void TypedShortcode::append(const std::string& characters) {
 
 void TypedShortcode::deleteLast() {
   letters_ = text::withoutLastCharacter(letters_);
+}
+
+void TypedShortcode::noteTextBeforeCaret(std::string_view text) {
+  if (preceding_ == Preceding::unknown && !caretMayHaveMoved_) preceding_ = precedingIn(text, this->text());
 }
 
 std::int64_t TypedShortcode::length() const {

@@ -13,7 +13,7 @@ void AutocompleteViewModel::assign(T& field, U&& value) {
 }
 
 std::optional<Snippet> AutocompleteViewModel::selectedSnippet() const {
-  if (selectedIndex_ < 0 || selectedIndex_ >= count()) return std::nullopt;
+  if (!hasSelection()) return std::nullopt;
   return results_[static_cast<std::size_t>(selectedIndex_)];
 }
 
@@ -24,11 +24,16 @@ std::optional<std::string> AutocompleteViewModel::selectedSkinToneVariant() cons
   return skinToneVariants_[index];
 }
 
-void AutocompleteViewModel::updateResults(std::vector<Snippet> results, std::string query) {
+void AutocompleteViewModel::updateResults(std::vector<Snippet> results, std::string query,
+                                          int selectedIndex) {
   assign(query_, std::move(query));
   assign(results_, std::move(results));
-  assign(selectedIndex_, 0);
+  assign(selectedIndex_, selectedIndex);
   exitSkinToneMode();
+}
+
+void AutocompleteViewModel::setSelectedIndex(int index) {
+  assign(selectedIndex_, index);
 }
 
 void AutocompleteViewModel::reset() {

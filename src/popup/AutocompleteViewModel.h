@@ -22,7 +22,9 @@ class AutocompleteViewModel {
 
   /// The candidates in ranking order.
   const std::vector<Snippet>& results() const { return results_; }
-  /// The highlighted row; -1 after moving up in an empty list.
+  static constexpr int noRow = -1;
+  /// The highlighted row, or none: `noRow` where nothing is to be confirmed by Return, and after moving up in
+  /// an empty list.
   int selectedIndex() const { return selectedIndex_; }
   /// What was typed after the trigger character.
   const std::string& query() const { return query_; }
@@ -32,13 +34,15 @@ class AutocompleteViewModel {
   int skinToneSelectedIndex() const { return skinToneSelectedIndex_; }
   const std::optional<Snippet>& skinToneBaseSnippet() const { return skinToneBaseSnippet_; }
 
+  bool hasSelection() const { return selectedIndex_ >= 0 && selectedIndex_ < count(); }
   /// The highlighted snippet, if the highlight is on one.
   std::optional<Snippet> selectedSnippet() const;
   /// The highlighted variant; none while the picker is closed.
   std::optional<std::string> selectedSkinToneVariant() const;
 
-  /// Takes a new list, highlights its first row and closes the picker.
-  void updateResults(std::vector<Snippet> results, std::string query);
+  /// Takes a new list, highlights a row of it and closes the picker.
+  void updateResults(std::vector<Snippet> results, std::string query, int selectedIndex = 0);
+  void setSelectedIndex(int index);
   void reset();
   /// Both wrap around and leave the picker as it is.
   void moveSelectionDown();

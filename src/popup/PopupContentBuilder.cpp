@@ -22,10 +22,10 @@ bool offersSkinTones(const AutocompleteViewModel& model) {
 
 std::vector<PopupKeyHint> makeHints(const AutocompleteViewModel& model, const std::string& triggerCharacter) {
   if (model.results().empty()) return {};
-  std::vector<PopupKeyHint> hints = {{"↑↓", translate("Popup", "navigate")},
-                                     {"↵", translate("Popup", "select")},
-                                     {triggerCharacter, translate("Popup", "confirm")},
-                                     {"esc", translate("Popup", "cancel")}};
+  std::vector<PopupKeyHint> hints = {{"↑↓", translate("Popup", "navigate")}};
+  if (model.hasSelection()) hints.push_back({"↵", translate("Popup", "select")});
+  hints.push_back({triggerCharacter, translate("Popup", "confirm")});
+  hints.push_back({"esc", translate("Popup", "cancel")});
   if (offersSkinTones(model)) hints.push_back({"→", translate("Popup", "skin tone")});
   return hints;
 }

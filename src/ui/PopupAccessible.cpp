@@ -83,8 +83,11 @@ void PopupAccessible::renewItems(const PopupContent& previous) {
 
 void PopupAccessible::tellSelection(const PopupListAccessible& list, int previous) {
   QAccessibleInterface* selected = list.child(list.selectedIndex());
-  if (selected == nullptr || list.selectedIndex() == previous) return;
-  if (QAccessibleInterface* former = list.child(previous)) tell(former, QAccessible::SelectionRemove);
+  const bool isNew = list.selectedIndex() != previous;
+  QAccessibleInterface* former = isNew ? list.child(previous) : nullptr;
+  if (former != nullptr) tell(former, QAccessible::SelectionRemove);
+  if (selected == nullptr) return announcement_->say(matchCount(told_.rows.size()));
+  if (!isNew) return;
   tell(selected, QAccessible::Selection);
   const QString position = QString::number(list.selectedIndex() + 1);
   announcement_->say(

@@ -23,12 +23,6 @@ double pixelRatioOf(const QPainter& painter) {
   return painter.device()->devicePixelRatio() * painter.transform().m11();
 }
 
-QString matchCount(std::size_t count) {
-  if (count == 1) return QCoreApplication::translate("Popup", "1 match");
-  const int shown = static_cast<int>(count);
-  return QCoreApplication::translate("Popup", "%n matches", nullptr, shown);
-}
-
 /// What is seen where `above` is painted on `below`.
 QColor blended(const QColor& above, const QColor& below) {
   const float share = above.alphaF();
@@ -53,6 +47,12 @@ QColor whiteAt(double opacity) {
 }
 
 }  // namespace
+
+QString matchCount(std::size_t count) {
+  if (count == 1) return QCoreApplication::translate("Popup", "1 match");
+  const int shown = static_cast<int>(count);
+  return QCoreApplication::translate("Popup", "%n matches", nullptr, shown);
+}
 
 double PopupPainter::drawLeft(QPainter& painter, const QRectF& band, double x, double most,
                               const QString& text) {

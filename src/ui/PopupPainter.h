@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <cstddef>
 #include <optional>
 
 #include "platform/PopupPresenter.h"
@@ -13,6 +14,9 @@ class QPainter;
 class QPalette;
 
 namespace tessarin::ui {
+
+/// "8 matches", in the user's language.
+QString matchCount(std::size_t count);
 
 /// What the picture shows beyond its content.
 struct PopupView {

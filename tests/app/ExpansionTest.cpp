@@ -23,6 +23,7 @@ const Expansion expansions[] = {
     {"ByTrigger", "a:smile:b", "a😄b"},
     {"InOtherLetterCase", ":SMILE⏎", "😄"},
     {"OfTheLastRowByWrapping", ":smi↑⏎", "😏"},
+    {"OfTheFirstRowByWrapping", ":smi↓↓⏎", "😄"},
     {"OfASkinTone", ":wave→→→⏎", "👋\U0001F3FC"},
     {"OfTheBaseAfterLeavingThePicker", ":wave→→←←⏎", "👋"},
     {"AfterTypingIntoThePicker", ":wav→→e⏎", "👋"},

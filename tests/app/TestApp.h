@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/AppDelegate.h"
+#include "input/Preferences.h"
 #include "model/SnippetCoding.h"
 #include "platform/EventTap.h"
 #include "platform/KeyCodes.h"
@@ -59,6 +60,8 @@ class TestApp {
     }
     folder.write("emoji-data.json", encodeSnippets(snippets, JsonStyle::compact));
     workspace.frontmost = Application{"org.example.Editor", ""};
+    // Most tests type letters right before the trigger; DoubtTest is about what that means.
+    defaults.set(preferences::key::confirmsOnlyWhatIsMeant, false);
     tap.onReachedDocument = [this](const KeyEvent& event) { document.type(event); };
     insertion.onInserted = [this](const Replacement& replacement) { document.apply(replacement); };
   }

@@ -7,20 +7,6 @@ namespace {
 
 const Snippet wave{"id", "wave", "wave", "👋", {}, "", false};
 
-TEST(AutocompleteViewModel, theSelectionWrapsAround) {
-  AutocompleteViewModel model;
-  model.updateResults({wave, wave, wave}, "w");
-  model.moveSelectionUp();
-  EXPECT_EQ(model.selectedIndex(), 2);
-  model.moveSelectionDown();
-  EXPECT_EQ(model.selectedIndex(), 0);
-  model.moveSelectionDown();
-  EXPECT_EQ(model.selectedIndex(), 1);
-  model.updateResults({}, "sx");
-  model.moveSelectionDown();
-  EXPECT_EQ(model.selectedIndex(), 0);
-}
-
 TEST(SkinTonePicker, stopsAtTheLastVariantAndClosesLeftOfTheFirst) {
   AutocompleteViewModel model;
   model.enterSkinToneMode(wave);

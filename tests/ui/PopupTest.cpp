@@ -218,6 +218,8 @@ TEST_F(PopupAccessibleTest, SaysWhatIsSelectedAndNeverTakesTheFocus) {
   present(popupWithRows(8, 1));
   EXPECT_THAT(events(3), ElementsAre("unselected wave0, waving hand 0", "selected wave1, waving hand 1",
                                      "said wave1, waving hand 1, 2 of 8"));
+  present(popupWithRows(8, -1));
+  EXPECT_THAT(events(2), ElementsAre("unselected wave1, waving hand 1", "said 8 matches"));
   auto content = withPicker(popupWithRows(8, 1));
   content.skinToneSelectedIndex = 1;
   present(content);
