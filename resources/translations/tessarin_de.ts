@@ -482,6 +482,14 @@ Einstellungen des laufenden Programms.</translation>
         <source>System-wide %1shortcode%1 autocomplete for macOS</source>
         <translation>Systemweite %1kürzel%1-Vervollständigung für macOS</translation>
     </message>
+    <message>
+        <source>Leave Return and Tab alone where a shortcode is unlikely</source>
+        <translation>Eingabe- und Tabulatortaste durchlassen, wo ein Kürzel unwahrscheinlich ist</translation>
+    </message>
+    <message>
+        <source>Only at the start of a word</source>
+        <translation>Nur am Wortanfang</translation>
+    </message>
 </context>
 <context>
     <name>tessarin::ui::MessageDialog</name>

@@ -31,6 +31,8 @@ GeneralSettingsTab::GeneralSettingsTab(const SettingsServices& services, QWidget
       services_(services),
       launchAtLogin_(new QCheckBox(tr("Launch at login"))),
       showMenuBarIcon_(new QCheckBox(tr("Show menu bar icon"))),
+      confirmsOnlyWhatIsMeant_(new QCheckBox(tr("Leave Return and Tab alone where a shortcode is unlikely"))),
+      triggersOnlyAtWordStart_(new QCheckBox(tr("Only at the start of a word"))),
       triggers_(new QButtonGroup(this)),
       triggerHint_(makeHint()),
       updateHint_(makeHint()) {
@@ -39,7 +41,12 @@ GeneralSettingsTab::GeneralSettingsTab(const SettingsServices& services, QWidget
   QVBoxLayout* trigger = form->addSection(tr("Trigger Character"));
   trigger->addWidget(makeTriggerPicker());
   trigger->addWidget(triggerHint_);
-  form->addSection(tr("Appearance"))->addWidget(makeMenuBarToggle());
+  trigger->addWidget(confirmsOnlyWhatIsMeant_);
+  trigger->addWidget(triggersOnlyAtWordStart_);
+  bind(confirmsOnlyWhatIsMeant_, preferences::key::confirmsOnlyWhatIsMeant);
+  bind(triggersOnlyAtWordStart_, preferences::key::triggersOnlyAtWordStart);
+  form->addSection(tr("Appearance"))->addWidget(showMenuBarIcon_);
+  bind(showMenuBarIcon_, preferences::key::showMenuBarIcon);
   QVBoxLayout* updates = form->addSection(tr("Updates"));
   updates->addWidget(makeVersionRow());
   updates->addWidget(updateHint_);
@@ -77,10 +84,9 @@ QWidget* GeneralSettingsTab::makeTriggerPicker() {
   return picker;
 }
 
-QWidget* GeneralSettingsTab::makeMenuBarToggle() {
-  connect(showMenuBarIcon_, &QCheckBox::clicked, this,
-          [this](bool isShown) { services_.userDefaults.set(preferences::key::showMenuBarIcon, isShown); });
-  return showMenuBarIcon_;
+void GeneralSettingsTab::bind(QCheckBox* box, const char* preference) {
+  connect(box, &QCheckBox::clicked, this,
+          [this, preference](bool isChecked) { services_.userDefaults.set(preference, isChecked); });
 }
 
 QWidget* GeneralSettingsTab::makeVersionRow() {
@@ -125,6 +131,8 @@ void GeneralSettingsTab::showPreferences() {
   updateHint_->setText(tr("System-wide %1shortcode%1 autocomplete for macOS").arg(trigger));
   showMenuBarIcon_->setChecked(services_.userDefaults.boolean(preferences::key::showMenuBarIcon)
                                    .value_or(preferences::showMenuBarIconWhenAbsent));
+  confirmsOnlyWhatIsMeant_->setChecked(preferences::confirmsOnlyWhatIsMeant(services_.userDefaults));
+  triggersOnlyAtWordStart_->setChecked(preferences::triggersOnlyAtWordStart(services_.userDefaults));
 }
 
 }  // namespace tessarin::ui

@@ -22,7 +22,7 @@ class GeneralSettingsTab final : public QWidget {
  private:
   QWidget* makeLaunchToggle();
   QWidget* makeTriggerPicker();
-  QWidget* makeMenuBarToggle();
+  void bind(QCheckBox* box, const char* preference);
   QWidget* makeVersionRow();
   QWidget* makeUpdateButton();
 
@@ -33,6 +33,8 @@ class GeneralSettingsTab final : public QWidget {
   SettingsServices services_;
   QCheckBox* launchAtLogin_;
   QCheckBox* showMenuBarIcon_;
+  QCheckBox* confirmsOnlyWhatIsMeant_;
+  QCheckBox* triggersOnlyAtWordStart_;
   QButtonGroup* triggers_;
   StyledLabel* triggerHint_;
   StyledLabel* updateHint_;

@@ -8,10 +8,10 @@
 namespace tessarin::ui {
 namespace {
 
-constexpr int sectionSpacing = 16;
-constexpr int titleSpacing = 6;
+constexpr int sectionSpacing = 12;
+constexpr int titleSpacing = 4;
 constexpr int rowSpacing = 8;
-constexpr int cardPadding = 12;
+constexpr int cardPadding = 10;
 
 }  // namespace
 

@@ -130,5 +130,24 @@ TEST_F(GeneralSettingsTabTest, theTriggerCharacterIsShownEverywhereAtOnceAndMayB
   press(child<QRadioButton>(*tab, "/"));
   EXPECT_EQ(defaults.string("triggerCharacter"), "/");
 }
+
+TEST_F(GeneralSettingsTabTest, boxesShowAndStoreTheirPreference) {
+  open();
+  const struct {
+    const char* text;
+    const char* preference;
+    bool whenAbsent;
+  } boxes[] = {{"Show menu bar icon", "showMenuBarIcon", true},
+               {"Leave Return and Tab alone where a shortcode is unlikely", "confirmsOnlyWhatIsMeant", true},
+               {"Only at the start of a word", "triggersOnlyAtWordStart", false}};
+  for (const auto& [text, preference, whenAbsent] : boxes) {
+    const auto* box = child<QCheckBox>(*tab, text);
+    EXPECT_EQ(box->isChecked(), whenAbsent) << text;
+    press(child<QCheckBox>(*tab, text));
+    EXPECT_EQ(defaults.boolean(preference), !whenAbsent) << text;
+    defaults.set(preference, whenAbsent);
+    EXPECT_EQ(box->isChecked(), whenAbsent) << text;
+  }
+}
 }  // namespace
 }  // namespace tessarin::ui
