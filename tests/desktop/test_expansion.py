@@ -9,6 +9,7 @@ import unittest
 
 from desktop_test import DesktopTest
 from editors import ALL, Featherpad, Firefox, GnomeTextEditor, Mousepad, Shell, Xterm, clipboard, set_clipboard
+from ordinary_lines import MEANT, ORDINARY, OrdinaryLines
 from session import PREFERENCES, Session, Tessarin, wait_for
 from typist import Typist
 
@@ -169,6 +170,26 @@ class Modes(DesktopTest):
             self.check(editor, ["a:smile\tb"], "a:smile\tb")
             self.tessarin.command("--toggle")
             self.check(editor, [":smile\tb"], "😄b")
+
+
+class Meant(OrdinaryLines):
+    def test_only_what_is_meant_expands(self):
+        for program, ordinary, meant in ((Mousepad, ORDINARY[:72:8], MEANT[:32:8]), (Xterm, ORDINARY[3:72:8], MEANT[1:24:8])):
+            with self.subTest(program=program.__name__):
+                self.check_ordinary(program, ordinary)
+                self.check_meant(program, meant)
+
+    def test_a_space_before_at_full_speed(self):
+        for program in ALL:
+            with self.subTest(program=program.__name__), program(self.session, self.typist) as editor:
+                self.check(editor, ["a :smile\nb :tada\t:fire:c " * 10], "a 😄b 🎉🔥c " * 10, seconds=60)
+
+    def test_a_chosen_row_confirms_a_doubtful_one(self):
+        with Mousepad(self.session, self.typist) as editor:
+            popup = lambda _: self.wait_for_popup()
+            for steps, expected in ((["a:zqxo", popup, "\nb"], "a:zqxo\nb"),
+                                    (["a:zqxo", popup, key("Down"), "\nb"], "afirstb"), (["a:zqxo:b"], "afirstb")):
+                self.check(editor, steps, expected)
 
 
 class NeverInTheLog(DesktopTest):
