@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -11,9 +12,9 @@
 
 namespace tessarin {
 
-/// One file of the storage folder, read at start and replaced as a whole. A file that could not be read is
-/// left as it is, and before the first save that would overwrite it, it is moved aside under a new name.
-/// Failures are logged in one line and go no further.
+/// One file of the storage folder, read at start and replaced as a whole. What a save would overwrite without
+/// its being in memory is moved aside first under a name that tells when: a file that could not be read, and
+/// one that another program has changed since. Failures are logged in one line and go no further.
 class DataFile {
  public:
   struct Description {
@@ -41,15 +42,25 @@ class DataFile {
   bool isMissing() const;
 
  private:
-  void moveAside();
-  std::filesystem::path freeName() const;
+  /// A content without keeping it. Other than times and inodes it tells a change on every file system.
+  struct Fingerprint {
+    explicit Fingerprint(std::string_view content);
+    bool operator==(const Fingerprint&) const = default;
+
+    std::size_t size;
+    std::size_t hash;
+  };
+
+  bool isOthers() const;
+  void moveAside(const std::string& what, const std::string& word);
+  std::filesystem::path freeName(const std::filesystem::path& file, const std::string& word) const;
   void logFailure(const char* action, const std::string& reason) const;
 
   Description description_;
   const WallClock& clock_;
   LocalCalendar calendar_;
-  bool isUnreadable_ = false;  ///< what is there now
-  bool wasThere_ = false;      ///< read or written by us
+  bool isUnreadable_ = false;         ///< what is there now
+  std::optional<Fingerprint> known_;  ///< of what was read or written by us
   std::optional<std::string> loadFailure_;
   std::optional<std::string> failure_;
 };

@@ -174,6 +174,44 @@ TEST_F(SnippetStoreTest, UnreadableFilesSurviveSeveralLaunches) {
   }
 }
 
+TEST_F(SnippetStoreTest, WhatAnotherProgramHasWrittenSinceIsMovedAsideBeforeASave) {
+  const fs::path file = folder_ / userFile;
+  const std::string ours = encodeSnippets({mine("1", "sig")}, JsonStyle::compact);
+  const std::string sameSize(ours.size(), 'x');
+  struct Case {
+    std::string before, theirs;
+    bool isLink, isMoved;
+  };
+  for (const auto& [before, theirs, isLink, isMoved] :
+       {Case{ours, ours, false, false}, Case{ours, sameSize, false, true}, Case{ours, sameSize, true, true},
+        Case{"", "new", false, true}}) {
+    SCOPED_TRACE(theirs + (isLink ? " behind a link" : ""));
+    fs::remove_all(folder_ / "storage");
+    fs::create_directory(folder_ / "storage");
+    if (!before.empty()) folder_.write(userFile, before);
+    const auto store = makeStore();
+    if (isLink) {
+      fs::rename(file, folder_ / "storage/shared");
+      fs::create_symlink("shared", file);
+    }
+    const auto time = before.empty() ? fs::file_time_type::clock::now() : fs::last_write_time(file);
+    folder_.write(userFile, theirs);
+    fs::last_write_time(file, time);  // not all file systems can tell moments apart
+    log_.clear();
+    for (const char* id : {"2", "3"}) store->addSnippet(mine(id, "sign"));
+    EXPECT_EQ(saved(), store->userSnippets());
+    EXPECT_EQ(fs::is_symlink(file), isLink);
+    const std::string aside = (fs::canonical(file).string() + ".changed-2026-11-22T10-15-00");
+    EXPECT_EQ(fs::exists(aside), isMoved);
+    if (!isMoved) continue;
+    EXPECT_EQ(readFile(aside), theirs);
+    EXPECT_THAT(log_.lines(),
+                ElementsAre("[SnippetStore] Moved user-snippets.json, which another program has "
+                            "changed, to " +
+                            aside));
+  }
+}
+
 TEST_F(SnippetStoreTest, NothingIsOverwrittenWhenMovingAsideFails) {
   // A path so long that the file has room in it, and its longer name beside it has not.
   constexpr std::size_t longestPath = 4095;
