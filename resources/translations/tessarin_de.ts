@@ -138,6 +138,139 @@ Einstellungen des laufenden Programms.</translation>
     </message>
 </context>
 <context>
+    <name>Importers</name>
+    <message>
+        <source>its text would be filled in here</source>
+        <translation>sein Text würde hier ausgefüllt</translation>
+    </message>
+    <message>
+        <source>it places the caret</source>
+        <translation>es versetzt die Einfügemarke</translation>
+    </message>
+    <message>
+        <source>it runs a script</source>
+        <translation>es führt ein Skript aus</translation>
+    </message>
+    <message>
+        <source>it inserts a file</source>
+        <translation>es fügt eine Datei ein</translation>
+    </message>
+    <message>
+        <source>it presses the key %1</source>
+        <translation>es drückt die Taste %1</translation>
+    </message>
+    <message>
+        <source>it writes a date in another form</source>
+        <translation>es schreibt ein Datum in anderer Form</translation>
+    </message>
+    <message>
+        <source>it is a script</source>
+        <translation>es ist ein Skript</translation>
+    </message>
+    <message>
+        <source>it has a hotkey only</source>
+        <translation>es hat nur ein Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>it has no abbreviation</source>
+        <translation>es hat keine Abkürzung</translation>
+    </message>
+    <message>
+        <source>it works in every window here</source>
+        <translation>hier gilt es in jedem Fenster</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>it has more than four columns; a text with separators needs quotes</source>
+        <translation>die Zeile hat mehr als vier Spalten; ein Text mit Trennzeichen braucht Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>it has a regular expression</source>
+        <translation>es hat einen regulären Ausdruck</translation>
+    </message>
+    <message>
+        <source>it asks by a form</source>
+        <translation>es fragt mit einem Formular</translation>
+    </message>
+    <message>
+        <source>it inserts an image</source>
+        <translation>es fügt ein Bild ein</translation>
+    </message>
+    <message>
+        <source>its text is formatted</source>
+        <translation>sein Text ist formatiert</translation>
+    </message>
+    <message>
+        <source>it is not a match</source>
+        <translation>es ist kein Baustein</translation>
+    </message>
+    <message>
+        <source>it has no trigger</source>
+        <translation>es hat kein Kürzel</translation>
+    </message>
+    <message>
+        <source>it uses %1, which is not among its variables</source>
+        <translation>es verwendet %1, das nicht unter seinen Variablen ist</translation>
+    </message>
+    <message>
+        <source>it has a variable of the kind %1</source>
+        <translation>es hat eine Variable der Art %1</translation>
+    </message>
+    <message>
+        <source>its text does not follow the case of what is typed</source>
+        <translation>sein Text folgt hier nicht der Groß- und Kleinschreibung des Getippten</translation>
+    </message>
+    <message>
+        <source>its trigger is too long to type</source>
+        <translation>sein Kürzel ist zu lang zum Tippen</translation>
+    </message>
+    <message>
+        <source>nothing of its trigger can be part of a shortcode</source>
+        <translation>nichts von seinem Kürzel kann nach dem Auslösezeichen getippt werden</translation>
+    </message>
+    <message>
+        <source>it has no text</source>
+        <translation>es hat keinen Text</translation>
+    </message>
+    <message>
+        <source>its trigger is now %1</source>
+        <translation>sein Kürzel ist jetzt %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: %n</source>
+        <translation>
+            <numerusform>Ausgelassen: %n</numerusform>
+            <numerusform>Ausgelassen: %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Changed: %n</source>
+        <translation>
+            <numerusform>Geändert: %n</numerusform>
+            <numerusform>Geändert: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the folder holds nothing that can be imported</source>
+        <translation>der Ordner enthält nichts, was importiert werden kann</translation>
+    </message>
+    <message>
+        <source>the folder cannot be read</source>
+        <translation>der Ordner lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>the file holds no matches</source>
+        <translation>die Datei enthält keine Bausteine</translation>
+    </message>
+    <message>
+        <source>this kind of file cannot be imported</source>
+        <translation>diese Art von Datei kann nicht importiert werden</translation>
+    </message>
+</context>
+<context>
     <name>InputMonitoringHelp</name>
     <message>
         <source>Tessarin can judge keys on this session.</source>

@@ -1,6 +1,8 @@
 #include "model/TemplateVariables.h"
 
 #include <unicode/datefmt.h>
+#include <unicode/numsys.h>
+#include <unicode/smpdtfmt.h>
 
 #include <array>
 #include <memory>
@@ -21,17 +23,42 @@ icu::Locale userLocale() {
   return icu::Locale::getDefault();
 }
 
+icu::Locale localeNamed(const std::string& name) {
+  return name.empty() ? userLocale() : icu::Locale::createCanonical(name.c_str());
+}
+
+std::unique_ptr<icu::DateFormat> makeFormat(const std::string& locale, icu::DateFormat::EStyle date,
+                                            icu::DateFormat::EStyle time) {
+  return std::unique_ptr<icu::DateFormat>(
+      icu::DateFormat::createDateTimeInstance(date, time, localeNamed(locale)));
+}
+
 std::string formatNow(const TemplateContext& context, icu::DateFormat::EStyle date,
                       icu::DateFormat::EStyle time) {
-  const icu::Locale locale =
-      context.locale.empty() ? userLocale() : icu::Locale::createCanonical(context.locale.c_str());
-  const std::unique_ptr<icu::DateFormat> format(icu::DateFormat::createDateTimeInstance(date, time, locale));
+  const std::unique_ptr<icu::DateFormat> format = makeFormat(context.locale, date, time);
   if (!format) return {};
   format->adoptTimeZone(makeIcuTimeZone(context.timeZone).release());
   icu::UnicodeString formatted;
   format->format(toIcuDate(context.clock.now()), formatted);
   std::string text;
   return formatted.toUTF8String(text);
+}
+
+bool hasLatinDigits(const std::string& locale) {
+  UErrorCode error = U_ZERO_ERROR;
+  const std::unique_ptr<icu::NumberingSystem> digits(
+      icu::NumberingSystem::createInstance(localeNamed(locale), error));
+  return U_SUCCESS(error) && std::string_view(digits->getName()) == "latn";
+}
+
+std::string patternOf(const std::string& locale, icu::DateFormat::EStyle date, icu::DateFormat::EStyle time) {
+  const std::unique_ptr<icu::DateFormat> format = makeFormat(locale, date, time);
+  const auto* simple = dynamic_cast<const icu::SimpleDateFormat*>(format.get());
+  if (simple == nullptr || !hasLatinDigits(locale)) return {};
+  if (std::string_view(simple->getCalendar()->getType()) != "gregorian") return {};
+  icu::UnicodeString pattern;
+  std::string text;
+  return simple->toPattern(pattern).toUTF8String(text);
 }
 
 template <class MakeValue>
@@ -71,6 +98,13 @@ std::string expandTemplateVariables(const std::string& text, const TemplateConte
   // Documents hold none, and on the way there a text would be cut at the first.
   std::erase(result, '\0');
   return result;
+}
+
+ShortPatterns shortPatterns(const std::string& locale) {
+  using icu::DateFormat;
+  return {patternOf(locale, DateFormat::kShort, DateFormat::kNone),
+          patternOf(locale, DateFormat::kNone, DateFormat::kShort),
+          patternOf(locale, DateFormat::kShort, DateFormat::kShort)};
 }
 
 }  // namespace tessarin

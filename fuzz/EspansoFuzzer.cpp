@@ -1,0 +1,13 @@
+#include "ImportCheck.h"
+#include "importers/EspansoMatches.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace tessarin;
+  static const ImportTerms terms = fuzz::importTerms();
+  const std::string_view text = fuzz::asText(data, size);
+  const auto imported = fuzz::unlessRefused([&] {
+    return readEspansoMatches({{"a.yml", std::string(text)}}, terms);
+  });
+  if (imported) fuzz::checkImport(*imported);
+  return 0;
+}
