@@ -52,20 +52,12 @@
         <translation>zeigt die Version</translation>
     </message>
     <message>
-        <source>with --search: write a JSON array</source>
-        <translation>mit --search: gibt ein JSON-Array aus</translation>
-    </message>
-    <message>
         <source>NUMBER</source>
         <translation>ZAHL</translation>
     </message>
     <message>
         <source>with --search: list at most so many (8)</source>
         <translation>mit --search: listet höchstens so viele auf (8)</translation>
-    </message>
-    <message>
-        <source>%1 needs --search</source>
-        <translation>%1 braucht --search</translation>
     </message>
     <message>
         <source>unknown option %1</source>
@@ -104,6 +96,50 @@
 settings of the program that runs.</source>
         <translation>Ersetzt Kürzel wie :smile in jedem Programm. Noch einmal ohne Option gestartet, öffnet es die
 Einstellungen des laufenden Programms.</translation>
+    </message>
+    <message>
+        <source>TRIGGER</source>
+        <translation>KÜRZEL</translation>
+    </message>
+    <message>
+        <source>list your own snippets</source>
+        <translation>listet die eigenen Bausteine auf</translation>
+    </message>
+    <message>
+        <source>TRIGGER TEXT</source>
+        <translation>KÜRZEL TEXT</translation>
+    </message>
+    <message>
+        <source>add a snippet to your own</source>
+        <translation>fügt den eigenen Bausteinen einen hinzu</translation>
+    </message>
+    <message>
+        <source>remove your snippets with that trigger</source>
+        <translation>entfernt die eigenen Bausteine mit diesem Kürzel</translation>
+    </message>
+    <message>
+        <source>with --list or --search: write a JSON array</source>
+        <translation>mit --list oder --search: gibt ein JSON-Array aus</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAME</translation>
+    </message>
+    <message>
+        <source>with --add: what the popup calls it (the trigger)</source>
+        <translation>mit --add: wie der Baustein im Popup heißt (wie das Kürzel)</translation>
+    </message>
+    <message>
+        <source>WORDS</source>
+        <translation>WÖRTER</translation>
+    </message>
+    <message>
+        <source>with --add: further words to find it by, between commas</source>
+        <translation>mit --add: weitere Wörter, die ihn finden, durch Kommas getrennt</translation>
+    </message>
+    <message>
+        <source>%1 needs %2</source>
+        <translation>%1 braucht %2</translation>
     </message>
 </context>
 <context>
@@ -410,7 +446,7 @@ Einstellungen des laufenden Programms.</translation>
     </message>
 </context>
 <context>
-    <name>SnippetFiles</name>
+    <name>SnippetCommands</name>
     <message>
         <source>Imported 1 snippet</source>
         <translation>1 Baustein importiert</translation>
@@ -444,6 +480,41 @@ Einstellungen des laufenden Programms.</translation>
     <message>
         <source>Not saved: %1</source>
         <translation>Nicht gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-8</source>
+        <translation>der Text ist nicht in UTF-8</translation>
+    </message>
+    <message>
+        <source>a trigger has letters, digits, _ and - only</source>
+        <translation>ein Kürzel besteht nur aus Buchstaben, Ziffern, _ und -</translation>
+    </message>
+    <message>
+        <source>a snippet needs a text</source>
+        <translation>ein Baustein braucht einen Text</translation>
+    </message>
+    <message>
+        <source>there is a snippet with the trigger %1 already</source>
+        <translation>es gibt schon einen Baustein mit dem Kürzel %1</translation>
+    </message>
+    <message>
+        <source>Added 1 snippet</source>
+        <translation>1 Baustein hinzugefügt</translation>
+    </message>
+    <message>
+        <source>no snippet of yours has the trigger %1</source>
+        <translation>keiner der eigenen Bausteine hat das Kürzel %1</translation>
+    </message>
+    <message>
+        <source>Removed 1 snippet</source>
+        <translation>1 Baustein entfernt</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed %n snippets</source>
+        <translation>
+            <numerusform>%n Bausteine entfernt</numerusform>
+            <numerusform>%n Bausteine entfernt</numerusform>
+        </translation>
     </message>
 </context>
 <context>

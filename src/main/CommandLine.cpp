@@ -7,6 +7,7 @@
 #include <optional>
 #include <string_view>
 #include <utility>
+#include <variant>
 
 #include "base/Translate.h"
 #include "text/Graphemes.h"
@@ -18,45 +19,85 @@ using Action = CommandLine::Action;
 
 struct Option {
   std::string_view name;
-  Action action;         // of those that are one
   const char* argument;  // what it is called; none for none
   const char* help;
 
   bool takesArgument() const { return argument != nullptr; }
+};
+
+struct ActionOption : Option {
+  Action action;
+
   bool takesFile() const { return action == Action::importFile || action == Action::exportFile; }
 };
 
-constexpr const char* fileArgument = QT_TRANSLATE_NOOP("CommandLine", "FILE");
-constexpr std::array actions{
-    Option{"--settings", Action::settings, nullptr,
-           QT_TRANSLATE_NOOP("CommandLine", "open the settings, starting the program if need be")},
-    Option{"--toggle", Action::toggle, nullptr,
-           QT_TRANSLATE_NOOP("CommandLine", "switch expansion off or on in the running program")},
-    Option{"--quit", Action::quit, nullptr, QT_TRANSLATE_NOOP("CommandLine", "end the running program")},
-    Option{"--allow", Action::allow, nullptr,
-           QT_TRANSLATE_NOOP("CommandLine",
-                             "let Tessarin judge keys and write into other applications, and switch the "
-                             "session's accessibility on")},
-    Option{"--disallow", Action::disallow, nullptr, QT_TRANSLATE_NOOP("CommandLine", "take that back")},
-    Option{"--import", Action::importFile, fileArgument,
-           QT_TRANSLATE_NOOP("CommandLine", "add the snippets of a file to your own")},
-    Option{"--export", Action::exportFile, fileArgument,
-           QT_TRANSLATE_NOOP("CommandLine", "write your own snippets into a file")},
-    Option{"--search", Action::search, QT_TRANSLATE_NOOP("CommandLine", "QUERY"),
-           QT_TRANSLATE_NOOP("CommandLine", "list what the popup would offer, best first")},
-    Option{"--help", Action::help, nullptr, QT_TRANSLATE_NOOP("CommandLine", "show this text")},
-    Option{"--version", Action::version, nullptr, QT_TRANSLATE_NOOP("CommandLine", "show the version")},
-};
-constexpr std::array searchOptions{
-    Option{"--json", Action::search, nullptr,
-           QT_TRANSLATE_NOOP("CommandLine", "with --search: write a JSON array")},
-    Option{"--limit", Action::search, QT_TRANSLATE_NOOP("CommandLine", "NUMBER"),
-           QT_TRANSLATE_NOOP("CommandLine", "with --search: list at most so many (8)")},
+/// Says more about an action.
+struct Companion : Option {
+  std::string_view actions;  // that it goes with
+  std::variant<bool CommandLine::*, std::size_t CommandLine::*, std::string CommandLine::*> target;
 };
 
-template <std::size_t count>
-const Option* find(const std::array<Option, count>& options, std::string_view name) {
-  const auto found = std::ranges::find(options, name, &Option::name);
+constexpr const char* fileArgument = QT_TRANSLATE_NOOP("CommandLine", "FILE");
+constexpr const char* triggerArgument = QT_TRANSLATE_NOOP("CommandLine", "TRIGGER");
+constexpr std::array actionOptions{
+    ActionOption{{"--settings", nullptr,
+                  QT_TRANSLATE_NOOP("CommandLine", "open the settings, starting the program if need be")},
+                 Action::settings},
+    ActionOption{{"--toggle", nullptr,
+                  QT_TRANSLATE_NOOP("CommandLine", "switch expansion off or on in the running program")},
+                 Action::toggle},
+    ActionOption{{"--quit", nullptr, QT_TRANSLATE_NOOP("CommandLine", "end the running program")},
+                 Action::quit},
+    ActionOption{{"--allow", nullptr,
+                  QT_TRANSLATE_NOOP("CommandLine",
+                                    "let Tessarin judge keys and write into other applications, and switch "
+                                    "the session's accessibility on")},
+                 Action::allow},
+    ActionOption{{"--disallow", nullptr, QT_TRANSLATE_NOOP("CommandLine", "take that back")},
+                 Action::disallow},
+    ActionOption{{"--list", nullptr, QT_TRANSLATE_NOOP("CommandLine", "list your own snippets")},
+                 Action::list},
+    ActionOption{{"--add", QT_TRANSLATE_NOOP("CommandLine", "TRIGGER TEXT"),
+                  QT_TRANSLATE_NOOP("CommandLine", "add a snippet to your own")},
+                 Action::add},
+    ActionOption{{"--remove", triggerArgument,
+                  QT_TRANSLATE_NOOP("CommandLine", "remove your snippets with that trigger")},
+                 Action::remove},
+    ActionOption{{"--import", fileArgument,
+                  QT_TRANSLATE_NOOP("CommandLine", "add the snippets of a file to your own")},
+                 Action::importFile},
+    ActionOption{
+        {"--export", fileArgument, QT_TRANSLATE_NOOP("CommandLine", "write your own snippets into a file")},
+        Action::exportFile},
+    ActionOption{{"--search", QT_TRANSLATE_NOOP("CommandLine", "QUERY"),
+                  QT_TRANSLATE_NOOP("CommandLine", "list what the popup would offer, best first")},
+                 Action::search},
+    ActionOption{{"--help", nullptr, QT_TRANSLATE_NOOP("CommandLine", "show this text")}, Action::help},
+    ActionOption{{"--version", nullptr, QT_TRANSLATE_NOOP("CommandLine", "show the version")},
+                 Action::version},
+};
+constexpr std::array companions{
+    Companion{
+        {"--json", nullptr, QT_TRANSLATE_NOOP("CommandLine", "with --list or --search: write a JSON array")},
+        "--list/--search",
+        &CommandLine::json},
+    Companion{{"--limit", QT_TRANSLATE_NOOP("CommandLine", "NUMBER"),
+               QT_TRANSLATE_NOOP("CommandLine", "with --search: list at most so many (8)")},
+              "--search",
+              &CommandLine::limit},
+    Companion{{"--name", QT_TRANSLATE_NOOP("CommandLine", "NAME"),
+               QT_TRANSLATE_NOOP("CommandLine", "with --add: what the popup calls it (the trigger)")},
+              "--add",
+              &CommandLine::name},
+    Companion{{"--keywords", QT_TRANSLATE_NOOP("CommandLine", "WORDS"),
+               QT_TRANSLATE_NOOP("CommandLine", "with --add: further words to find it by, between commas")},
+              "--add",
+              &CommandLine::keywords},
+};
+
+template <class Kind, std::size_t count>
+const Kind* find(const std::array<Kind, count>& options, std::string_view name) {
+  const auto found = std::ranges::find(options, name, &Kind::name);
   return found == options.end() ? nullptr : &*found;
 }
 
@@ -79,10 +120,7 @@ class Parser {
 
   CommandLine parse() {
     while (problem_.empty() && next_ < arguments_.size()) readOption(arguments_[next_++]);
-    const bool isSearch = result_.action == Action::search;
-    if (problem_.empty() && !searchOption_.empty() && !isSearch) {
-      problem_ = filledIn(translate("CommandLine", "%1 needs --search"), {searchOption_});
-    }
+    for (const Companion* companion : companions_) requireActionOf(*companion);
     if (problem_.empty()) return result_;
     return {.action = Action::wrongUsage, .argument = problem_};
   }
@@ -96,10 +134,10 @@ class Parser {
     const auto equals = argument.find('=');
     const std::string name = argument.substr(0, equals);
     if (equals != std::string::npos) attached_ = argument.substr(equals + 1);
-    if (const Option* action = find(actions, name)) {
+    if (const ActionOption* action = find(actionOptions, name)) {
       takeAction(*action);
-    } else if (const Option* option = find(searchOptions, name)) {
-      takeSearchOption(*option);
+    } else if (const Companion* companion = find(companions, name)) {
+      takeCompanion(*companion);
     } else if (argument.starts_with('-')) {
       problem_ = filledIn(translate("CommandLine", "unknown option %1"), {argument});
     } else {
@@ -112,28 +150,39 @@ class Parser {
     return filledIn(translate("CommandLine", "unexpected argument %1"), {argument});
   }
 
-  void takeAction(const Option& option) {
+  void takeAction(const ActionOption& option) {
     // Doing one of two things would be a guess.
     if (result_.action != Action::run) {
       problem_ = wrong(translate("CommandLine", "%1 cannot be combined"), option);
     }
+    action_ = option.name;
     result_.action = option.action;
     result_.argument = argumentOf(option);
+    if (option.action == Action::add) result_.text = argumentOf(option);
     if (option.takesFile() && result_.argument.empty() && problem_.empty()) {
       problem_ = wrong(translate("CommandLine", "%1 needs a file"), option);
     }
   }
 
-  void takeSearchOption(const Option& option) {
-    searchOption_ = option.name;
+  void takeCompanion(const Companion& option) {
+    companions_.push_back(&option);
     const std::string argument = argumentOf(option);
-    if (!option.takesArgument()) {
-      result_.json = true;
-    } else if (const auto limit = numberIn(argument)) {
-      result_.limit = *limit;
+    if (const auto* isWanted = std::get_if<bool CommandLine::*>(&option.target)) {
+      result_.*(*isWanted) = true;
+    } else if (const auto* text = std::get_if<std::string CommandLine::*>(&option.target)) {
+      result_.*(*text) = argument;
+    } else if (const auto number = numberIn(argument)) {
+      result_.*std::get<std::size_t CommandLine::*>(option.target) = *number;
     } else if (problem_.empty()) {
       problem_ = wrong(translate("CommandLine", "%1 needs a number from 1 on"), option);
     }
+  }
+
+  void requireActionOf(const Companion& option) {
+    const bool isThere = !action_.empty() && option.actions.find(action_) != std::string_view::npos;
+    if (isThere || !problem_.empty()) return;
+    problem_ = filledIn(translate("CommandLine", "%1 needs %2"),
+                        {std::string(option.name), std::string(option.actions)});
   }
 
   static std::string wrong(const std::string& text, const Option& option) {
@@ -145,27 +194,28 @@ class Parser {
       if (attached_) problem_ = wrong(translate("CommandLine", "%1 takes no argument"), option);
       return {};
     }
-    if (attached_) return *attached_;
+    if (attached_) return *std::exchange(attached_, std::nullopt);
     if (next_ < arguments_.size() && arguments_[next_] == "--") {
       ++next_;
     } else if (next_ < arguments_.size() && arguments_[next_].starts_with("--")) {
       next_ = arguments_.size();
     }
     if (next_ < arguments_.size()) return arguments_[next_++];
-    problem_ = wrong(translate("CommandLine", "%1 needs an argument: %2"), option);
+    if (problem_.empty()) problem_ = wrong(translate("CommandLine", "%1 needs an argument: %2"), option);
     return {};
   }
 
   const std::vector<std::string>& arguments_;
   std::size_t next_ = 0;
   std::optional<std::string> attached_;  // behind "="
-  std::string searchOption_;
+  std::string_view action_;
+  std::vector<const Companion*> companions_;
   std::string problem_;
   CommandLine result_;
 };
 
 void addHelp(std::string& help, const Option& option) {
-  constexpr std::size_t column = 18;
+  constexpr std::size_t column = 24;
   std::string name = "  " + std::string(option.name);
   if (option.takesArgument()) name += " " + argumentName(option);
   const std::size_t width = text::characterCount(name);
@@ -185,8 +235,8 @@ std::string usage() {
                                "Expands shortcodes such as :smile in any application. Started again without "
                                "an option, it opens the\nsettings of the program that runs.") +
                      "\n\n";
-  for (const Option& option : actions) addHelp(text, option);
-  for (const Option& option : searchOptions) addHelp(text, option);
+  for (const Option& option : actionOptions) addHelp(text, option);
+  for (const Option& option : companions) addHelp(text, option);
   return text;
 }
 

@@ -19,13 +19,20 @@ struct CommandLine {
     quit,
     importFile,
     exportFile,
+    list,
+    add,
+    remove,
     search,
     wrongUsage,
   };
   static constexpr std::size_t defaultLimit = 8;
 
   Action action = Action::run;
-  std::string argument;  ///< the file or the query, byte for byte; what is wrong where the usage is
+  /// The file, the query or the trigger, byte for byte; what is wrong where the usage is.
+  std::string argument;
+  std::string text = {};      ///< of a snippet that is added
+  std::string name = {};      ///< of the same; none for none
+  std::string keywords = {};  ///< of the same, between commas
   bool json = false;
   std::size_t limit = defaultLimit;
 

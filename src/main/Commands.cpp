@@ -7,15 +7,20 @@
 
 #include "base/AtomicFile.h"
 #include "base/Log.h"
+#include "base/TemporaryFile.h"
 #include "base/Translate.h"
+#include "importers/SnippetImport.h"
+#include "input/Preferences.h"
 #include "main/Resources.h"
-#include "main/SnippetFiles.h"
+#include "main/SnippetCommands.h"
+#include "model/SnippetFile.h"
 #include "model/SnippetStore.h"
 #include "model/StorageFolder.h"
 #include "platform/WallClock.h"
 #include "platform/atspi/AccessibilityBus.h"
 #include "platform/freedesktop/BaseFolders.h"
 #include "platform/freedesktop/InstanceSocket.h"
+#include "platform/freedesktop/JsonUserDefaults.h"
 #include "platform/freedesktop/TrustRecord.h"
 
 namespace tessarin::commands {
@@ -60,10 +65,57 @@ bool isTrustFollowed() {
   }
 }
 
-Answer perform(const Request& request) {
+Request requestFor(const CommandLine& line) {
+  using Action = CommandLine::Action;
+  using Kind = Request::Kind;
+  switch (line.action) {
+    case Action::add:
+      return {Kind::add, {line.argument, line.text, line.name, line.keywords}};
+    case Action::remove:
+      return {Kind::remove, {line.argument}};
+    default:
+      return {line.action == Action::importFile ? Kind::importFile : Kind::exportFile,
+              {std::filesystem::absolute(line.argument).string()}};
+  }
+}
+
+/// None where an instance runs that does not answer.
+std::optional<Answer> carriedOut(const Request& request) {
+  const bool isOfAFile =
+      request.kind == Request::Kind::importFile || request.kind == Request::Kind::exportFile;
+  const Reached reached = isOfAFile ? reachInstance(request, fileTime) : reachInstance(request, turnTime);
+  if (reached.answer || !reached.folder) return reached.answer;
   OwnStore store;
-  return request.kind == Request::Kind::importFile ? importSnippets(*store, request.file)
-                                                   : exportSnippets(*store, request.file);
+  return carryOut(*store, request);
+}
+
+ImportTerms importTerms() {
+  const LogCapture log(logProblem);
+  const freedesktop::JsonUserDefaults defaults(freedesktop::configFolder(processEnvironment) /
+                                               "preferences.json");
+  return {.triggerCharacter = preferences::currentTriggerCharacter(defaults)};
+}
+
+/// What another program has, by way of a file of ours: a running instance has keys to judge and no time to
+/// make anything of it.
+int importForeign(const std::filesystem::path& path) {
+  try {
+    const ForeignSnippets read = readAnySnippets(path, importTerms());
+    const TemporaryFile ours;
+    writeSnippetFile(ours.path(), read.snippets);
+    auto answer = carriedOut({Request::Kind::importFile, {ours.path().string()}});
+    if (!answer) return reportNoAnswer();
+    const std::string notes = notesOf(read);
+    if (!notes.empty()) answer->text += "\n" + notes.substr(0, notes.size() - 1);
+    return report(*answer);
+  } catch (const std::exception& error) {
+    return report({false, filledIn(translate("SnippetCommands", "Import failed: %1"), {error.what()})});
+  }
+}
+
+int printListed(const std::vector<Snippet>& snippets, bool asJson) {
+  print(stdout, listed(snippets, asJson));
+  return std::fflush(stdout) == 0 ? success : failure;
 }
 
 }  // namespace
@@ -130,23 +182,32 @@ int request(Request::Kind kind) {
   return reached.folder ? report({false, translate("Commands", "no instance is running")}) : reportNoAnswer();
 }
 
-int importOrExport(const CommandLine& line) {
-  const auto kind =
-      line.action == CommandLine::Action::importFile ? Request::Kind::importFile : Request::Kind::exportFile;
-  const Request request{kind, std::filesystem::absolute(line.argument)};
-  const Reached reached = reachInstance(request, fileTime);
-  if (reached.answer) return report(*reached.answer);
-  return reached.folder ? report(perform(request)) : reportNoAnswer();
+int change(const CommandLine& line) {
+  if (line.action == CommandLine::Action::importFile && isForeign(line.argument))
+    return importForeign(line.argument);
+  const auto answer = carriedOut(requestFor(line));
+  return answer ? report(*answer) : reportNoAnswer();
+}
+
+int list(const CommandLine& line) {
+  try {
+    const TemporaryFile exported;
+    const auto answer = carriedOut({Request::Kind::exportFile, {exported.path().string()}});
+    if (!answer) return reportNoAnswer();
+    if (!answer->isSuccess) return report(*answer);
+    return printListed(readSnippetFile(exported.path()), line.json);
+  } catch (const std::exception& error) {
+    return report({false, error.what()});
+  }
 }
 
 int search(const CommandLine& line) {
   OwnStore store;
   try {
-    print(stdout, searchResults(*store, line.argument, {.limit = line.limit, .json = line.json}));
+    return printListed((*store).search(line.argument, line.limit), line.json);
   } catch (const std::exception& error) {
     return report({false, error.what()});
   }
-  return std::fflush(stdout) == 0 ? success : failure;
 }
 
 }  // namespace tessarin::commands

@@ -38,8 +38,10 @@ int allow();
 int disallow();
 /// Of the running instance alone.
 int request(Request::Kind kind);
-/// By the running instance, else here.
-int importOrExport(const CommandLine& line);
+/// Import, export, adding and removing: by the running instance, else here.
+int change(const CommandLine& line);
+/// The user's own snippets, as the running instance has them.
+int list(const CommandLine& line);
 int search(const CommandLine& line);
 
 }  // namespace tessarin::commands

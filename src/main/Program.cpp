@@ -6,7 +6,7 @@
 
 #include "base/ProgramPages.h"
 #include "base/Translate.h"
-#include "main/SnippetFiles.h"
+#include "main/SnippetCommands.h"
 #include "main/WindowSystem.h"
 
 namespace tessarin {
@@ -109,9 +109,10 @@ Answer Program::perform(const Request& request) {
       desktop_.trust().reload();
       return {controller_.hasFollowedTrust(), {}};
     case Request::Kind::importFile:
-      return importSnippets(controller_.snippetStore(), request.file);
     case Request::Kind::exportFile:
-      return exportSnippets(controller_.snippetStore(), request.file);
+    case Request::Kind::add:
+    case Request::Kind::remove:
+      return carryOut(controller_.snippetStore(), request);
   }
   return {false, translate("Program", "unknown request")};
 }

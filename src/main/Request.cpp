@@ -11,22 +11,26 @@ namespace {
 
 using Kind = Request::Kind;
 
-constexpr std::array<std::pair<Kind, std::string_view>, 6> words{{{Kind::settings, "settings"},
-                                                                  {Kind::toggle, "toggle"},
-                                                                  {Kind::quit, "quit"},
-                                                                  {Kind::trust, "trust"},
-                                                                  {Kind::importFile, "import"},
-                                                                  {Kind::exportFile, "export"}}};
+struct Word {
+  Kind kind;
+  std::string_view word;
+  std::size_t arguments;
+};
+
+constexpr std::array words{Word{Kind::settings, "settings", 0}, Word{Kind::toggle, "toggle", 0},
+                           Word{Kind::quit, "quit", 0},         Word{Kind::trust, "trust", 0},
+                           Word{Kind::importFile, "import", 1}, Word{Kind::exportFile, "export", 1},
+                           Word{Kind::add, "add", 4},           Word{Kind::remove, "remove", 1}};
 constexpr std::string_view succeeded = "done ";
 constexpr std::string_view failed = "failed ";
 
-/// Control characters, and "%" itself, as "%0A".
+/// Control characters, spaces and "%" itself, as "%0A".
 std::string percentEncoded(std::string_view text) {
   constexpr std::string_view digits = "0123456789ABCDEF";
   std::string result;
   for (const char c : text) {
     const auto byte = static_cast<unsigned char>(c);
-    if (byte >= 0x20 && c != '%') {
+    if (byte > 0x20 && c != '%') {
       result += c;
     } else {
       result += {'%', digits[byte / 16], digits[byte % 16]};
@@ -52,30 +56,37 @@ std::optional<std::string> percentDecoded(std::string_view text) {
   return result;
 }
 
-bool takesFile(Kind kind) {
+/// What stands behind each of the spaces; none where one of it was not encoded by us.
+std::optional<std::vector<std::string>> decodedArguments(std::string_view line) {
+  std::vector<std::string> arguments;
+  for (auto space = line.find(' '); space != std::string_view::npos;) {
+    const auto next = line.find(' ', space + 1);
+    const auto argument = percentDecoded(line.substr(space + 1, next - space - 1));
+    if (!argument) return std::nullopt;
+    arguments.push_back(*argument);
+    space = next;
+  }
+  return arguments;
+}
+
+bool isPath(Kind kind) {
   return kind == Kind::importFile || kind == Kind::exportFile;
 }
 
 }  // namespace
 
 std::string Request::encoded() const {
-  const auto word = std::ranges::find(words, kind, &std::pair<Kind, std::string_view>::first);
-  std::string line(word->second);
-  if (takesFile(kind)) line += " " + percentEncoded(file.native());
+  std::string line(std::ranges::find(words, kind, &Word::kind)->word);
+  for (const std::string& argument : arguments) line += " " + percentEncoded(argument);
   return line;
 }
 
 std::optional<Request> Request::decode(const std::string& line) {
-  const auto space = line.find(' ');
-  const auto word = std::ranges::find(words, std::string_view(line).substr(0, space),
-                                      &std::pair<Kind, std::string_view>::second);
-  if (word == words.end()) return std::nullopt;
-  if (!takesFile(word->first))
-    return space == std::string::npos ? std::optional(Request{word->first, {}}) : std::nullopt;
-  const auto path =
-      percentDecoded(space == std::string::npos ? "" : std::string_view(line).substr(space + 1));
-  if (!path || !path->starts_with('/')) return std::nullopt;
-  return Request{word->first, *path};
+  const auto word = std::ranges::find(words, std::string_view(line).substr(0, line.find(' ')), &Word::word);
+  const auto arguments = decodedArguments(line);
+  if (word == words.end() || !arguments || arguments->size() != word->arguments) return std::nullopt;
+  if (isPath(word->kind) && !arguments->front().starts_with('/')) return std::nullopt;
+  return Request{word->kind, *arguments};
 }
 
 std::string Answer::encoded() const {

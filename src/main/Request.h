@@ -1,24 +1,27 @@
 #pragma once
 
-#include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace tessarin {
 
-/// What a later instance asks of the running one. On its way each is one line, whatever bytes the path has.
+/// What a later instance asks of the running one. On its way each is one line, whatever bytes its arguments
+/// have.
 struct Request {
   enum class Kind {
     settings,
     toggle,
     quit,
-    trust,  ///< the record of it has changed; a failure is "not yet"
-    importFile,
-    exportFile
+    trust,       ///< the record of it has changed; a failure is "not yet"
+    importFile,  ///< a file of ours, by its absolute path
+    exportFile,  ///< the same
+    add,         ///< trigger, text, name and keywords of a snippet
+    remove       ///< the snippets with a trigger
   };
 
   Kind kind = Kind::settings;
-  std::filesystem::path file;  ///< absolute; of an import or export
+  std::vector<std::string> arguments;  ///< as many as its kind has
 
   bool operator==(const Request&) const = default;
   std::string encoded() const;

@@ -81,7 +81,11 @@ int start(int argc, char** argv) {
       return commands::request(Request::Kind::quit);
     case Action::importFile:
     case Action::exportFile:
-      return commands::importOrExport(line);
+    case Action::add:
+    case Action::remove:
+      return commands::change(line);
+    case Action::list:
+      return commands::list(line);
     case Action::search:
       return commands::search(line);
     case Action::wrongUsage:

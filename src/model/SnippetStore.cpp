@@ -166,19 +166,32 @@ void SnippetStore::updateSnippet(const Snippet& snippet) {
 
 void SnippetStore::deleteSnippet(const std::string& id) {
   // The id may belong to the very snippet that goes away.
-  const std::string removed = id;
+  removeThose([removed = id](const Snippet& snippet) { return snippet.id == removed; });
+  finishChange();
+}
+
+std::size_t SnippetStore::deleteTrigger(const std::string& trigger) {
+  const std::size_t count =
+      removeThose([removed = trigger](const Snippet& snippet) { return snippet.trigger == removed; });
+  if (count > 0) finishChange();
+  return count;
+}
+
+std::size_t SnippetStore::removeThose(const std::function<bool(const Snippet&)>& goes) {
+  const std::size_t before = userSnippets_.size();
   change([&] {
     for (std::size_t i = userSnippets_.size(); i-- > 0;) {
-      if (userSnippets_[i].id != removed) continue;
+      if (!goes(userSnippets_[i])) continue;
       index_.remove(builtInSnippets_.size() + i);
       userSnippets_.erase(userSnippets_.begin() + static_cast<std::ptrdiff_t>(i));
     }
   });
-  finishChange();
+  return before - userSnippets_.size();
 }
 
-std::size_t SnippetStore::importSnippets(const std::filesystem::path& file) {
-  return addImported(readSnippetFile(file));
+bool SnippetStore::hasTrigger(const std::string& trigger) const {
+  const auto has = [&](const Snippet& snippet) { return snippet.trigger == trigger; };
+  return std::ranges::any_of(builtInSnippets_, has) || std::ranges::any_of(userSnippets_, has);
 }
 
 std::size_t SnippetStore::addImported(std::vector<Snippet> imported) {

@@ -55,12 +55,15 @@ class SnippetStore {
   void updateSnippet(const Snippet& snippet);
   /// Removes every user snippet of that id.
   void deleteSnippet(const std::string& id);
+  /// Removes every user snippet with that trigger (exact text), and returns how many; nothing is saved where
+  /// there is none.
+  std::size_t deleteTrigger(const std::string& trigger);
+  /// Whether any snippet has it (exact text).
+  bool hasTrigger(const std::string& trigger) const;
 
   /// Adds those of the snippets whose trigger (exact text) no snippet here has, with new ids, and returns how
   /// many.
   std::size_t addImported(std::vector<Snippet> imported);
-  /// The same with the snippets of a file. Throws what `readSnippetFile` throws, nothing having changed.
-  std::size_t importSnippets(const std::filesystem::path& file);
   /// Throws what `writeSnippetFile` throws, and std::runtime_error where there is an export problem.
   void exportSnippets(const std::filesystem::path& file) const;
   /// Why nothing may be exported, in a sentence for the user: the user's snippets could not be read when the
@@ -80,6 +83,7 @@ class SnippetStore {
   void saveSnippetsIfMissing();
   void indexUsage(const std::string& trigger);
   void append(Snippet snippet);
+  std::size_t removeThose(const std::function<bool(const Snippet&)>& goes);
   void finishChange();
   void change(const std::function<void()>& apply);
   const Snippet& at(std::size_t position) const;

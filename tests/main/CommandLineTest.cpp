@@ -4,7 +4,7 @@
 #include "Matchers.h"
 #include "main/CommandLine.h"
 #include "main/Request.h"
-#include "main/SnippetFiles.h"
+#include "main/SnippetCommands.h"
 #include "model/SnippetCoding.h"
 #include "model/SnippetStore.h"
 #include "platform/WallClock.h"
@@ -33,13 +33,20 @@ TEST(CommandLineTest, KnowsWhatItIsStartedForOrWhatIsWrong) {
       {{"--export=-=.json"}, {.action = Action::exportFile, .argument = "-=.json"}},
       {{"--json", "--limit", "20", "--search", "x"},
        {.action = Action::search, .argument = "x", .json = true, .limit = 20}},
+      {{"--list", "--json"}, {.action = Action::list, .argument = "", .json = true}},
+      {{"--name", "my name", "--add", "sig", "--", "-- \n", "--keywords=a, b"},
+       {.action = Action::add, .argument = "sig", .text = "-- \n", .name = "my name", .keywords = "a, b"}},
+      {{"--add=sig", "a=b"}, {.action = Action::add, .argument = "sig", .text = "a=b"}},
+      {{"--remove", "sig"}, {.action = Action::remove, .argument = "sig"}},
+      {{"--add", "sig"}, wrong("--add needs an argument: TRIGGER TEXT")},
+      {{"--remove", "sig", "--name", "x"}, wrong("--name needs --add")},
       {{"--quiet"}, wrong("unknown option --quiet")},
       {{"file.json"}, wrong("unexpected argument file.json")},
       {{"--", "--quit"}, wrong("unexpected argument --quit")},
       {{"--allow=yes"}, wrong("--allow takes no argument")},
       {{"--import"}, wrong("--import needs an argument: FILE")},
       {{"--import="}, wrong("--import needs a file")},
-      {{"--json"}, wrong("--json needs --search")},
+      {{"--json"}, wrong("--json needs --list/--search")},
       {{"--limit", "0", "--search", "a"}, wrong("--limit needs a number from 1 on")},
       {{"--limit=99999999999999999999", "--search", "a"}, wrong("--limit needs a number from 1 on")},
   };
@@ -55,9 +62,9 @@ using Kind = Request::Kind;
 TEST(Request, TravelsInOneLineWhateverThePath) {
   const Request requests[] = {
       {Kind::settings, {}},
-      {Kind::importFile, "/home/ä 😀/a%41.json"},
-      {Kind::exportFile, "/a\nb\r\t\x01\x7f\xff%"},
-      {Kind::importFile, "/" + std::string(4095, '\n')},
+      {Kind::importFile, {"/home/ä 😀/a%41.json"}},
+      {Kind::exportFile, {"/a\nb\r\t\x01\x7f\xff%"}},
+      {Kind::add, {"", std::string(4095, '\n'), "two words ", ""}},
   };
   for (const Request& request : requests) {
     const std::string line = request.encoded();
@@ -67,8 +74,8 @@ TEST(Request, TravelsInOneLineWhateverThePath) {
 }
 
 TEST(Request, AnythingElseIsNone) {
-  for (const char* line :
-       {"", "toggl", "toggle now", " quit", "import", "import a.json", "import /a%", "import /a%4x"}) {
+  for (const char* line : {"", "toggl", "toggle now", " quit", "import", "import a.json", "import /a%",
+                           "import /a%4x", "import /a b", "add a b c"}) {
     EXPECT_EQ(Request::decode(line), std::nullopt) << line;
   }
 }
@@ -83,13 +90,16 @@ TEST(Answer, TravelsInOneLine) {
   EXPECT_EQ(Answer::decode("done %"), (Answer{false, "done %"}));
 }
 
-class SnippetFilesTest : public ::testing::Test {
+class SnippetCommandsTest : public ::testing::Test {
  protected:
   static Snippet snippet(const std::string& trigger, const std::string& replacement) {
     return {"id-" + trigger, "the " + trigger, trigger, replacement, {}, "Custom", false};
   }
   void writeImport(const std::vector<Snippet>& snippets) {
     folder.write("import.json", encodeSnippets(snippets, JsonStyle::compact));
+  }
+  Answer importFrom(SnippetStore& into, const std::string& file) {
+    return carryOut(into, {Kind::importFile, {folder / file}});
   }
 
   TemporaryFolder folder;
@@ -98,27 +108,27 @@ class SnippetFilesTest : public ::testing::Test {
   SnippetStore store{{.resources = folder.path(), .storage = folder / "storage"}, clock};
 };
 
-TEST_F(SnippetFilesTest, AnImportSaysThatItIsNotYetOnTheDisk) {
+TEST_F(SnippetCommandsTest, AnImportSaysThatItIsNotYetOnTheDisk) {
   folder.write("storage", "a file where the folder should be");
   writeImport({snippet("one", "1")});
   for (int attempt = 0; attempt < 2; ++attempt) {
-    const Answer answer = importSnippets(store, folder / "import.json");
+    const Answer answer = importFrom(store, "import.json");
     EXPECT_FALSE(answer.isSuccess);
     EXPECT_THAT(answer.text, StartsWith("Not saved: cannot create "));
     EXPECT_EQ(store.userSnippets().size(), 1U);
   }
   std::filesystem::remove(folder / "storage");
-  EXPECT_EQ(importSnippets(store, folder / "import.json"), (Answer{true, "Imported 0 snippets"}));
+  EXPECT_EQ(importFrom(store, "import.json"), (Answer{true, "Imported 0 snippets"}));
   EXPECT_EQ(decodeSnippets(folder.read("storage/user-snippets.json")), store.userSnippets());
 }
 
-TEST_F(SnippetFilesTest, NothingIsExportedWhereTheUsersSnippetsCouldNotBeRead) {
+TEST_F(SnippetCommandsTest, NothingIsExportedWhereTheUsersSnippetsCouldNotBeRead) {
   folder.write("backup.json", "all that is left");
   std::filesystem::create_directory(folder / "storage");
   folder.write("storage/user-snippets.json", "[");
   SnippetStore unread({.resources = folder.path(), .storage = folder / "storage"}, clock);
   for (const char* added : {"one", "two"}) {
-    const Answer answer = exportSnippets(unread, folder / "backup.json");
+    const Answer answer = carryOut(unread, {Kind::exportFile, {folder / "backup.json"}});
     EXPECT_FALSE(answer.isSuccess);
     EXPECT_THAT(answer.text,
                 StartsWith("Export failed: your snippets could not be read when Tessarin started: "
@@ -128,16 +138,36 @@ TEST_F(SnippetFilesTest, NothingIsExportedWhereTheUsersSnippetsCouldNotBeRead) {
   EXPECT_EQ(folder.read("backup.json"), "all that is left");
 }
 
-TEST_F(SnippetFilesTest, SearchListsTheBestFirstOrGivesTheJsonOfAnExport) {
-  store.addSnippet(snippet("smiles", "many\n\tlines\\"));
-  store.addSnippet(snippet("smile", "😄"));
-  const std::string best = "smile\t😄\tthe smile\n";
-  EXPECT_EQ(searchResults(store, "smile", {.limit = 8}), best + "smiles\tmany\\n\\tlines\\\\\tthe smiles\n");
-  EXPECT_EQ(searchResults(store, "smile", {.limit = 1}), best);
-  EXPECT_EQ(searchResults(store, "nothing", {.limit = 8}), "");
-  EXPECT_EQ(decodeSnippets(searchResults(store, "smiles", {.limit = 8, .json = true})),
-            std::vector{store.userSnippets()[0]});
-  EXPECT_EQ(searchResults(store, "nothing", {.limit = 8, .json = true}), "[]\n");
+TEST_F(SnippetCommandsTest, AListHasALineEachOrIsTheJsonOfAnExport) {
+  const std::vector snippets = {snippet("smile", "😄"), snippet("smiles", "many\n\tlines\\")};
+  EXPECT_EQ(listed(snippets, false), "smile\t😄\tthe smile\nsmiles\tmany\\n\\tlines\\\\\tthe smiles\n");
+  EXPECT_EQ(decodeSnippets(listed(snippets, true)), snippets);
+  EXPECT_EQ(listed({}, false), "");
+  EXPECT_EQ(listed({}, true), "[]\n");
 }
+
+TEST_F(SnippetCommandsTest, AddsAndRemovesByTriggerWhatCanBeTypedAndSaved) {
+  store.addSnippet(snippet("other", "stays"));
+  struct Step {
+    Request request;
+    Answer answer;
+  };
+  const Step steps[] = {
+      {{Kind::add, {"sig", "-- \nme", "", ""}}, {true, "Added 1 snippet"}},
+      {{Kind::add, {"sig", "x", "", ""}}, {false, "there is a snippet with the trigger sig already"}},
+      {{Kind::add, {":a", "x", "", ""}}, {false, "a trigger has letters, digits, _ and - only"}},
+      {{Kind::add, {"", "x", "", ""}}, {false, "a trigger has letters, digits, _ and - only"}},
+      {{Kind::add, {"a", "", "", ""}}, {false, "a snippet needs a text"}},
+      {{Kind::add, {"a", "x", "\xff", ""}}, {false, "the text is not UTF-8"}},
+      {{Kind::add, {"été", "ü", "My name", "one, two,"}}, {true, "Added 1 snippet"}},
+      {{Kind::remove, {"Sig"}}, {false, "no snippet of yours has the trigger Sig"}},
+      {{Kind::remove, {"sig"}}, {true, "Removed 1 snippet"}},
+  };
+  for (const auto& [request, answer] : steps) EXPECT_EQ(carryOut(store, request), answer) << answer.text;
+  const auto saved = decodeSnippets(folder.read("storage/user-snippets.json"));
+  ASSERT_EQ(saved.size(), 2U);
+  EXPECT_EQ(saved[1], (Snippet{saved[1].id, "My name", "été", "ü", {"one", "two"}, "Custom", false}));
+}
+
 }  // namespace
 }  // namespace tessarin::testing

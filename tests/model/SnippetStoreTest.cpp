@@ -4,6 +4,7 @@
 #include "base/DataError.h"
 #include "base/Files.h"
 #include "model/SnippetCoding.h"
+#include "model/SnippetFile.h"
 #include "model/SnippetStore.h"
 #include "support/LogRecorder.h"
 #include "support/ManualWallClock.h"
@@ -131,7 +132,7 @@ TEST_F(SnippetStoreTest, ImportAddsWhatHasANewTrigger) {
   folder_.write("import.json",
                 encodeSnippets({mine("1", "smile"), mine("2", "Sig"), builtIn, mine("4", "sig"), builtIn},
                                JsonStyle::compact));
-  EXPECT_EQ(store->importSnippets(folder_ / "import.json"), 3U);
+  EXPECT_EQ(store->addImported(readSnippetFile(folder_ / "import.json")), 3U);
   EXPECT_THAT(triggersOf(store->userSnippets()), ElementsAre("sig", "sign", "Sig", "twice", "twice"));
   EXPECT_EQ(saved(), store->userSnippets());
   Snippet made = mine(store->userSnippets()[3].id, "twice");
@@ -146,10 +147,10 @@ TEST_F(SnippetStoreTest, ImportingTheUsersOwnExportWritesNothing) {
   store->exportSnippets(folder_ / "export.json");
   EXPECT_EQ(folder_.read("export.json"), encodeSnippets(store->userSnippets(), JsonStyle::pretty));
   fs::remove(folder_ / userFile);
-  EXPECT_EQ(store->importSnippets(folder_ / "export.json"), 0U);
+  EXPECT_EQ(store->addImported(readSnippetFile(folder_ / "export.json")), 0U);
   folder_.write("bad.json", "[1]");
-  EXPECT_THROW(store->importSnippets(folder_ / "bad.json"), DataError);
-  EXPECT_THROW(store->importSnippets(folder_ / "missing.json"), std::runtime_error);
+  EXPECT_THROW(readSnippetFile(folder_ / "bad.json"), DataError);
+  EXPECT_THROW(readSnippetFile(folder_ / "missing.json"), std::runtime_error);
   EXPECT_FALSE(fs::exists(folder_ / userFile));
   EXPECT_EQ(store->userSnippets().size(), 2U);
 }

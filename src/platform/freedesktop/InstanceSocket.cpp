@@ -19,8 +19,9 @@
 namespace tessarin::freedesktop {
 namespace {
 
-/// Room for the longest path that the system knows, with three characters for each of its bytes.
-constexpr std::size_t longestLine = 16384;
+/// Room for the four arguments of a new snippet, each as long as the system lets one be (128 kB), with three
+/// characters for each byte.
+constexpr std::size_t longestLine = 2U << 20;
 
 /// FNV-1a: the same folder gives the same name in every build.
 std::uint64_t fingerprint(const std::string& text) {
@@ -60,7 +61,7 @@ void limitWaiting(int socket, std::chrono::milliseconds time) {
 std::optional<std::string> receiveLine(int socket, std::chrono::milliseconds patience) {
   const auto deadline = std::chrono::steady_clock::now() + patience;
   std::string line;
-  std::array<char, 512> buffer{};
+  std::array<char, 4096> buffer{};
   while (line.size() < longestLine) {
     const auto left =
         std::chrono::ceil<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
@@ -76,7 +77,7 @@ std::optional<std::string> receiveLine(int socket, std::chrono::milliseconds pat
 
 /// Adds what has come. False when the other side is done or broke off.
 bool receiveMore(int socket, std::string& said) {
-  std::array<char, 512> buffer{};
+  std::array<char, 4096> buffer{};
   const ssize_t count = recv(socket, buffer.data(), buffer.size(), 0);
   if (count > 0) said.append(buffer.data(), static_cast<std::size_t>(count));
   return count > 0 || (count < 0 && (errno == EAGAIN || errno == EINTR));
@@ -155,8 +156,9 @@ void InstanceSocket::hear(int client, const Handler& handler) {
   const auto found =
       std::ranges::find_if(clients_, [=](const Client& c) { return c.socket.get() == client; });
   if (found == clients_.end()) return;  // dropped meanwhile
+  const std::size_t heardBefore = found->said.size();
   const bool isMore = receiveMore(client, found->said) && found->said.size() < longestLine;
-  const auto end = found->said.find('\n');
+  const auto end = found->said.find('\n', heardBefore);
   if (isMore && end == std::string::npos) return;
   // Out of the list before the handler runs, which may come back here.
   const Client heard = std::move(*found);

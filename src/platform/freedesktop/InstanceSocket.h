@@ -13,7 +13,7 @@ namespace tessarin::freedesktop {
 /// The place where the running instance takes requests of later ones: a socket in the user's runtime folder
 /// (else in the data folder), named after the data folder, so that instances with folders of their own stay
 /// apart. A link in the data folder leads to it, for those that know the folder under another name or have
-/// another runtime folder, or none. A request is one line ("toggle", "quit", …) of less than 16 kB, its
+/// another runtime folder, or none. A request is one line ("toggle", "quit", …) of less than 2 MB, its
 /// answer is one line.
 class InstanceSocket {
  public:
