@@ -985,6 +985,14 @@ Einstellungen des laufenden Programms.</translation>
         <source>Export Snippets</source>
         <translation>Bausteine exportieren</translation>
     </message>
+    <message>
+        <source>Snippets</source>
+        <translation>Bausteine</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
 </context>
 <context>
     <name>tessarin::ui::SnippetListModel</name>
@@ -1061,6 +1069,18 @@ Einstellungen des laufenden Programms.</translation>
     <message>
         <source>Export failed: %1</source>
         <translation>Export fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Also of espanso or AutoKey, or a table (CSV). Files and folders can be dropped here.</source>
+        <translation>Auch von espanso oder AutoKey oder eine Tabelle (CSV). Dateien und Ordner lassen sich hierher ziehen.</translation>
+    </message>
+    <message>
+        <source>Import Snippets</source>
+        <translation>Bausteine importieren</translation>
+    </message>
+    <message>
+        <source>Left out: %1. Changed: %2.</source>
+        <translation>Ausgelassen: %1. Geändert: %2.</translation>
     </message>
 </context>
 <context>

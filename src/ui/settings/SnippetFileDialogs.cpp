@@ -18,7 +18,6 @@ using Chosen = std::function<void(const std::filesystem::path&)>;
 QFileDialog* makeDialog(QWidget& parent, const QString& title) {
   auto* dialog = new QFileDialog(&parent, title);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setMimeTypeFilters({"application/json"});
   const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   dialog->setDirectory(QFile::exists(documents) ? documents : QDir::homePath());
   return dialog;
@@ -36,6 +35,8 @@ void chooseToOpen(QWidget& parent, Chosen chosen) {
   QFileDialog* dialog = makeDialog(parent, Texts::tr("Import Snippets"));
   dialog->setAcceptMode(QFileDialog::AcceptOpen);
   dialog->setFileMode(QFileDialog::ExistingFile);
+  dialog->setNameFilters(
+      {Texts::tr("Snippets") + " (*.json *.yml *.yaml *.csv *.tsv *.txt)", Texts::tr("All files") + " (*)"});
   ask(*dialog, std::move(chosen));
 }
 
@@ -43,6 +44,7 @@ void chooseToSave(QWidget& parent, Chosen chosen) {
   QFileDialog* dialog = makeDialog(parent, Texts::tr("Export Snippets"));
   dialog->setAcceptMode(QFileDialog::AcceptSave);
   dialog->setFileMode(QFileDialog::AnyFile);
+  dialog->setMimeTypeFilters({"application/json"});
   dialog->setDefaultSuffix("json");
   dialog->selectFile("tessarin-snippets.json");
   ask(*dialog, std::move(chosen));

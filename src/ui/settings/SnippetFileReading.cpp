@@ -5,16 +5,16 @@
 #include <exception>
 #include <memory>
 
-#include "model/SnippetFile.h"
+#include "importers/SnippetImport.h"
 
 namespace tessarin::ui {
 namespace {
 
 using Result = SnippetFileReading::Result;
 
-Result read(const std::filesystem::path& file) {
+Result read(const std::filesystem::path& path, const ImportTerms& terms) {
   try {
-    return {readSnippetFile(file), {}};
+    return {readAnySnippets(path, terms), {}};
   } catch (const std::exception& error) {
     return {{}, error.what()};
   }
@@ -27,13 +27,13 @@ SnippetFileReading::SnippetFileReading(QObject* parent) : QObject(parent) {
           [this] { Q_EMIT done(watcher_.future().takeResult()); });
 }
 
-void SnippetFileReading::start(const std::filesystem::path& file) {
+void SnippetFileReading::start(const std::filesystem::path& path, const ImportTerms& terms) {
   const auto promise = std::make_shared<QPromise<Result>>();
   promise->start();
   watcher_.setFuture(promise->future());
   // The pool is waited for before the application ends.
-  QThreadPool::globalInstance()->start([promise, file] {
-    promise->addResult(read(file));
+  QThreadPool::globalInstance()->start([promise, path, terms] {
+    promise->addResult(read(path, terms));
     promise->finish();
   });
 }

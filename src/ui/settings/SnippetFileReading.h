@@ -4,26 +4,25 @@
 #include <QObject>
 #include <filesystem>
 #include <string>
-#include <vector>
 
-#include "model/Snippet.h"
+#include "importers/ForeignSnippets.h"
 
 namespace tessarin::ui {
 
-/// Reads a file of snippets on another thread, so that no window stands still over a large one. One file at a
-/// time. When the reader goes away first, nobody is told.
+/// Reads what can be imported of a file or folder on another thread, so that no window stands still over a
+/// large one. One at a time. When the reader goes away first, nobody is told.
 class SnippetFileReading final : public QObject {
   Q_OBJECT
 
  public:
   struct Result {
-    std::vector<Snippet> snippets;
-    std::string error;  ///< empty when the file was read
+    ForeignSnippets read;
+    std::string error;  ///< empty when it was read
   };
 
   explicit SnippetFileReading(QObject* parent = nullptr);
 
-  void start(const std::filesystem::path& file);
+  void start(const std::filesystem::path& path, const ImportTerms& terms);
   bool isRunning() const { return watcher_.isRunning(); }
 
  Q_SIGNALS:

@@ -1,12 +1,18 @@
 #include "ui/settings/SnippetsSettingsTab.h"
 
 #include <QApplication>
+#include <QDragEnterEvent>
+#include <QFile>
 #include <QHBoxLayout>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <chrono>
 #include <utility>
 
 #include "base/Log.h"
+#include "input/Preferences.h"
 #include "model/SnippetStore.h"
 #include "platform/MainQueue.h"
 #include "ui/settings/SnippetEditorView.h"
@@ -28,6 +34,12 @@ QPushButton* makeButton(const QString& text, const QString& symbol) {
   auto* button = new IconButton(symbolIcon(symbol), text);
   button->setAutoDefault(false);
   return button;
+}
+
+std::optional<std::filesystem::path> droppedPath(const QMimeData& data) {
+  const QList<QUrl> urls = data.urls();
+  if (urls.size() != 1 || !urls.front().isLocalFile()) return std::nullopt;
+  return QFile::encodeName(urls.front().toLocalFile()).toStdString();
 }
 
 }  // namespace
@@ -58,6 +70,9 @@ SnippetsSettingsTab::SnippetsSettingsTab(const SettingsServices& services, Snipp
   message_->wrapped();
   message_->hide();
   list_->setModel(model_);
+  setAcceptDrops(true);
+  import_->setToolTip(
+      tr("Also of espanso or AutoKey, or a table (CSV). Files and folders can be dropped here."));
   connectAll();
   refresh();
 }
@@ -120,11 +135,26 @@ void SnippetsSettingsTab::remove(const QModelIndex& index) {
 }
 
 void SnippetsSettingsTab::chooseImport() {
-  dialogs_.open(*this, [this](const std::filesystem::path& file) {
-    if (reading_.isRunning()) return;
-    import_->setEnabled(false);
-    reading_.start(file);
-  });
+  dialogs_.open(*this, [this](const std::filesystem::path& file) { importFrom(file); });
+}
+
+void SnippetsSettingsTab::importFrom(const std::filesystem::path& path) {
+  if (reading_.isRunning()) return;
+  import_->setEnabled(false);
+  reading_.start(path, {.triggerCharacter = preferences::currentTriggerCharacter(services_.userDefaults)});
+}
+
+void SnippetsSettingsTab::dragEnterEvent(QDragEnterEvent* event) {
+  if (droppedPath(*event->mimeData())) event->acceptProposedAction();
+}
+
+void SnippetsSettingsTab::dropEvent(QDropEvent* event) {
+  const auto path = droppedPath(*event->mimeData());
+  if (!path) return;
+  // Whoever drags a file here means to keep it.
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+  importFrom(*path);
 }
 
 void SnippetsSettingsTab::finishImport(const SnippetFileReading::Result& result) {
@@ -134,8 +164,22 @@ void SnippetsSettingsTab::finishImport(const SnippetFileReading::Result& result)
     return;
   }
   // They are in the list also where saving them fails, which is logged and done again later.
-  const auto count = static_cast<int>(services_.snippetStore.addImported(result.snippets));
-  setMessage(count == 1 ? tr("Imported 1 snippet") : tr("Imported %n snippets", nullptr, count));
+  const auto count = static_cast<int>(services_.snippetStore.addImported(result.read.snippets));
+  const QString message = count == 1 ? tr("Imported 1 snippet") : tr("Imported %n snippets", nullptr, count);
+  setMessage(message);
+  showNotes(message, result.read);
+}
+
+void SnippetsSettingsTab::showNotes(const QString& message, const ForeignSnippets& read) {
+  const std::string notes = notesOf(read);
+  if (notes.empty()) return;
+  auto* dialog =
+      new QMessageBox(QMessageBox::Information, tr("Import Snippets"), message, QMessageBox::Ok, this);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setInformativeText(
+      tr("Left out: %1. Changed: %2.").arg(read.leftOut.size()).arg(read.changed.size()));
+  dialog->setDetailedText(QString::fromStdString(notes));
+  dialog->open();
 }
 
 void SnippetsSettingsTab::setMessage(const QString& message) {

@@ -31,6 +31,11 @@ class SnippetsSettingsTab final : public QWidget {
   SnippetsSettingsTab(const SettingsServices& services, SnippetFileDialogs dialogs,
                       QWidget* parent = nullptr);
 
+ protected:
+  // A file or folder that is dropped is imported.
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
  private:
   QHBoxLayout* makeHeader();
   QWidget* makeEmptyState();
@@ -39,10 +44,12 @@ class SnippetsSettingsTab final : public QWidget {
   void setSheet(SnippetSheetState state);
   void remove(const QModelIndex& index);
   void chooseImport();
+  void importFrom(const std::filesystem::path& path);
   void finishImport(const SnippetFileReading::Result& result);
   void chooseExport();
   void exportTo(const std::filesystem::path& file);
   void setMessage(const QString& message);
+  void showNotes(const QString& message, const ForeignSnippets& read);
 
   SettingsServices services_;
   SnippetFileDialogs dialogs_;

@@ -2,6 +2,8 @@
 #include <QAccessible>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
@@ -157,6 +159,30 @@ TEST_F(SnippetsSettingsTabTest, ImportSaysHowManyItAdded) {
   import(json({mine("z")}));
   window.reset();
   queue.advance(milliseconds(3000));
+}
+
+TEST_F(SnippetsSettingsTabTest, AFolderIsDroppedAndTheNotesOnItAreShown) {
+  open();
+  fs::create_directory(folder / "match");
+  folder.write("match/base.yml", "matches: [{trigger: ':a', replace: A}, {regex: b, replace: B}]");
+  const QUrl match = QUrl::fromLocalFile(QString::fromStdString((folder / "match").string()));
+  for (const auto& [urls, isTaken] : {std::pair{QList<QUrl>{match, match}, false}, {{match}, true}}) {
+    QMimeData data;
+    data.setUrls(urls);
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    for (QEvent* event : {static_cast<QEvent*>(&enter), static_cast<QEvent*>(&drop)}) {
+      event->ignore();
+      QCoreApplication::sendEvent(tab, event);
+      EXPECT_EQ(event->isAccepted(), isTaken);
+    }
+  }
+  ASSERT_TRUE(eventuallyInLoop([this] { return tab->findChild<QMessageBox*>() != nullptr; }));
+  EXPECT_THAT(triggers(), ElementsAre("a"));
+  const auto* notes = tab->findChild<QMessageBox*>();
+  EXPECT_EQ(notes->text(), "Imported 1 snippet");
+  EXPECT_EQ(notes->informativeText(), "Left out: 1. Changed: 0.");
+  EXPECT_EQ(notes->detailedText(), "Left out: 1\n  base.yml:1: it has a regular expression\n");
 }
 
 TEST_F(SnippetsSettingsTabTest, AFailedImportChangesNothing) {
