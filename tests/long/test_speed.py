@@ -71,7 +71,7 @@ def expand(program, pause=0.0, disturbance=lambda editor: contextlib.nullcontext
 class Speed(unittest.TestCase):
     maxDiff = 2000
     programs = (*ALL, Firefox, Chromium, Geany, Scite)
-    others = (ChromiumRichText, Kate, Texstudio, Epiphany, Falkon, Thunderbird, Calc, Jedit)
+    others = (ChromiumRichText, Kate, Texstudio, Epiphany, Falkon, Thunderbird, Jedit)
 
     def check(self, program, expected, found, log):
         with self.subTest(program=program.__name__):
@@ -88,9 +88,9 @@ class Speed(unittest.TestCase):
             self.check(program, *run.result())
 
     def test_into_others_that_are_pasted_into(self):
-        for program in self.others:
-            for pause in (0.0, 0.06):
-                self.check(program, *expand(program, pause, expansions=min(EXPANSIONS, 200)))
+        runs = [(program, pause) for program in self.others for pause in (0.0, 0.06)]
+        for program, pause in (*runs, (Calc, 0.06)):  # docs/reliability.md says what Calc does without a pause
+            self.check(program, *expand(program, pause, expansions=min(EXPANSIONS, 200)))
 
     def test_into_a_program_that_hangs_again_and_again(self):
         for program in self.programs:
