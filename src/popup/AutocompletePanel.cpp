@@ -35,8 +35,9 @@ void AutocompletePanel::anticipate() {
 
 void AutocompletePanel::locateAhead() {
   caret_ = askForCaret(ScreenLayout::read(screens_));
-  const bool mayLookAgain = tellContext() && isContextDue_;
-  if (mayLookAgain && queue_.now() - anticipatedAt_ < longestDelay) {
+  if (!tellContext() || !contextRead_) return;
+  const bool isDue = isContextDue_ || locator_.isAnswerDue();
+  if (isDue && queue_.now() - anticipatedAt_ < longestDelay) {
     queue_.after(lookInterval, stillWanted(&AutocompletePanel::locateAhead));
   }
 }
