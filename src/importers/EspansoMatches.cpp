@@ -1,11 +1,13 @@
 #include "importers/EspansoMatches.h"
 
+#include <yaml-cpp/eventhandler.h>
 #include <yaml-cpp/yaml.h>
 
 #include <algorithm>
 #include <cctype>
 #include <map>
 #include <optional>
+#include <sstream>
 
 #include "base/Translate.h"
 #include "importers/ForeignText.h"
@@ -41,6 +43,31 @@ std::string problemOfMember(const std::string& member) {
   return {};
 }
 
+/// Parses and keeps nothing.
+struct IgnoredEvents final : YAML::EventHandler {
+  void OnDocumentStart(const YAML::Mark&) override {}
+  void OnDocumentEnd() override {}
+  void OnNull(const YAML::Mark&, YAML::anchor_t) override {}
+  void OnAlias(const YAML::Mark&, YAML::anchor_t) override {}
+  void OnScalar(const YAML::Mark&, const std::string&, YAML::anchor_t, const std::string&) override {}
+  void OnSequenceStart(const YAML::Mark&, const std::string&, YAML::anchor_t,
+                       YAML::EmitterStyle::value) override {}
+  void OnSequenceEnd() override {}
+  void OnMapStart(const YAML::Mark&, const std::string&, YAML::anchor_t, YAML::EmitterStyle::value) override {
+  }
+  void OnMapEnd() override {}
+};
+
+/// What stands behind the first document would be lost; the library, asked for all of them, makes documents
+/// without end of some texts. The end that is written here shows up a quotation that is never closed.
+void requireOneDocument(const std::string& text) {
+  std::istringstream stream(text + (text.ends_with('\n') ? "...\n" : "\n...\n"));
+  YAML::Parser parser(stream);
+  IgnoredEvents events;
+  parser.HandleNextDocument(events);
+  if (parser.HandleNextDocument(events)) throw DataError("holds more than one document");
+}
+
 /// Walks through the trees of one file. Aliases make them look larger than they are, without end if they lead
 /// in a circle, so all that is looked at is counted.
 class MatchReader {
@@ -48,23 +75,19 @@ class MatchReader {
   explicit MatchReader(const MatchFile& file) : file_(file) {}
 
   void read() {
-    for (const YAML::Node& document : documents()) {
-      if (document.IsNull()) continue;
-      if (!document.IsMap()) throw DataError("the top level is not a list of members");
-      membersOf(document, [&](const std::string& key, const YAML::Node& value) {
-        if (key == "matches") elementsOf(value, [&](const YAML::Node& match) { readMatch(match); });
-        if (key == "global_vars") readVariables(value, globals_);
-      });
-    }
+    const YAML::Node top = document();
+    if (!top.IsNull() && !top.IsMap()) throw DataError("the top level is not a list of members");
+    membersOf(top, [&](const std::string& key, const YAML::Node& value) {
+      if (key == "matches") elementsOf(value, [&](const YAML::Node& match) { readMatch(match); });
+      if (key == "global_vars") readVariables(value, globals_);
+    });
   }
 
   EspansoVariables& globals() { return globals_; }
   std::vector<EspansoMatch>& matches() { return matches_; }
 
  private:
-  static constexpr const char* documentEnd = "\n...\n";  ///< of a document
-
-  std::vector<YAML::Node> documents() {
+  YAML::Node document() {
     // YAML allows no other control characters, and the parser takes one of them for the end.
     const auto isControl = [](char c) {
       return static_cast<unsigned char>(c) < 0x20 && c != '\t' && c != '\r' && c != '\n';
@@ -73,12 +96,14 @@ class MatchReader {
     if (text.size() > largestMatchFile) throw DataError("the file is larger than 8 MB");
     if (std::ranges::any_of(text, isControl)) throw DataError("not valid YAML");
     try {
-      // The parser itself takes the end of a file for the end of a quotation that is open.
-      if (!text.ends_with('\n')) YAML::LoadAll(text + documentEnd);
-      return YAML::LoadAll(text.ends_with('\n') ? text + (documentEnd + 1) : text);
+      requireOneDocument(text);
+      return YAML::Load(text);
     } catch (const YAML::Exception& error) {
       if (error.mark.is_null()) throw DataError("not valid YAML");
-      throw DataError("not valid YAML (line " + std::to_string(error.mark.line + 1) + ")");
+      // What is missing at the end is noticed behind it.
+      const auto lines = std::count(text.begin(), text.end(), '\n') + (text.ends_with('\n') ? 0 : 1);
+      failAtLine("not valid YAML",
+                 static_cast<std::size_t>(std::min<std::ptrdiff_t>(error.mark.line + 1, lines)));
     }
   }
 

@@ -49,13 +49,15 @@ TEST(Importers, SayInOneLineWhatCannotBeRead) {
     std::string content, problem;
   };
   const Case cases[] = {
-      {"a.yml", "matches: [\n", "not valid YAML (line 2)"},
-      {"a.yml", "matches: [{trigger: a, replace: \"b", "not valid YAML (line 2)"},
+      {"a.yml", "matches: [\n", "not valid YAML (line 1)"},
+      {"a.yml", "matches: [{trigger: a, replace: \"b", "not valid YAML (line 1)"},
       {"a.yaml", "matches:\n- trigger: \xff", "not valid UTF-8"},
       {"a.yml", "matches: []\n\x04more", "not valid YAML"},
+      {"a.yml", ",", "holds more than one document"},
+      {"a.yml", "matches: []\n---\nmatches: []\n", "holds more than one document"},
       {"a.yml", "[]", "the top level is not a list of members"},
       {"a.yml", "toggle_key: ALT\n", "the file holds no matches"},
-      {"a.yml", std::string(100'000, '[') + "\n", "not valid YAML (line 2)"},
+      {"a.yml", std::string(100'000, '[') + "\n", "not valid YAML (line 1)"},
       {"a.yml", aliases, "holds more than could be meant"},
       {"a.yml", std::string((8U << 20) + 1, '#'), "the file is larger than 8 MB"},
       {"a.csv", "x,\"y\nz", "a quote is never closed (line 1)"},
