@@ -47,8 +47,7 @@ ui::SettingsServices SampleDesktop::services() {
 }
 
 void SampleDesktop::addApplications() {
-  for (const auto& [identifier, info] : installed)
-    workspace.running.push_back({identifier, info.name});
+  for (const auto& [identifier, info] : installed) workspace.running.push_back({identifier, info.name});
 }
 
 void SampleDesktop::addSnippets() {

@@ -8,9 +8,9 @@
 namespace tessarin::ui {
 namespace {
 
-constexpr int sectionSpacing = 12;
+constexpr int sectionSpacing = 10;
 constexpr int titleSpacing = 4;
-constexpr int rowSpacing = 8;
+constexpr int rowSpacing = 6;
 constexpr int cardPadding = 10;
 
 }  // namespace
@@ -18,6 +18,7 @@ constexpr int cardPadding = 10;
 Form::Form(QWidget* parent) : ScrollPane(new QWidget, parent), sections_(new QVBoxLayout) {
   auto* layout = new QVBoxLayout(widget());
   layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
   sections_->setSpacing(sectionSpacing);
   layout->addLayout(sections_);
   layout->addStretch(1);
