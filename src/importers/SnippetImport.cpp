@@ -29,7 +29,9 @@ bool isMatchFile(const fs::path& file) {
 
 /// Where the description of a phrase or script lies.
 fs::path descriptionOf(const fs::path& file) {
-  return file.parent_path() / ("." + file.stem().string() + ".json");
+  std::string name = ".";
+  name += file.stem().string() + ".json";
+  return file.parent_path() / name;
 }
 
 bool hasDescription(const fs::path& file) {
