@@ -18,7 +18,7 @@ namespace busState = atspi::busState;
 using Clock = std::chrono::steady_clock;
 
 /// Longer than the user's, so that a busy machine does not spoil what is not about time.
-constexpr std::chrono::milliseconds longestCall{150};
+constexpr std::chrono::milliseconds longestCall{400};
 /// What a busy machine may add to a deadline.
 constexpr std::chrono::milliseconds tolerance{60};
 
