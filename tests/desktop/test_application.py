@@ -90,8 +90,8 @@ class FirstRun(ApplicationTest):
 
         self.import_snippet("zqboard", "<{{clipboard}}>")
         with Mousepad(self.session, self.typist) as editor:
-            self.typist.type("a:tada\nb:zqboard\n")
-            self.assertEqual(editor.wait_for_document("a🎉b<😄>"), "a🎉b<😄>")
+            self.typist.type("a :tada\nb :zqboard\n")
+            self.assertEqual(editor.wait_for_document("a 🎉b <😄>"), "a 🎉b <😄>")
         self.look_at_the_statistics()
         self.assertEqual(self.tessarin.command("--quit").returncode, 0)
         wait_for(lambda: "Event tap stopped" in self.tessarin.log, what="an orderly end")
