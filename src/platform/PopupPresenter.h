@@ -62,8 +62,8 @@ class PopupPresenter {
 
   /// Has the text around the caret read as well when the caret is looked for, and runs whenever it was. The
   /// callback may present something else, and answers whether it has learnt what it wanted: letters may still
-  /// be on their way. An empty one has nothing read. Where nobody looks, nobody tells.
-  virtual void onContextRead(std::function<bool(const CaretContext&)> /*callback*/) {}
+  /// be on their way. An empty one has nothing read.
+  virtual void onContextRead(std::function<bool(const CaretContext&)> callback) = 0;
 };
 
 }  // namespace tessarin
