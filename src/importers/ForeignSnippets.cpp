@@ -28,7 +28,8 @@ std::string bareTrigger(std::string trigger, const std::string& usersCharacter) 
 std::string listOf(const std::string& headline, const std::vector<ForeignSnippets::Note>& notes) {
   if (notes.empty()) return {};
   std::string lines = headline + "\n";
-  for (const auto& [where, why] : notes) lines += "  " + where + ": " + why + "\n";
+  for (const auto& [where, why] : notes)
+    lines.append("  ").append(where).append(": ").append(why).append("\n");
   return lines;
 }
 
