@@ -15,41 +15,27 @@
 namespace tessarin::ui {
 namespace {
 
-struct Property {
+template <typename Content>
+struct Named {
   QString name;
-  QDBusVariant value;
+  Content content;
 };
-
+using Property = Named<QDBusVariant>;
 /// Of which a call may bring more; ours never does.
-struct AuxiliaryUnit {
-  QString name;
-  QList<Property> properties;
-};
+using AuxiliaryUnit = Named<QList<Property>>;
 
-QDBusArgument& operator<<(QDBusArgument& to, const Property& property) {
+template <typename Content>
+QDBusArgument& operator<<(QDBusArgument& to, const Named<Content>& named) {
   to.beginStructure();
-  to << property.name << property.value;
+  to << named.name << named.content;
   to.endStructure();
   return to;
 }
 
-const QDBusArgument& operator>>(const QDBusArgument& from, Property& property) {
+template <typename Content>
+const QDBusArgument& operator>>(const QDBusArgument& from, Named<Content>& named) {
   from.beginStructure();
-  from >> property.name >> property.value;
-  from.endStructure();
-  return from;
-}
-
-QDBusArgument& operator<<(QDBusArgument& to, const AuxiliaryUnit& unit) {
-  to.beginStructure();
-  to << unit.name << unit.properties;
-  to.endStructure();
-  return to;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& from, AuxiliaryUnit& unit) {
-  from.beginStructure();
-  from >> unit.name >> unit.properties;
+  from >> named.name >> named.content;
   from.endStructure();
   return from;
 }
