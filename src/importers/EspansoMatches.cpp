@@ -68,6 +68,20 @@ void requireOneDocument(const std::string& text) {
   if (parser.HandleNextDocument(events)) throw DataError("holds more than one document");
 }
 
+/// The parser makes a single byte, as of Latin 1, of the escapes "\_" and "\N"; all else is UTF-8.
+std::string mendedScalar(const std::string& scalar) {
+  if (text::isValidUtf8(scalar)) return scalar;
+  std::string mended;
+  for (std::size_t i = 0; i < scalar.size();) {
+    const auto lead = static_cast<unsigned char>(scalar[i]);
+    const std::size_t bytes = lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+    if (lead >= 0x80 && lead < 0xC0) mended += '\xC2';
+    mended.append(scalar, i, bytes);
+    i += bytes;
+  }
+  return mended;
+}
+
 /// Walks through the trees of one file. Aliases make them look larger than they are, without end if they lead
 /// in a circle, so all that is looked at is counted.
 class MatchReader {
@@ -116,7 +130,7 @@ class MatchReader {
   std::string textOf(const YAML::Node& node) {
     if (!node.IsScalar()) return {};
     look(node.Scalar().size());
-    return node.Scalar();
+    return mendedScalar(node.Scalar());
   }
 
   template <class Visit>
