@@ -8,6 +8,7 @@ import time
 from session import ROOT
 from typist import NAMED
 
+HELD_BEFORE = 0.03
 PROGRAM = ROOT / "build/release/benchmarks/stopwatch"
 
 
@@ -67,9 +68,17 @@ class Stopwatch:
     def forget(self, name):
         self.send("forget", name)
 
-    def press(self, name, *modifiers):
-        """Presses the key and says when."""
-        self.send("press", *(way + str(code) for way, code in self._typist.moves(NAMED.get(name, name), *modifiers)))
+    def press(self, name):
+        """Presses the key and says when. What has to be held with it is held before, as by a hand."""
+        moves = [way + str(code) for way, code in self._typist.moves(NAMED.get(name, name))]
+        held = (len(moves) - 2) // 2
+        if held:
+            self._move(moves[:held])
+            time.sleep(HELD_BEFORE)
+        return self._move(moves[held:])
+
+    def _move(self, moves):
+        self.send("press", *moves)
         return float(self.wait("began")[0])
 
     def replace(self, document, start, end, text, length):

@@ -1,11 +1,13 @@
 // Makes things happen on a desktop and tells when what they bring about can be seen, both by one clock. Reads
-// commands, a line each, and writes what it saw, a line each:
-//   press MOVE...                              began TIME
-//   replace BUS PATH START END LENGTH TEXT     began TIME
-//   place BUS PATH POSITION                    place X Y WIDTH HEIGHT, in the document's window
-//   watch NAME WINDOW X Y WIDTH HEIGHT         looks NAME NUMBER, then at each change  picture TIME NAME
-//   NUMBER look NAME                                  looks NAME NUMBER forget NAME open-window window
-//   NUMBER, then at each key  key TIME CODE close-window
+// commands, a line each, and writes what it saw, a line each, the answer behind "→":
+//   press MOVE...                            → began TIME
+//   replace BUS PATH START END LENGTH TEXT   → began TIME
+//   place BUS PATH POSITION                  → place X Y WIDTH HEIGHT, in the document's window
+//   watch NAME WINDOW X Y WIDTH HEIGHT       → looks NAME NUMBER, at each change  picture TIME NAME NUMBER
+//   look NAME                                → looks NAME NUMBER
+//   forget NAME
+//   open-window                              → window NUMBER, then at each key  key TIME CODE
+//   close-window
 // and always, when text is inserted into a document:  text TIME BUS PATH START TEXT
 #include <poll.h>
 #include <unistd.h>
