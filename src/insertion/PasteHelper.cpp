@@ -21,10 +21,11 @@ void PasteHelper::pasteText(const PasteSession::Job& job, TextInsertion::Complet
   }
   std::vector<PasteboardLoan*> loans{&general_};
   if (job.chord == PasteChord::shiftInsert) loans.push_back(&primary_);
+  auto previous = std::exchange(session_, nullptr);
   session_ = std::make_shared<PasteSession>(
       PasteSession::Tools{keyPoster_, queue_, std::move(loans), {&general_, &primary_}}, job,
       std::move(done));
-  session_->start();
+  session_->startBehind(std::move(previous));
 }
 
 void PasteHelper::erase(std::int64_t count, TextInsertion::Completion done) {

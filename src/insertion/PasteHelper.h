@@ -20,7 +20,7 @@ namespace tessarin {
 /// With n characters to erase: deletions at once; 0.02n + 0.05 s after they were made, and once the contents
 /// are saved, the text goes onto the pasteboard; the paste chord 0.05 s later; the contents come back 0.2 s
 /// after the chord was made, and 0.1 s after the application has last read the text or two seconds after the
-/// chord.
+/// chord; five where a page of Chromium's has yet to read it, behind which the next text then waits.
 class PasteHelper {
  public:
   /// All must outlive the helper. `primary` is what terminals paste from.

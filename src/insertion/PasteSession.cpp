@@ -19,9 +19,15 @@ constexpr milliseconds fromWriteToChord{50};
 constexpr milliseconds shortestLoan{200};  ///< from the chord
 /// Some applications read twice: to see whether there is something to paste, and to paste it.
 constexpr milliseconds settlingOfRead{100};
+/// An application that checks may be without the processor for a while between two looks.
+constexpr milliseconds settlingOfChecks{500};
+constexpr milliseconds settlingCheck{25};
 /// Chromium puts what it has read into its address bar some tasks later, and keys that come before at once.
 constexpr milliseconds settlingOfLikelyRead{300};
 constexpr milliseconds longestPasteWait{2000};  ///< for the application to read the text, from the chord
+/// As long the text stays where a page has yet to read it: Chromium's were seen to take more than two seconds
+/// beside programs that read the whole disk. Keys need not wait so long, as the page gets them in order.
+constexpr milliseconds longestLoanAfterReadAhead{5000};
 /// For which an application that wakes and takes up the chord only then finds an empty text.
 constexpr milliseconds longestNap{3000};
 constexpr milliseconds fillingCheck{50};
@@ -51,7 +57,9 @@ std::vector<KeyPress> PasteSession::backspaces(std::int64_t count) {
   return std::vector<KeyPress>(static_cast<std::size_t>(count), {keycode::deleteBackward, 0});
 }
 
-void PasteSession::start() {
+void PasteSession::startBehind(std::shared_ptr<PasteSession> previous) {
+  previous_ = std::move(previous);
+  if (previous_) previous_->isHandedOver_ = true;
   if (job_.deleteCount > 0) {
     post(backspaces(job_.deleteCount), &PasteSession::deletionsArePosted);
   } else {
@@ -83,6 +91,8 @@ void PasteSession::saveContents() {
 void PasteSession::writeWhenPossible() {
   if (isWritten_ || !areDeletionsDone_ || !areAllAsked_) return;
   if (!std::ranges::all_of(tools_.loans, &PasteboardLoan::isReady)) return;
+  if (previous_ && previous_->isOwedARead()) return after(settlingCheck, &PasteSession::writeWhenPossible);
+  previous_ = nullptr;
   if (!std::ranges::all_of(tools_.loans, &PasteboardLoan::isCurrent) && savesLeft_-- > 0) {
     saveContents();
     return;
@@ -135,7 +145,7 @@ void PasteSession::textWasRead() {
   ++reads_;
   if (!isRead(ReadManner::likely) && !isRead(ReadManner::ahead)) return textWasPasted();
   after(std::clamp(sinceChord(), settlingOfLikelyRead, longestPasteWait), &PasteSession::likelyReadIsOver);
-  after(longestPasteWait, &PasteSession::readAheadIsOver);
+  after(longestPasteWait, &PasteSession::keysHaveWaited);
 }
 
 // The keys need not wait for that any longer, only the user's contents do.
@@ -143,22 +153,33 @@ void PasteSession::likelyReadIsOver() {
   if (reads_ == 1 && isRead(ReadManner::likely)) answer(InsertionOutcome::inserted);
 }
 
+void PasteSession::keysHaveWaited() {
+  if (reads_ != 1) return;
+  if (!isOwedARead()) return textWasPasted();
+  answer(InsertionOutcome::inserted);
+  after(longestLoanAfterReadAhead - longestPasteWait, &PasteSession::readAheadIsOver);
+}
+
 void PasteSession::readAheadIsOver() {
   if (reads_ == 1) textWasPasted();
 }
 
+bool PasteSession::isOwedARead() const {
+  return reads_ > 0 && !isReadOrGivenUp_ && (isRead(ReadManner::ahead) || isRead(ReadManner::checking));
+}
+
 void PasteSession::textWasPasted() {
-  settling_ = timeToSettle();
+  timeToRead_ = sinceChord();
   settlesUntil_ = tools_.queue.now() + longestPasteWait;
-  if (!isRead(ReadManner::checking)) answer(InsertionOutcome::inserted);
-  ++unsettledReads_;
-  settle();
+  if (!isRead(ReadManner::checking) && !isRead(ReadManner::checked)) answer(InsertionOutcome::inserted);
+  quietSince_ = tools_.queue.now();
+  if (!std::exchange(isSettling_, true)) lookWhetherSettled();
 }
 
 // An application that checks may take as long for that as it took to come so far.
 milliseconds PasteSession::timeToSettle() const {
   if (!isRead(ReadManner::checking)) return settlingOfRead;
-  return std::clamp(sinceChord(), settlingOfRead, longestPasteWait);
+  return std::clamp(timeToRead_, settlingOfChecks, longestPasteWait);
 }
 
 milliseconds PasteSession::sinceChord() const {
@@ -176,14 +197,17 @@ std::int64_t PasteSession::requestCount() const {
   return count;
 }
 
-void PasteSession::settle() {
-  lastRequestCount_ = requestCount();
-  after(settling_, &PasteSession::readHasSettled);
-}
-
-void PasteSession::readHasSettled() {
-  if (requestCount() != lastRequestCount_ && tools_.queue.now() < settlesUntil_) return settle();
-  if (--unsettledReads_ > 0) return;
+void PasteSession::lookWhetherSettled() {
+  const auto now = tools_.queue.now();
+  const std::int64_t count = requestCount();
+  if (count != lastRequestCount_) quietSince_ = now;
+  lastRequestCount_ = count;
+  const auto settled = std::min(quietSince_ + timeToSettle(), settlesUntil_);
+  if (now < settled) {
+    const auto left = std::chrono::ceil<milliseconds>(settled - now);
+    return after(std::min(left, settlingCheck), &PasteSession::lookWhetherSettled);
+  }
+  isSettling_ = false;
   isReadOrGivenUp_ = true;
   answer(InsertionOutcome::inserted);
   restoreWhenAllowed();
@@ -237,7 +261,7 @@ std::int64_t PasteSession::textRequestCount() const {
 }
 
 void PasteSession::restoreWhenAllowed() {
-  if (!isShortestLoanOver_ || !isReadOrGivenUp_) return;
+  if (!isShortestLoanOver_ || !isReadOrGivenUp_ || isHandedOver_) return;
   if (std::ranges::any_of(tools_.restored, &PasteboardLoan::isStillFilling)) {
     after(fillingCheck, &PasteSession::restoreWhenAllowed);
     return;

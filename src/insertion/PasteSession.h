@@ -39,7 +39,9 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
 
   static std::vector<KeyPress> backspaces(std::int64_t count);
 
-  void start();
+  /// A page may have yet to read the text of the session before, if there was one: this one's is written
+  /// behind that, and the user's contents are left to this one.
+  void startBehind(std::shared_ptr<PasteSession> previous);
   /// Answers, unless that has been done, that the text did not get there.
   void answerFailure();
   bool isChordPosted() const { return isChordPosted_; }
@@ -55,14 +57,15 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
   void shortestLoanIsOver();
   void textWasRead();
   void likelyReadIsOver();
+  void keysHaveWaited();
   void readAheadIsOver();
+  bool isOwedARead() const;
   void textWasPasted();
   bool isRead(ReadManner manner) const;
   std::int64_t requestCount() const;
   std::chrono::milliseconds timeToSettle() const;
   std::chrono::milliseconds sinceChord() const;
-  void settle();
-  void readHasSettled();
+  void lookWhetherSettled();
   void giveUpUnlessRead();
   void stopWaiting();
   bool isTypedBack() const;
@@ -76,6 +79,8 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
 
   Tools tools_;
   Job job_;
+  std::shared_ptr<PasteSession> previous_;
+  bool isHandedOver_ = false;  ///< to the next session
   TextInsertion::Completion done_;
   int savesLeft_ = 3;  ///< how often contents are saved again because somebody copied meanwhile
   bool areDeletionsDone_ = false;
@@ -88,9 +93,10 @@ class PasteSession : public std::enable_shared_from_this<PasteSession> {
   std::chrono::steady_clock::time_point chordTime_;
   int reads_ = 0;  ///< since the chord
   std::int64_t lastRequestCount_ = 0;
-  std::chrono::milliseconds settling_{0};  ///< how long nobody must have asked after a read
+  std::chrono::milliseconds timeToRead_{0};           ///< from the chord
+  std::chrono::steady_clock::time_point quietSince_;  ///< when a request was last noticed
   std::chrono::steady_clock::time_point settlesUntil_;
-  int unsettledReads_ = 0;
+  bool isSettling_ = false;
   bool isReadOrGivenUp_ = false;
 };
 

@@ -26,9 +26,10 @@ struct PasteboardSnapshot {
 /// How an application goes about reading what it pastes.
 enum class ReadManner {
   plain,
-  ahead,    ///< only to see whether there is text: it reads again when it pastes, however late that is
-  likely,   ///< it has most likely pasted; only whether it reads again, as after `ahead`, can tell
-  checking  ///< it pastes if it then sees a few times over that the contents have not changed
+  ahead,     ///< only to see whether there is text: it reads again when it pastes, however late that is
+  likely,    ///< it has most likely pasted; only whether it reads again, as after `ahead`, can tell
+  checking,  ///< it pastes if it then sees a few times over that the contents have not changed
+  checked    ///< it has seen that as often as it is known to look
 };
 
 /// A place that holds copied contents. There are two: the general one, and the one that terminals paste from.

@@ -116,10 +116,11 @@ bool SelectionOwner::answer(xcb_window_t requestor, xcb_atom_t target, xcb_atom_
 
 // Chromium, and what is built on it, has its answers put there. Its own process reads when the chord comes,
 // and asks for the list of targets once or twice before; the page does when it is given the processor, asks
-// for the list nine times before and three times after, and drops what it has read when the owner has changed
+// for the list nine times before and four times after, and drops what it has read when the owner has changed
 // in between. For its address bar its own process alone reads, asks three times before, and once after.
 void SelectionOwner::noteRequest(xcb_atom_t target, xcb_atom_t property) {
   constexpr std::int64_t readForAddressBar = 4;
+  constexpr std::int64_t checks = 4;
   const bool isText = isTextTarget(atoms_.name(target));
   if (isText) ++textRequestCount_;
   if (property != chromium_) return;
@@ -129,6 +130,8 @@ void SelectionOwner::noteRequest(xcb_atom_t target, xcb_atom_t property) {
     readManner_ = count > readForAddressBar ? ReadManner::checking : ReadManner::ahead;
   } else if (chromiumReadAt_ == readForAddressBar) {
     readManner_ = count == readForAddressBar + 1 ? ReadManner::likely : ReadManner::ahead;
+  } else if (readManner_ == ReadManner::checking && count == chromiumReadAt_ + checks) {
+    readManner_ = ReadManner::checked;
   }
 }
 
