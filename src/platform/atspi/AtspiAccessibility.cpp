@@ -220,6 +220,7 @@ AtspiAccessibility::Value AtspiAccessibility::selectedRange(const ObjectReferenc
   } else if (auto text = textOf(object)) {
     range = text->selectedRange();
   }
+  if (range) lastCaret_ = {object, range->location};
   return range ? Value(*range) : std::nullopt;
 }
 
@@ -227,7 +228,8 @@ const AtspiAccessibility::Reading* AtspiAccessibility::reading(const ObjectRefer
   if (reading_ && reading_->of == object) return &*reading_;
   auto text = textOf(object);
   if (!text) return nullptr;
-  RemoteText::Glance glance = text->glance();
+  const bool wasCaretSeen = lastCaret_ && lastCaret_->first == object;
+  RemoteText::Glance glance = text->glance(wasCaretSeen ? std::optional(lastCaret_->second) : std::nullopt);
   if (!glance.role) return nullptr;
   reading_ = Reading{object, glance, {}, {}};
   return &*reading_;
@@ -327,7 +329,7 @@ AtspiAccessibility::Value AtspiAccessibility::stringFor(const ObjectReference& o
                                                         const TextRange& range) {
   if (const auto* place = range.length > 0 ? knownPlace(object, range) : nullptr) return place->before;
   auto text = textOf(object);
-  auto stretch = text ? text->stretch(range) : std::nullopt;
+  auto stretch = text ? stretchFor(*text, object, range) : std::nullopt;
   if (!stretch) return std::nullopt;
   Value string = stretch->text;
   if (reading_ && reading_->of == object) {
@@ -335,6 +337,14 @@ AtspiAccessibility::Value AtspiAccessibility::stringFor(const ObjectReference& o
     reading_->stretch = *std::move(stretch);
   }
   return string;
+}
+
+std::optional<RemoteText::Stretch> AtspiAccessibility::stretchFor(RemoteText& text,
+                                                                  const ObjectReference& object,
+                                                                  const TextRange& range) {
+  const bool isRead = reading_ && reading_->of == object && reading_->glance.before;
+  auto read = isRead ? text.stretchIn(*reading_->glance.before, range) : std::nullopt;
+  return read ? read : text.stretch(range);
 }
 
 // What has just been looked at for this key is what is replaced.

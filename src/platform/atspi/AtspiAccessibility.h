@@ -116,7 +116,11 @@ class AtspiAccessibility final : public Accessibility {
     RemoteText::Stretch stretch;
   };
   const Reading* reading(const ObjectReference& object);
+  std::optional<RemoteText::Stretch> stretchFor(RemoteText& text, const ObjectReference& object,
+                                                const TextRange& range);
   std::optional<Reading> reading_;
+  /// Where a caret was seen last: there it mostly still is when the text before it is wanted.
+  std::optional<std::pair<ObjectReference, std::int64_t>> lastCaret_;
   /// The text that the user may write into, and nobody over the bus.
   std::optional<ObjectReference> readOnly_;
   /// What was read along with the bounds asked for last, for the same key.

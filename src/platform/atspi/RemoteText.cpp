@@ -20,6 +20,8 @@ constexpr std::int64_t mostClusters = 1024;
 /// Enough for most clusters; the rest of them are families of emoji and the like.
 constexpr std::int64_t unitsPerCluster = 8;
 constexpr std::int64_t unitsInReserve = 16;
+/// Most shortcodes are shorter.
+constexpr std::int64_t clustersAtAGlance = 16;
 /// The text stands there already, so its order is worth this even where the key's account is used up.
 constexpr std::chrono::milliseconds caretTime{40};
 
@@ -82,12 +84,26 @@ std::optional<TextRange> RemoteText::selectedRange() {
   return rangeOf(caret.get(), selections.get());
 }
 
-RemoteText::Glance RemoteText::glance() {
-  const auto [role, states, interfaces, caret, selections] =
-      askAll(roleRequest(), statesRequest(), interfacesRequest(),
-             propertyRead(object_, textInterface, "CaretOffset"), request(textInterface, "GetNSelections"));
-  return {MessageReader(role.get()).uint32(), readStates(states.get()),
-          contains(interfaces.get(), editableText), rangeOf(caret.get(), selections.get())};
+RemoteText::Glance RemoteText::glance(std::optional<std::int64_t> expectedCaret) {
+  auto asked =
+      all(roleRequest(), statesRequest(), interfacesRequest(),
+          propertyRead(object_, textInterface, "CaretOffset"), request(textInterface, "GetNSelections"));
+  const std::int64_t end = expectedCaret.value_or(0);
+  const std::int64_t start = startOfClusters(end, clustersAtAGlance);
+  if (expectedCaret) asked.push_back(textRequest(start, end));
+  replaceByReplies(asked);
+  auto before = expectedCaret ? textIn(asked.back().get(), end - start) : std::nullopt;
+  return {MessageReader(asked[0].get()).uint32(), readStates(asked[1].get()),
+          contains(asked[2].get(), editableText), rangeOf(asked[3].get(), asked[4].get()),
+          before ? std::optional(Stretch{start, end, *std::move(before)}) : std::nullopt};
+}
+
+std::optional<RemoteText::Stretch> RemoteText::stretchIn(const Stretch& read, const TextRange& range) const {
+  const std::int64_t end = range.location + range.length;
+  if (end != read.end || range.length <= 0 || range.length > mostClusters) return std::nullopt;
+  auto last = lastClusters(read.text, read.start, range.length);
+  if (!last) return std::nullopt;
+  return Stretch{end - countUnits(*last, toolkit_.offset), end, *std::move(last)};
 }
 
 std::optional<TextRange> RemoteText::rangeOf(DBusMessage* caret, DBusMessage* selections) {
@@ -112,10 +128,9 @@ std::optional<RemoteText::Stretch> RemoteText::stretch(const TextRange& range) {
   if (clusters == 0) return Stretch{end, end, {}};
   for (const std::int64_t factor : {1, 8}) {
     const std::int64_t start = startOfClusters(end, clusters, factor);
-    const auto fetched = text(start, end);
+    auto fetched = text(start, end);
     if (!fetched) return std::nullopt;
-    auto last = lastClusters(*fetched, start, clusters);
-    if (last) return Stretch{end - countUnits(*last, toolkit_.offset), end, *std::move(last)};
+    if (auto found = stretchIn({start, end, *std::move(fetched)}, range)) return found;
   }
   return std::nullopt;
 }

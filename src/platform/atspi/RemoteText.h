@@ -44,8 +44,12 @@ class RemoteText : public RemoteObject {
     std::optional<std::uint64_t> states;
     bool isEditableText = false;
     std::optional<TextRange> selectedRange;
+    /// What stands before the place where the caret was expected, enough for most shortcodes.
+    std::optional<Stretch> before;
   };
-  Glance glance();
+  Glance glance(std::optional<std::int64_t> expectedCaret);
+  /// The clusters of a range that ends where the text that was read does, if it has them all.
+  std::optional<Stretch> stretchIn(const Stretch& read, const TextRange& range) const;
 
   /// Replaces what was read, and leaves the caret behind the new text. `erasedOnly` also when it is not
   /// certain that the old text stands as it was, and where the new text was taken back for the caret's sake.

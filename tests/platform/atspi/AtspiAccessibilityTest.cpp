@@ -386,7 +386,12 @@ TEST_F(AtspiAccessibilityTest, asksNothingTwiceForOneKey) {
   for (std::size_t i = 0; i < before.size(); ++i)
     EXPECT_EQ(application->calls(calls[i]), before[i]) << calls[i];
 
+  EXPECT_TRUE(read(attribute::selectedTextRange));
   EXPECT_TRUE(read(attribute::value));
+  EXPECT_EQ(application->calls("GetText"), before[4] + 1)
+      << "along with the rest, as the caret is expected there";
+  EXPECT_EQ(read(attribute::stringForRange, {4, 1}), AttributeValue(std::string("🎉")));
+  EXPECT_EQ(application->calls("GetText"), before[4] + 1);
   application->setText(U"é", 1);
   EXPECT_EQ(read(attribute::selectedTextRange), AttributeValue(TextRange{5, 0}));
   EXPECT_TRUE(accessibility->pause(std::chrono::milliseconds(1)));
