@@ -7,25 +7,21 @@ package moves on, and look at the difference before committing it.
 """
 
 import argparse
-import base64
-import hashlib
 import json
-import re
-import subprocess
 import sys
-import tarfile
-import tempfile
-import unicodedata
 from pathlib import Path
 
-PACKAGE = "emojibase-data@17.0.0"
-SHA512 = "Yvgb5AWoHViHV/gq1qr5ZAarcBip+B27/ZLRsUJkbgAEaLlZ/fof9g882LTpmEpyhBNEC0m2SEmItljHsTygjA=="
+from npm_data import RESOURCES, Package, is_typable, read_json, typable
+
+PACKAGE = Package(
+    "emojibase-data@17.0.0",
+    "Yvgb5AWoHViHV/gq1qr5ZAarcBip+B27/ZLRsUJkbgAEaLlZ/fof9g882LTpmEpyhBNEC0m2SEmItljHsTygjA==",
+)
 
 # Most usual first: what users of GitHub and Slack know, then Discord, then the descriptive names.
 SHORTCODES = ("github", "iamcal", "joypixels", "cldr", "emojibase")
 TRIGGERS = ("github", "cldr", "joypixels", "emojibase")
 COMPONENTS = "components"
-LONGEST_QUERY = 64
 
 # Another of GitHub's names for the same emoji, where as a mere keyword it would come after other emoji whose
 # triggers begin with it, or where the first is not the name that people type.
@@ -48,42 +44,13 @@ TEXT_BY_DEFAULT = 0
 EMOJI_STYLE = "\N{VARIATION SELECTOR-16}"
 KEYCAP_BASES = set("0123456789#*")
 
-RESOURCES = Path(__file__).resolve().parent.parent / "resources"
-
-
-def fetch(folder):
-    """Lets npm fetch the package into the folder; returns the archive."""
-    subprocess.run(["npm", "pack", PACKAGE, "--silent"], cwd=folder, check=True, stdout=subprocess.DEVNULL)
-    return next(Path(folder).glob("*.tgz"))
-
-
-def check(archive):
-    digest = base64.b64encode(hashlib.sha512(archive.read_bytes()).digest()).decode()
-    if digest != SHA512:
-        sys.exit(f"{archive.name}: the checksum is not that of {PACKAGE}")
-
 
 def load(archive):
-    with tarfile.open(archive) as package:
-        def read(name):
-            return json.load(package.extractfile(f"package/en/{name}.json"))
+    def read(name):
+        return read_json(archive, f"en/{name}.json")
 
-        shortcodes = {name: read(f"shortcodes/{name}") for name in SHORTCODES}
-        return read("data"), read("messages"), shortcodes
-
-
-def is_typable(text):
-    """Whether every character of the text can become part of a query."""
-    return 0 < len(text) <= LONGEST_QUERY and all(
-        c in "_-+" or unicodedata.category(c)[0] in "LMN" for c in text
-    )
-
-
-def typable(text):
-    """The text as one would type it: one word, without apostrophes."""
-    kept = re.sub("['’.]", "", text.lower())
-    kept = "".join(c if is_typable(c) else "_" for c in kept)
-    return re.sub("__+", "_", kept).strip("_")
+    shortcodes = {name: read(f"shortcodes/{name}") for name in SHORTCODES}
+    return read("data"), read("messages"), shortcodes
 
 
 def text_defaults(data):
@@ -158,12 +125,9 @@ def write(path, rows):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("--package", type=Path, help=f"the archive of {PACKAGE}, when it is at hand")
+    parser.add_argument("--package", type=Path, help=f"the archive of {PACKAGE.name}, when it is at hand")
     given = parser.parse_args().package
-    with tempfile.TemporaryDirectory() as folder:
-        archive = given or fetch(folder)
-        check(archive)
-        rows = list(records(*load(archive)))
+    rows = list(records(*PACKAGE.load(given, load)))
     kaomoji = json.loads((RESOURCES / "kaomoji-data.json").read_text(encoding="utf-8"))
     clashes = {k["trigger"] for k in kaomoji} & {row["trigger"] for row in rows}
     if clashes:
