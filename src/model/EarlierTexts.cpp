@@ -5,20 +5,25 @@
 #include "model/FoldedEntry.h"
 
 namespace tessarin {
+namespace {
+
+int scalarCount(std::string_view text) {
+  return static_cast<int>(std::ranges::count_if(text, [](char c) { return (c & 0xC0) != 0x80; }));
+}
+
+}  // namespace
 
 void EarlierTexts::clear() {
   texts_.clear();
-  isPlain_ = true;
   bytes_.reset();
   pairs_.reset();
 }
 
-void EarlierTexts::add(std::string_view text) {
+void EarlierTexts::add(std::string_view text, int length) {
+  if (scalarCount(text) != length) return;  // a part of it need not be whole characters, and is then no match
   texts_.append(text).push_back(textEnd);
   for (std::size_t at = 0; at < text.size(); ++at) {
-    const auto byte = static_cast<unsigned char>(text[at]);
-    if (byte >= 0x80 || byte == '\r') isPlain_ = false;
-    bytes_.set(byte);
+    bytes_.set(static_cast<unsigned char>(text[at]));
     if (at > 0) pairs_.set(pairOf(text[at - 1], text[at]));
   }
 }
@@ -36,10 +41,6 @@ std::size_t EarlierTexts::coveredAt(std::string_view rest, std::size_t atLeast) 
 }
 
 void EarlierTexts::appendCovered(std::string_view keyword, std::string& lengths) const {
-  if (!isPlain_) {
-    lengths.append(keyword.size(), '\0');
-    return;
-  }
   std::size_t length = 0;
   for (std::size_t at = 0; at < keyword.size(); ++at) {
     length = coveredAt(keyword.substr(at), length > 0 ? length - 1 : 0);

@@ -12,10 +12,12 @@ namespace tessarin {
 class EarlierTexts {
  public:
   void clear();
-  void add(std::string_view text);
+  /// `length` in characters.
+  void add(std::string_view text, int length);
 
   /// For each byte of `keyword`, the length in bytes of the longest part beginning there that stands in an
-  /// earlier text, at most 255; appended to `lengths`. Shorter than the truth where texts go beyond ASCII.
+  /// earlier text, at most 255; appended to `lengths`. Shorter than the truth where a character of an earlier
+  /// text is written as several.
   void appendCovered(std::string_view keyword, std::string& lengths) const;
 
  private:
@@ -25,7 +27,6 @@ class EarlierTexts {
   std::size_t coveredAt(std::string_view rest, std::size_t atLeast) const;
 
   std::string texts_;
-  bool isPlain_ = true;  ///< every byte of the texts is a character
   std::bitset<256> bytes_;
   std::bitset<1024> pairs_;  ///< by `pairOf`: what is not in here needs no search
 };

@@ -43,12 +43,12 @@ struct Shelf {
 void shelve(Id id, const FoldedEntry& entry, Shelf& shelf, EarlierTexts& earlier) {
   shelf.triggers.add(id, entry.triggerLength, entry.trigger);
   earlier.clear();
-  earlier.add(entry.trigger);
+  earlier.add(entry.trigger, entry.triggerLength);
   std::string covered;
   entry.forEachKeyword([&](std::string_view keyword, int length) {
     covered.clear();
     earlier.appendCovered(keyword, covered);
-    earlier.add(keyword);
+    earlier.add(keyword, length);
     shelf.keywords.add(id, length, keyword, covered);
   });
 }
