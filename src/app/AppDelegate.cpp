@@ -82,6 +82,7 @@ void AppDelegate::installHandlers() {
   keyboardMonitor_.onKeyEvent = handler(&AppDelegate::handleKeyEvent);
   keyboardMonitor_.onInterrupted = handler(&AppDelegate::handleAppSwitch);
   updateAttention();
+  services_.mainQueue.after(monitorStartDelay / 2, handler(&AppDelegate::learnLanguages));
   services_.mainQueue.after(monitorStartDelay, handler(&AppDelegate::startKeyboardMonitor));
   autocompleteViewModel_.onItemSelected = handler(&AppDelegate::handleClick);
 }
@@ -114,6 +115,11 @@ void AppDelegate::showOnboardingIfNeeded() {
   const bool isDone = services_.userDefaults.boolean(preferences::key::hasCompletedOnboarding)
                           .value_or(preferences::hasCompletedOnboardingWhenAbsent);
   if (!isDone && services_.showOnboardingWindow) services_.showOnboardingWindow();
+}
+
+// Between the start, which it must not make slower, and the first key, which it must not keep waiting.
+void AppDelegate::learnLanguages() {
+  snippetStore_.learnLanguages(services_.languages);
 }
 
 void AppDelegate::startKeyboardMonitor() {

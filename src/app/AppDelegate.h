@@ -50,6 +50,7 @@ class AppDelegate {
     StatusBar& statusBar;
     const WallClock& wallClock;
     SnippetStore::Folders folders;
+    std::vector<std::string> languages = {};  ///< the user's, see `userLanguages`; English alone where empty
 
     MenuBarManager::Hooks menu;
     std::function<void()> startUpdateService;    ///< first act of the launch; may be absent
@@ -93,6 +94,7 @@ class AppDelegate {
   void showMenuBarIconIfWanted();
   void readContextIfWanted();
   void showOnboardingIfNeeded();
+  void learnLanguages();
   void startKeyboardMonitor();
   void startPermissionRetryTimer();
   void retryStart();

@@ -9,6 +9,7 @@
 #include "base/Log.h"
 #include "base/TemporaryFile.h"
 #include "base/Translate.h"
+#include "base/UserLanguages.h"
 #include "importers/SnippetImport.h"
 #include "input/Preferences.h"
 #include "main/Resources.h"
@@ -203,6 +204,7 @@ int list(const CommandLine& line) {
 
 int search(const CommandLine& line) {
   OwnStore store;
+  (*store).learnLanguages(userLanguages());
   try {
     return printListed((*store).search(line.argument, line.limit), line.json);
   } catch (const std::exception& error) {

@@ -4,6 +4,7 @@
 
 #include "base/Log.h"
 #include "base/SessionKind.h"
+#include "base/UserLanguages.h"
 #include "main/Resources.h"
 #include "platform/atspi/AccessibilityBus.h"
 #include "platform/freedesktop/ApplicationMatcher.h"
@@ -79,6 +80,7 @@ AppDelegate::Services Desktop::services(SnippetStore::Folders folders) {
           statusBar_,
           clock_,
           std::move(folders),
+          userLanguages(),
           {},
           {},
           {}};

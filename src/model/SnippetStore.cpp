@@ -10,6 +10,7 @@
 #include "base/Log.h"
 #include "base/Translate.h"
 #include "base/Uuid.h"
+#include "model/LocalEmoji.h"
 #include "model/SnippetCoding.h"
 #include "model/SnippetFile.h"
 
@@ -69,7 +70,8 @@ void SnippetStore::loadBuiltInEmojis() {
   if (!loadBuiltIns("emoji", emoji)) return;
   for (const Snippet& snippet : emoji) index_.append(snippet);
   change([&] { builtInSnippets_ = std::move(emoji); });
-  logLoaded(builtInSnippets_.size(), "built-in emojis");
+  emojiCount_ = builtInSnippets_.size();
+  logLoaded(emojiCount_, "built-in emojis");
 }
 
 void SnippetStore::loadBuiltInKaomoji() {
@@ -87,6 +89,23 @@ void SnippetStore::loadUserSnippets() {
   for (const Snippet& snippet : snippets) index_.append(snippet);
   change([&] { userSnippets_ = std::move(snippets); });
   logLoaded(userSnippets_.size(), "user snippets");
+}
+
+void SnippetStore::learnLanguages(const std::vector<std::string>& languages) {
+  const LocalEmoji local(folders_.resources / "emoji-words", languages, emojiCount_);
+  if (local.isEmpty()) return;
+  change([&] {
+    for (std::size_t i = 0; i < emojiCount_; ++i) learn(i, local.nameOf(i), local.wordsOf(i));
+  });
+  index_.prepare();
+}
+
+// The words are kept in the index alone, which needs a tenth of the memory for them.
+void SnippetStore::learn(std::size_t emoji, std::string name, std::vector<std::string> words) {
+  Snippet searched = builtInSnippets_[emoji];
+  std::ranges::move(words, std::back_inserter(searched.keywords));
+  index_.replace(emoji, searched);
+  if (!name.empty()) builtInSnippets_[emoji].name = std::move(name);
 }
 
 void SnippetStore::indexUsage(const std::string& trigger) {

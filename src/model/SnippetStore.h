@@ -22,7 +22,7 @@ namespace tessarin {
 class SnippetStore {
  public:
   struct Folders {
-    std::filesystem::path resources;  ///< holds emoji-data.json and kaomoji-data.json
+    std::filesystem::path resources;  ///< holds emoji-data.json, kaomoji-data.json and emoji-words/
     std::filesystem::path storage;    ///< holds the user's snippets and usage files
   };
 
@@ -30,6 +30,10 @@ class SnippetStore {
   SnippetStore(Folders folders, const WallClock& clock, LocalCalendar calendar = LocalCalendar());
   SnippetStore(const SnippetStore&) = delete;
   SnippetStore& operator=(const SnippetStore&) = delete;
+
+  /// Takes up what the emoji are called and searched by in these languages (see `userLanguages`), behind the
+  /// English words. Ids, triggers and what is saved stay as they are. Takes some milliseconds a language.
+  void learnLanguages(const std::vector<std::string>& languages);
 
   /// First the emoji, then the kaomoji, each in file order.
   const std::vector<Snippet>& builtInSnippets() const { return builtInSnippets_; }
@@ -80,6 +84,7 @@ class SnippetStore {
   void loadBuiltInKaomoji();
   bool loadBuiltIns(const char* source, std::vector<Snippet>& loaded) const;
   void loadUserSnippets();
+  void learn(std::size_t emoji, std::string name, std::vector<std::string> words);
   void saveSnippetsIfMissing();
   void indexUsage(const std::string& trigger);
   void append(Snippet snippet);
@@ -92,6 +97,7 @@ class SnippetStore {
   UsageTracker usageTracker_;
   DataFile userFile_;
   std::vector<Snippet> builtInSnippets_;
+  std::size_t emojiCount_ = 0;  ///< of the built-in snippets, the first
   std::vector<Snippet> userSnippets_;
   SearchIndex index_;
   Signal<> willChange_;

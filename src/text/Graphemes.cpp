@@ -15,6 +15,7 @@
 #include <cstdint>
 #include <memory>
 #include <stdexcept>
+#include <utility>
 
 namespace tessarin::text {
 namespace {
@@ -90,6 +91,30 @@ UChar32 firstScalar(std::string_view text) {
 
 bool isAlphanumeric(UChar32 scalar) {
   return scalar >= 0 && (U_GET_GC_MASK(scalar) & (U_GC_L_MASK | U_GC_M_MASK | U_GC_N_MASK)) != 0;
+}
+
+constexpr UChar32 rightQuote = 0x2019;
+
+// The combining marks of these scripts, and the one that makes another letter of its letter.
+constexpr char16_t firstAccent = 0x0300;
+constexpr char16_t lastAccent = 0x036F;
+constexpr char16_t breve = 0x0306;
+
+/// Whether a character with this byte in front can be an accented letter of these scripts.
+bool mayBeginAccented(char lead) {
+  const auto byte = static_cast<unsigned char>(lead);
+  return (byte >= 0xC3 && byte <= 0xD1) || byte == 0xE1;
+}
+
+/// What a letter is written as that no mark can be taken from.
+icu::UnicodeString plainLetters(char16_t letter) {
+  constexpr std::u16string_view letters = u"œæßłøđıðþ";
+  constexpr std::array<std::u16string_view, letters.size()> plain = {u"oe", u"ae", u"ss", u"l", u"o",
+                                                                     u"d",  u"i",  u"d",  u"th"};
+  const std::size_t found = letters.find(letter);
+  const std::u16string_view text =
+      found == std::u16string_view::npos ? std::u16string_view(&letter, 1) : plain.at(found);
+  return {text.data(), static_cast<std::int32_t>(text.size())};
 }
 
 /// More than any character is used in.
@@ -206,6 +231,47 @@ bool isOfSpacedWord(std::string_view character) {
   require(status);
   return std::none_of(scripts.begin(), scripts.begin() + count,
                       [](UScriptCode script) { return uscript_breaksBetweenLetters(script) != 0; });
+}
+
+std::string typableWord(std::string_view text) {
+  const std::string lower = lowercased(text);
+  std::string word;
+  bool isParted = false;
+  for (std::int32_t at = 0; at < static_cast<std::int32_t>(lower.size());) {
+    const std::int32_t begin = at;
+    UChar32 scalar = 0;
+    U8_NEXT(lower.data(), at, static_cast<std::int32_t>(lower.size()), scalar);
+    if (scalar == '\'' || scalar == rightQuote || scalar == '.' || u_charType(scalar) == U_FORMAT_CHAR)
+      continue;
+    if (isAlphanumeric(scalar) || scalar == '-' || scalar == '+') {
+      if (std::exchange(isParted, false) && !word.empty()) word += '_';
+      word.append(lower, static_cast<std::size_t>(begin), static_cast<std::size_t>(at - begin));
+    } else {
+      isParted = true;
+    }
+  }
+  return word;
+}
+
+std::string withPlainLetters(std::string_view text) {
+  if (std::ranges::none_of(text, mayBeginAccented)) return std::string(text);
+  UErrorCode status = U_ZERO_ERROR;
+  const icu::Normalizer2* decomposer = icu::Normalizer2::getNFDInstance(status);
+  require(status);
+  const auto source =
+      icu::UnicodeString::fromUTF8(icu::StringPiece(text.data(), static_cast<std::int32_t>(text.size())));
+  const icu::UnicodeString decomposed = decomposer->normalize(source, status);
+  require(status);
+  icu::UnicodeString plain;
+  for (std::int32_t at = 0; at < decomposed.length(); ++at) {
+    const char16_t unit = decomposed[at];
+    const bool isAccent = unit >= firstAccent && unit <= lastAccent;
+    const bool isOfShortI = unit == breve && at > 0 && decomposed[at - 1] == u'и';
+    if (!isAccent || isOfShortI) plain.append(plainLetters(unit));
+  }
+  std::string result;
+  plain.toUTF8String(result);
+  return normalized(result);
 }
 
 bool isValidUtf8(std::string_view text) {

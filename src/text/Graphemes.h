@@ -40,6 +40,12 @@ std::size_t alphanumericCount(std::string_view text);
 /// Whether the first scalar is alphanumeric and not of a script that writes its words without spaces between
 /// them (Han, kana, Thai, Khmer and the like).
 bool isOfSpacedWord(std::string_view character);
+/// The text as one would type it after the trigger character: lower-cased, each run of what does not belong
+/// in a query as one "_" between the rest; apostrophes, full stops and what is not seen left out.
+std::string typableWord(std::string_view text);
+/// The composed text with the plain letters that are typed where a keyboard lacks others: Latin, Greek and
+/// Cyrillic ones without accents, ligatures written out.
+std::string withPlainLetters(std::string_view text);
 
 /// Whether the bytes are well-formed UTF-8.
 bool isValidUtf8(std::string_view text);

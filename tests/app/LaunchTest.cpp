@@ -36,6 +36,19 @@ TEST_F(LaunchTest, ShowsTheTrayItemAndStartsTheMonitorAfterOneSecond) {
   EXPECT_EQ(app.log.lines().back(), started);
 }
 
+TEST_F(LaunchTest, LearnsTheUsersLanguagesAfterTheStartAndBeforeTheFirstKey) {
+  std::filesystem::create_directory(app.folder / "emoji-words");
+  app.folder.write("emoji-words/de.txt", "Lächeln\tfroh\n\n\n\n\n");
+  app.languages = {"de"};
+  launch();
+  EXPECT_THAT(app.log.lines(), Not(Contains(HasSubstr("emoji words"))));
+  app.queue.advance(1s);
+  app.type(":froh");
+  EXPECT_EQ(app.popup.presented.back().rows.at(0).name, "Lächeln");
+  app.type("⏎");
+  EXPECT_EQ(app.timesUsed("smile"), 1);
+}
+
 TEST_F(LaunchTest, RetriesEveryThreeSecondsOnceTrusted) {
   app.accessibility.trusted = false;
   launch();

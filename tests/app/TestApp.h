@@ -101,6 +101,7 @@ class TestApp {
   }
 
   TemporaryFolder folder;
+  std::vector<std::string> languages;
   LogRecorder log;
   FakeDocument document;
   FakeEventTap tap;
@@ -128,6 +129,7 @@ class TestApp {
             .statusBar = statusBar,
             .wallClock = clock,
             .folders = {.resources = folder.path(), .storage = folder / "storage"},
+            .languages = languages,
             .menu = {},
             .startUpdateService = {},
             .showOnboardingWindow = {}};

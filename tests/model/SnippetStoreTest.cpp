@@ -86,6 +86,25 @@ TEST_F(SnippetStoreTest, EachLoadingStepFailsByItself) {
   EXPECT_EQ(folder_.read(userFile), wrong);
 }
 
+TEST_F(SnippetStoreTest, TakesUpWhatItCanReadOfTheUsersLanguages) {
+  fs::create_directory(folder_ / "resources/emoji-words");
+  folder_.write("resources/emoji-words/da.txt", "smil\tglad\n");
+  folder_.write("resources/emoji-words/fr.txt", "\xff\n\n");
+  folder_.write("resources/emoji-words/de.txt", "Lächeln\tfroh\n\n");
+  const auto store = makeStore();
+  log_.clear();
+  store->learnLanguages({"da", "fr", "fr-CA", "../emoji-words/de", "de"});
+  EXPECT_THAT(log_.lines(),
+              ElementsAre("[SnippetStore] Failed to load emoji words of da: not a line for each emoji",
+                          "[SnippetStore] Failed to load emoji words of fr: not valid UTF-8",
+                          "[SnippetStore] Loaded emoji words of de"));
+  for (const char* query : {"froh", "lächeln", "lacheln", "smile"})
+    EXPECT_THAT(triggersOf(store->search(query, 8)), ElementsAre("smile")) << query;
+  EXPECT_EQ(store->builtInSnippets()[0],
+            (Snippet{"emoji_smile", "Lächeln", "smile", "😀", {"happy"}, "People", true}));
+  EXPECT_EQ(store->builtInSnippets()[1].name, "smirk");
+}
+
 TEST_F(SnippetStoreTest, EveryChangeIsSavedAndTold) {
   fs::remove_all(folder_ / "storage");
   const auto store = makeStore();

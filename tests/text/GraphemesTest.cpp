@@ -67,6 +67,28 @@ TEST(Lowercase, IsFullAndWithoutLocale) {
   EXPECT_EQ(text::lowercased("\u039F\u0394\u039F\u03A3"), "\u03BF\u03B4\u03BF\u03C2");
 }
 
+TEST(TypableWord, IsWhatOneTypesForAName) {
+  for (const auto& [name, word] : {std::pair("Flagge: Côte d’Ivoire", "flagge_côte_divoire"),
+                                   {"drapeau\u202f: Japon", "drapeau_japon"},
+                                   {"\u200fC++ (1.2)", "c++_12"},
+                                   {"می\u200cخندد", "میخندد"},
+                                   {"…", ""}})
+    EXPECT_EQ(text::typableWord(name), word);
+}
+
+TEST(PlainLetters, AreTypedWhereThereAreNoOthers) {
+  for (const auto& [text, plain] : {std::pair("cœur", "coeur"),
+                                    {"łódź", "lodz"},
+                                    {"việt_nam", "viet_nam"},
+                                    {"καρδιά", "καρδια"},
+                                    {"ёлочный", "елочный"},
+                                    {"straße", "strasse"},
+                                    {"한국", "한국"},
+                                    {"दिल", "दिल"},
+                                    {"ガ", "ガ"}})
+    EXPECT_EQ(text::withPlainLetters(text), plain);
+}
+
 TEST(Alphanumeric, AreLettersMarksAndNumbers) {
   for (const char* yes : {"a", "Z", "7", "\u00e9", "\u00df", "\u0416", "\u0663", "\u0301", "\u2163", "\u00bd",
                           "\u4e2d", "\U0001D7D8", "e\u0301"}) {
