@@ -13,6 +13,8 @@
 #include <utility>
 #include <vector>
 
+#include "base/Log.h"
+#include "model/LocalEmoji.h"
 #include "model/SearchIndex.h"
 #include "model/Snippet.h"
 
@@ -109,14 +111,34 @@ const std::vector<Snippet>& shipped() {
   return snippets;
 }
 
-/// Every trigger and keyword, letter by letter as it is typed.
-std::vector<std::string> typedQueries() {
+/// The same with what the emoji are searched by in a language.
+std::vector<Snippet> shippedIn(const std::string& language) {
+  const tessarin::LogCapture silence([](const std::string&) {});
+  std::vector<Snippet> snippets;
+  appendShipped("emoji-data.json", snippets);
+  const std::string folder = std::string(TESSARIN_SOURCE_DIR) + "/resources/emoji-words";
+  const tessarin::LocalEmoji local(folder, {language}, snippets.size());
+  for (std::size_t i = 0; i < snippets.size(); ++i) {
+    for (std::string& word : local.wordsOf(i)) snippets[i].keywords.push_back(std::move(word));
+  }
+  appendShipped("kaomoji-data.json", snippets);
+  return snippets;
+}
+
+/// The text letter by letter, as it is typed.
+void addTyped(const std::string& text, std::set<std::string>& typed) {
+  for (std::size_t n = 1; n <= text.size(); ++n) {
+    const bool isInLetter = n < text.size() && (text[n] & 0xC0) == 0x80;
+    if (!isInLetter) typed.insert(text.substr(0, n));
+  }
+}
+
+/// Every trigger and keyword.
+std::vector<std::string> typedQueries(const std::vector<Snippet>& snippets) {
   std::set<std::string> typed;
-  for (const Snippet& s : shipped()) {
-    for (std::size_t n = 1; n <= s.trigger.size(); ++n) typed.insert(s.trigger.substr(0, n));
-    for (const std::string& keyword : s.keywords) {
-      for (std::size_t n = 1; n <= keyword.size(); ++n) typed.insert(keyword.substr(0, n));
-    }
+  for (const Snippet& s : snippets) {
+    addTyped(s.trigger, typed);
+    for (const std::string& keyword : s.keywords) addTyped(keyword, typed);
   }
   return {typed.begin(), typed.end()};
 }
@@ -186,23 +208,38 @@ BENCHMARK(search)
     ->Unit(benchmark::kMillisecond)
     ->Iterations(7);
 
-void searchShipped(benchmark::State& state) {
+void searchAmong(benchmark::State& state, const std::vector<Snippet>& snippets) {
   SearchIndex index;
-  for (const Snippet& s : shipped()) index.append(s);
+  for (const Snippet& s : snippets) index.append(s);
   index.prepare();
   for (std::size_t i = 0; i < static_cast<std::size_t>(state.range(0)); ++i) {
-    index.setUsageCount(shipped()[i * 7 % shipped().size()].trigger, static_cast<std::int64_t>(i % 14));
+    index.setUsageCount(snippets[i * 7 % snippets.size()].trigger, static_cast<std::int64_t>(i % 14));
   }
   std::vector<std::string> asked = queries();
-  const std::vector<std::string> typed = typedQueries();
+  const std::vector<std::string> typed = typedQueries(snippets);
   asked.insert(asked.end(), typed.begin(), typed.end());
   measure(state, index, asked);
+}
+
+void searchShipped(benchmark::State& state) {
+  searchAmong(state, shipped());
 }
 BENCHMARK(searchShipped)
     ->ArgName("used")
     ->Arg(0)
     ->Arg(100)
     ->Arg(2000)
+    ->Iterations(7)
+    ->Unit(benchmark::kMillisecond);
+
+constexpr const char* languages[] = {"de", "hi", "ja", "ru", "vi"};
+
+void searchShippedIn(benchmark::State& state) {
+  searchAmong(state, shippedIn(languages[state.range(1)]));
+}
+BENCHMARK(searchShippedIn)
+    ->ArgNames({"used", "language"})
+    ->ArgsProduct({{0, 2000}, {0, 1, 2, 3, 4}})
     ->Iterations(7)
     ->Unit(benchmark::kMillisecond);
 

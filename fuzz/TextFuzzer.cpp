@@ -67,6 +67,10 @@ void checkForms(std::string_view text) {
   check(text::isValidUtf8(text) == (text::fromUtf16(text::toUtf16(text)) == text),
         "what is UTF-8 survives the way through UTF-16");
   check(text::startsAlphanumeric(text) || !text::isOfSpacedWord(text), "letters of words are letters");
+  const std::string word = text::typableWord(text);
+  check(text::typableWord(word) == word, "what can be typed is typed as it is");
+  const std::string plain = text::withPlainLetters(lower);
+  check(text::withPlainLetters(plain) == plain, "plain letters stay plain");
   check(text::alphanumericCount(text) <= text::characterCount(text), "characters are counted once");
 }
 
