@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>switch expansion off or on in the running program</source>
-        <translation>desactivar o activar la inserción en el programa en ejecución</translation>
+        <translation>desactivar o activar la sustitución en el programa en ejecución</translation>
     </message>
     <message>
         <source>end the running program</source>
@@ -1094,7 +1094,7 @@ configuración del programa en ejecución.</translation>
     <name>tessarin::ui::StatsSettingsTab</name>
     <message>
         <source>Total Expansions</source>
-        <translation>Total de inserciones</translation>
+        <translation>Total de sustituciones</translation>
     </message>
     <message>
         <source>Today</source>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>switch expansion off or on in the running program</source>
-        <translation>désactiver ou activer l’insertion dans le programme en cours d’exécution</translation>
+        <translation>désactiver ou activer le remplacement dans le programme en cours d’exécution</translation>
     </message>
     <message>
         <source>end the running program</source>
@@ -1094,7 +1094,7 @@ paramètres du programme en cours d’exécution.</translation>
     <name>tessarin::ui::StatsSettingsTab</name>
     <message>
         <source>Total Expansions</source>
-        <translation>Insertions au total</translation>
+        <translation>Remplacements au total</translation>
     </message>
     <message>
         <source>Today</source>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>switch expansion off or on in the running program</source>
-        <translation>desativa ou ativa a inserção no programa em execução</translation>
+        <translation>desativa ou ativa a substituição no programa em execução</translation>
     </message>
     <message>
         <source>end the running program</source>
@@ -1094,7 +1094,7 @@ configurações do programa em execução.</translation>
     <name>tessarin::ui::StatsSettingsTab</name>
     <message>
         <source>Total Expansions</source>
-        <translation>Total de inserções</translation>
+        <translation>Total de substituições</translation>
     </message>
     <message>
         <source>Today</source>
