@@ -512,7 +512,7 @@ Einstellungen des laufenden Programms.</translation>
     <message numerus="yes">
         <source>Removed %n snippets</source>
         <translation>
-            <numerusform>%n Bausteine entfernt</numerusform>
+            <numerusform>%n Baustein entfernt</numerusform>
             <numerusform>%n Bausteine entfernt</numerusform>
         </translation>
     </message>

@@ -127,7 +127,7 @@ configuración del programa en ejecución.</translation>
     </message>
     <message>
         <source>with --add: what the popup calls it (the trigger)</source>
-        <translation>con --add: nombre en la ventana emergente (la abreviatura)</translation>
+        <translation>con --add: nombre en la ventana emergente (si falta, la abreviatura)</translation>
     </message>
     <message>
         <source>WORDS</source>
@@ -334,7 +334,7 @@ configuración del programa en ejecución.</translation>
     </message>
     <message>
         <source>Until then no shortcode expands and no popup appears. The tray menu, the settings, your snippets, import and export, and the command line work.</source>
-        <translation>Hasta entonces no se sustituye ninguna abreviatura ni aparece ninguna ventana emergente. El menú de la bandeja, la configuración, sus fragmentos, la importación y la exportación, y la línea de órdenes funcionan.</translation>
+        <translation>Hasta entonces no se sustituye ninguna abreviatura ni aparece ninguna ventana emergente. El menú de la bandeja, la configuración, sus fragmentos, la importación y la exportación, y la línea de comandos funcionan.</translation>
     </message>
 </context>
 <context>
@@ -384,7 +384,7 @@ configuración del programa en ejecución.</translation>
     <name>Popup</name>
     <message>
         <source>navigate</source>
-        <translation>mover</translation>
+        <translation>navegar</translation>
     </message>
     <message>
         <source>select</source>
@@ -392,7 +392,7 @@ configuración del programa en ejecución.</translation>
     </message>
     <message>
         <source>confirm</source>
-        <translation>aceptar</translation>
+        <translation>confirmar</translation>
     </message>
     <message>
         <source>cancel</source>
@@ -400,7 +400,7 @@ configuración del programa en ejecución.</translation>
     </message>
     <message>
         <source>skin tone</source>
-        <translation>tono</translation>
+        <translation>piel</translation>
     </message>
     <message>
         <source>1 match</source>
@@ -625,7 +625,7 @@ configuración del programa en ejecución.</translation>
     </message>
     <message>
         <source>Press Enter or type the trigger again to confirm</source>
-        <translation>Pulse Intro o repita el activador para aceptar</translation>
+        <translation>Pulse Intro o repita el activador para confirmar</translation>
     </message>
     <message>
         <source>Type %1smile%1 in any text field</source>

@@ -127,7 +127,7 @@ paramètres du programme en cours d’exécution.</translation>
     </message>
     <message>
         <source>with --add: what the popup calls it (the trigger)</source>
-        <translation>avec --add&#xa0;: nom affiché dans la liste (celui de l’abréviation)</translation>
+        <translation>avec --add&#xa0;: nom affiché dans la liste (par défaut, l’abréviation)</translation>
     </message>
     <message>
         <source>WORDS</source>
@@ -684,7 +684,7 @@ paramètres du programme en cours d’exécution.</translation>
     </message>
     <message>
         <source>System-wide %1shortcode%1 autocomplete for macOS</source>
-        <translation>Complétion d’%1abréviations%1 pour macOS, dans tout le système</translation>
+        <translation>Complétion des %1abréviations%1 dans tout le système pour macOS</translation>
     </message>
     <message>
         <source>Leave Return and Tab alone where a shortcode is unlikely</source>
@@ -1244,7 +1244,7 @@ Si vous acceptez, les fonctions d’accessibilité de la session sont également
     </message>
     <message>
         <source>System-wide %1shortcode%1 autocomplete for macOS</source>
-        <translation>Complétion d’%1abréviations%1 pour macOS, dans tout le système</translation>
+        <translation>Complétion des %1abréviations%1 dans tout le système pour macOS</translation>
     </message>
 </context>
 </TS>

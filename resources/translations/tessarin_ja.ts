@@ -99,7 +99,7 @@ settings of the program that runs.</source>
     </message>
     <message>
         <source>TRIGGER</source>
-        <translation>コード</translation>
+        <translation>ショートコード</translation>
     </message>
     <message>
         <source>list your own snippets</source>
@@ -107,7 +107,7 @@ settings of the program that runs.</source>
     </message>
     <message>
         <source>TRIGGER TEXT</source>
-        <translation>コード テキスト</translation>
+        <translation>ショートコード テキスト</translation>
     </message>
     <message>
         <source>add a snippet to your own</source>
@@ -127,7 +127,7 @@ settings of the program that runs.</source>
     </message>
     <message>
         <source>with --add: what the popup calls it (the trigger)</source>
-        <translation>--add と併用: ポップアップでの名前 (ショートコード)</translation>
+        <translation>--add と併用: ポップアップでの名前 (既定はショートコード)</translation>
     </message>
     <message>
         <source>WORDS</source>
@@ -135,7 +135,7 @@ settings of the program that runs.</source>
     </message>
     <message>
         <source>with --add: further words to find it by, between commas</source>
-        <translation>--add と併用: 検索に使うほかの語句 (コンマ区切り)</translation>
+        <translation>--add と併用: 検索に使うほかの語句 (半角コンマ区切り)</translation>
     </message>
     <message>
         <source>%1 needs %2</source>
@@ -257,7 +257,7 @@ settings of the program that runs.</source>
     </message>
     <message>
         <source>its text does not follow the case of what is typed</source>
-        <translation>テキストは入力された大文字と小文字に従いません</translation>
+        <translation>テキストの大文字と小文字は入力に合わせて変わりません</translation>
     </message>
     <message>
         <source>its trigger is too long to type</source>
@@ -423,11 +423,11 @@ settings of the program that runs.</source>
     </message>
     <message>
         <source>on</source>
-        <translation>有効</translation>
+        <translation>オン</translation>
     </message>
     <message>
         <source>off</source>
-        <translation>無効</translation>
+        <translation>オフ</translation>
     </message>
     <message>
         <source>quitting</source>
@@ -482,7 +482,7 @@ settings of the program that runs.</source>
     </message>
     <message>
         <source>a trigger has letters, digits, _ and - only</source>
-        <translation>ショートコードに使えるのは英字などの文字、数字、_ と - だけです</translation>
+        <translation>ショートコードに使えるのは文字、数字、_、- だけです</translation>
     </message>
     <message>
         <source>a snippet needs a text</source>
@@ -711,7 +711,7 @@ settings of the program that runs.</source>
     </message>
     <message>
         <source>Continue</source>
-        <translation>続ける</translation>
+        <translation>続行</translation>
     </message>
     <message>
         <source>Get Started</source>
@@ -950,7 +950,7 @@ settings of the program that runs.</source>
     </message>
     <message>
         <source>Keywords (comma-separated)</source>
-        <translation>キーワード (コンマ区切り)</translation>
+        <translation>キーワード (半角コンマ区切り)</translation>
     </message>
     <message>
         <source>e.g., whatever, idk</source>

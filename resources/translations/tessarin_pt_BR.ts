@@ -127,7 +127,7 @@ configurações do programa em execução.</translation>
     </message>
     <message>
         <source>with --add: what the popup calls it (the trigger)</source>
-        <translation>com --add: nome mostrado nas sugestões (a abreviação)</translation>
+        <translation>com --add: nome mostrado nas sugestões (por padrão, a abreviação)</translation>
     </message>
     <message>
         <source>WORDS</source>
@@ -392,7 +392,7 @@ configurações do programa em execução.</translation>
     </message>
     <message>
         <source>confirm</source>
-        <translation>inserir</translation>
+        <translation>confirmar</translation>
     </message>
     <message>
         <source>cancel</source>
@@ -972,7 +972,7 @@ configurações do programa em execução.</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation>Visualização</translation>
+        <translation>Pré-visualização</translation>
     </message>
 </context>
 <context>

@@ -135,7 +135,7 @@ settings of the program that runs.</source>
     </message>
     <message>
         <source>with --add: further words to find it by, between commas</source>
-        <translation>与 --add 一起使用：用于查找的其他词语，以逗号分隔</translation>
+        <translation>与 --add 一起使用：用于查找的其他词语，以英文逗号分隔</translation>
     </message>
     <message>
         <source>%1 needs %2</source>
@@ -498,7 +498,7 @@ settings of the program that runs.</source>
     </message>
     <message>
         <source>no snippet of yours has the trigger %1</source>
-        <translation>您的片段中没有使用短代码 %1 的</translation>
+        <translation>您的片段都没有使用短代码 %1</translation>
     </message>
     <message>
         <source>Removed 1 snippet</source>
@@ -574,7 +574,7 @@ settings of the program that runs.</source>
     </message>
     <message>
         <source>e.g., com.tinyspeck.slackmacgap</source>
-        <translation>例如 com.tinyspeck.slackmacgap</translation>
+        <translation>例如：com.tinyspeck.slackmacgap</translation>
     </message>
 </context>
 <context>
@@ -737,7 +737,7 @@ settings of the program that runs.</source>
     </message>
     <message>
         <source>e.g., com.example.terminal</source>
-        <translation>例如 com.example.terminal</translation>
+        <translation>例如：com.example.terminal</translation>
     </message>
 </context>
 <context>
@@ -910,7 +910,7 @@ settings of the program that runs.</source>
     <name>tessarin::ui::SnippetEditorView</name>
     <message>
         <source>e.g., ¯\_(ツ)_/¯ or multi-line text</source>
-        <translation>例如 ¯\_(ツ)_/¯ 或多行文本</translation>
+        <translation>例如：¯\_(ツ)_/¯ 或多行文本</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -938,7 +938,7 @@ settings of the program that runs.</source>
     </message>
     <message>
         <source>e.g., Shrug</source>
-        <translation>例如 耸肩</translation>
+        <translation>例如：耸肩</translation>
     </message>
     <message>
         <source>Trigger</source>
@@ -946,15 +946,15 @@ settings of the program that runs.</source>
     </message>
     <message>
         <source>e.g., shrug</source>
-        <translation>例如 shrug</translation>
+        <translation>例如：shrug</translation>
     </message>
     <message>
         <source>Keywords (comma-separated)</source>
-        <translation>关键词（以逗号分隔）</translation>
+        <translation>关键词（以英文逗号分隔）</translation>
     </message>
     <message>
         <source>e.g., whatever, idk</source>
-        <translation>例如 无所谓, 不知道</translation>
+        <translation>例如：无所谓, 不知道</translation>
     </message>
     <message>
         <source>Replacement</source>
