@@ -1,7 +1,6 @@
 #include <unistd.h>
 
 #include <QApplication>
-#include <QLocale>
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
@@ -59,7 +58,7 @@ int start(int argc, char** argv) {
   using Action = CommandLine::Action;
   const bool keepsSelections = argc == 2 && std::string_view(argv[1]) == x11::SelectionKeeper::option;
   if (keepsSelections) return x11::SelectionKeeper::run(STDIN_FILENO, STDOUT_FILENO);
-  ui::installTerminalTranslations(QLocale());
+  ui::installTerminalTranslations();
   const CommandLine line = CommandLine::parse({argv + 1, argv + argc});
   switch (line.action) {
     case Action::run:

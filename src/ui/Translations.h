@@ -1,7 +1,11 @@
 #pragma once
 
+#include <QString>
+#include <QStringList>
+#include <string>
+#include <vector>
+
 class QCoreApplication;
-class QLocale;
 
 namespace tessarin::ui {
 
@@ -11,6 +15,12 @@ void installTranslations(QCoreApplication& application);
 
 /// The same for the core's texts alone, where there is no application, as for what is written to a terminal.
 /// The catalogue is read when the first text is wanted.
-void installTerminalTranslations(const QLocale& locale);
+void installTerminalTranslations();
+
+/// The one of the catalogues, named by their locales ("de", "pt_BR"), for somebody who reads `languages`, the
+/// best first. The country counts for less than the script: "pt_BR" is for all who read Portuguese, "zh_CN"
+/// for all who read simplified Chinese. Empty where English, which needs no catalogue, comes before any that
+/// there is.
+QString catalogueFor(const std::vector<std::string>& languages, const QStringList& catalogues);
 
 }  // namespace tessarin::ui
