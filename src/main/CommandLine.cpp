@@ -214,13 +214,22 @@ class Parser {
   CommandLine result_;
 };
 
-void addHelp(std::string& help, const Option& option) {
-  constexpr std::size_t column = 24;
+using HelpLine = std::pair<std::string, std::string>;
+
+HelpLine helpLine(const Option& option) {
   std::string name = "  " + std::string(option.name);
   if (option.takesArgument()) name += " " + argumentName(option);
-  const std::size_t width = text::characterCount(name);
-  help += name + std::string(width < column ? column - width : 1, ' ');
-  help += translate("CommandLine", option.help) + "\n";
+  return {std::move(name), translate("CommandLine", option.help)};
+}
+
+/// The explanations below one another, in any language.
+std::string aligned(const std::vector<HelpLine>& lines) {
+  std::size_t widest = 0;
+  for (const auto& [name, help] : lines) widest = std::max(widest, text::columnCount(name));
+  std::string text;
+  for (const auto& [name, help] : lines)
+    text.append(name).append(widest + 2 - text::columnCount(name), ' ').append(help).append("\n");
+  return text;
 }
 
 }  // namespace
@@ -230,14 +239,14 @@ CommandLine CommandLine::parse(const std::vector<std::string>& arguments) {
 }
 
 std::string usage() {
-  std::string text = translate("CommandLine", "usage: tessarin [OPTION]") + "\n\n" +
-                     translate("CommandLine",
-                               "Expands shortcodes such as :smile in any application. Started again without "
-                               "an option, it opens the\nsettings of the program that runs.") +
-                     "\n\n";
-  for (const Option& option : actionOptions) addHelp(text, option);
-  for (const Option& option : companions) addHelp(text, option);
-  return text;
+  std::vector<HelpLine> options;
+  for (const Option& option : actionOptions) options.push_back(helpLine(option));
+  for (const Option& option : companions) options.push_back(helpLine(option));
+  return translate("CommandLine", "usage: tessarin [OPTION]") + "\n\n" +
+         translate("CommandLine",
+                   "Expands shortcodes such as :smile in any application. Started again without "
+                   "an option, it opens the\nsettings of the program that runs.") +
+         "\n\n" + aligned(options);
 }
 
 }  // namespace tessarin

@@ -89,6 +89,11 @@ UChar32 firstScalar(std::string_view text) {
   return scalar;
 }
 
+bool isWide(UChar32 scalar) {
+  const int width = u_getIntPropertyValue(scalar, UCHAR_EAST_ASIAN_WIDTH);
+  return width == U_EA_WIDE || width == U_EA_FULLWIDTH;
+}
+
 bool isAlphanumeric(UChar32 scalar) {
   return scalar >= 0 && (U_GET_GC_MASK(scalar) & (U_GC_L_MASK | U_GC_M_MASK | U_GC_N_MASK)) != 0;
 }
@@ -132,6 +137,15 @@ std::size_t characterCount(std::string_view text) {
   std::size_t count = 0;
   while (boundaries.next()) ++count;
   return count;
+}
+
+std::size_t columnCount(std::string_view text) {
+  std::size_t columns = 0;
+  while (!text.empty()) {
+    columns += isWide(firstScalar(text)) ? 2 : 1;
+    text.remove_prefix(firstCharacter(text).size());
+  }
+  return columns;
 }
 
 std::string firstCharacter(std::string_view text) {

@@ -10,6 +10,8 @@ namespace tessarin::text {
 
 /// Number of characters.
 std::size_t characterCount(std::string_view text);
+/// Number of columns that a terminal gives them: two to Chinese, Japanese and Korean characters and to emoji.
+std::size_t columnCount(std::string_view text);
 /// The first character; empty when there is none.
 std::string firstCharacter(std::string_view text);
 /// The last `count` characters, or all of them when there are fewer.

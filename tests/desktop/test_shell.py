@@ -4,7 +4,9 @@
 import json
 import os
 import pathlib
+import re
 import signal
+import unicodedata
 import unittest.mock
 
 from Xlib import X, display
@@ -145,7 +147,13 @@ class CommandLineTest(unittest.TestCase):
 
     def test_answers_in_the_language_of_the_user(self):
         self.without_display["LC_ALL"] = "de_DE.UTF-8"
-        self.assertTrue(self.tessarin("--help")[1].startswith("Aufruf: tessarin [OPTION]\n"))
+        for languages, usage in (("en:fr", "usage:"), ("sv:pt_PT:fr", "Uso:"), ("zh_TW:ja", "使い方:"), ("", "Aufruf:")):
+            self.without_display["LANGUAGE"] = languages
+            text = self.tessarin("--help")[1]
+            self.assertEqual(text.split()[0], usage)
+            names = re.findall("^  --.*?  +(?! )", text, re.MULTILINE)
+            widths = {sum(2 if unicodedata.east_asian_width(c) in "WF" else 1 for c in name) for name in names}
+            self.assertEqual(len(widths), 1, text)
         self.assertEqual(self.tessarin("--quit"), (1, "", "tessarin: Tessarin läuft nicht\n"))
         (self.session.folder / "in.json").write_text(TWO)
         self.assertEqual(self.tessarin("--import", self.session.folder / "in.json"), (0, "2 Bausteine importiert\n", ""))

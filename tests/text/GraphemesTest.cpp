@@ -22,6 +22,12 @@ TEST(Characters, AreWhatTheUserPerceives) {
   for (const auto& [text, count] : cases) EXPECT_EQ(text::characterCount(text), count) << text;
 }
 
+TEST(Characters, HaveTheColumnsOfATerminal) {
+  const std::pair<std::string, std::size_t> cases[] = {
+      {"", 0}, {"a-b", 3}, {decomposed, 1}, {"\u6587\u4ef6", 4}, {"\uFF21\uFF71", 3}, {thumb + "x", 3}};
+  for (const auto& [text, columns] : cases) EXPECT_EQ(text::columnCount(text), columns) << text;
+}
+
 TEST(Characters, AreTakenWhole) {
   EXPECT_EQ(text::firstCharacter(""), "");
   EXPECT_EQ(text::firstCharacter(decomposed + "t"), decomposed);
