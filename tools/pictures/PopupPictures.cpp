@@ -7,6 +7,7 @@
 #include <optional>
 #include <vector>
 
+#include "base/Translate.h"
 #include "ui/PopupPainter.h"
 #include "ui/style/Colors.h"
 
@@ -44,9 +45,12 @@ PopupContent contentOf(std::vector<PopupRow> rows, int selected = 0) {
   content.rows = std::move(rows);
   content.selectedIndex = selected;
   if (content.rows.empty()) return content;
-  content.hints = {{"↑↓", "navigate"}, {"↵", "select"}, {":", "confirm"}, {"esc", "cancel"}};
+  content.hints = {{"↑↓", translate("Popup", "navigate")},
+                   {"↵", translate("Popup", "select")},
+                   {":", translate("Popup", "confirm")},
+                   {"esc", translate("Popup", "cancel")}};
   if (content.rows[static_cast<std::size_t>(selected)].supportsSkinTones)
-    content.hints.push_back({"→", "skin tone"});
+    content.hints.push_back({"→", translate("Popup", "skin tone")});
   return content;
 }
 

@@ -1,15 +1,20 @@
 #include "WindowPictures.h"
 
 #include <QApplication>
+#include <QMenu>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QVariantAnimation>
 #include <QWidget>
 #include <algorithm>
+#include <cstdio>
 #include <utility>
 
+#include "CutOffTexts.h"
 #include "SampleDesktop.h"
 #include "main/SessionInputMonitoring.h"
+#include "menu/MenuBarManager.h"
+#include "platform/qt/QtStatusBar.h"
 #include "ui/InputMonitoringHelp.h"
 #include "ui/TrustPrompt.h"
 #include "ui/onboarding/OnboardingWindow.h"
@@ -20,7 +25,7 @@
 namespace tessarin::pictures {
 namespace {
 
-/// Saves pictures of windows under names of its own.
+/// Saves pictures of windows under names of its own, and tells of the texts that are cut off in them.
 class Camera {
  public:
   explicit Camera(QString prefix) : prefix_(std::move(prefix)) {}
@@ -30,7 +35,12 @@ class Camera {
     while (isMoving(window)) QApplication::processEvents();
     // Without a loop that runs, nothing else removes what has come to its end.
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    isGood_ = window.grab().save(prefix_ + name + ".png") && isGood_;
+    const QString file = prefix_ + name + ".png";
+    isGood_ = window.grab().save(file) && isGood_;
+    for (const QString& text : cutOffTexts(window)) {
+      std::fprintf(stderr, "%s: cut off: %s\n", qPrintable(file), qPrintable(text));
+      isGood_ = false;
+    }
   }
 
   /// Of the window that has come up last, which is then closed.
@@ -63,14 +73,16 @@ class Camera {
   bool isGood_ = true;
 };
 
+constexpr const char* tabNames[] = {"general", "snippets", "stats", "blocked", "paste-mode", "permissions"};
+
 void takeSettings(Camera& camera, SampleDesktop& desktop, const QString& state) {
   ui::SettingsWindow settings(desktop.services());
   settings.open();
   auto* tabs = settings.window()->findChild<QTabWidget*>();
   for (int index = 0; index < tabs->count(); ++index) {
     tabs->setCurrentIndex(index);
-    const QString tab = tabs->tabText(index).toLower().replace(' ', '-');
-    camera.take(QStringLiteral("settings-%1-%2-%3").arg(index + 1).arg(tab, state), *settings.window());
+    camera.take(QStringLiteral("settings-%1-%2-%3").arg(index + 1).arg(tabNames[index], state),
+                *settings.window());
   }
 }
 
@@ -112,6 +124,17 @@ void takeUpdates(Camera& camera, SampleDesktop& desktop) {
   camera.takeTop("update-failed");
 }
 
+void takeMenu(Camera& camera, SampleDesktop& desktop, const QString& state) {
+  ui::QtStatusBar statusBar;
+  MenuBarManager manager(statusBar, desktop.defaults, desktop.queue, desktop.permissions(),
+                         {[](SnippetStore*) {}, [] {}, [] {}});
+  manager.setupStatusItem();
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (auto* menu = qobject_cast<QMenu*>(window)) menu->popup({});
+  }
+  camera.takeTop("menu-" + state);
+}
+
 void takeDialogs(Camera& camera) {
   ui::TrustPrompt trust([](bool) {});
   trust.ask(PromptManner::inFront);
@@ -135,6 +158,8 @@ bool saveWindows(const QString& prefix, const std::filesystem::path& resources) 
   takeEditor(camera, filled);
   takeOnboarding(camera, empty, "missing");
   takeOnboarding(camera, filled, "granted");
+  takeMenu(camera, empty, "missing");
+  takeMenu(camera, filled, "granted");
   takeUpdates(camera, filled);
   takeDialogs(camera);
   return camera.isGood();

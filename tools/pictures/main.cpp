@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QDir>
 #include <cstdio>
+#include <string_view>
 #include <utility>
 
 #include "Palettes.h"
@@ -8,8 +9,9 @@
 #include "WindowPictures.h"
 #include "ui/Translations.h"
 
-/// Paints every window and every state of the popup, light, dark and in high contrast, into a folder:
-/// pictures FOLDER. The scale is that of QT_SCALE_FACTOR.
+/// Paints every window and every state of the popup, light, dark and in high contrast or in one of these,
+/// into a folder: pictures FOLDER [PALETTE]. The scale is that of QT_SCALE_FACTOR, the language that of the
+/// locale. Fails where a text is cut off.
 int main(int argc, char** argv) {
   using namespace tessarin::pictures;
   qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -18,20 +20,20 @@ int main(int argc, char** argv) {
   tessarin::ui::installTranslations(application);
   QApplication::setStyle("Fusion");
   QApplication::setQuitOnLastWindowClosed(false);
-  if (argc != 2 || !QDir().mkpath(argv[1])) {
-    std::fprintf(stderr, "usage: pictures FOLDER\n");
+  if (argc < 2 || argc > 3 || !QDir().mkpath(argv[1])) {
+    std::fprintf(stderr, "usage: pictures FOLDER [light|dark|contrast]\n");
     return 2;
   }
   const double scale = application.devicePixelRatio();
   const std::pair<const char*, QPalette> palettes[] = {
       {"light", lightPalette()}, {"dark", darkPalette()}, {"contrast", highContrastPalette()}};
+  bool isGood = true;
   for (const auto& [name, palette] : palettes) {
+    if (argc == 3 && std::string_view(argv[2]) != name) continue;
     QApplication::setPalette(palette);
     const QString prefix = QStringLiteral("%1/%2-%3x-").arg(QString::fromLocal8Bit(argv[1]), name).arg(scale);
-    if (!savePopups(prefix, palette, scale) || !saveWindows(prefix, TESSARIN_RESOURCES)) {
-      std::fprintf(stderr, "pictures: cannot write into %s\n", argv[1]);
-      return 1;
-    }
+    isGood = savePopups(prefix, palette, scale) && saveWindows(prefix, TESSARIN_RESOURCES) && isGood;
   }
-  return 0;
+  if (!isGood) std::fprintf(stderr, "pictures: not all in %s are as they should be\n", argv[1]);
+  return isGood ? 0 : 1;
 }
