@@ -384,7 +384,7 @@ configurações do programa em execução.</translation>
     <name>Popup</name>
     <message>
         <source>navigate</source>
-        <translation>navegar</translation>
+        <translation>mover</translation>
     </message>
     <message>
         <source>select</source>
