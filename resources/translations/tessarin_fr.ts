@@ -1049,7 +1049,7 @@ paramètres du programme en cours d’exécution.</translation>
     </message>
     <message>
         <source>Built-in emojis: %1</source>
-        <translation>Émojis intégrés&#xa0;: %1</translation>
+        <translation>Nombre d’émojis intégrés&#xa0;: %1</translation>
     </message>
     <message>
         <source>Import failed: %1</source>

@@ -36,7 +36,8 @@ bool hasRoom(const QTabBar& tabs) {
 template <class Kind, class Text>
 void addCutOff(QStringList& found, const QWidget& window, Text text) {
   for (const Kind* widget : window.findChildren<Kind*>()) {
-    if (widget->isVisibleTo(&window) && !hasRoom(*widget)) found << text(*widget);
+    const bool isShown = widget->isVisibleTo(&window) && !text(*widget).isEmpty();
+    if (isShown && !hasRoom(*widget)) found << text(*widget);
   }
 }
 
