@@ -1,6 +1,7 @@
 #include "ui/settings/SettingsView.h"
 
 #include <QShortcut>
+#include <algorithm>
 
 #include "model/SnippetStore.h"
 #include "ui/settings/BlockedAppsSettingsTab.h"
@@ -33,6 +34,13 @@ SettingsView::SettingsView(const SettingsServices& services, QWidget* parent) : 
   addTab(new PermissionsSettingsTab(services), symbolIcon("lock-shield"), tr("Permissions"));
   addShortcut(Qt::CTRL | Qt::Key_PageDown, 1);
   addShortcut(Qt::CTRL | Qt::Key_PageUp, -1);
+}
+
+int SettingsView::heightOfFirstTab() const {
+  int tallest = 0;
+  for (int index = 0; index < count(); ++index)
+    tallest = std::max(tallest, widget(index)->sizeHint().height());
+  return sizeHint().height() - tallest + widget(0)->sizeHint().height();
 }
 
 /// Ctrl+Tab is the widget's own.

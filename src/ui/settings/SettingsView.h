@@ -13,6 +13,9 @@ class SettingsView final : public QTabWidget {
  public:
   explicit SettingsView(const SettingsServices& services, QWidget* parent = nullptr);
 
+  /// At which the first tab is seen whole.
+  int heightOfFirstTab() const;
+
  private:
   /// The keys lead that many tabs on, round and round.
   void addShortcut(QKeyCombination keys, int step);

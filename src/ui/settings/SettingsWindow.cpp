@@ -31,12 +31,15 @@ std::unique_ptr<QWidget> SettingsWindow::makeWindow() {
   auto window = std::make_unique<QWidget>();
   window->setWindowTitle(QCoreApplication::translate("tessarin::ui::SettingsWindow", "Tessarin Settings"));
   auto* layout = new QVBoxLayout(window.get());
-  layout->addWidget(new SettingsView(services_));
+  auto* view = new SettingsView(services_);
+  layout->addWidget(view);
   for (const QKeySequence& keys : {QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)}) {
     auto* shortcut = new QShortcut(keys, window.get());
     QObject::connect(shortcut, &QShortcut::activated, window.get(), &QWidget::close);
   }
-  window->resize(contentSize);
+  // The tall lines of some scripts' fonts need more than that.
+  const int around = layout->sizeHint().height() - view->sizeHint().height();
+  window->resize(contentSize.expandedTo({0, view->heightOfFirstTab() + around}));
   return window;
 }
 

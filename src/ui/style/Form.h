@@ -17,6 +17,8 @@ class Form : public ScrollPane {
   /// Returns the layout that takes the section's rows. Once the last section is there, what room is left
   /// stays below.
   QVBoxLayout* addSection(const QString& title);
+  /// All of it.
+  QSize sizeHint() const override { return widget()->sizeHint(); }
 
  private:
   QVBoxLayout* sections_;
