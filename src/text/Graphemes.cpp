@@ -71,6 +71,58 @@ class Boundaries {
   UBreakIterator* iterator_;
 };
 
+enum class Break { no, yes, unclear };
+
+std::size_t countByIterator(std::string_view text) {
+  Boundaries boundaries(text);
+  std::size_t count = 0;
+  while (boundaries.next()) ++count;
+  return count;
+}
+
+/// Whether a sign that joins consonants makes one character of them, which newer versions of the library say.
+bool joinsConsonants() {
+  static const bool joins = countByIterator("\u0915\u094D\u0924") == 1;
+  return joins;
+}
+
+std::int32_t breakKind(UChar32 scalar) {
+  return u_getIntPropertyValue(scalar, UCHAR_GRAPHEME_CLUSTER_BREAK);
+}
+
+/// Whether a character ends between two scalars, where that is clear from these alone: by the standard's
+/// rules for what most texts are made of.
+Break breakBetween(UChar32 before, UChar32 after) {
+  if (before < 0 || after < 0) return Break::unclear;
+  const std::int32_t first = breakKind(before);
+  const std::int32_t second = breakKind(after);
+  const bool isLetter = second == U_GCB_OTHER || second == U_GCB_LV || second == U_GCB_LVT;
+  const bool isMark = second == U_GCB_EXTEND || second == U_GCB_SPACING_MARK;
+  if (!isLetter && !isMark) return Break::unclear;
+  switch (first) {
+    case U_GCB_OTHER:
+    case U_GCB_SPACING_MARK:
+    case U_GCB_LV:
+    case U_GCB_LVT:
+      return isMark ? Break::no : Break::yes;
+    case U_GCB_EXTEND:
+      if (isMark) return Break::no;
+      return joinsConsonants() ? Break::unclear : Break::yes;
+    default:
+      return Break::unclear;
+  }
+}
+
+Break breakAt(std::string_view text, std::size_t position) {
+  auto before = static_cast<std::int32_t>(position);
+  std::int32_t after = before;
+  UChar32 last = 0;
+  UChar32 next = 0;
+  U8_PREV(text.data(), 0, before, last);
+  U8_NEXT(text.data(), after, static_cast<std::int32_t>(text.size()), next);
+  return breakBetween(last, next);
+}
+
 /// Where the last `count` characters begin.
 std::size_t startOfLast(std::string_view text, std::size_t count) {
   if (isBytewise(text)) return text.size() - std::min(count, text.size());
@@ -133,9 +185,17 @@ bool startsWithNormalized(std::string_view text, std::string_view prefix) {
 
 std::size_t characterCount(std::string_view text) {
   if (isBytewise(text)) return text.size();
-  Boundaries boundaries(text);
+  const auto size = static_cast<std::int32_t>(text.size());
   std::size_t count = 0;
-  while (boundaries.next()) ++count;
+  UChar32 before = U_SENTINEL;
+  for (std::int32_t at = 0; at < size;) {
+    UChar32 after = 0;
+    U8_NEXT(text.data(), at, size, after);
+    const Break found = count == 0 ? Break::yes : breakBetween(before, after);
+    if (found == Break::unclear) return countByIterator(text);
+    if (found == Break::yes) ++count;
+    before = after;
+  }
   return count;
 }
 
@@ -167,7 +227,8 @@ bool isBoundary(std::string_view text, std::size_t position) {
   if (position == 0 || position >= text.size()) return position <= text.size();
   const std::string_view around = text.substr(position - 1, 2);
   if (isAscii(around)) return around != "\r\n";
-  return Boundaries(text).isAt(position);
+  const Break found = breakAt(text, position);
+  return found == Break::unclear ? Boundaries(text).isAt(position) : found == Break::yes;
 }
 
 std::string normalized(std::string_view text) {
