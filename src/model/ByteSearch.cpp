@@ -1,5 +1,6 @@
 #include "model/ByteSearch.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <cstring>
@@ -11,10 +12,18 @@
 namespace tessarin {
 namespace {
 
+/// Where the first character of a text ends: its last byte tells letters of one script apart, the first
+/// hardly.
+std::size_t endOfFirst(std::string_view text) {
+  const auto lead = static_cast<unsigned char>(text.front());
+  const std::size_t size = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
+  return std::min(size, text.size()) - 1;
+}
+
 class Matcher {
  public:
   Matcher(std::string_view needle, Before before, char a, char b)
-      : needle_(needle), before_(before), a_(a), b_(b) {}
+      : needle_(needle), before_(before), a_(a), b_(b), tellingByte_(endOfFirst(needle)) {}
 
   bool matches(const char* at) const {
     return *at == needle_.front() && hasRightBefore(at) &&
@@ -24,9 +33,10 @@ class Matcher {
 #ifdef __SSE2__
   static constexpr std::size_t width = 16;
 
-  /// One bit for each of the 16 places whose first, last and preceding bytes fit.
+  /// One bit for each of the 16 places whose first character, last and preceding bytes may fit.
   std::uint32_t candidates(const char* at) const {
-    __m128i fits = _mm_and_si128(equal(at, needle_.front()), equal(at + needle_.size() - 1, needle_.back()));
+    __m128i fits = _mm_and_si128(equal(at + tellingByte_, needle_[tellingByte_]),
+                                 equal(at + needle_.size() - 1, needle_.back()));
     if (before_ == Before::eitherOf) {
       fits = _mm_and_si128(fits, _mm_or_si128(equal(at - 1, a_), equal(at - 1, b_)));
     }
@@ -49,6 +59,7 @@ class Matcher {
   Before before_;
   char a_;
   char b_;
+  std::size_t tellingByte_;
 };
 
 }  // namespace
