@@ -240,6 +240,7 @@ CommandLine CommandLine::parse(const std::vector<std::string>& arguments) {
 
 std::string usage() {
   std::vector<HelpLine> options;
+  options.reserve(actionOptions.size() + companions.size());
   for (const Option& option : actionOptions) options.push_back(helpLine(option));
   for (const Option& option : companions) options.push_back(helpLine(option));
   return translate("CommandLine", "usage: tessarin [OPTION]") + "\n\n" +
