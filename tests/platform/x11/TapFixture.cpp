@@ -1,11 +1,15 @@
 #include "TapFixture.h"
 
+#include <csignal>
+
 #include "platform/KeyCodes.h"
 #include "platform/x11/KeyTranslator.h"
 
 namespace tessarin::testing {
 
 void TapFixture::start(const std::vector<std::string>& layout, bool withManager) {
+  // As the program does: a connection that the watching process has closed may be written to once more.
+  std::signal(SIGPIPE, SIG_IGN);
   if (withManager) display.startWindowManager();
   display.setLayout(layout);
   document = std::make_unique<DocumentWindow>(display.name());
