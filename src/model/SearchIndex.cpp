@@ -125,7 +125,7 @@ void SearchIndex::Impl::applyCount(const std::string& trigger, Id id) {
 void SearchIndex::Impl::layOut() {
   compact();
   fillShelves();
-  waiting = {};
+  std::vector<Id>().swap(waiting);
 }
 
 /// Leaves behind the texts of what was removed or replaced.

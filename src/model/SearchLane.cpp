@@ -32,8 +32,9 @@ void SearchLane::build() {
   }
   starts_.push_back(static_cast<std::uint32_t>(pool_.size()));
   layOutCovered();
-  added_ = {};
-  addedCovered_ = {};
+  // Assigning nothing would keep the memory.
+  std::vector<Item>().swap(added_);
+  std::string().swap(addedCovered_);
 }
 
 void SearchLane::layOutCovered() {
